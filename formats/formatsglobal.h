@@ -1,0 +1,12 @@
+#ifndef FORMATS_FORMATSGLOBAL_H
+#define FORMATS_FORMATSGLOBAL_H
+
+#include <QtGlobal>
+
+#ifdef VEX_FORMATS_LIBRARY
+#define VEX_FORMATS_EXPORT Q_DECL_EXPORT
+#else
+#define VEX_FORMATS_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif

@@ -1,0 +1,134 @@
+#ifndef FORMATS_MODELS_FORMATDETAILMODEL_H
+#define FORMATS_MODELS_FORMATDETAILMODEL_H
+
+#include "formats/formatsglobal.h"
+#include "formats/models/formatdetailmodeldata.h"
+#include "formats/models/keyindex.h"
+
+#include <QAbstractListModel>
+#include <QQueue>
+
+/*!
+ * A list of output presets: those of one format, or the recently used ones.
+ *
+ * Ids are compared exactly and need not be unique; a look-up by id takes the first row that has
+ * it, and costs the same however long the list is. Every change of the rows sets `count` and
+ * emits countChanged(). Nothing throws: a row out of range or an unknown id gives false, -1, an
+ * empty text or an invalid variant and changes nothing.
+ */
+class VEX_FORMATS_EXPORT FormatDetailModel : public QAbstractListModel
+{
+    Q_OBJECT
+    Q_PROPERTY(int count READ count WRITE setCount NOTIFY countChanged)
+    Q_DISABLE_COPY(FormatDetailModel)
+
+public:
+    enum InvitationRoles {
+        ExtensionRole = Qt::UserRole + 1,
+        IdRole,
+        TitleRole,
+        IconRole,
+        UserDefineRole,
+        VideoEncoderRole,
+        VideoEncodersRole,
+        VideoFrameRateRole,
+        VideoFrameRatesRole,
+        VideoResolutionRole,
+        VideoResolutionsRole,
+        VideoBitrateLowRole,
+        VideoBitrateMidRole,
+        VideoBitrateHighRole,
+        VideoBitratesRole,
+        AudioEncoderRole,
+        AudioEncodersRole,
+        AudioSampleRateRole,
+        AudioSampleRatesRole,
+        AudioChannelRole,
+        AudioChannelsRole,
+        AudioBitrateRole,
+        AudioBitratesRole,
+        IsLoselessRole,
+        SupportMultiTrackRole,
+        ParamRole,
+    };
+    Q_ENUM(InvitationRoles)
+
+    explicit FormatDetailModel(QObject *parent = nullptr);
+    ~FormatDetailModel() override;
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /*! The row's id; empty when there is no such row. */
+    Q_INVOKABLE QString getId(int index) const;
+    Q_INVOKABLE bool isExist(const QString &id) const;
+
+    /*! The number last stored by a change of rows or by setCount(). */
+    int count() const;
+    /*! Stores \a count and emits countChanged(), also for an unchanged value. */
+    void setCount(int count);
+
+    bool containId(const QString &id) const;
+    /*! The first row with this id; -1 when there is none. */
+    int findModelInfoIndex(const QString &id) const;
+    /*! The highest number that a user-defined preset of any list has had as its id so far. */
+    int getIdIndex() const;
+    int userDefineCount() const;
+
+    /*! Appends a copy; a user-defined preset with a higher numeric id raises getIdIndex(). */
+    bool addModeInfo(const FormatDetailModelData &data);
+    /*! The same at row 0. */
+    bool addModeInfoAtHead(const FormatDetailModelData &data);
+    bool delModeInfo(int index);
+    bool delModelInfoByKey(const QString &id);
+    /*! Overwrites the row and emits dataChanged() with all roles. */
+    bool updateModeInfo(int index, const FormatDetailModelData &data);
+    /*! Removes the rows one by one, then emits countChanged(0) once more. */
+    void clearModeInfo();
+
+    /*! Appends a copy of every row to \a out; always true. */
+    bool getModelInfo(QQueue<FormatDetailModelData> &out) const;
+    bool getModelInfoByIndex(int index, FormatDetailModelData &out) const;
+    bool getModelInfoById(const QString &id, FormatDetailModelData &out) const;
+
+    /*! Writes the extension, the only writable role; true whenever the id is known. */
+    bool setRoleValue(InvitationRoles role, const QString &id, const QVariant &value);
+    /*! The extension, the only role that can be read by id; else an invalid variant. */
+    QVariant getRoleValue(InvitationRoles role, const QString &id) const;
+
+    /*! toVarMap() of each user-defined preset. */
+    QVariantList toVariantList() const;
+    /*! toVarMapForSave() of each user-defined preset. */
+    QVariantList toVariantListForSave() const;
+    /*! toVarMap() of every preset, its id taken from s_idForTest, which counts on. */
+    QVariantList toVariantListForTest() const;
+
+    static int s_userDefineId;
+    static int s_idForTest;
+
+Q_SIGNALS:
+    void countChanged(int count);
+
+private:
+    friend class FormatListModel;
+
+    bool hasRow(int index) const;
+    void insertCopy(int index, const FormatDetailModelData &data);
+    void learnId(FormatDetailModelData *row, bool atHead);
+    void forgetId(const QString &id, FormatDetailModelData *row);
+    void updateCount();
+    QVariantList userDefined(QVariantMap (FormatDetailModelData::*toMap)() const) const;
+
+    // Between the two, the catalogue's index knows every id of this list (new when it joins).
+    void joinCatalogue(KeyIndex<QString> &titlesById, const QString &title);
+    void leaveCatalogue();
+
+    QQueue<FormatDetailModelData *> m_rows;
+    int m_count = 0;
+    KeyIndex<FormatDetailModelData *> m_rowsById;
+    KeyIndex<QString> *m_titlesById = nullptr; // of the catalogue that this list stands in
+    QString m_title;                           // this list's format there
+};
+
+#endif

@@ -1,0 +1,126 @@
+#ifndef FORMATS_MODELS_FORMATLISTMODEL_H
+#define FORMATS_MODELS_FORMATLISTMODEL_H
+
+#include "formats/formatsglobal.h"
+#include "formats/models/formatdetailmodel.h"
+#include "formats/models/formatlistmodeldata.h"
+#include "formats/models/keyindex.h"
+
+#include <QAbstractListModel>
+#include <QMap>
+#include <QQueue>
+
+/*!
+ * The output formats in catalogue order, and beside them the presets of each, by format title.
+ *
+ * Titles and ids are compared exactly. A look-up by preset id costs the same however many formats
+ * and presets there are. Preset lists belong to this model and are released with deleteLater().
+ * Renaming a format does not take its presets along: they stay under the old title.
+ * Nothing throws: a row out of range or an unknown title or id gives false, -1, null, an empty
+ * text or list or an invalid variant and changes nothing.
+ */
+class VEX_FORMATS_EXPORT FormatListModel : public QAbstractListModel
+{
+    Q_OBJECT
+    Q_PROPERTY(int count READ count WRITE setCount NOTIFY countChanged)
+    Q_DISABLE_COPY(FormatListModel)
+
+public:
+    enum InvitationRoles {
+        TitleRole = Qt::UserRole + 1,
+        IconRole,
+        TagRole,
+    };
+    Q_ENUM(InvitationRoles)
+
+    explicit FormatListModel(QObject *parent = nullptr);
+    ~FormatListModel() override;
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /*! The presets stored under this title; null when there are none. */
+    Q_INVOKABLE FormatDetailModel *formatDetailModel(const QString &name) const;
+    Q_INVOKABLE QString getTitle(int index) const;
+    Q_INVOKABLE bool isExist(const QString &title) const;
+
+    /*! The number last stored by a change of rows or by setCount(). */
+    int count() const;
+    /*! Stores \a count and emits countChanged(), also for an unchanged value. */
+    void setCount(int count);
+
+    /*! The first row with this title; -1 when there is none. */
+    int findModelInfoIndex(const QString &title) const;
+    /*! Whether any preset list has this preset id. */
+    bool containId(const QString &id) const;
+    /*! The title, first in alphabetical order, whose presets have this id. */
+    QString getGetClass(const QString &id) const;
+    /*! The tag of the first row whose presets have this id. */
+    QString getTagName(const QString &id) const;
+    /*! The icon of the first row whose presets have this id. */
+    QString getIcon(const QString &id) const;
+
+    /*!
+     * Appends a format with an empty preset list. Where the title is already there, the new list
+     * takes the old one's place for all rows of that title.
+     */
+    bool addModeInfo(const FormatListModelData &data);
+    /*! The same at row 0. */
+    bool addModeInfoAtHead(const FormatListModelData &data);
+    /*! Removes the row and the presets under its title. */
+    bool delModeInfo(int index);
+    bool delModelInfoByKey(const QString &title);
+    bool delDetailModel(const QString &title);
+    void clearDetailModel();
+    /*! Removes the rows one by one with their presets, then emits countChanged(0) once more. */
+    void clearModeInfo();
+    /*! Overwrites the row and emits dataChanged() with all roles. */
+    bool updateModeInfo(int index, const FormatListModelData &data);
+
+    /*! Appends a copy of every row to \a out; always true. */
+    bool getModelInfo(QQueue<FormatListModelData> &out) const;
+    bool getModelInfoByIndex(int index, FormatListModelData &out) const;
+    bool getModelInfoByTitle(const QString &title, FormatListModelData &out) const;
+
+    /*! Writes one text of the first row with this title; true whenever the title is known. */
+    bool setRoleValue(InvitationRoles role, const QString &title, const QVariant &value);
+    QVariant getRoleValue(InvitationRoles role, const QString &title) const;
+
+    /*!
+     * One map a format that has something to list: its "title", "icon" and "tag", and as "group"
+     * the list that its presets give. These enter a null preset list under a title without one.
+     */
+    QVariantList toVariantList();
+    QVariantList toVariantListForSave();
+    QVariantList toVariantListTest();
+
+    /*! The titles tagged "video" or "audio". */
+    QStringList formatList() const;
+    QStringList getFormatList(const QString &tag) const;
+    /*! Whether \a type in upper case is the title of a format tagged "video". */
+    bool isVideoType(const QString &type) const;
+
+    /*! Moves a row; views are not told. */
+    void moveDrag(int from, int to);
+
+Q_SIGNALS:
+    void countChanged(int count);
+
+private:
+    bool hasRow(int index) const;
+    void insertCopy(int index, const FormatListModelData &data);
+    void updateCount();
+    void rename(FormatListModelData *row, const QString &title);
+    void release(FormatDetailModel *presets);
+    const FormatListModelData *firstRowWithPreset(const QString &id) const;
+    QVariantList nested(QVariantList (FormatDetailModel::*toList)() const);
+
+    QList<FormatListModelData *> m_rows;
+    QMap<QString, FormatDetailModel *> m_detailModels;
+    int m_count = 0;
+    KeyIndex<FormatListModelData *> m_rowsByTitle;
+    KeyIndex<QString> m_titlesById; // kept by the preset lists in m_detailModels
+};
+
+#endif

@@ -1,0 +1,57 @@
+#ifndef FORMATS_MODELS_FORMATLISTMODELPROXY_H
+#define FORMATS_MODELS_FORMATLISTMODELPROXY_H
+
+#include "formats/formatsglobal.h"
+
+#include <QSortFilterProxyModel>
+
+class FormatListModelData;
+
+/*!
+ * The formats of one tag or, while a search text is set, those of every tag whose title contains
+ * it. Case does not count. The source is a FormatListModel; over any other model the look-ups
+ * find nothing.
+ */
+class VEX_FORMATS_EXPORT FormatListModelProxy : public QSortFilterProxyModel
+{
+    Q_OBJECT
+    Q_PROPERTY(QString filterKey READ filterKey WRITE setFilterKey NOTIFY filterKeyChanged)
+    Q_PROPERTY(QString searchKey READ searchKey WRITE setSearchKey NOTIFY searchKeyChanged)
+    Q_DISABLE_COPY(FormatListModelProxy)
+
+public:
+    explicit FormatListModelProxy(QObject *parent = nullptr);
+
+    QString filterKey() const;
+    /*! A new key is announced, then the rows are filtered anew; an equal one does nothing. */
+    void setFilterKey(const QString &key);
+    QString searchKey() const;
+    /*! As setFilterKey(). */
+    void setSearchKey(const QString &key);
+
+    /*! The number of rows shown. */
+    Q_INVOKABLE int count() const;
+    /*! Whether a shown row has this title, in whatever case. */
+    Q_INVOKABLE bool isInProxyModel(const QString &title) const;
+    /*! The title of a shown row; empty when there is no such row. */
+    Q_INVOKABLE QString getTitle(int itemIndex) const;
+    /*! The order is the catalogue's: does nothing. */
+    Q_INVOKABLE void setSort(const QString &roles, bool isUp);
+    /*! The order is the catalogue's: does nothing. */
+    Q_INVOKABLE void moveDrag(int srcProxyIndex, int desProxyIndex);
+
+Q_SIGNALS:
+    void filterKeyChanged(const QString &filterKey);
+    void searchKeyChanged();
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
+private:
+    bool getShownFormat(int row, FormatListModelData &out) const;
+
+    QString m_filterKey;
+    QString m_searchKey;
+};
+
+#endif

@@ -1,0 +1,80 @@
+#ifndef FORMATS_MODELS_KEYINDEX_H
+#define FORMATS_MODELS_KEYINDEX_H
+
+#include <QHash>
+#include <QList>
+#include <QSet>
+#include <QString>
+
+/*!
+ * Finds by key what a walk over rows would find, at a cost that does not grow with the rows.
+ *
+ * The values of one key stand in the order of their rows, so that the first value is the first
+ * match. Rows come at the end or at the head; after a row changed its key or its place, sort()
+ * restores the order.
+ */
+template <typename Value>
+class KeyIndex
+{
+public:
+    [[nodiscard]] bool contains(const QString &key) const { return m_values.contains(key); }
+
+    /*! The first value of the key; a default-made one (null) when the key has none. */
+    [[nodiscard]] Value first(const QString &key) const
+    {
+        const auto values = m_values.constFind(key);
+        return values == m_values.constEnd() ? Value() : values->constFirst();
+    }
+
+    /*! Every value of the key, in order; empty when the key has none. */
+    [[nodiscard]] QList<Value> all(const QString &key) const { return m_values.value(key); }
+
+    /*! True when the value is the key's first one. */
+    bool append(const QString &key, const Value &value)
+    {
+        QList<Value> &values = m_values[key];
+        values.append(value);
+        return values.size() == 1;
+    }
+
+    /*! True when the value is the key's first one. */
+    bool prepend(const QString &key, const Value &value)
+    {
+        QList<Value> &values = m_values[key];
+        values.prepend(value);
+        return values.size() == 1;
+    }
+
+    /*! Takes one entry of \a value out; true when it was the key's last one. */
+    bool remove(const QString &key, const Value &value)
+    {
+        const auto values = m_values.find(key);
+        if (values == m_values.end() || !values->removeOne(value) || !values->isEmpty()) {
+            return false;
+        }
+        m_values.erase(values);
+        return true;
+    }
+
+    /*! Puts the key's values into the order in which \a rows holds them. */
+    template <typename Rows>
+    void sort(const QString &key, const Rows &rows)
+    {
+        const auto values = m_values.find(key);
+        if (values == m_values.end() || values->size() == 1) {
+            return;
+        }
+        const QSet<Value> ofKey(values->cbegin(), values->cend());
+        values->clear();
+        for (const Value &row : rows) {
+            if (ofKey.contains(row)) {
+                values->append(row);
+            }
+        }
+    }
+
+private:
+    QHash<QString, QList<Value>> m_values;
+};
+
+#endif

@@ -1,0 +1,56 @@
+#include "formats/models/presetfields.h"
+
+#include <algorithm>
+
+namespace PresetFields {
+
+namespace {
+
+void assign(QString &member, const QVariant &value)
+{
+    member = value.toString();
+}
+void assign(bool &member, const QVariant &value)
+{
+    member = value.toBool();
+}
+void assign(QVariantList &member, const QVariant &value)
+{
+    member = value.toList();
+}
+void assign(QVariantMap &member, const QVariant &value)
+{
+    member = value.toMap();
+}
+
+} // namespace
+
+const Field &of(const Member &member)
+{
+    return *std::find_if(all.begin(), all.end(),
+                         [&member](const Field &field) { return field.member == member; });
+}
+
+const QString &key(const Field &field)
+{
+    static const auto keys = [] {
+        std::array<QString, all.size()> texts;
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            texts[i] = QLatin1String(all[i].key);
+        }
+        return texts;
+    }();
+    return keys[std::size_t(&field - all.data())];
+}
+
+QVariant read(const FormatDetailModelData &preset, const Member &member)
+{
+    return std::visit([&preset](auto field) { return QVariant(preset.*field); }, member);
+}
+
+void write(FormatDetailModelData &preset, const Member &member, const QVariant &value)
+{
+    std::visit([&](auto field) { assign(preset.*field, value); }, member);
+}
+
+} // namespace PresetFields

@@ -1,0 +1,114 @@
+#include "formats/parsers/catalogue.h"
+
+#include "formats/models/formatlistmodel.h"
+
+#include <formatcodecapi.h>
+
+using PresetFields::List;
+using PresetFields::Text;
+
+namespace {
+
+struct Setting
+{
+    QString key;     // in the "Param" map
+    QString listKey; // in the "Options" map
+    Text chosen;
+    List offered;
+};
+
+void readSettings(FormatDetailModelData &preset, const QVariantMap &params,
+                  const QVariantMap &options, const std::array<Setting, 4> &settings)
+{
+    for (const Setting &setting : settings) {
+        preset.*setting.chosen = params.value(setting.key).toString();
+        preset.*setting.offered = options.value(setting.listKey).toList();
+    }
+}
+
+void readLevels(FormatDetailModelData &preset, const QVariantList &levels)
+{
+    constexpr std::array<Text, 3> highToLow{&FormatDetailModelData::videoBitrateHigh,
+                                            &FormatDetailModelData::videoBitrateMid,
+                                            &FormatDetailModelData::videoBitrateLow};
+    const std::size_t count = std::min(highToLow.size(), std::size_t(levels.size()));
+    for (std::size_t i = 0; i < count; ++i) {
+        preset.*highToLow[i] = levels.at(int(i)).toString();
+    }
+}
+
+} // namespace
+
+namespace Catalogue {
+
+QVariantList groups(const QString &category)
+{
+    return FormatCodecApi::getInstance()->getExportGroupLists(category);
+}
+
+QVariantList contents(const QVariantMap &group)
+{
+    return FormatCodecApi::getInstance()->getExportGroupContents(group);
+}
+
+FormatDetailModel *addFormat(FormatListModel &model, const QVariantMap &group, const QString &tag)
+{
+    FormatListModelData format;
+    format.title = group.value(QStringLiteral("name")).toString();
+    if (model.formatDetailModel(format.title)) {
+        return nullptr;
+    }
+    format.icon = group.value(QStringLiteral("icon")).toString();
+    format.tag = tag;
+    model.addModeInfo(format);
+    return model.formatDetailModel(format.title);
+}
+
+QVariant lookUp(QVariantMap &map, const QString &key)
+{
+    // Writing only where the key is absent leaves a complete map shared with the catalogue.
+    const auto value = qAsConst(map).constFind(key);
+    return value != map.constEnd() ? *value : *map.insert(key, QVariant());
+}
+
+FormatDetailModelData readPreset(QVariantMap &entry, const QVariantMap &group)
+{
+    static const std::array<Setting, 4> audioSettings{{
+        {QStringLiteral("channel"), QStringLiteral("channelList"),
+         &FormatDetailModelData::audioChannel, &FormatDetailModelData::audioChannels},
+        {QStringLiteral("encoder"), QStringLiteral("encoderList"),
+         &FormatDetailModelData::audioEncoder, &FormatDetailModelData::audioEncoders},
+        {QStringLiteral("bitrateKbps"), QStringLiteral("bitrateKbpsList"),
+         &FormatDetailModelData::audioBitrate, &FormatDetailModelData::audioBitrates},
+        {QStringLiteral("sampleRate"), QStringLiteral("sampleRateList"),
+         &FormatDetailModelData::audioSampleRate, &FormatDetailModelData::audioSampleRates},
+    }};
+    FormatDetailModelData preset;
+    preset.id = lookUp(entry, QStringLiteral("id")).toString();
+    preset.extension = lookUp(entry, QStringLiteral("extension")).toString();
+    preset.title = lookUp(entry, QStringLiteral("title")).toString();
+    preset.icon = group.value(QStringLiteral("icon")).toString();
+    readSettings(preset, lookUp(entry, QStringLiteral("audioParam")).toMap(),
+                 lookUp(entry, QStringLiteral("audioOptions")).toMap(), audioSettings);
+    return preset;
+}
+
+void readVideo(FormatDetailModelData &preset, QVariantMap &entry)
+{
+    static const std::array<Setting, 4> videoSettings{{
+        {QStringLiteral("encoder"), QStringLiteral("encoderList"),
+         &FormatDetailModelData::videoEncoder, &FormatDetailModelData::videoEncoders},
+        {QStringLiteral("bitrateKbps"), QStringLiteral("bitrateKbpsList"),
+         &FormatDetailModelData::videoBitrate, &FormatDetailModelData::videoBitrates},
+        {QStringLiteral("frameRate"), QStringLiteral("frameRateList"),
+         &FormatDetailModelData::videoFrameRate, &FormatDetailModelData::videoFrameRates},
+        {QStringLiteral("resolution"), QStringLiteral("resolutionList"),
+         &FormatDetailModelData::videoResolution, &FormatDetailModelData::videoResolutions},
+    }};
+    const QVariantMap options = lookUp(entry, QStringLiteral("videoOptions")).toMap();
+    readSettings(preset, lookUp(entry, QStringLiteral("videoParam")).toMap(), options,
+                 videoSettings);
+    readLevels(preset, options.value(QStringLiteral("levelList")).toList());
+}
+
+} // namespace Catalogue

@@ -1,0 +1,52 @@
+#ifndef FORMATS_PROXY_FORMATSPROXYPRIVATE_H
+#define FORMATS_PROXY_FORMATSPROXYPRIVATE_H
+
+#include "formats/formatsglobal.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+class FormatDetailModel;
+class FormatDetailModelData;
+class FormatListModel;
+class FormatListModelProxy;
+class FormatsProxy;
+class IFormatsParser;
+
+/*! What the facade keeps. Models and parser are children of the facade, which never lacks them. */
+class VEX_FORMATS_EXPORT FormatsProxyPrivate
+{
+    Q_DISABLE_COPY(FormatsProxyPrivate)
+
+public:
+    explicit FormatsProxyPrivate(FormatsProxy *q);
+
+    /*! Writes \a text in UTF-8 over the file; false when it cannot be opened. Makes no folder. */
+    bool write2Local(const QString &path, const QString &text);
+
+    FormatsProxy *q;
+    QList<QVariant> formatTags;
+    QMap<QString, FormatListModel *> modelMap;
+    FormatListModel *formatListModel;
+    FormatListModelProxy *formatListModelProxy;
+    FormatDetailModel *recentlyModel;
+    IFormatsParser *parser = nullptr;
+    int maxRecentlyCount = 10;
+    QString configDir;
+
+private:
+    friend class FormatsProxy;
+
+    Q_DECL_HIDDEN QString configPath(QLatin1String fileName) const;
+    Q_DECL_HIDDEN void save(QLatin1String fileName, const QVariantList &list);
+    Q_DECL_HIDDEN FormatDetailModel *presetsOf(const QString &tagName,
+                                               const QString &className) const;
+    Q_DECL_HIDDEN bool findInCatalogue(const QString &id, QString &className,
+                                       FormatDetailModelData &preset) const;
+    Q_DECL_HIDDEN void updateFormatDetailModelDataByAudioBitrate(FormatDetailModelData &preset,
+                                                                 const QString &bitrate);
+};
+
+#endif
