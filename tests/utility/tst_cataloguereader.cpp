@@ -1,0 +1,484 @@
+#include "utility/cataloguereader.h"
+
+#include <QtTest>
+
+namespace {
+
+const QByteArray audioBlocks = R"(
+    "audioOptions": {
+      "encoderList": ["0", "aac"],
+      "channelList": [0, 1, 2],
+      "sampleRateList": [0, 44100, 48000],
+      "bitrateKbpsList": [0, 128, 192]
+    },
+    "audioParam": { "encoder": "aac", "channel": 2, "sampleRate": 48000, "bitrateKbps": 192 }
+)";
+
+const QByteArray videoBlocks = R"(
+    "videoOptions": {
+      "encoderList": ["0", "h264"],
+      "resolutionList": ["0", "1920x1080"],
+      "frameRateList": [0, 29.97, 30],
+      "bitrateKbpsList": [0, 4000, 8000, 12000],
+      "levelList": [12000, 8000, 4000]
+    },
+    "videoParam": { "encoder": "h264", "resolution": "0", "frameRate": 0, "bitrateKbps": 8000 }
+)";
+
+QByteArray joined(const QList<QByteArray> &parts)
+{
+    return parts.join(", ");
+}
+
+QByteArray preset(const QByteArray &id, const QByteArray &further = {})
+{
+    const QByteArray texts = R"("id": ")" + id + R"(", "title": "T")";
+    return "{ " + (further.isEmpty() ? texts : joined({texts, further})) + " }";
+}
+
+QByteArray group(const QByteArray &name, const QList<QByteArray> &settings,
+                 const QList<QByteArray> &presets)
+{
+    return R"({ "name": ")" + name + R"(", "icon": "fmt_x", "extension": "x", )" +
+           joined(settings + QList<QByteArray>{R"("presets": [)" + joined(presets) + "]"}) + " }";
+}
+
+QByteArray file(const QByteArray &category, const QList<QByteArray> &groups,
+                const QByteArray &lists = "{}")
+{
+    return R"({ "category": ")" + category + R"(", "lists": )" + lists + R"(, "groups": [)" +
+           joined(groups) + "] }";
+}
+
+QVector<CatalogueSource> sources(const QList<QByteArray> &files)
+{
+    QVector<CatalogueSource> result;
+    for (const QByteArray &json : files) {
+        result.append({QStringLiteral("file%1.json").arg(result.size() + 1), json});
+    }
+    return result;
+}
+
+QVariantMap presetOf(const CatalogueResult &result, const char *category, const char *name,
+                     int index = 0)
+{
+    const QVariantList presets =
+        result.catalogue.presets.value({QString::fromLatin1(category), QString::fromLatin1(name)});
+    return presets.value(index).toMap();
+}
+
+QVariant valueAt(const QVariantMap &preset, const char *block, const char *key)
+{
+    return preset.value(QLatin1String(block)).toMap().value(QLatin1String(key));
+}
+
+// A one-group file that is right, with one text in it exchanged for another.
+QByteArray broken(const QByteArray &right, const QByteArray &wrong)
+{
+    const QByteArray whole =
+        file("Video", {group("MP4", {videoBlocks, audioBlocks}, {preset("A_B_001")})},
+             R"({ "rates": [0, 30] })");
+    QByteArray result = whole;
+    result.replace(right, wrong);
+    return result == whole ? QByteArray("nothing was exchanged") : result;
+}
+
+} // namespace
+
+class tst_CatalogueReader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void presetsStateOnlyWhatDiffersFromTheirGroup();
+    void aPresetMayStateEverythingItself();
+    void furtherKeysTravelAlong();
+    void theGroupMapIdentifiesTheGroup();
+    void aGroupWithoutIconHasAnEmptyOne();
+    void audioOnlyPresetsHaveNoVideoKeys();
+    void presetsWithoutSoundHaveEmptyAudioMaps();
+    void namedListsStandForTheirValues();
+    void namedListsAreThoseOfTheFile();
+    void equalListsAreShared();
+    void listsOfTextsAreNotSharedWithListsOfNumbers();
+    void numbersStayNumbersAndTextsTexts();
+    void categoriesComeInOrderOfAppearance();
+    void oneGroupNameMayStandInTwoCategories();
+    void noSourcesMakeAnEmptyCatalogue();
+    void whatIsWrongIsNamedWithItsPlace_data();
+    void whatIsWrongIsNamedWithItsPlace();
+    void errorsNameTheSourceThatIsWrong();
+    void afterAnErrorThereIsNoCatalogue();
+};
+
+void tst_CatalogueReader::presetsStateOnlyWhatDiffersFromTheirGroup()
+{
+    const CatalogueResult result = readCatalogue(sources({file(
+        "Video",
+        {group("MP4", {videoBlocks, audioBlocks},
+               {preset("A_B_001", R"("videoParam": { "encoder": "0" })"),
+                preset("A_B_002",
+                       R"("extension": "m4v", "videoOptions": { "levelList": [3, 2, 1] })")})})}));
+    QCOMPARE(result.error, QString());
+
+    const QVariantMap first = presetOf(result, "Video", "MP4", 0);
+    QCOMPARE(first.value(QStringLiteral("id")), QVariant(QStringLiteral("A_B_001")));
+    QCOMPARE(first.value(QStringLiteral("title")), QVariant(QStringLiteral("T")));
+    QCOMPARE(first.value(QStringLiteral("extension")), QVariant(QStringLiteral("x")));
+    QCOMPARE(valueAt(first, "videoParam", "encoder"), QVariant(QStringLiteral("0")));
+    QCOMPARE(valueAt(first, "videoParam", "bitrateKbps"), QVariant(8000));
+    QCOMPARE(valueAt(first, "videoOptions", "levelList"),
+             QVariant(QVariantList{12000, 8000, 4000}));
+    QCOMPARE(valueAt(first, "audioParam", "sampleRate"), QVariant(48000));
+
+    const QVariantMap second = presetOf(result, "Video", "MP4", 1);
+    QCOMPARE(second.value(QStringLiteral("extension")), QVariant(QStringLiteral("m4v")));
+    QCOMPARE(valueAt(second, "videoParam", "encoder"), QVariant(QStringLiteral("h264")));
+    QCOMPARE(valueAt(second, "videoOptions", "levelList"), QVariant(QVariantList{3, 2, 1}));
+    QCOMPARE(valueAt(second, "videoOptions", "resolutionList"),
+             QVariant(QVariantList{QStringLiteral("0"), QStringLiteral("1920x1080")}));
+
+    QVERIFY(!first.contains(QStringLiteral("name")));
+    QVERIFY(!first.contains(QStringLiteral("icon")));
+    QVERIFY(!first.contains(QStringLiteral("presets")));
+}
+
+void tst_CatalogueReader::aPresetMayStateEverythingItself()
+{
+    const CatalogueResult result = readCatalogue(sources(
+        {R"({ "category": "C", "groups": [{ "name": "G", "presets": [{ "id": "1", "title": "T", "extension": "e", )" +
+         joined({videoBlocks, audioBlocks}) + "}] }] }"}));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(valueAt(presetOf(result, "C", "G"), "audioParam", "channel"), QVariant(2));
+}
+
+void tst_CatalogueReader::furtherKeysTravelAlong()
+{
+    const CatalogueResult result = readCatalogue(sources(
+        {R"({ "category": "C", "note": 1, "groups": [{ "name": "G", "extension": "e", "twoPass": true, "mux": { "a": 1, "b": 2 }, )" +
+         audioBlocks + R"(, "presets": [)" +
+         preset("1", R"("mux": { "b": 3 }, "audioParam": { "vbr": 4 })") + "] }] }"}));
+    QCOMPARE(result.error, QString());
+    const QVariantMap map = presetOf(result, "C", "G");
+    QCOMPARE(map.value(QStringLiteral("twoPass")), QVariant(true));
+    QCOMPARE(valueAt(map, "mux", "a"), QVariant(1));
+    QCOMPARE(valueAt(map, "mux", "b"), QVariant(3));
+    QCOMPARE(valueAt(map, "audioParam", "vbr"), QVariant(4));
+    QVERIFY(!map.contains(QStringLiteral("note")));
+}
+
+void tst_CatalogueReader::theGroupMapIdentifiesTheGroup()
+{
+    const CatalogueResult result =
+        readCatalogue(sources({file("Audio", {group("MP3", {audioBlocks}, {preset("1")})})}));
+    const QVariantMap expected{{QStringLiteral("category"), QStringLiteral("Audio")},
+                               {QStringLiteral("name"), QStringLiteral("MP3")},
+                               {QStringLiteral("icon"), QStringLiteral("fmt_x")}};
+    QCOMPARE(result.catalogue.groups.value(QStringLiteral("Audio")), QVariantList{expected});
+}
+
+void tst_CatalogueReader::aGroupWithoutIconHasAnEmptyOne()
+{
+    const CatalogueResult result = readCatalogue(
+        sources({R"({ "category": "C", "groups": [{ "name": "G", "presets": [] }] })"}));
+    QCOMPARE(result.error, QString());
+    const QVariantMap map = result.catalogue.groups.value(QStringLiteral("C")).value(0).toMap();
+    QCOMPARE(map.value(QStringLiteral("icon")), QVariant(QString()));
+}
+
+void tst_CatalogueReader::audioOnlyPresetsHaveNoVideoKeys()
+{
+    const QVariantMap map = presetOf(
+        readCatalogue(sources({file("Audio", {group("MP3", {audioBlocks}, {preset("1")})})})),
+        "Audio", "MP3");
+    QCOMPARE(map.keys(), QStringList({QStringLiteral("audioOptions"), QStringLiteral("audioParam"),
+                                      QStringLiteral("extension"), QStringLiteral("id"),
+                                      QStringLiteral("title")}));
+}
+
+void tst_CatalogueReader::presetsWithoutSoundHaveEmptyAudioMaps()
+{
+    const CatalogueResult result =
+        readCatalogue(sources({file("Video", {group("GIF", {videoBlocks}, {preset("1")})})}));
+    QCOMPARE(result.error, QString());
+    const QVariantMap map = presetOf(result, "Video", "GIF");
+    QCOMPARE(map.value(QStringLiteral("audioParam")), QVariant(QVariantMap()));
+    QCOMPARE(map.value(QStringLiteral("audioOptions")), QVariant(QVariantMap()));
+    QVERIFY(map.contains(QStringLiteral("videoParam")));
+}
+
+void tst_CatalogueReader::namedListsStandForTheirValues()
+{
+    const CatalogueResult result = readCatalogue(
+        sources({file("Video",
+                      {group("MP4", {videoBlocks, audioBlocks},
+                             {preset("1", R"("videoOptions": { "frameRateList": "rates" })")})},
+                      R"({ "rates": [0, 24, 25], "neverUsed": ["any", 1, {}] })")}));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(valueAt(presetOf(result, "Video", "MP4"), "videoOptions", "frameRateList"),
+             QVariant(QVariantList{0, 24, 25}));
+}
+
+void tst_CatalogueReader::namedListsAreThoseOfTheFile()
+{
+    const QByteArray byName = R"("audioOptions": { "channelList": "channels" })";
+    const CatalogueResult result = readCatalogue(sources(
+        {file("A", {group("G", {audioBlocks}, {preset("1", byName)})}, R"({ "channels": [0, 1] })"),
+         file("B", {group("G", {audioBlocks}, {preset("2", byName)})},
+              R"({ "channels": [0, 6] })")}));
+    QCOMPARE(valueAt(presetOf(result, "A", "G"), "audioOptions", "channelList"),
+             QVariant(QVariantList{0, 1}));
+    QCOMPARE(valueAt(presetOf(result, "B", "G"), "audioOptions", "channelList"),
+             QVariant(QVariantList{0, 6}));
+}
+
+void tst_CatalogueReader::equalListsAreShared()
+{
+    const CatalogueResult result = readCatalogue(sources(
+        {file("Audio", {group("MP3", {audioBlocks},
+                              {preset("1"), preset("2", R"("audioParam": { "channel": 1 })"),
+                               preset("3", R"("audioOptions": { "channelList": [ 0,1,2 ] })")})}),
+         file("Video",
+              {group("MP4", {videoBlocks, audioBlocks},
+                     {preset("4", R"("audioOptions": { "channelList": "c" })")})},
+              R"({ "c": [0, 1, 2] })")}));
+    QCOMPARE(result.error, QString());
+    const QVariantList channels =
+        valueAt(presetOf(result, "Audio", "MP3"), "audioOptions", "channelList").toList();
+    QCOMPARE(channels, (QVariantList{0, 1, 2}));
+    for (const QVariantMap &map :
+         {presetOf(result, "Audio", "MP3", 1), presetOf(result, "Audio", "MP3", 2),
+          presetOf(result, "Video", "MP4")}) {
+        QVERIFY(channels.isSharedWith(valueAt(map, "audioOptions", "channelList").toList()));
+    }
+}
+
+void tst_CatalogueReader::listsOfTextsAreNotSharedWithListsOfNumbers()
+{
+    const CatalogueResult result = readCatalogue(sources({file(
+        "Audio",
+        {group(
+            "MP3", {audioBlocks},
+            {preset("1", R"("audioOptions": { "encoderList": ["0"], "channelList": [0] })")})})}));
+    const QVariantMap map = presetOf(result, "Audio", "MP3");
+    const QVariantList encoders = valueAt(map, "audioOptions", "encoderList").toList();
+    const QVariantList channels = valueAt(map, "audioOptions", "channelList").toList();
+    QCOMPARE(encoders.value(0).type(), QVariant::String);
+    QCOMPARE(channels.value(0).type(), QVariant::LongLong);
+}
+
+void tst_CatalogueReader::numbersStayNumbersAndTextsTexts()
+{
+    const QVariantMap map =
+        presetOf(readCatalogue(sources(
+                     {file("Video", {group("MP4", {videoBlocks, audioBlocks}, {preset("1")})})})),
+                 "Video", "MP4");
+    QCOMPARE(valueAt(map, "videoParam", "resolution").type(), QVariant::String);
+    QCOMPARE(valueAt(map, "videoParam", "frameRate").type(), QVariant::LongLong);
+    const QVariantList frameRates = valueAt(map, "videoOptions", "frameRateList").toList();
+    QCOMPARE(frameRates.value(1).type(), QVariant::Double);
+    QCOMPARE(frameRates.value(1).toString(), QStringLiteral("29.97"));
+    QCOMPARE(frameRates.value(2).toString(), QStringLiteral("30"));
+}
+
+void tst_CatalogueReader::categoriesComeInOrderOfAppearance()
+{
+    const CatalogueResult result = readCatalogue(
+        sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
+                 file("Audio", {group("MP3", {audioBlocks}, {preset("2")})}),
+                 file("Video", {group("MKV", {audioBlocks}, {preset("3")})}), file("Device", {})}));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(
+        result.catalogue.categories,
+        QVariantList({QStringLiteral("Video"), QStringLiteral("Audio"), QStringLiteral("Device")}));
+    QStringList names;
+    for (const QVariant &map : result.catalogue.groups.value(QStringLiteral("Video"))) {
+        names.append(map.toMap().value(QStringLiteral("name")).toString());
+    }
+    QCOMPARE(names, QStringList({QStringLiteral("MP4"), QStringLiteral("MKV")}));
+    QCOMPARE(result.catalogue.groups.value(QStringLiteral("Device")), QVariantList());
+}
+
+void tst_CatalogueReader::oneGroupNameMayStandInTwoCategories()
+{
+    const CatalogueResult result =
+        readCatalogue(sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
+                               file("Device", {group("MP4", {audioBlocks}, {preset("2")})})}));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(presetOf(result, "Video", "MP4").value(QStringLiteral("id")),
+             QVariant(QStringLiteral("1")));
+    QCOMPARE(presetOf(result, "Device", "MP4").value(QStringLiteral("id")),
+             QVariant(QStringLiteral("2")));
+}
+
+void tst_CatalogueReader::noSourcesMakeAnEmptyCatalogue()
+{
+    const CatalogueResult result = readCatalogue({});
+    QCOMPARE(result.error, QString());
+    QVERIFY(result.catalogue.categories.isEmpty());
+}
+
+void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("error");
+
+    const auto row = [](const char *name, const QByteArray &json, const char *error) {
+        QTest::newRow(name) << json << QString::fromUtf8(error);
+    };
+
+    row("empty file", "", "1:1: the file is empty");
+    row("blank file", " \n\n ", "1:1: the file is empty");
+    row("no JSON", "MP4=h264", "1:1: illegal value");
+    row("missing colon on line 2", "{\n  \"category\" 1 }", "2:14: missing name separator");
+    row("columns count characters", "{\n  \"ä€𝄞\" 1 }", "2:9: missing name separator");
+    row("windows line ends", "{\r\n\"a\" 1 }", "2:5: missing name separator");
+    row("missing comma", "{\n  \"a\": 1\n  \"b\": 2\n}",
+        "3:3: expected a comma, a closing brace or a key in double quotes");
+    row("key without quotes", "{\n  category: 1\n}",
+        "2:3: expected a comma, a closing brace or a key in double quotes");
+    row("unclosed list", "{\n\"groups\": [1, 2\n}", "3:1: expected a comma or a closing bracket");
+    row("cut off", R"({ "category": "Vid)", "1:19: unterminated string");
+    row("something behind the end", "{}\n\nmore", "3:1: garbage at the end of the document");
+    row("not UTF-8", "{\n\"a\": \"\xff\" }", "2:6: invalid UTF8 string");
+
+    row("list instead of object", "[]", ": the file must hold an object but holds a list");
+    row("no category", R"({ "groups": [] })", ": category: must be a text but is missing");
+    row("no groups", R"({ "category": "Video" })", ": groups: must be a list but is missing");
+    row("category is no text", broken(R"("category": "Video")", R"("category": 7)"),
+        ": category: must be a text but is a number");
+    row("category is empty", broken(R"("category": "Video")", R"("category": "")"),
+        ": category: must not be empty");
+    row("groups is no list", R"({ "category": "Video", "groups": {} })",
+        ": groups: must be a list but is an object");
+    row("lists is no object", broken(R"({ "rates": [0, 30] })", "[]"),
+        ": lists: must be an object but is a list");
+    row("a named list is no list", broken("[0, 30]", "30"),
+        ": lists.rates: must be a list but is a number");
+
+    row("group is no object", R"({ "category": "Video", "groups": [true] })",
+        ": groups[0]: must be an object but is true or false");
+    row("no name", broken(R"("name": "MP4",)", ""),
+        ": groups[0].name: must be a text but is missing");
+    row("name is null", broken(R"("name": "MP4")", R"("name": null)"),
+        ": groups[0].name: must be a text but is null");
+    row("name is empty", broken(R"("name": "MP4")", R"("name": "")"),
+        ": groups[0].name: must not be empty");
+    row("icon is no text", broken(R"("fmt_x")", "1"),
+        ": groups[0].icon: must be a text but is a number");
+    row("no presets", broken(R"("presets":)", R"("Presets":)"),
+        ": groups[0].presets: must be a list but is missing");
+    row("presets is no list", R"({ "category": "V", "groups": [{ "name": "G", "presets": "p" }] })",
+        ": groups[0].presets: must be a list but is a text");
+    row("a name twice",
+        file("Video", {group("MP4", {audioBlocks}, {preset("1")}),
+                       group("MP4", {audioBlocks}, {preset("2")})}),
+        ": groups[1].name: the category \"Video\" already has a group \"MP4\"; put the presets "
+        "into "
+        "that one or give this one a name of its own");
+
+    row("preset is no object",
+        R"({ "category": "V", "groups": [{ "name": "G", "presets": [1] }] })",
+        ": groups[0].presets[0]: must be an object but is a number");
+    row("no id", broken(R"("id": "A_B_001",)", ""),
+        ": groups[0].presets[0].id: is missing from the preset and its group");
+    row("no title", broken(R"(, "title": "T")", ""),
+        ": groups[0].presets[0].title: is missing from the preset and its group");
+    row("no extension", broken(R"("extension": "x",)", ""),
+        ": groups[0].presets[0].extension: is missing from the preset and its group");
+    row("id is no text", broken(R"("A_B_001")", "1"),
+        ": groups[0].presets[0].id: must be a text but is a number");
+    row("id is empty", broken("A_B_001", ""), ": groups[0].presets[0].id: must not be empty");
+    row("title is empty", broken(R"("T")", R"("")"),
+        ": groups[0].presets[0].title: must not be empty");
+    row("extension is no text", broken(R"("extension": "x")", R"("extension": ["x"])"),
+        ": groups[0].extension: must be a text but is a list");
+    row("an id twice",
+        file("Video", {group("MP4", {audioBlocks}, {preset("1"), preset("2")}),
+                       group("MKV", {audioBlocks}, {preset("3"), preset("2")})}),
+        ": groups[1].presets[1].id: \"2\" is already the id of another preset");
+    row("neither video nor audio", file("Video", {group("MP4", {R"("a": 1)"}, {preset("1")})}),
+        ": groups[0].presets[0]: has neither video nor audio settings");
+
+    row("no videoParam", broken(R"("videoParam")", R"("VideoParam")"),
+        ": groups[0].presets[0].videoParam.encoder: is missing from the preset and its group");
+    row("no videoOptions", broken(R"("videoOptions")", R"("VideoOptions")"),
+        ": groups[0].presets[0].videoOptions.encoderList: is missing from the preset and its "
+        "group");
+    row("no audioParam", broken(R"("audioParam")", R"("AudioParam")"),
+        ": groups[0].presets[0].audioParam.encoder: is missing from the preset and its group");
+    row("no audioOptions", broken(R"("audioOptions")", R"("AudioOptions")"),
+        ": groups[0].presets[0].audioOptions.encoderList: is missing from the preset and its "
+        "group");
+    row("no resolution", broken(R"("resolution": "0", )", ""),
+        ": groups[0].presets[0].videoParam.resolution: is missing from the preset and its group");
+    row("no sample rates", broken(R"("sampleRateList": [0, 44100, 48000],)", ""),
+        ": groups[0].presets[0].audioOptions.sampleRateList: is missing from the preset and its "
+        "group");
+
+    row("block is no object", broken(R"("audioParam": {)", R"("audioParam": [], "a": {)"),
+        ": groups[0].audioParam: must be an object but is a list");
+    row("encoder is no text", broken(R"("encoder": "h264")", R"("encoder": 264)"),
+        ": groups[0].videoParam.encoder: must be a text but is a number");
+    row("resolution is no text", broken(R"("resolution": "0")", R"("resolution": 0)"),
+        ": groups[0].videoParam.resolution: must be a text but is a number");
+    row("frame rate is no number", broken(R"("frameRate": 0)", R"("frameRate": "0")"),
+        ": groups[0].videoParam.frameRate: must be a number but is a text");
+    row("audio bitrate is no number", broken(R"("bitrateKbps": 192)", R"("bitrateKbps": "192")"),
+        ": groups[0].audioParam.bitrateKbps: must be a number but is a text");
+    row("wrong in the preset",
+        file("Video", {group("MP3", {audioBlocks},
+                             {preset("1"), preset("2", R"("audioParam": { "channel": "2" })")})}),
+        ": groups[0].presets[1].audioParam.channel: must be a number but is a text");
+
+    row("option list is no list", broken("[0, 1, 2]", "2"),
+        ": groups[0].audioOptions.channelList: must be a list but is a number");
+    row("unknown named list", broken("[0, 1, 2]", R"("channels")"),
+        ": groups[0].audioOptions.channelList: there is no list \"channels\" in \"lists\"");
+    row("a text among numbers", broken("[0, 1, 2]", R"([0, "1", 2])"),
+        ": groups[0].audioOptions.channelList[1]: must be a number but is a text");
+    row("a number among texts", broken(R"(["0", "h264"])", R"(["0", "h264", 0])"),
+        ": groups[0].videoOptions.encoderList[2]: must be a text but is a number");
+    row("a number among the texts of a named list", broken(R"(["0", "h264"])", R"("rates")"),
+        ": lists.rates[0]: must be a text but is a number");
+    row("two levels", broken("[12000, 8000, 4000]", "[8000, 4000]"),
+        ": groups[0].videoOptions.levelList: must hold three bitrates: high, middle and low");
+    row("four levels", broken("[12000, 8000, 4000]", "[8, 4, 2, 1]"),
+        ": groups[0].videoOptions.levelList: must hold three bitrates: high, middle and low");
+}
+
+void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, error);
+    const QString separator = error.startsWith(QLatin1Char(':')) ? QString() : QStringLiteral(":");
+    QCOMPARE(readCatalogue(sources({json})).error,
+             QStringLiteral("file1.json") + separator + error);
+}
+
+void tst_CatalogueReader::errorsNameTheSourceThatIsWrong()
+{
+    const QByteArray right = file("Video", {group("MP4", {audioBlocks}, {preset("1")})});
+    QCOMPARE(readCatalogue(sources({right, "{", "["})).error,
+             QStringLiteral(
+                 "file2.json:1:1: expected a comma, a closing brace or a key in double quotes"));
+    QCOMPARE(
+        readCatalogue(sources({right, file("Audio", {group("MP3", {audioBlocks}, {preset("1")})})}))
+            .error,
+        QStringLiteral("file2.json: groups[0].presets[0].id: \"1\" is already the id of another "
+                       "preset"));
+}
+
+void tst_CatalogueReader::afterAnErrorThereIsNoCatalogue()
+{
+    const CatalogueResult result =
+        readCatalogue(sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}), "{}"}));
+    QVERIFY(!result.error.isEmpty());
+    QVERIFY(result.catalogue.categories.isEmpty());
+    QVERIFY(result.catalogue.groups.isEmpty());
+    QVERIFY(result.catalogue.presets.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_CatalogueReader)
+
+#include "tst_cataloguereader.moc"

@@ -1,0 +1,390 @@
+#include <formatcodecapi.h>
+
+#include <QtTest>
+
+#include <cstdio>
+
+namespace {
+
+using Files = QMap<QString, QByteArray>;
+
+const QString variable = QStringLiteral("VEX_EXPORT_CATALOGUE");
+const QString serve = QStringLiteral("--serve");
+
+// One line a group: category, name and the ids of its presets.
+QByteArray servedCatalogue()
+{
+    FormatCodecApi *const api = FormatCodecApi::getInstance();
+    QString text;
+    for (const QVariant &category : api->getExportCategoryLists()) {
+        for (const QVariant &group : api->getExportGroupLists(category.toString())) {
+            const QVariantMap map = group.toMap();
+            text += map.value(QStringLiteral("category")).toString() + QLatin1Char(' ') +
+                    map.value(QStringLiteral("name")).toString();
+            for (const QVariant &preset : api->getExportGroupContents(map)) {
+                text += QLatin1Char(' ') + preset.toMap().value(QStringLiteral("id")).toString();
+            }
+            text += QLatin1Char('\n');
+        }
+    }
+    return text.toUtf8();
+}
+
+struct Served
+{
+    QByteArray catalogue;
+    QByteArray standardError;
+};
+
+// What a process serves that starts with the variable set: the instance of this one is made
+// already.
+Served servedWith(const QString &value, const QString &workingDirectory = {})
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(variable, value);
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(workingDirectory);
+    process.start(QCoreApplication::applicationFilePath(), {serve});
+    process.waitForFinished();
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+        return {"the process failed", process.readAllStandardError()};
+    }
+    return {process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+void write(const QDir &folder, const Files &files)
+{
+    for (auto it = files.cbegin(); it != files.cend(); ++it) {
+        QFile file(folder.filePath(it.key()));
+        QVERIFY2(file.open(QIODevice::WriteOnly) && file.write(*it) == it->size(),
+                 qPrintable(file.errorString()));
+    }
+}
+
+QByteArray catalogue(const QByteArray &category, const QByteArray &name, const QByteArray &id)
+{
+    return R"({ "category": ")" + category + R"(", "groups": [{ "name": ")" + name + R"(",
+        "extension": "x",
+        "audioOptions": { "encoderList": ["aac"], "channelList": [2], "sampleRateList": [0],
+                          "bitrateKbpsList": [0] },
+        "audioParam": { "encoder": "aac", "channel": 2, "sampleRate": 0, "bitrateKbps": 0 },
+        "presets": [{ "id": ")" +
+           id + R"(", "title": "T" }] }] })";
+}
+
+QVariantMap groupOf(const QString &category, const QString &name)
+{
+    for (const QVariant &group : FormatCodecApi::getInstance()->getExportGroupLists(category)) {
+        if (group.toMap().value(QStringLiteral("name")) == name) {
+            return group.toMap();
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+class tst_FormatCodecApi : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void thereIsOneInstance();
+    void builtInCategoriesComeInTheOrderOfTheScreens();
+    void unknownCategoriesHaveNoGroups_data();
+    void unknownCategoriesHaveNoGroups();
+    void deliveredGroupsHavePresets();
+    void groupsAreFoundByCategoryAndName();
+    void foreignGroupsHaveNoPresets_data();
+    void foreignGroupsHaveNoPresets();
+    void everyCallDeliversTheSameData();
+    void theDefaultPresetKeepsTheSource();
+    void theVariableIsReadOnlyOnce();
+    void anEmptyVariableMeansTheBuiltInCatalogue();
+    void aFileIsServedInsteadOfTheBuiltInCatalogue();
+    void aRelativePathStartsAtTheWorkingDirectory();
+    void aFolderIsServedInTheOrderOfItsFileNames();
+    void oneCategoryMayComeFromSeveralFiles();
+    void whatCannotBeServedIsReportedInOneLine_data();
+    void whatCannotBeServedIsReportedInOneLine();
+    void whatMayNotBeReadIsReported_data();
+    void whatMayNotBeReadIsReported();
+};
+
+void tst_FormatCodecApi::thereIsOneInstance()
+{
+    QVERIFY(FormatCodecApi::getInstance());
+    QCOMPARE(FormatCodecApi::getInstance(), FormatCodecApi::getInstance());
+}
+
+void tst_FormatCodecApi::builtInCategoriesComeInTheOrderOfTheScreens()
+{
+    QCOMPARE(FormatCodecApi::getInstance()->getExportCategoryLists(),
+             QVariantList({QStringLiteral("Video"), QStringLiteral("Audio"),
+                           QStringLiteral("Device"), QStringLiteral("SocialVideo")}));
+}
+
+void tst_FormatCodecApi::unknownCategoriesHaveNoGroups_data()
+{
+    QTest::addColumn<QString>("category");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("unknown") << QStringLiteral("Images");
+    QTest::newRow("other case") << QStringLiteral("video");
+    QTest::newRow("name of a group") << QStringLiteral("MP4");
+}
+
+void tst_FormatCodecApi::unknownCategoriesHaveNoGroups()
+{
+    QFETCH(QString, category);
+    QCOMPARE(FormatCodecApi::getInstance()->getExportGroupLists(category), QVariantList());
+}
+
+void tst_FormatCodecApi::deliveredGroupsHavePresets()
+{
+    FormatCodecApi *const api = FormatCodecApi::getInstance();
+    for (const QVariant &category : api->getExportCategoryLists()) {
+        const QVariantList groups = api->getExportGroupLists(category.toString());
+        QVERIFY(!groups.isEmpty());
+        for (const QVariant &group : groups) {
+            QCOMPARE(group.toMap().value(QStringLiteral("category")), category);
+            QVERIFY(!api->getExportGroupContents(group.toMap()).isEmpty());
+        }
+    }
+}
+
+void tst_FormatCodecApi::groupsAreFoundByCategoryAndName()
+{
+    QVariantMap group = groupOf(QStringLiteral("Video"), QStringLiteral("MP4"));
+    const QVariantList presets = FormatCodecApi::getInstance()->getExportGroupContents(group);
+    QVERIFY(!presets.isEmpty());
+    group.remove(QStringLiteral("icon"));
+    group.insert(QStringLiteral("added by a look-up"), QVariant());
+    QCOMPARE(FormatCodecApi::getInstance()->getExportGroupContents(group), presets);
+}
+
+void tst_FormatCodecApi::foreignGroupsHaveNoPresets_data()
+{
+    const QString category = QStringLiteral("category");
+    const QString name = QStringLiteral("name");
+    QTest::addColumn<QVariantMap>("group");
+    QTest::newRow("empty map") << QVariantMap();
+    QTest::newRow("name without category") << QVariantMap{{name, QStringLiteral("MP4")}};
+    QTest::newRow("category without name") << QVariantMap{{category, QStringLiteral("Video")}};
+    QTest::newRow("name of another category")
+        << QVariantMap{{category, QStringLiteral("Audio")}, {name, QStringLiteral("MP4")}};
+    QTest::newRow("other case") << QVariantMap{{category, QStringLiteral("Video")},
+                                               {name, QStringLiteral("mp4")}};
+    QTest::newRow("values that are no texts")
+        << QVariantMap{{category, QVariantList()}, {name, QVariantMap()}};
+}
+
+void tst_FormatCodecApi::foreignGroupsHaveNoPresets()
+{
+    QFETCH(QVariantMap, group);
+    QCOMPARE(FormatCodecApi::getInstance()->getExportGroupContents(group), QVariantList());
+}
+
+void tst_FormatCodecApi::everyCallDeliversTheSameData()
+{
+    FormatCodecApi *const api = FormatCodecApi::getInstance();
+    const QVariantMap group = groupOf(QStringLiteral("Video"), QStringLiteral("MP4"));
+    QVERIFY(api->getExportCategoryLists().isSharedWith(api->getExportCategoryLists()));
+    QVERIFY(api->getExportGroupLists(QStringLiteral("Video"))
+                .isSharedWith(api->getExportGroupLists(QStringLiteral("Video"))));
+    QVERIFY(api->getExportGroupContents(group).isSharedWith(api->getExportGroupContents(group)));
+}
+
+void tst_FormatCodecApi::theDefaultPresetKeepsTheSource()
+{
+    const QVariantMap preset =
+        FormatCodecApi::getInstance()
+            ->getExportGroupContents(groupOf(QStringLiteral("Video"), QStringLiteral("MP4")))
+            .value(0)
+            .toMap();
+    QCOMPARE(preset.value(QStringLiteral("id")), QVariant(QStringLiteral("Video_MP4_001")));
+    QCOMPARE(preset.value(QStringLiteral("title")), QVariant(QStringLiteral("Same as source")));
+    QCOMPARE(preset.value(QStringLiteral("extension")), QVariant(QStringLiteral("mp4")));
+    QCOMPARE(preset.value(QStringLiteral("videoParam")).toMap(),
+             (QVariantMap{{QStringLiteral("encoder"), QStringLiteral("0")},
+                          {QStringLiteral("resolution"), QStringLiteral("0")},
+                          {QStringLiteral("frameRate"), 0},
+                          {QStringLiteral("bitrateKbps"), 0}}));
+    QCOMPARE(preset.value(QStringLiteral("audioParam")).toMap(),
+             (QVariantMap{{QStringLiteral("encoder"), QStringLiteral("0")},
+                          {QStringLiteral("channel"), 0},
+                          {QStringLiteral("sampleRate"), 0},
+                          {QStringLiteral("bitrateKbps"), 0}}));
+}
+
+void tst_FormatCodecApi::theVariableIsReadOnlyOnce()
+{
+    const QByteArray before = servedCatalogue();
+    qputenv(qPrintable(variable), "/nowhere");
+    const QByteArray after = servedCatalogue();
+    qunsetenv(qPrintable(variable));
+    QCOMPARE(after, before);
+}
+
+void tst_FormatCodecApi::anEmptyVariableMeansTheBuiltInCatalogue()
+{
+    const Served served = servedWith(QString());
+    QCOMPARE(served.standardError, QByteArray());
+    QCOMPARE(served.catalogue, servedCatalogue());
+}
+
+void tst_FormatCodecApi::aFileIsServedInsteadOfTheBuiltInCatalogue()
+{
+    const QTemporaryDir folder;
+    write(folder.path(), {{QStringLiteral("größe.cat"), catalogue("Mine", "ÄÖ", "1")}});
+    const Served served = servedWith(folder.filePath(QStringLiteral("größe.cat")));
+    QCOMPARE(served.standardError, QByteArray());
+    QCOMPARE(served.catalogue, QByteArray("Mine ÄÖ 1\n"));
+}
+
+void tst_FormatCodecApi::aRelativePathStartsAtTheWorkingDirectory()
+{
+    const QTemporaryDir folder;
+    write(folder.path(), {{QStringLiteral("own.json"), catalogue("Mine", "A", "1")}});
+    QCOMPARE(servedWith(QStringLiteral("own.json"), folder.path()).catalogue,
+             QByteArray("Mine A 1\n"));
+    QCOMPARE(servedWith(QStringLiteral("."), folder.path()).catalogue, QByteArray("Mine A 1\n"));
+}
+
+void tst_FormatCodecApi::aFolderIsServedInTheOrderOfItsFileNames()
+{
+    const QTemporaryDir folder;
+    write(folder.path(), {{QStringLiteral("b.json"), catalogue("B", "G", "2")},
+                          {QStringLiteral("a.json"), catalogue("C", "G", "1")},
+                          {QStringLiteral("c.json"), catalogue("A", "G", "3")},
+                          {QStringLiteral("notes.txt"), "no catalogue"}});
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.json")));
+    const Served served = servedWith(folder.path());
+    QCOMPARE(served.standardError, QByteArray());
+    QCOMPARE(served.catalogue, QByteArray("C G 1\nB G 2\nA G 3\n"));
+}
+
+void tst_FormatCodecApi::oneCategoryMayComeFromSeveralFiles()
+{
+    const QTemporaryDir folder;
+    write(folder.path(), {{QStringLiteral("1.json"), catalogue("Video", "MP4", "1")},
+                          {QStringLiteral("2.json"), catalogue("Audio", "MP3", "2")},
+                          {QStringLiteral("3.json"), catalogue("Video", "MKV", "3")}});
+    QCOMPARE(servedWith(folder.path()).catalogue,
+             QByteArray("Video MP4 1\nVideo MKV 3\nAudio MP3 2\n"));
+}
+
+void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
+{
+    // "@" stands for the temporary folder.
+    QTest::addColumn<Files>("files");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("error");
+
+    const QString own = QStringLiteral("own.json");
+    QTest::newRow("missing path") << Files() << QStringLiteral("@/gone")
+                                  << QStringLiteral(
+                                         "@/gone: cannot be read: No such file or directory");
+    QTest::newRow("path through a file")
+        << Files{{own, "{}"}} << QStringLiteral("@/own.json/deeper")
+        << QStringLiteral("@/own.json/deeper: cannot be read: Not a directory");
+    QTest::newRow("reading fails")
+        << Files() << QStringLiteral("/proc/self/mem")
+        << QStringLiteral("/proc/self/mem: cannot be read: Input/output error");
+    QTest::newRow("empty folder") << Files() << QStringLiteral("@")
+                                  << QStringLiteral("@: the folder holds no *.json file");
+    QTest::newRow("folder without JSON")
+        << Files{{QStringLiteral("notes.txt"), "{}"}} << QStringLiteral("@")
+        << QStringLiteral("@: the folder holds no *.json file");
+    QTest::newRow("empty file") << Files{{own, ""}} << QStringLiteral("@/own.json")
+                                << QStringLiteral("@/own.json:1:1: the file is empty");
+    QTest::newRow("no JSON") << Files{{own, "MP4"}} << QStringLiteral("@/own.json")
+                             << QStringLiteral("@/own.json:1:1: illegal value");
+    QTest::newRow("wrong shape")
+        << Files{{own, R"({ "category": "Video", "groups": [{}] })"}}
+        << QStringLiteral("@/own.json")
+        << QStringLiteral("@/own.json: groups[0].name: must be a text but is missing");
+    QTest::newRow("second file of a folder")
+        << Files{{QStringLiteral("1.json"), catalogue("Video", "MP4", "1")},
+                 {QStringLiteral("2.json"), "[]"}}
+        << QStringLiteral("@")
+        << QStringLiteral("@/2.json: the file must hold an object but holds a list");
+    QTest::newRow("line break in the path")
+        << Files() << QStringLiteral("@/a\nb")
+        << QStringLiteral("@/a b: cannot be read: No such file or directory");
+    QTest::newRow("letters beyond ASCII in the path")
+        << Files() << QStringLiteral("@/größe")
+        << QStringLiteral("@/größe: cannot be read: No such file or directory");
+    QTest::newRow("percent sign in the path")
+        << Files() << QStringLiteral("@/%1%2")
+        << QStringLiteral("@/%1%2: cannot be read: No such file or directory");
+}
+
+void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine()
+{
+    QFETCH(Files, files);
+    QFETCH(QString, path);
+    QFETCH(QString, error);
+
+    const QTemporaryDir folder;
+    write(folder.path(), files);
+    path.replace(QLatin1Char('@'), folder.path());
+    error.replace(QLatin1Char('@'), folder.path());
+
+    const Served served = servedWith(path);
+    QCOMPARE(QString::fromUtf8(served.standardError),
+             QStringLiteral("VEX_EXPORT_CATALOGUE: ") + error +
+                 QStringLiteral("; the built-in catalogue is used\n"));
+    QCOMPARE(served.catalogue, servedCatalogue());
+}
+
+void tst_FormatCodecApi::whatMayNotBeReadIsReported_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("file") << QStringLiteral("locked/own.json")
+                          << QStringLiteral("cannot be read: Permission denied");
+    QTest::newRow("folder") << QStringLiteral("locked")
+                            << QStringLiteral("the folder cannot be read");
+}
+
+void tst_FormatCodecApi::whatMayNotBeReadIsReported()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, reason);
+
+    const QTemporaryDir folder;
+    const QString locked = folder.filePath(QStringLiteral("locked"));
+    QVERIFY(QDir().mkdir(locked));
+    write(locked, {{QStringLiteral("own.json"), catalogue("Mine", "A", "1")}});
+    const QFile::Permissions usual = QFile::permissions(locked);
+    QVERIFY(QFile::setPermissions(locked, {}));
+    const bool isLocked = !QFileInfo(locked).isReadable();
+    path = folder.filePath(path);
+    const Served served = servedWith(path);
+    QVERIFY(QFile::setPermissions(locked, usual));
+
+    if (!isLocked) {
+        QSKIP("this user may read everything");
+    }
+    QCOMPARE(QString::fromUtf8(served.standardError),
+             QStringLiteral("VEX_EXPORT_CATALOGUE: %1: %2; the built-in catalogue is used\n")
+                 .arg(path, reason));
+    QCOMPARE(served.catalogue, servedCatalogue());
+}
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (application.arguments().mid(1) == QStringList{serve}) {
+        const QByteArray served = servedCatalogue();
+        const size_t size = size_t(served.size());
+        return std::fwrite(served.constData(), 1, size, stdout) == size ? 0 : 1;
+    }
+    qunsetenv(qPrintable(variable));
+    tst_FormatCodecApi test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_formatcodecapi.moc"

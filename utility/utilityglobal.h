@@ -1,0 +1,12 @@
+#ifndef UTILITY_UTILITYGLOBAL_H
+#define UTILITY_UTILITYGLOBAL_H
+
+#include <QtGlobal>
+
+#ifdef VEX_UTILITY_LIBRARY
+#define VEX_UTILITY_EXPORT Q_DECL_EXPORT
+#else
+#define VEX_UTILITY_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif
