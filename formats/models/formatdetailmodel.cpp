@@ -90,13 +90,18 @@ int FormatDetailModel::userDefineCount() const
 
 bool FormatDetailModel::addModeInfo(const FormatDetailModelData &data)
 {
-    insertCopy(m_rows.size(), data);
+    return addModeInfo(FormatDetailModelData(data));
+}
+
+bool FormatDetailModel::addModeInfo(FormatDetailModelData &&data)
+{
+    insertData(m_rows.size(), std::move(data));
     return true;
 }
 
 bool FormatDetailModel::addModeInfoAtHead(const FormatDetailModelData &data)
 {
-    insertCopy(0, data);
+    insertData(0, FormatDetailModelData(data));
     return true;
 }
 
@@ -219,10 +224,10 @@ bool FormatDetailModel::hasRow(int index) const
     return index >= 0 && index < m_rows.size();
 }
 
-void FormatDetailModel::insertCopy(int index, const FormatDetailModelData &data)
+void FormatDetailModel::insertData(int index, FormatDetailModelData &&data)
 {
     beginInsertRows(QModelIndex(), index, index);
-    auto *row = new FormatDetailModelData(data);
+    auto *row = new FormatDetailModelData(std::move(data));
     m_rows.insert(index, row);
     learnId(row, index == 0);
     if (row->userDefine) {

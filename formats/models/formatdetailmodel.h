@@ -78,6 +78,7 @@ public:
 
     /*! Appends a copy; a user-defined preset with a higher numeric id raises getIdIndex(). */
     bool addModeInfo(const FormatDetailModelData &data);
+    bool addModeInfo(FormatDetailModelData &&data);
     /*! The same at row 0. */
     bool addModeInfoAtHead(const FormatDetailModelData &data);
     bool delModeInfo(int index);
@@ -114,7 +115,7 @@ private:
     friend class FormatListModel;
 
     bool hasRow(int index) const;
-    void insertCopy(int index, const FormatDetailModelData &data);
+    void insertData(int index, FormatDetailModelData &&data);
     void learnId(FormatDetailModelData *row, bool atHead);
     void forgetId(const QString &id, FormatDetailModelData *row);
     void updateCount();

@@ -20,36 +20,53 @@ public:
     [[nodiscard]] bool contains(const QString &key) const { return m_values.contains(key); }
 
     /*! The first value of the key; a default-made one (null) when the key has none. */
-    [[nodiscard]] Value first(const QString &key) const
-    {
-        const auto values = m_values.constFind(key);
-        return values == m_values.constEnd() ? Value() : values->constFirst();
-    }
+    [[nodiscard]] Value first(const QString &key) const { return m_values.value(key).first; }
 
     /*! Every value of the key, in order; empty when the key has none. */
-    [[nodiscard]] QList<Value> all(const QString &key) const { return m_values.value(key); }
+    [[nodiscard]] QList<Value> all(const QString &key) const
+    {
+        const auto values = m_values.constFind(key);
+        return values == m_values.constEnd() ? QList<Value>() : values->toList();
+    }
 
     /*! True when the value is the key's first one. */
     bool append(const QString &key, const Value &value)
     {
-        QList<Value> &values = m_values[key];
-        values.append(value);
-        return values.size() == 1;
+        const auto values = m_values.find(key);
+        if (values == m_values.end()) {
+            m_values.insert(key, {value, {}});
+            return true;
+        }
+        values->others.append(value);
+        return false;
     }
 
     /*! True when the value is the key's first one. */
     bool prepend(const QString &key, const Value &value)
     {
-        QList<Value> &values = m_values[key];
-        values.prepend(value);
-        return values.size() == 1;
+        const auto values = m_values.find(key);
+        if (values == m_values.end()) {
+            m_values.insert(key, {value, {}});
+            return true;
+        }
+        values->others.prepend(values->first);
+        values->first = value;
+        return false;
     }
 
     /*! Takes one entry of \a value out; true when it was the key's last one. */
     bool remove(const QString &key, const Value &value)
     {
         const auto values = m_values.find(key);
-        if (values == m_values.end() || !values->removeOne(value) || !values->isEmpty()) {
+        if (values == m_values.end()) {
+            return false;
+        }
+        if (values->first != value) {
+            values->others.removeOne(value);
+            return false;
+        }
+        if (!values->others.isEmpty()) {
+            values->first = values->others.takeFirst();
             return false;
         }
         m_values.erase(values);
@@ -61,20 +78,31 @@ public:
     void sort(const QString &key, const Rows &rows)
     {
         const auto values = m_values.find(key);
-        if (values == m_values.end() || values->size() == 1) {
+        if (values == m_values.end() || values->others.isEmpty()) {
             return;
         }
-        const QSet<Value> ofKey(values->cbegin(), values->cend());
-        values->clear();
+        const QList<Value> unsorted = values->toList();
+        const QSet<Value> ofKey(unsorted.cbegin(), unsorted.cend());
+        values->others.clear();
         for (const Value &row : rows) {
             if (ofKey.contains(row)) {
-                values->append(row);
+                values->others.append(row);
             }
         }
+        values->first = values->others.takeFirst();
     }
 
 private:
-    QHash<QString, QList<Value>> m_values;
+    // Nearly every key has one value, which needs no list.
+    struct Values
+    {
+        Value first = Value();
+        QList<Value> others;
+
+        QList<Value> toList() const { return QList<Value>{first} + others; }
+    };
+
+    QHash<QString, Values> m_values;
 };
 
 #endif

@@ -36,8 +36,8 @@ struct Field
     Member member;
 };
 
-// In the record's own order.
-constexpr std::array<Field, 29> all{{
+// In the record's own order. Inline: key() finds a field by its address.
+inline constexpr std::array<Field, 29> all{{
     {258, "id", Block::Preset, "id", &FormatDetailModelData::id},
     {257, "extension", Block::Preset, "extension", &FormatDetailModelData::extension},
     {259, "title", Block::Preset, "title", &FormatDetailModelData::title},

@@ -17,12 +17,20 @@ struct Setting
     List offered;
 };
 
+// Without the copy of a variant that QVariantMap::value() makes.
+const QVariant &valueOf(const QVariantMap &map, const QString &key)
+{
+    static const QVariant none;
+    const auto value = map.constFind(key);
+    return value != map.constEnd() ? *value : none;
+}
+
 void readSettings(FormatDetailModelData &preset, const QVariantMap &params,
                   const QVariantMap &options, const std::array<Setting, 4> &settings)
 {
     for (const Setting &setting : settings) {
-        preset.*setting.chosen = params.value(setting.key).toString();
-        preset.*setting.offered = options.value(setting.listKey).toList();
+        preset.*setting.chosen = valueOf(params, setting.key).toString();
+        preset.*setting.offered = valueOf(options, setting.listKey).toList();
     }
 }
 
@@ -64,14 +72,14 @@ FormatDetailModel *addFormat(FormatListModel &model, const QVariantMap &group, c
     return model.formatDetailModel(format.title);
 }
 
-QVariant lookUp(QVariantMap &map, const QString &key)
+const QVariant &lookUp(QVariantMap &map, const QString &key)
 {
     // Writing only where the key is absent leaves a complete map shared with the catalogue.
-    const auto value = qAsConst(map).constFind(key);
+    const auto value = map.constFind(key);
     return value != map.constEnd() ? *value : *map.insert(key, QVariant());
 }
 
-FormatDetailModelData readPreset(QVariantMap &entry, const QVariantMap &group)
+FormatDetailModelData readPreset(QVariantMap &entry, const QString &icon)
 {
     static const std::array<Setting, 4> audioSettings{{
         {QStringLiteral("channel"), QStringLiteral("channelList"),
@@ -87,7 +95,7 @@ FormatDetailModelData readPreset(QVariantMap &entry, const QVariantMap &group)
     preset.id = lookUp(entry, QStringLiteral("id")).toString();
     preset.extension = lookUp(entry, QStringLiteral("extension")).toString();
     preset.title = lookUp(entry, QStringLiteral("title")).toString();
-    preset.icon = group.value(QStringLiteral("icon")).toString();
+    preset.icon = icon;
     readSettings(preset, lookUp(entry, QStringLiteral("audioParam")).toMap(),
                  lookUp(entry, QStringLiteral("audioOptions")).toMap(), audioSettings);
     return preset;
@@ -108,7 +116,7 @@ void readVideo(FormatDetailModelData &preset, QVariantMap &entry)
     const QVariantMap options = lookUp(entry, QStringLiteral("videoOptions")).toMap();
     readSettings(preset, lookUp(entry, QStringLiteral("videoParam")).toMap(), options,
                  videoSettings);
-    readLevels(preset, options.value(QStringLiteral("levelList")).toList());
+    readLevels(preset, valueOf(options, QStringLiteral("levelList")).toList());
 }
 
 } // namespace Catalogue

@@ -22,10 +22,10 @@ QVariantList contents(const QVariantMap &group);
 FormatDetailModel *addFormat(FormatListModel &model, const QVariantMap &group, const QString &tag);
 
 /*! The value under \a key. A key that is absent stays in the map with a null value. */
-QVariant lookUp(QVariantMap &map, const QString &key);
+const QVariant &lookUp(QVariantMap &map, const QString &key);
 
 /*! Reads "id", "extension", "title" and the audio settings; the icon is the group's. */
-FormatDetailModelData readPreset(QVariantMap &entry, const QVariantMap &group);
+FormatDetailModelData readPreset(QVariantMap &entry, const QString &icon);
 
 /*! Reads "videoParam" and "videoOptions". */
 void readVideo(FormatDetailModelData &preset, QVariantMap &entry);

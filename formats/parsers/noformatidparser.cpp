@@ -12,9 +12,9 @@ using Preset = FormatDetailModelData;
 using PresetFields::List;
 using PresetFields::Text;
 
-FormatDetailModelData readCataloguePreset(QVariantMap entry, const QVariantMap &group)
+FormatDetailModelData readCataloguePreset(QVariantMap entry, const QString &icon)
 {
-    FormatDetailModelData preset = Catalogue::readPreset(entry, group);
+    FormatDetailModelData preset = Catalogue::readPreset(entry, icon);
     Catalogue::readVideo(preset, entry);
     return preset;
 }
@@ -117,7 +117,7 @@ bool NoFormatIdParser::parseVideo(const QString &path, FormatListModel *model, b
     if (!model || path.isEmpty()) {
         return false;
     }
-    const QVariantList formats =
+    const QJsonArray formats =
         PresetFile::read("parseVideo", "-->open formats file failed, path=", path);
     PresetFile::importFormats(
         formats, *model, &PresetFile::addFormat,
@@ -145,7 +145,7 @@ bool NoFormatIdParser::parseAudio(const QString &path, FormatListModel *model, b
     if (!model || path.isEmpty()) {
         return false;
     }
-    const QVariantList formats =
+    const QJsonArray formats =
         PresetFile::read("parseAudio", "open formats file failed, path=", path);
     PresetFile::importFormats(
         formats, *model, &PresetFile::findOrAddFormat,
@@ -186,9 +186,10 @@ bool NoFormatIdParser::parseVideoNew(const QString &category, FormatListModel *m
             continue;
         }
         qDebug() << "parseVideoNew" << presets;
+        const QString icon = group.value(QStringLiteral("icon")).toString();
         const QVariantList contents = Catalogue::contents(group);
         for (const QVariant &entry : contents) {
-            presets->addModeInfo(readCataloguePreset(entry.toMap(), group));
+            presets->addModeInfo(readCataloguePreset(entry.toMap(), icon));
         }
     }
     return true;

@@ -4,9 +4,7 @@
 
 #include <QDebug>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace {
 
@@ -14,6 +12,16 @@ namespace {
 class Decoder
 {
 public:
+    QVariantMap decode(const QJsonObject &object)
+    {
+        QVariantMap map;
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            map.insert(map.cend(), it.key(), decode(it.value()));
+        }
+        return map;
+    }
+
+private:
     QVariantList decode(const QJsonArray &array)
     {
         if (array.isEmpty() || array.first().isObject() || array.first().isArray()) {
@@ -26,7 +34,6 @@ public:
         return *shared;
     }
 
-private:
     QVariantList convert(const QJsonArray &array)
     {
         QVariantList list;
@@ -35,15 +42,6 @@ private:
             list.append(decode(value));
         }
         return list;
-    }
-
-    QVariantMap decode(const QJsonObject &object)
-    {
-        QVariantMap map;
-        for (auto it = object.begin(); it != object.end(); ++it) {
-            map.insert(map.cend(), it.key(), decode(it.value()));
-        }
-        return map;
     }
 
     QVariant decode(const QJsonValue &value)
@@ -61,11 +59,18 @@ private:
     QHash<QJsonArray, QVariantList> m_lists;
 };
 
+QString textOf(const QJsonObject &object, QLatin1String key)
+{
+    return object.value(key).toVariant().toString();
+}
+
+constexpr QLatin1String titleKey("title");
+
 } // namespace
 
 namespace PresetFile {
 
-QVariantList read(const char *operation, const char *openFailure, const QString &path)
+QJsonArray read(const char *operation, const char *openFailure, const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -77,46 +82,50 @@ QVariantList read(const char *operation, const char *openFailure, const QString 
         qDebug() << operation << "-->strJson is empty!";
         return {};
     }
-    const QVariantList elements = decode(json);
+    const QJsonArray elements = QJsonDocument::fromJson(json).array();
     if (elements.isEmpty()) {
         qDebug() << operation << "-->varJson is null!";
     }
     return elements;
 }
 
-QVariantList decode(const QByteArray &json)
+FormatDetailModel &addFormat(FormatListModel &model, const QJsonObject &format)
 {
-    return Decoder().decode(QJsonDocument::fromJson(json).array());
+    FormatListModelData data;
+    data.title = textOf(format, titleKey);
+    data.icon = textOf(format, QLatin1String("icon"));
+    data.tag = textOf(format, QLatin1String("tag"));
+    model.addModeInfo(data);
+    return *model.formatDetailModel(data.title);
 }
 
-FormatDetailModel &addFormat(FormatListModel &model, const QVariantMap &object)
+FormatDetailModel &findOrAddFormat(FormatListModel &model, const QJsonObject &format)
 {
-    FormatListModelData format;
-    format.title = object.value(QStringLiteral("title")).toString();
-    format.icon = object.value(QStringLiteral("icon")).toString();
-    format.tag = object.value(QStringLiteral("tag")).toString();
-    model.addModeInfo(format);
-    return *model.formatDetailModel(format.title);
+    FormatDetailModel *presets = model.formatDetailModel(textOf(format, titleKey));
+    return presets ? *presets : addFormat(model, format);
 }
 
-FormatDetailModel &findOrAddFormat(FormatListModel &model, const QVariantMap &object)
-{
-    const QString title = object.value(QStringLiteral("title")).toString();
-    FormatDetailModel *presets = model.formatDetailModel(title);
-    return presets ? *presets : addFormat(model, object);
-}
-
-void importFormats(const QVariantList &formats, FormatListModel &model,
-                   FormatDetailModel &(*presetsOf)(FormatListModel &, const QVariantMap &),
+void importFormats(const QJsonArray &formats, FormatListModel &model,
+                   FormatDetailModel &(*presetsOf)(FormatListModel &, const QJsonObject &),
                    const std::function<void(FormatDetailModel &, const QVariantMap &)> &addPreset)
 {
-    for (const QVariant &format : formats) {
-        const QVariantMap object = format.toMap();
-        FormatDetailModel &presets = presetsOf(model, object);
-        const QVariantList group = object.value(QStringLiteral("group")).toList();
-        for (const QVariant &entry : group) {
-            addPreset(presets, entry.toMap());
+    Decoder decoder;
+    for (const QJsonValue &element : formats) {
+        const QJsonObject format = element.toObject();
+        FormatDetailModel &presets = presetsOf(model, format);
+        const QJsonArray group = format.value(QLatin1String("group")).toArray();
+        for (const QJsonValue &entry : group) {
+            addPreset(presets, decoder.decode(entry.toObject()));
         }
+    }
+}
+
+void importPresets(const QJsonArray &entries,
+                   const std::function<void(const QVariantMap &)> &addPreset)
+{
+    Decoder decoder;
+    for (const QJsonValue &entry : entries) {
+        addPreset(decoder.decode(entry.toObject()));
     }
 }
 

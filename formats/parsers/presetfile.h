@@ -3,6 +3,9 @@
 
 #include "formats/models/presetfields.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 #include <functional>
 
 class FormatDetailModel;
@@ -12,27 +15,29 @@ class FormatListModel;
 namespace PresetFile {
 
 /*!
- * The elements of the file's top-level array. Empty when there is none to read, after a debug
- * line that begins with \a operation and says why; \a openFailure words a failed open.
+ * The file's top-level array. Empty when there is none to read, after a debug line that begins
+ * with \a operation and says why; \a openFailure words a failed open.
  */
-QVariantList read(const char *operation, const char *openFailure, const QString &path);
-
-/*! The elements of the top-level array; empty for anything else. Equal option lists are shared. */
-QVariantList decode(const QByteArray &json);
+QJsonArray read(const char *operation, const char *openFailure, const QString &path);
 
 /*! Adds the format with the object's "title", "icon" and "tag" and returns its presets. */
-FormatDetailModel &addFormat(FormatListModel &model, const QVariantMap &object);
+FormatDetailModel &addFormat(FormatListModel &model, const QJsonObject &format);
 
 /*! The presets under the object's "title"; a format is added only where the title is unknown. */
-FormatDetailModel &findOrAddFormat(FormatListModel &model, const QVariantMap &object);
+FormatDetailModel &findOrAddFormat(FormatListModel &model, const QJsonObject &format);
 
 /*!
- * Calls \a addPreset with each entry of each format object's "group" and with the presets that
- * \a presetsOf gives for the object. What is no object counts as an empty one.
+ * Calls \a addPreset with each entry of each format's "group" and with the presets that
+ * \a presetsOf gives for the format. What is no object counts as an empty one. Option lists that
+ * are equal are one shared list.
  */
-void importFormats(const QVariantList &formats, FormatListModel &model,
-                   FormatDetailModel &(*presetsOf)(FormatListModel &, const QVariantMap &),
+void importFormats(const QJsonArray &formats, FormatListModel &model,
+                   FormatDetailModel &(*presetsOf)(FormatListModel &, const QJsonObject &),
                    const std::function<void(FormatDetailModel &, const QVariantMap &)> &addPreset);
+
+/*! Calls \a addPreset with each entry, as importFormats() does. */
+void importPresets(const QJsonArray &entries,
+                   const std::function<void(const QVariantMap &)> &addPreset);
 
 /*! Reads each member from the key that the field table gives it, whichever map \a object is. */
 void readMembers(FormatDetailModelData &preset, const QVariantMap &object,

@@ -17,10 +17,10 @@ bool isExcluded(const QVariantMap &group)
     return names.contains(group.value(QStringLiteral("name")));
 }
 
-FormatDetailModelData readCataloguePreset(QVariantMap entry, const QVariantMap &group)
+FormatDetailModelData readCataloguePreset(QVariantMap entry, const QString &icon)
 {
     const bool isVideo = entry.contains(QStringLiteral("videoParam"));
-    FormatDetailModelData preset = Catalogue::readPreset(entry, group);
+    FormatDetailModelData preset = Catalogue::readPreset(entry, icon);
     if (isVideo) {
         Catalogue::readVideo(preset, entry);
     }
@@ -92,14 +92,14 @@ bool WidthFormatIdParser::parseVideo(const QString &path, FormatListModel *model
     if (!model || path.isEmpty()) {
         return false;
     }
-    const QVariantList formats =
+    const QJsonArray formats =
         PresetFile::read("parseVideo", "-->open formats file failed, path=", path);
     PresetFile::importFormats(formats, *model, &PresetFile::findOrAddFormat,
                               [flag](FormatDetailModel &presets, const QVariantMap &entry) {
                                   if (auto preset = readUserPreset(entry, flag)) {
                                       PresetFile::readMembers(*preset, entry,
                                                               {&Preset::supportMultiTrack});
-                                      presets.addModeInfo(*preset);
+                                      presets.addModeInfo(*std::move(preset));
                                   }
                               });
     return !formats.isEmpty();
@@ -110,7 +110,7 @@ bool WidthFormatIdParser::parseAudio(const QString &path, FormatListModel *model
     if (!model || path.isEmpty()) {
         return false;
     }
-    const QVariantList formats =
+    const QJsonArray formats =
         PresetFile::read("parseAudio", "open formats file failed, path=", path);
     PresetFile::importFormats(
         formats, *model, &PresetFile::findOrAddFormat,
@@ -136,13 +136,13 @@ bool WidthFormatIdParser::parseRecently(const QString &path, FormatDetailModel *
     if (!model || path.isEmpty()) {
         return false;
     }
-    const QVariantList entries =
+    const QJsonArray entries =
         PresetFile::read("parseRecently", "open formats file failed, path=", path);
-    for (const QVariant &element : entries) {
-        if (const auto preset = readUserPreset(element.toMap(), flag)) {
-            model->addModeInfo(*preset);
+    PresetFile::importPresets(entries, [model, flag](const QVariantMap &entry) {
+        if (auto preset = readUserPreset(entry, flag)) {
+            model->addModeInfo(*std::move(preset));
         }
-    }
+    });
     return !entries.isEmpty();
 }
 
@@ -161,9 +161,10 @@ bool WidthFormatIdParser::parseVideoNew(const QString &category, FormatListModel
         if (!presets) {
             continue;
         }
+        const QString icon = group.value(QStringLiteral("icon")).toString();
         const QVariantList contents = Catalogue::contents(group);
         for (const QVariant &entry : contents) {
-            presets->addModeInfo(readCataloguePreset(entry.toMap(), group));
+            presets->addModeInfo(readCataloguePreset(entry.toMap(), icon));
         }
     }
     return true;
