@@ -1,0 +1,25 @@
+#ifndef BENCHMARKS_LARGECATALOGUE_H
+#define BENCHMARKS_LARGECATALOGUE_H
+
+#include <QVariant>
+
+/*!
+ * A catalogue of any size in place of the host's: compiled in, it replaces FormatCodecApi for the
+ * whole process. Every format has presetsPerFormat presets, all with the same option lists.
+ */
+namespace LargeCatalogue {
+
+constexpr int presetsPerFormat = 100;
+
+/*! Makes the catalogue that is served from now on. */
+void serve(int formats);
+
+QVariantList groups();
+QVariantList contents(const QVariantMap &group);
+
+/*! The id of a preset, both counted from 0. */
+QString presetId(int format, int preset);
+
+} // namespace LargeCatalogue
+
+#endif
