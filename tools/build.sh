@@ -1,0 +1,29 @@
+# Sourced by ./run and ./test: installs what the machine lacks and builds a CMake preset.
+# Everything said here goes to stderr: stdout belongs to the program.
+
+install_missing() {
+    local missing
+    missing=$(comm -13 <(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null |
+        sed -n 's/^ii *//p' | sort) <(printf '%s\n' "$@" | sort))
+    [ -z "$missing" ] && return
+    # shellcheck disable=SC2086 # one word a package
+    {
+        echo "Installing" $missing
+        local as_root=()
+        [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+        "${as_root[@]}" apt-get update -qq
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -qq --no-install-recommends $missing >/dev/null
+    } >&2
+}
+
+build() {
+    local preset=$1
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        echo "Building the preset \"$preset\" for the first time, which takes a few minutes." >&2
+        cmake --preset "$preset" >&2
+    fi
+    cmake --build --preset "$preset" -- --quiet >&2
+}
+
+build_packages=(g++ cmake ninja-build qtbase5-dev qtdeclarative5-dev ffmpeg)
