@@ -25,6 +25,13 @@ void assign(QVariantMap &member, const QVariant &value)
 
 } // namespace
 
+const Field *ofRole(int role)
+{
+    const auto field =
+        std::find_if(all.begin(), all.end(), [role](const Field &f) { return f.role == role; });
+    return role == noRole || field == all.end() ? nullptr : &*field;
+}
+
 const Field &of(const Member &member)
 {
     return *std::find_if(all.begin(), all.end(),

@@ -76,31 +76,23 @@ inline constexpr std::array<Field, 29> all{{
 constexpr int firstRole = 257;
 constexpr int lastRole = 282;
 
-/*! The field behind a role of firstRole to lastRole. */
-constexpr const Field *ofRole(int role)
-{
-    for (const Field &field : all) {
-        if (field.role == role) {
-            return &field;
-        }
-    }
-    return nullptr;
-}
-
 constexpr bool everyRoleHasOneField()
 {
-    std::size_t fieldsWithRole = 0;
-    for (const Field &field : all) {
-        fieldsWithRole += field.role != noRole ? 1 : 0;
-    }
     for (int role = firstRole; role <= lastRole; ++role) {
-        if (!ofRole(role)) {
+        int fields = 0;
+        for (const Field &field : all) {
+            fields += field.role == role ? 1 : 0;
+        }
+        if (fields != 1) {
             return false;
         }
     }
-    return fieldsWithRole == lastRole - firstRole + 1;
+    return true;
 }
 static_assert(everyRoleHasOneField());
+
+/*! The field behind a role; null for any but firstRole to lastRole. */
+const Field *ofRole(int role);
 
 /*! The field that a member is. */
 const Field &of(const Member &member);
