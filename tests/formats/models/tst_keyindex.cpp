@@ -1,0 +1,175 @@
+#include "formats/models/keyindex.h"
+
+#include <QtTest>
+
+namespace {
+
+const QString key = QStringLiteral("MP4");
+
+} // namespace
+
+class KeyIndexTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anUnknownKeyHasNoValues();
+    void anUnknownKeyGivesANullPointer();
+    void theFirstValueIsTheOneAppendedFirst();
+    void aPrependedValueComesBeforeTheOthers();
+    void addingTellsWhetherTheKeyIsNew();
+    void aKeyWhoseValuesAreGoneIsNewAgain();
+    void keysAreComparedExactly();
+    void removingTheFirstValueMakesTheNextOneTheFirst();
+    void removingTellsWhetherTheKeyIsGone();
+    void removingWhatIsNotThereChangesNothing();
+    void removingTakesOneOfSeveralEqualValues();
+    void sortingFollowsTheRows();
+    void sortingLeavesOtherKeysAlone();
+    void sortingAKeyWithOneValueOrNoneChangesNothing();
+};
+
+void KeyIndexTest::anUnknownKeyHasNoValues()
+{
+    const KeyIndex<QString> index;
+    QVERIFY(!index.contains(key));
+    QCOMPARE(index.first(key), QString());
+    QCOMPARE(index.all(key), QList<QString>());
+}
+
+void KeyIndexTest::anUnknownKeyGivesANullPointer()
+{
+    const KeyIndex<int *> index;
+    QCOMPARE(index.first(key), static_cast<int *>(nullptr));
+}
+
+void KeyIndexTest::theFirstValueIsTheOneAppendedFirst()
+{
+    KeyIndex<int> index;
+    index.append(key, 5);
+    index.append(key, 3);
+    index.append(key, 4);
+    QVERIFY(index.contains(key));
+    QCOMPARE(index.first(key), 5);
+    QCOMPARE(index.all(key), QList<int>({5, 3, 4}));
+}
+
+void KeyIndexTest::aPrependedValueComesBeforeTheOthers()
+{
+    KeyIndex<int> index;
+    index.append(key, 5);
+    index.prepend(key, 7);
+    index.prepend(key, 6);
+    QCOMPARE(index.first(key), 6);
+    QCOMPARE(index.all(key), QList<int>({6, 7, 5}));
+}
+
+void KeyIndexTest::addingTellsWhetherTheKeyIsNew()
+{
+    KeyIndex<int> index;
+    QVERIFY(index.append(key, 1));
+    QVERIFY(!index.append(key, 1));
+    QVERIFY(!index.prepend(key, 2));
+    QVERIFY(index.prepend(QStringLiteral("AVI"), 1));
+    QVERIFY(!index.append(QStringLiteral("AVI"), 2));
+}
+
+void KeyIndexTest::aKeyWhoseValuesAreGoneIsNewAgain()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    index.remove(key, 1);
+    QVERIFY(!index.contains(key));
+    QCOMPARE(index.all(key), QList<int>());
+    QVERIFY(index.append(key, 1));
+}
+
+void KeyIndexTest::keysAreComparedExactly()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    index.append(QString(), 2);
+    QVERIFY(!index.contains(QStringLiteral("mp4")));
+    QVERIFY(!index.contains(QStringLiteral("MP4 ")));
+    QCOMPARE(index.first(QStringLiteral("MP")), 0);
+    QCOMPARE(index.first(QStringLiteral("")), 2);
+}
+
+void KeyIndexTest::removingTheFirstValueMakesTheNextOneTheFirst()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    index.append(key, 2);
+    index.remove(key, 1);
+    QCOMPARE(index.first(key), 2);
+}
+
+void KeyIndexTest::removingTellsWhetherTheKeyIsGone()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    index.append(key, 2);
+    QVERIFY(!index.remove(key, 2));
+    QVERIFY(index.contains(key));
+    QVERIFY(index.remove(key, 1));
+    QVERIFY(!index.contains(key));
+}
+
+void KeyIndexTest::removingWhatIsNotThereChangesNothing()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    QVERIFY(!index.remove(key, 2));
+    QVERIFY(!index.remove(QStringLiteral("AVI"), 1));
+    QCOMPARE(index.all(key), QList<int>({1}));
+    QVERIFY(!index.contains(QStringLiteral("AVI")));
+}
+
+void KeyIndexTest::removingTakesOneOfSeveralEqualValues()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    index.append(key, 2);
+    index.append(key, 1);
+    index.append(key, 1);
+    QVERIFY(!index.remove(key, 1));
+    QCOMPARE(index.all(key), QList<int>({2, 1, 1}));
+    QVERIFY(!index.remove(key, 1));
+    QCOMPARE(index.all(key), QList<int>({2, 1}));
+}
+
+void KeyIndexTest::sortingFollowsTheRows()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    index.append(key, 2);
+    index.append(key, 3);
+    index.sort(key, QList<int>({9, 3, 8, 1, 2, 7}));
+    QCOMPARE(index.all(key), QList<int>({3, 1, 2}));
+    QCOMPARE(index.first(key), 3);
+}
+
+void KeyIndexTest::sortingLeavesOtherKeysAlone()
+{
+    KeyIndex<int> index;
+    for (const int value : {1, 2}) {
+        index.append(key, value);
+        index.append(QStringLiteral("AVI"), value);
+    }
+    index.sort(key, QList<int>({2, 1}));
+    QCOMPARE(index.all(key), QList<int>({2, 1}));
+    QCOMPARE(index.all(QStringLiteral("AVI")), QList<int>({1, 2}));
+}
+
+void KeyIndexTest::sortingAKeyWithOneValueOrNoneChangesNothing()
+{
+    KeyIndex<int> index;
+    index.append(key, 1);
+    index.sort(key, QList<int>({2, 1}));
+    index.sort(QStringLiteral("AVI"), QList<int>({2, 1}));
+    QCOMPARE(index.all(key), QList<int>({1}));
+    QVERIFY(!index.contains(QStringLiteral("AVI")));
+}
+
+QTEST_APPLESS_MAIN(KeyIndexTest)
+#include "tst_keyindex.moc"
