@@ -1,0 +1,179 @@
+import QtQuick 2.15
+import QtTest 1.15
+import "catalogue.js" as Catalogue
+
+/*! Opens the screens on recorded host objects. A message that nobody expected fails the test. */
+TestCase {
+    id: root
+
+    property var catalogue: Catalogue.sample()
+    property RecordingHost host: null
+    property var screen: null
+
+    function init() {
+        mouseMove(root, 1, 1)
+        root.begin(root.catalogue)
+    }
+
+    function begin(catalogue) {
+        root.host = createTemporaryObject(hostComponent, root)
+        root.host.settings.converterGlobalId = "Video_MP4_002"
+        root.host.settings.editorGlobalId = "Audio_MP3_001"
+        root.host.publish()
+        bench.begin(catalogue)
+    }
+
+    function restart(catalogue) {
+        compare(bench.end(), [])
+        root.begin(catalogue)
+    }
+
+    function cleanup() {
+        if (root.screen) {
+            root.screen.destroy()
+            root.screen = null
+        }
+        wait(0)
+        compare(bench.end(), [])
+    }
+
+    /*! A new picker, not yet opened. */
+    function picker(properties) {
+        root.screen = root.create("ParameterconversionPage",
+                                  Object.assign({ "x": 120, "y": 60 }, properties))
+        return root.screen
+    }
+
+    /*! A picker that has been opened, its lists scrolled. */
+    function openPicker(properties) {
+        const page = root.picker(properties)
+        page.open()
+        tryCompare(page, "opened", true)
+        compare(root.host.elapse(), [100])
+        root.settle()
+        return page
+    }
+
+    function openDialog(info) {
+        root.host.frame.info = Object.assign({
+            "format": "video", "curclass": "MP4", "idIndex": "Video_MP4_002", "listID": null,
+            "openTheWay": true, "fromPAGE": "Converter", "closeItem": null, "userDefine": false
+        }, info)
+        root.screen = root.create("DetailedParameterEditingMsgBox", {})
+        tryVerify(function () { return root.host.calls.length > 0 })
+        root.settle()
+        return root.screen
+    }
+
+    function create(screen, properties) {
+        const component = Qt.createComponent("qrc:/formats/" + screen + ".qml")
+        compare(component.errorString(), "")
+        return component.createObject(root, properties)
+    }
+
+    /*! Lets the scene take up what changed. */
+    function settle() {
+        wait(0)
+        grabImage(root)
+    }
+
+    function formats() {
+        return O_FormatsProxy.formatListModelProxy()
+    }
+
+    function recents() {
+        return O_FormatsProxy.recentlyFormatsModel()
+    }
+
+    function presets(format) {
+        return O_FormatsProxy.formatListModel().formatDetailModel(format)
+    }
+
+    function shownTexts(item) {
+        return root.shown(item || root.contents(), function (child) {
+            return child.text !== undefined && child.elide !== undefined
+        })
+    }
+
+    function texts(item) {
+        return root.shownTexts(item).map(function (text) {
+            return text.text
+        })
+    }
+
+    function compareColor(actual, expected) {
+        verify(Qt.colorEqual(actual, expected), actual + " instead of " + expected)
+    }
+
+    /*! Where \a item lies in \a frame, as [x, y, width, height]. */
+    function place(item, frame) {
+        const position = item.mapToItem(frame, 0, 0)
+        return [position.x, position.y, item.width, item.height]
+    }
+
+    /*! The shown items of the type \a type in \a item, first to last. */
+    function all(type, item) {
+        return root.shown(item || root.contents(), function (child) {
+            return [type + "_QML", type + "("].some(function (start) {
+                return String(child).startsWith(start)
+            })
+        })
+    }
+
+    function shown(item, matches) {
+        let found = []
+        for (let index = 0; index < item.children.length; ++index) {
+            const child = item.children[index]
+            if (child.visible) {
+                found = found.concat(matches(child) ? [child] : [], root.shown(child, matches))
+            }
+        }
+        return found
+    }
+
+    function contents() {
+        return root.screen.contentItem || root.screen
+    }
+
+    function named(type, name, item) {
+        const found = root.all(type, item).filter(function (candidate) {
+            return candidate.Accessible.name === name
+        })
+        compare(found.length, 1, type + " " + name)
+        return found[0]
+    }
+
+    function click(item) {
+        mouseClick(item)
+        root.settle()
+    }
+
+    function hover(item) {
+        mouseMove(item, item.width / 2, item.height / 2)
+    }
+
+    function press(key, times) {
+        for (let time = 0; time < (times === undefined ? 1 : times); ++time) {
+            keyClick(key)
+        }
+        root.settle()
+    }
+
+    /*! The calls since the last time, but for those that size the window. */
+    function calls() {
+        return root.host.takeCalls().filter(function (call) {
+            return call[0] !== "frame.resizeWinSize"
+        })
+    }
+
+    visible: true
+    width: 1000
+    height: 720
+    when: windowShown
+
+    Component {
+        id: hostComponent
+
+        RecordingHost {}
+    }
+}

@@ -1,0 +1,56 @@
+#include "tests/formats/qml/screenbench.h"
+
+#include "tests/formats/fakecatalogue.h"
+
+#include <QQmlContext>
+
+namespace {
+
+QList<FakeCatalogue::Group> readGroups(const QVariantList &groups)
+{
+    QList<FakeCatalogue::Group> result;
+    for (const QVariant &element : groups) {
+        const QVariantMap group = element.toMap();
+        result.append({group.value(QStringLiteral("map")).toMap(),
+                       group.value(QStringLiteral("contents")).toList()});
+    }
+    return result;
+}
+
+} // namespace
+
+ScreenBench::ScreenBench(QQmlEngine *engine)
+    : QObject(engine)
+    , m_engine(engine)
+{}
+
+void ScreenBench::begin(const QVariantList &catalogue)
+{
+    FakeCatalogue served;
+    for (const QVariant &element : catalogue) {
+        const QVariantMap category = element.toMap();
+        const QString name = category.value(QStringLiteral("category")).toString();
+        served.categories.append(name);
+        served.groups.insert(name, readGroups(category.value(QStringLiteral("groups")).toList()));
+    }
+    FakeCatalogue::served() = served;
+    FormatDetailModel::s_userDefineId = 1000;
+    m_log.emplace();
+    m_facade = std::make_unique<FormatsProxy>();
+    m_facade->init(QString());
+    (void)m_log->takeAll(); // that there are no user's files
+    publish(QStringLiteral("O_FormatsProxy"), QVariant::fromValue<QObject *>(m_facade.get()));
+}
+
+QStringList ScreenBench::end()
+{
+    const QStringList messages = m_log->takeAll();
+    m_log.reset();
+    m_facade.reset();
+    return messages;
+}
+
+void ScreenBench::publish(const QString &contextName, const QVariant &value)
+{
+    m_engine->rootContext()->setContextProperty(contextName, value);
+}
