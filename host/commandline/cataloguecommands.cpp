@@ -1,0 +1,250 @@
+#include "host/commandline/commandline.h"
+#include "host/commandline/console.h"
+#include "host/commandline/fitting.h"
+#include "host/commandline/presettable.h"
+
+#include "formats/models/formatdetailmodel.h"
+#include "formats/models/formatdetailmodeldata.h"
+#include "formats/models/formatlistmodel.h"
+#include "formats/models/formatlistmodelproxy.h"
+#include "formats/proxy/formatsproxy.h"
+#include "host/presets/presetstore.h"
+
+#include <QQueue>
+
+namespace {
+
+constexpr QLatin1String tagOption("tag");
+constexpr QLatin1String jsonFlag("json");
+
+void printFormats(const FormatListModel &formats, const QAbstractItemModel &shown, bool asJson)
+{
+    QVector<QStringList> table = {
+        {CommandLine::tr("Format"), CommandLine::tr("Tag"), CommandLine::tr("Presets")}};
+    QVariantList json;
+    for (int row = 0; row < shown.rowCount(); ++row) {
+        const QModelIndex index = shown.index(row, 0);
+        const QString title = index.data(FormatListModel::TitleRole).toString();
+        const QString tag = index.data(FormatListModel::TagRole).toString();
+        const FormatDetailModel *presets = formats.formatDetailModel(title);
+        const int count = presets == nullptr ? 0 : presets->rowCount();
+        table.append({title, tag, QString::number(count)});
+        json.append(QVariantMap{{QStringLiteral("title"), title},
+                                {QStringLiteral("tag"), tag},
+                                {QStringLiteral("icon"), index.data(FormatListModel::IconRole)},
+                                {QStringLiteral("presets"), count}});
+    }
+    if (asJson) {
+        Console::printJson(json);
+    } else {
+        Console::printTable(table);
+    }
+}
+
+/*! The format's title as the library has it, whatever the case of \a name; empty for none. */
+QString formatTitled(const FormatListModel &formats, const QString &name)
+{
+    if (formats.isExist(name)) {
+        return name;
+    }
+    for (int row = 0; row < formats.rowCount(); ++row) {
+        if (formats.getTitle(row).compare(name, Qt::CaseInsensitive) == 0) {
+            return formats.getTitle(row);
+        }
+    }
+    return {};
+}
+
+ExitCode runFormats(const Call &call)
+{
+    if (!call.arguments.isEmpty()) {
+        return wrongUsage(CommandLine::tr("\"formats\" takes no arguments but options"));
+    }
+    PresetStore store(call.configFolder);
+    openToRead(store);
+    FormatsProxy &formats = store.formats();
+    const FormatListModel &all = *formats.formatListModel();
+    if (!call.options.isSet(tagOption)) {
+        printFormats(all, all, call.options.isSet(jsonFlag));
+        return Success;
+    }
+    const QString tag = call.options.value(tagOption);
+    QStringList tags;
+    const QVariantList known = formats.formatTags();
+    for (const QVariant &each : known) {
+        tags << each.toString();
+    }
+    tags.removeAll(QStringLiteral("recently"));
+    if (!tags.contains(tag, Qt::CaseInsensitive)) {
+        return wrongUsage(CommandLine::tr("there is no tag \"%1\"; choose one of %2")
+                              .arg(tag, tags.join(QStringLiteral(", "))));
+    }
+    formats.setFormatTag(tag);
+    printFormats(all, *formats.formatListModelProxy(), call.options.isSet(jsonFlag));
+    return Success;
+}
+
+ExitCode runSearch(const Call &call)
+{
+    if (call.arguments.size() != 1 || call.arguments.constFirst().isEmpty()) {
+        return wrongUsage(CommandLine::tr("name the text to search for: vexconvert search TEXT"));
+    }
+    PresetStore store(call.configFolder);
+    openToRead(store);
+    FormatListModelProxy &proxy = *store.formats().formatListModelProxy();
+    proxy.setSearchKey(call.arguments.constFirst());
+    const bool asJson = call.options.isSet(jsonFlag);
+    if (proxy.count() == 0 && !asJson) {
+        Console::print(
+            CommandLine::tr("No format has \"%1\" in its title.").arg(call.arguments.constFirst()));
+        return Success;
+    }
+    printFormats(*store.formats().formatListModel(), proxy, asJson);
+    return Success;
+}
+
+ExitCode runPresets(const Call &call)
+{
+    if (call.arguments.size() != 1) {
+        return wrongUsage(CommandLine::tr("name one format: vexconvert presets FORMAT"));
+    }
+    PresetStore store(call.configFolder);
+    openToRead(store);
+    const FormatListModel &formats = *store.formats().formatListModel();
+    const QString title = formatTitled(formats, call.arguments.constFirst());
+    const FormatDetailModel *list = formats.formatDetailModel(title);
+    if (list == nullptr) {
+        return wrongUsage(CommandLine::tr("there is no format \"%1\"; \"vexconvert formats\" lists "
+                                          "them, \"vexconvert search TEXT\" finds one")
+                              .arg(call.arguments.constFirst()));
+    }
+    QQueue<FormatDetailModelData> records;
+    list->getModelInfo(records);
+    QVector<QVariantMap> presets;
+    QVariantList json;
+    for (const FormatDetailModelData &record : records) {
+        QVariantMap preset = record.toVarMap();
+        presets.append(preset);
+        preset.insert(QStringLiteral("userDefine"), record.userDefine);
+        json.append(preset);
+    }
+    if (call.options.isSet(jsonFlag)) {
+        Console::printJson(json);
+    } else {
+        Console::printTable(presetTable(presets));
+    }
+    return Success;
+}
+
+void printSettings(const FoundPreset &preset)
+{
+    const auto text = [&preset](const QString &key) { return preset.map.value(key).toString(); };
+    Console::printTable({
+        {CommandLine::tr("Id"), text(QStringLiteral("id"))},
+        {CommandLine::tr("Title"), text(QStringLiteral("title"))},
+        {CommandLine::tr("Format"), preset.className.isEmpty()
+                                        ? CommandLine::tr("(only among the recently used)")
+                                        : preset.className},
+        {CommandLine::tr("Tag"), preset.tag},
+        {CommandLine::tr("File"), text(QStringLiteral("extension"))},
+        {CommandLine::tr("Made by"),
+         preset.isUserDefined ? CommandLine::tr("you") : CommandLine::tr("the catalogue")},
+    });
+    QVector<QStringList> table = {
+        {CommandLine::tr("Setting"), CommandLine::tr("Value"), CommandLine::tr("Choices")}};
+    for (const PresetSetting &setting : presetSettings()) {
+        if (!preset.map.contains(setting.group)) {
+            continue;
+        }
+        QStringList choices = setting.choices(preset.map);
+        for (QString &choice : choices) {
+            if (choice == QLatin1String("0")) {
+                choice = CommandLine::tr("0 (%1)").arg(setting.zeroWord);
+            }
+        }
+        table.append({setting.label, setting.inWords(setting.value(preset.map)),
+                      choices.join(QStringLiteral(", "))});
+    }
+    Console::print(QString());
+    Console::printTable(table);
+}
+
+ExitCode runShow(const Call &call)
+{
+    if (call.arguments.size() != 1) {
+        return wrongUsage(CommandLine::tr("name one preset: vexconvert show ID"));
+    }
+    PresetStore store(call.configFolder);
+    openToRead(store);
+    const FoundPreset preset = store.find(call.arguments.constFirst());
+    if (preset.map.isEmpty()) {
+        return unknownPreset(call.arguments.constFirst());
+    }
+    if (call.options.isSet(jsonFlag)) {
+        QVariantMap map = preset.map;
+        map.insert(QStringLiteral("tag"), preset.tag);
+        map.insert(QStringLiteral("class"), preset.className);
+        map.insert(QStringLiteral("userDefine"), preset.isUserDefined);
+        Console::printJson(map);
+    } else {
+        printSettings(preset);
+    }
+    return Success;
+}
+
+ExitCode runFit(const Call &call)
+{
+    if (!call.arguments.isEmpty()) {
+        return wrongUsage(CommandLine::tr("\"fit\" takes no arguments but options"));
+    }
+    PresetStore store(call.configFolder);
+    openToRead(store);
+    ExitCode exitCode = Success;
+    const QVariantMap preset = fittingPreset(call.options, store.formats(), exitCode);
+    if (!preset.isEmpty()) {
+        Console::printJson(preset);
+    }
+    return exitCode;
+}
+
+} // namespace
+
+QVector<Subcommand> catalogueCommands()
+{
+    const QCommandLineOption tag = valueOption(
+        tagOption, CommandLine::tr("Only those of one tag: video, audio, device, socialvideo."),
+        CommandLine::tr("TAG"));
+    return {
+        {QStringLiteral("formats"),
+         CommandLine::tr("[--tag TAG] [--json]"),
+         CommandLine::tr("List the output formats."),
+         {},
+         {tag, jsonOption()},
+         runFormats},
+        {QStringLiteral("search"),
+         CommandLine::tr("TEXT [--json]"),
+         CommandLine::tr("List the formats with a text in their title."),
+         {},
+         {jsonOption()},
+         runSearch},
+        {QStringLiteral("presets"),
+         CommandLine::tr("FORMAT [--json]"),
+         CommandLine::tr("List the presets of a format."),
+         CommandLine::tr("\n\"source\" keeps the source's own value, \"auto\" is the encoder's "
+                         "good quality.\n"),
+         {jsonOption()},
+         runPresets},
+        {QStringLiteral("show"),
+         CommandLine::tr("ID [--json]"),
+         CommandLine::tr("Show the settings of a preset and what can be chosen."),
+         {},
+         {jsonOption()},
+         runShow},
+        {QStringLiteral("fit"),
+         CommandLine::tr("--type video|audio --format FORMAT --target TARGET [--prefer-source]"),
+         CommandLine::tr("Find the preset closest to a wish and print it as JSON."),
+         CommandLine::tr("\nWhere no preset fits, nothing is printed and the exit code is 1. A "
+                         "format that doesn't\nexist becomes MP4 or MP3.\n"),
+         fittingOptions(), runFit},
+    };
+}

@@ -1,0 +1,202 @@
+#include "host/commandline/commandline.h"
+
+#include "host/commandline/console.h"
+#include "host/presets/presetstore.h"
+
+#include <algorithm>
+
+namespace {
+
+QVector<Subcommand> subcommands()
+{
+    return catalogueCommands() + convertCommands() + presetCommands();
+}
+
+QList<QCommandLineOption> commonOptions()
+{
+    return {
+        valueOption(QStringLiteral("config"),
+                    CommandLine::tr("Folder of your presets and the recently used ones, instead "
+                                    "of the usual one."),
+                    CommandLine::tr("DIR")),
+        {{QStringLiteral("h"), QStringLiteral("help")}, CommandLine::tr("Print this help.")},
+        {{QStringLiteral("v"), QStringLiteral("version")}, CommandLine::tr("Print the version.")},
+    };
+}
+
+QList<QCommandLineOption> windowOnlyOptions()
+{
+    return {
+        valueOption(QStringLiteral("language"),
+                    CommandLine::tr("Language of the window, such as \"de\", instead of the "
+                                    "system's."),
+                    CommandLine::tr("LANG")),
+        valueOption(QStringLiteral("screenshots"),
+                    CommandLine::tr("Write pictures of all of the window's screens into DIR "
+                                    "instead of showing it."),
+                    CommandLine::tr("DIR")),
+    };
+}
+
+/*! Reads what stands before the subcommand; false when that is no good. */
+bool parseOverall(QCommandLineParser &parser, const QStringList &arguments)
+{
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser.addOptions(commonOptions() + windowOnlyOptions());
+    return parser.parse(QStringList{QCoreApplication::applicationName()} + arguments);
+}
+
+/*! The parser's list of options, without its own usage line, which names the program's path. */
+QString optionsText(const QCommandLineParser &parser)
+{
+    const QString text = parser.helpText();
+    return text.mid(text.indexOf(QLatin1Char('\n')) + 1).trimmed();
+}
+
+QString overviewText(const QCommandLineParser &parser)
+{
+    const QVector<Subcommand> all = subcommands();
+    QString list;
+    for (const Subcommand &subcommand : all) {
+        list += QStringLiteral("  %1 %2\n").arg(subcommand.name, -8).arg(subcommand.summary);
+    }
+    return CommandLine::tr("Usage: vexconvert [options]\n"
+                           "       vexconvert SUBCOMMAND [arguments] [options]\n"
+                           "\n"
+                           "Converts video and audio files with presets: in a window, or with a "
+                           "subcommand.\n"
+                           "\n"
+                           "Subcommands:\n"
+                           "%1"
+                           "\n"
+                           "%2\n"
+                           "\n"
+                           "\"vexconvert SUBCOMMAND --help\" tells more about one.\n"
+                           "\n"
+                           "Exit codes: 0 all went well, 1 something couldn't be done, 2 the "
+                           "command was called wrongly.")
+        .arg(list, optionsText(parser));
+}
+
+/*! The parser's complaint without the full stop at its end. */
+QString mistakeIn(const QCommandLineParser &parser)
+{
+    QString text = parser.errorText();
+    if (text.endsWith(QLatin1Char('.'))) {
+        text.chop(1);
+    }
+    return text;
+}
+
+QString helpText(const Subcommand &subcommand, const QCommandLineParser &parser)
+{
+    return CommandLine::tr("Usage: vexconvert %1 %2\n\n%3\n%4\n%5")
+        .arg(subcommand.name, subcommand.syntax, subcommand.summary, subcommand.details,
+             optionsText(parser));
+}
+
+ExitCode runSubcommand(const Subcommand &subcommand, const QStringList &arguments,
+                       const QString &configFolder)
+{
+    QCommandLineParser parser;
+    parser.addOptions(subcommand.options + commonOptions());
+    // The parser takes the first argument for the program's name.
+    const bool isParsed = parser.parse(arguments);
+    if (parser.isSet(QStringLiteral("help"))) {
+        Console::print(helpText(subcommand, parser));
+        return Success;
+    }
+    if (!isParsed) {
+        return wrongUsage(CommandLine::tr("%1; see \"vexconvert %2 --help\"")
+                              .arg(mistakeIn(parser), subcommand.name));
+    }
+    const QString own = parser.value(QStringLiteral("config"));
+    return subcommand.run(
+        {parser, parser.positionalArguments(), own.isEmpty() ? configFolder : own});
+}
+
+} // namespace
+
+std::optional<WindowOptions> CommandLine::windowOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    if (!parseOverall(parser, arguments) || !parser.positionalArguments().isEmpty() ||
+        parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
+        return std::nullopt;
+    }
+    return WindowOptions{parser.value(QStringLiteral("config")),
+                         parser.value(QStringLiteral("language")),
+                         parser.value(QStringLiteral("screenshots"))};
+}
+
+ExitCode CommandLine::run(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    const bool isParsed = parseOverall(parser, arguments);
+    const QStringList rest = parser.positionalArguments();
+    if (parser.isSet(QStringLiteral("version"))) {
+        Console::print(QStringLiteral("vexconvert %1").arg(QCoreApplication::applicationVersion()));
+        return Success;
+    }
+    if (parser.isSet(QStringLiteral("help")) || (isParsed && rest.isEmpty())) {
+        Console::print(overviewText(parser));
+        return Success;
+    }
+    if (!isParsed) {
+        return wrongUsage(tr("%1; see \"vexconvert --help\"").arg(mistakeIn(parser)));
+    }
+    for (const QCommandLineOption &option : windowOnlyOptions()) {
+        const QString name = option.names().constFirst();
+        if (parser.isSet(name)) {
+            return wrongUsage(
+                tr("--%1 is for the window; leave it out before a subcommand").arg(name));
+        }
+    }
+    const QVector<Subcommand> all = subcommands();
+    const auto named = std::find_if(all.begin(), all.end(), [&rest](const Subcommand &subcommand) {
+        return subcommand.name == rest.constFirst();
+    });
+    if (named == all.end()) {
+        return wrongUsage(tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
+                              .arg(rest.constFirst()));
+    }
+    return runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
+}
+
+ExitCode wrongUsage(const QString &line)
+{
+    Console::printError(line);
+    return WrongUsage;
+}
+
+ExitCode failure(const QString &line)
+{
+    Console::printError(line);
+    return Failure;
+}
+
+void openToRead(PresetStore &store)
+{
+    const QString problem = store.open(PresetStore::ReadOnly);
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+    }
+}
+
+ExitCode unknownPreset(const QString &id)
+{
+    return wrongUsage(CommandLine::tr("no preset has the id \"%1\"; \"vexconvert search TEXT\" "
+                                      "finds formats, \"vexconvert presets FORMAT\" lists ids")
+                          .arg(id));
+}
+
+QCommandLineOption jsonOption()
+{
+    return {QStringLiteral("json"), CommandLine::tr("Print JSON, for other programs to read.")};
+}
+
+QCommandLineOption valueOption(const QString &name, const QString &description,
+                               const QString &valueName)
+{
+    return {name, description, valueName};
+}

@@ -1,0 +1,26 @@
+#ifndef COMMANDLINE_CONSOLE_H
+#define COMMANDLINE_CONSOLE_H
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+/*! Standard output and standard error of the command. */
+namespace Console {
+
+void print(const QString &line);
+void printJson(const QVariant &value);
+/*! Columns as wide as their widest cell, two blanks between; the first row is the heading. */
+void printTable(const QVector<QStringList> &rows);
+/*! One line on standard error, begun with the command's name. */
+void printError(const QString &line);
+
+/*! Whether a person watches standard output, so that a line may be written over. */
+[[nodiscard]] bool isTerminal();
+/*! Writes over the current line of the terminal; an empty text clears it. */
+void overwriteLine(const QString &line);
+
+} // namespace Console
+
+#endif

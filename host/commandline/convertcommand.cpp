@@ -1,0 +1,235 @@
+#include "host/commandline/commandline.h"
+#include "host/commandline/console.h"
+#include "host/commandline/fitting.h"
+#include "host/commandline/interrupt.h"
+#include "host/commandline/progresstext.h"
+#include "host/convert/conversion.h"
+
+#include "formats/proxy/formatsproxy.h"
+#include "host/presets/presetstore.h"
+
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+constexpr QLatin1String presetOption("preset");
+constexpr QLatin1String folderOption("to");
+constexpr QLatin1String overwriteFlag("overwrite");
+constexpr QLatin1String dryRunFlag("dry-run");
+
+/*! A command as a person would type it into a shell. */
+QString shellCommand(const QString &program, const QStringList &arguments)
+{
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_@%+=:,./-]+$"));
+    QStringList words = {program};
+    for (QString word : arguments) {
+        if (!plain.match(word).hasMatch()) {
+            word.replace(QLatin1Char('\''), QStringLiteral("'\\''"));
+            word = QLatin1Char('\'') + word + QLatin1Char('\'');
+        }
+        words << word;
+    }
+    return words.join(QLatin1Char(' '));
+}
+
+/*! Converts the files one after another and tells about it on the console. */
+class Batch
+{
+public:
+    Batch(const QStringList &files, const ConversionJob &prototype);
+    ExitCode run();
+
+private:
+    void convert(const QString &file);
+    void showProgress(const QString &file, const Progress &progress);
+    void tell(const QString &file, const ConversionOutcome &outcome);
+
+    const QStringList m_files;
+    ConversionJob m_job;
+    Interrupt m_interrupt;
+    QPointer<Conversion> m_running;
+    int m_toldTenths = 0;
+    int m_converted = 0;
+    bool m_isInterrupted = false;
+};
+
+Batch::Batch(const QStringList &files, const ConversionJob &prototype)
+    : m_files(files)
+    , m_job(prototype)
+{
+    m_job.keep = files;
+    QObject::connect(&m_interrupt, &Interrupt::caught, &m_interrupt, [this] {
+        m_isInterrupted = true;
+        if (m_running != nullptr) {
+            m_running->cancel();
+        }
+    });
+}
+
+ExitCode Batch::run()
+{
+    for (const QString &file : m_files) {
+        if (!m_isInterrupted) {
+            convert(file);
+        }
+    }
+    if (m_files.size() > 1 && !m_job.planOnly) {
+        Console::print(
+            CommandLine::tr("%1 of %2 files converted").arg(m_converted).arg(m_files.size()));
+    }
+    return m_converted == m_files.size() ? Success : Failure;
+}
+
+void Batch::convert(const QString &file)
+{
+    m_job.source = file;
+    m_toldTenths = 0;
+    Conversion conversion(m_job);
+    m_running = &conversion;
+    QEventLoop loop;
+    QObject::connect(&conversion, &Conversion::progressed, &loop,
+                     [this, &file](const Progress &progress) { showProgress(file, progress); });
+    QObject::connect(&conversion, &Conversion::finished, &loop,
+                     [this, &file, &loop](const ConversionOutcome &outcome) {
+                         tell(file, outcome);
+                         loop.quit();
+                     });
+    conversion.start();
+    loop.exec();
+}
+
+void Batch::showProgress(const QString &file, const Progress &progress)
+{
+    const QString name = QFileInfo(file).fileName();
+    if (Console::isTerminal()) {
+        Console::overwriteLine(
+            QStringLiteral("%1 %2 %3").arg(name, progressBar(progress), progressText(progress)));
+        return;
+    }
+    // One line a tenth of the way, or for an unknown length one in ten seconds of media.
+    const int tenths = progress.percent() >= 0 ? progress.percent() / 10 : int(progress.done / 10);
+    if (tenths > m_toldTenths) {
+        m_toldTenths = tenths;
+        Console::print(QStringLiteral("%1: %2").arg(name, progressText(progress)));
+    }
+}
+
+void Batch::tell(const QString &file, const ConversionOutcome &outcome)
+{
+    if (Console::isTerminal()) {
+        Console::overwriteLine(QString());
+    }
+    switch (outcome.result) {
+    case ConversionOutcome::Converted:
+        ++m_converted;
+        m_job.keep << outcome.target;
+        Console::print(CommandLine::tr("%1 -> %2").arg(file, outcome.target));
+        Console::print(QStringLiteral("  ") + outcome.facts.summary());
+        break;
+    case ConversionOutcome::Planned:
+        ++m_converted;
+        Console::print(shellCommand(QStringLiteral("ffmpeg"), outcome.arguments));
+        break;
+    case ConversionOutcome::Failed:
+        Console::printError(QStringLiteral("%1: %2").arg(file, outcome.error));
+        break;
+    case ConversionOutcome::Cancelled:
+        Console::printError(CommandLine::tr("%1: stopped; nothing was written").arg(file));
+        break;
+    }
+}
+
+/*! Notes the preset as the most recently used one; a failure is told and hurts nothing else. */
+void noteAsUsed(PresetStore &store, const FoundPreset &preset, const QString &problem)
+{
+    QString unsaved = problem;
+    if (unsaved.isEmpty()) {
+        store.formats().add2Recently(preset.tag, preset.className,
+                                     preset.map.value(QStringLiteral("id")).toString());
+        unsaved = store.save();
+    }
+    if (!unsaved.isEmpty()) {
+        Console::printError(
+            CommandLine::tr("the preset isn't noted as recently used: %1").arg(unsaved));
+    }
+}
+
+/*! The preset that the options name or describe; without one, why is told and \a exitCode set. */
+FoundPreset chosenPreset(const Call &call, ExitCode &exitCode)
+{
+    const QString id = call.options.value(presetOption);
+    if (id.isEmpty() == !hasFittingOptions(call.options)) {
+        exitCode = wrongUsage(CommandLine::tr("choose a preset: either --preset ID or --type, "
+                                              "--format and --target"));
+        return {};
+    }
+    PresetStore store(call.configFolder);
+    if (id.isEmpty()) {
+        openToRead(store);
+        const QVariantMap fitting = fittingPreset(call.options, store.formats(), exitCode);
+        return fitting.isEmpty() ? FoundPreset()
+                                 : store.find(fitting.value(QStringLiteral("id")).toString());
+    }
+    const bool isDryRun = call.options.isSet(dryRunFlag);
+    const QString problem = store.open(isDryRun ? PresetStore::ReadOnly : PresetStore::ReadWrite);
+    FoundPreset preset = store.find(id);
+    if (preset.map.isEmpty()) {
+        exitCode = unknownPreset(id);
+    } else if (!isDryRun) {
+        noteAsUsed(store, preset, problem);
+    }
+    return preset;
+}
+
+ExitCode runConvert(const Call &call)
+{
+    if (call.arguments.isEmpty()) {
+        return wrongUsage(CommandLine::tr("name the files to convert: vexconvert convert FILE... "
+                                          "--preset ID"));
+    }
+    ExitCode exitCode = Success;
+    const FoundPreset preset = chosenPreset(call, exitCode);
+    if (preset.map.isEmpty()) {
+        return exitCode;
+    }
+    ConversionJob job;
+    job.settings = OutputSettings::fromPreset(preset.map);
+    job.settings.allAudioTracks = preset.allAudioTracks;
+    job.folder = call.options.value(folderOption);
+    job.overwrite = call.options.isSet(overwriteFlag);
+    job.planOnly = call.options.isSet(dryRunFlag);
+    return Batch(call.arguments, job).run();
+}
+
+} // namespace
+
+QVector<Subcommand> convertCommands()
+{
+    const QList<QCommandLineOption> own = {
+        valueOption(presetOption,
+                    CommandLine::tr("The preset with this id; \"vexconvert presets FORMAT\" lists "
+                                    "ids. It is noted as recently used."),
+                    CommandLine::tr("ID")),
+        valueOption(folderOption,
+                    CommandLine::tr("Folder for the results, instead of the source's own."),
+                    CommandLine::tr("DIR")),
+        {overwriteFlag, CommandLine::tr("Write over existing results, but never over a source.")},
+        {dryRunFlag, CommandLine::tr("Only print the ffmpeg commands.")},
+    };
+    return {
+        {QStringLiteral("convert"),
+         CommandLine::tr(
+             "FILE... (--preset ID | --type TYPE --format FORMAT --target TARGET) [options]"),
+         CommandLine::tr("Convert files with a preset."),
+         CommandLine::tr(
+             "\nThe preset is named by its id, or found as \"vexconvert fit\" does.\n"
+             "\n"
+             "A result is named after its source; where the name is taken it becomes \"name "
+             "(2)\",\nunless --overwrite is given. One file that fails doesn't stop the others, "
+             "and leaves\nnothing behind. The exit code is 1 when any failed. ffmpeg and ffprobe "
+             "do the work and\nmust be on the PATH.\n"),
+         own + fittingOptions(), runConvert},
+    };
+}

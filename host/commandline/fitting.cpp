@@ -1,0 +1,87 @@
+#include "host/commandline/fitting.h"
+
+#include "host/commandline/console.h"
+
+#include "formats/proxy/formatsproxy.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+constexpr QLatin1String typeOption("type");
+constexpr QLatin1String formatOption("format");
+constexpr QLatin1String targetOption("target");
+constexpr QLatin1String preferSourceOption("prefer-source");
+
+/*! What is wrong with the wish; empty when nothing is. */
+QString mistakeIn(const QString &type, const QString &format, const QString &target)
+{
+    const bool isVideo = type == QLatin1String("video");
+    if (!isVideo && type != QLatin1String("audio")) {
+        return CommandLine::tr("--type is \"video\" or \"audio\"");
+    }
+    if (format.isEmpty()) {
+        return CommandLine::tr("--format names a format, such as MP4; \"vexconvert formats\" "
+                               "lists them");
+    }
+    static const QRegularExpression size(QStringLiteral("^\\d+x\\d+$"));
+    static const QRegularExpression number(QStringLiteral("^\\d+$"));
+    if (isVideo && !size.match(target).hasMatch()) {
+        return CommandLine::tr("--target of a video is a size, such as 1280x720");
+    }
+    if (!isVideo && !number.match(target).hasMatch()) {
+        return CommandLine::tr("--target of audio is a bitrate in kbps, such as 192");
+    }
+    return {};
+}
+
+} // namespace
+
+QList<QCommandLineOption> fittingOptions()
+{
+    return {
+        valueOption(typeOption, CommandLine::tr("What to make: video or audio."),
+                    CommandLine::tr("TYPE")),
+        valueOption(formatOption, CommandLine::tr("The format, such as MP4 or mp3."),
+                    CommandLine::tr("FORMAT")),
+        valueOption(targetOption,
+                    CommandLine::tr("The closest preset is taken: a size such as 1280x720 for "
+                                    "video, a bitrate in kbps such as 192 for audio."),
+                    CommandLine::tr("TARGET")),
+        {preferSourceOption,
+         CommandLine::tr("Take a preset that keeps the source's own size or bitrate before any "
+                         "other.")},
+    };
+}
+
+bool hasFittingOptions(const QCommandLineParser &options)
+{
+    return options.isSet(typeOption) || options.isSet(formatOption) ||
+           options.isSet(targetOption) || options.isSet(preferSourceOption);
+}
+
+QVariantMap fittingPreset(const QCommandLineParser &options, const FormatsProxy &formats,
+                          ExitCode &exitCode)
+{
+    const QString type = options.value(typeOption);
+    const QString format = options.value(formatOption);
+    const QString target = options.value(targetOption);
+    const QString mistake = mistakeIn(type, format, target);
+    if (!mistake.isEmpty()) {
+        exitCode = wrongUsage(mistake);
+        return {};
+    }
+    if (!formats.getSupportFormat(format)) {
+        Console::printError(
+            CommandLine::tr("there is no format \"%1\"; the usual one for %2 is taken instead")
+                .arg(format, type));
+    }
+    const QVariantMap preset =
+        formats.getConverterParameters(type, format, target, options.isSet(preferSourceOption));
+    if (preset.isEmpty()) {
+        exitCode = failure(CommandLine::tr("no preset fits; \"vexconvert formats --tag %1\" lists "
+                                           "the formats to choose from")
+                               .arg(type));
+    }
+    return preset;
+}

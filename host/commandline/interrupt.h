@@ -1,0 +1,21 @@
+#ifndef COMMANDLINE_INTERRUPT_H
+#define COMMANDLINE_INTERRUPT_H
+
+#include <QObject>
+
+/*! Turns Ctrl-C and the request to terminate into a signal of the event loop. One at a time. */
+class Interrupt : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(Interrupt)
+
+public:
+    explicit Interrupt(QObject *parent = nullptr);
+    /*! The signals do again what they did before. */
+    ~Interrupt() override;
+
+Q_SIGNALS:
+    void caught();
+};
+
+#endif

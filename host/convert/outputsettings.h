@@ -1,0 +1,37 @@
+#ifndef CONVERT_OUTPUTSETTINGS_H
+#define CONVERT_OUTPUTSETTINGS_H
+
+#include "host/media/ratio.h"
+
+#include <QSize>
+#include <QString>
+#include <QVariantMap>
+
+/*!
+ * What a preset asks of a conversion. Empty texts, 0, an empty size and a ratio that is not valid
+ * keep the source's own value.
+ */
+struct OutputSettings
+{
+    QString extension;
+    bool hasPicture = false;
+    QString videoCodec; //!< as ffprobe names it
+    Ratio frameRate;
+    QSize box;            //!< the picture is fitted into it
+    double videoKbps = 0; //!< 0: the encoder's own good quality
+    QString audioCodec;
+    int sampleRate = 0; //!< Hz
+    int channels = 0;
+    double audioKbps = 0;        //!< 0: the encoder's own good quality
+    bool allAudioTracks = false; //!< else only the one that a player would sound
+    double start = 0;            //!< seconds; what lies before is left out
+    double end = 0;              //!< seconds; what lies behind is left out, 0: nothing
+
+    /*! Reads a preset map, as FormatDetailModelData::toVarMap() makes it. */
+    [[nodiscard]] static OutputSettings fromPreset(const QVariantMap &preset);
+
+    /*! Seconds that a result has whose source has \a duration; 0 when unknown. */
+    [[nodiscard]] double cutDuration(double duration) const;
+};
+
+#endif

@@ -1,0 +1,106 @@
+#include "host/convert/pendingfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUuid>
+
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+bool isTaken(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() || file.isSymLink();
+}
+
+bool moveOver(const QString &from, const QString &to)
+{
+    std::error_code error;
+    std::filesystem::rename(QFile::encodeName(from).toStdString(),
+                            QFile::encodeName(to).toStdString(), error);
+    return !error;
+}
+
+/*! The base shortened where needed, since file systems take names of 255 bytes. */
+QString numberedName(QString baseName, int number, const QString &extension)
+{
+    constexpr int longestName = 255;
+    const QString tail =
+        (number > 1 ? QStringLiteral(" (%1).").arg(number) : QStringLiteral(".")) + extension;
+    while (QFile::encodeName(baseName + tail).size() > longestName) {
+        baseName.chop(1);
+    }
+    return baseName + tail;
+}
+
+} // namespace
+
+void PendingFile::discard()
+{
+    if (!m_path.isEmpty()) {
+        QFile::remove(m_path);
+        m_path.clear();
+    }
+}
+
+QString PendingFile::create(const QString &folder)
+{
+    const QFileInfo place(folder);
+    if (!place.isDir()) {
+        return tr("the folder %1 doesn't exist; make it or choose another one")
+            .arg(QDir::toNativeSeparators(folder));
+    }
+    const QString name =
+        QStringLiteral(".vexconvert-%1.part").arg(QUuid::createUuid().toString(QUuid::Id128));
+    QFile file(QDir(folder).absoluteFilePath(name));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        return tr("can't write into the folder %1 (%2); choose another one")
+            .arg(QDir::toNativeSeparators(folder), file.errorString());
+    }
+    m_path = file.fileName();
+    return {};
+}
+
+bool PendingFile::publishOver(const QString &path)
+{
+    if (!moveOver(m_path, path)) {
+        return false;
+    }
+    m_path.clear();
+    return true;
+}
+
+QString PendingFile::publish(const QString &baseName, const QString &extension)
+{
+    const QString folder = QFileInfo(m_path).absolutePath();
+    for (;;) {
+        const QString path = freeName(folder, baseName, extension);
+        // Making the file claims the name; the move then replaces only what was made here.
+        QFile claim(path);
+        if (claim.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+            claim.close();
+            if (publishOver(path)) {
+                return path;
+            }
+            claim.remove();
+            return {};
+        }
+        if (!isTaken(path)) {
+            return {};
+        }
+    }
+}
+
+QString freeName(const QString &folder, const QString &baseName, const QString &extension)
+{
+    const QDir place(folder);
+    for (int number = 1;; ++number) {
+        const QString path = place.absoluteFilePath(numberedName(baseName, number, extension));
+        if (!isTaken(path)) {
+            return path;
+        }
+    }
+}

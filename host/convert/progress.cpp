@@ -1,0 +1,40 @@
+#include "host/convert/progress.h"
+
+#include <algorithm>
+
+int Progress::percent() const
+{
+    return total > 0 ? int(std::clamp(done / total * 100, 0.0, 100.0)) : -1;
+}
+
+double Progress::timeLeft() const
+{
+    return total > 0 && speed > 0 ? std::max(0.0, total - done) / speed : -1;
+}
+
+bool ProgressReader::feed(const QByteArray &bytes)
+{
+    bool isNew = false;
+    m_line += bytes;
+    for (int end = m_line.indexOf('\n'); end >= 0; end = m_line.indexOf('\n')) {
+        const QByteArray line = m_line.left(end).trimmed();
+        m_line.remove(0, end + 1);
+        const int equals = line.indexOf('=');
+        const QByteArray key = line.left(equals);
+        QByteArray value = line.mid(equals + 1).trimmed();
+        if (key == "out_time_us") {
+            // ffmpeg writes "N/A" or a huge negative number before the first frame.
+            m_growing.done = std::max(0.0, value.toDouble() / 1e6);
+        } else if (key == "speed") {
+            if (value.endsWith('x')) {
+                value.chop(1);
+            }
+            m_growing.speed = std::max(0.0, value.toDouble());
+        } else if (key == "progress") {
+            m_progress.done = m_growing.done;
+            m_progress.speed = m_growing.speed;
+            isNew = true;
+        }
+    }
+    return isNew;
+}

@@ -1,0 +1,42 @@
+#include "host/commandline/commandline.h"
+#include "host/window/windowapp.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <QTextCodec>
+
+#include <csignal>
+
+namespace {
+
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    return arguments;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // File names are UTF-8 also where no locale is set, as in containers.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    // The library's notes, such as a file missing at the first start, are for developers.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
+#ifdef SIGPIPE
+    // A reader that goes away mustn't end a conversion with its half-written file in place.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+
+    QCoreApplication::setApplicationName(QStringLiteral("vexconvert"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VEX_VERSION));
+    const QStringList arguments = argumentsOf(argc, argv);
+    if (const auto options = CommandLine::windowOptions(arguments)) {
+        return runWindow(argc, argv, *options);
+    }
+    QCoreApplication app(argc, argv);
+    return CommandLine::run(arguments);
+}

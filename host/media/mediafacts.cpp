@@ -1,0 +1,204 @@
+#include "host/media/mediafacts.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString text(const QJsonObject &object, QLatin1String key)
+{
+    return object.value(key).toVariant().toString();
+}
+
+bool hasDisposition(const QJsonObject &stream, QLatin1String name)
+{
+    return stream.value(QLatin1String("disposition")).toObject().value(name).toInt() == 1;
+}
+
+int quarterTurn(double degrees)
+{
+    const int turn = int(std::lround(degrees / 90.0)) * 90 % 360;
+    return turn < 0 ? turn + 360 : turn;
+}
+
+int rotationOf(const QJsonObject &stream)
+{
+    const QJsonArray sideData = stream.value(QLatin1String("side_data_list")).toArray();
+    for (const QJsonValue &entry : sideData) {
+        const QJsonValue rotation = entry.toObject().value(QLatin1String("rotation"));
+        if (rotation.isDouble()) {
+            return quarterTurn(-rotation.toDouble());
+        }
+    }
+    const QJsonObject tags = stream.value(QLatin1String("tags")).toObject();
+    return quarterTurn(text(tags, QLatin1String("rotate")).toDouble());
+}
+
+void readFrameRate(const QJsonObject &stream, VideoTrack &track)
+{
+    // With a variable rate the nominal one may be the clock of the time stamps (say 90000).
+    constexpr double fastestPlausible = 240;
+    track.frameRate = Ratio::fromText(text(stream, QLatin1String("r_frame_rate")));
+    track.hasSteadyRate = track.frameRate.isValid() && track.frameRate.value() <= fastestPlausible;
+    if (!track.hasSteadyRate) {
+        track.frameRate = Ratio::fromText(text(stream, QLatin1String("avg_frame_rate")));
+    }
+}
+
+VideoTrack videoTrack(const QJsonObject &stream)
+{
+    VideoTrack track;
+    track.index = stream.value(QLatin1String("index")).toInt();
+    track.codec = text(stream, QLatin1String("codec_name"));
+    track.storedSize = QSize(stream.value(QLatin1String("width")).toInt(),
+                             stream.value(QLatin1String("height")).toInt());
+    const Ratio aspect = Ratio::fromText(text(stream, QLatin1String("sample_aspect_ratio")));
+    if (aspect.isValid()) {
+        track.pixelAspect = aspect;
+    }
+    track.rotation = rotationOf(stream);
+    readFrameRate(stream, track);
+    track.isDefault = hasDisposition(stream, QLatin1String("default"));
+    track.isCover = hasDisposition(stream, QLatin1String("attached_pic"));
+    return track;
+}
+
+AudioTrack audioTrack(const QJsonObject &stream)
+{
+    AudioTrack track;
+    track.index = stream.value(QLatin1String("index")).toInt();
+    track.codec = text(stream, QLatin1String("codec_name"));
+    track.sampleRate = text(stream, QLatin1String("sample_rate")).toInt();
+    track.channels = stream.value(QLatin1String("channels")).toInt();
+    track.hasLayout = stream.contains(QLatin1String("channel_layout"));
+    track.isDefault = hasDisposition(stream, QLatin1String("default"));
+    return track;
+}
+
+/*! The first track that `wanted` accepts and the file marks as default, else the first accepted. */
+template <typename Track, typename Wanted>
+const Track *defaultOrFirst(const QVector<Track> &tracks, Wanted wanted)
+{
+    const Track *first = nullptr;
+    for (const Track &track : tracks) {
+        if (!wanted(track)) {
+            continue;
+        }
+        if (track.isDefault) {
+            return &track;
+        }
+        if (first == nullptr) {
+            first = &track;
+        }
+    }
+    return first;
+}
+
+QString channelText(int channels)
+{
+    switch (channels) {
+    case 1:
+        return MediaFacts::tr("mono");
+    case 2:
+        return MediaFacts::tr("stereo");
+    default:
+        return MediaFacts::tr("%1 channels").arg(channels);
+    }
+}
+
+} // namespace
+
+QSize VideoTrack::displaySize() const
+{
+    const int width = int(std::lround(storedSize.width() * pixelAspect.value()));
+    const QSize shown(width, storedSize.height());
+    return rotation % 180 == 0 ? shown : shown.transposed();
+}
+
+MediaFacts MediaFacts::fromProbe(const QByteArray &json)
+{
+    MediaFacts facts;
+    const QJsonObject probe = QJsonDocument::fromJson(json).object();
+    const QJsonObject format = probe.value(QLatin1String("format")).toObject();
+    facts.duration = std::max(0.0, text(format, QLatin1String("duration")).toDouble());
+    facts.bytes = text(format, QLatin1String("size")).toLongLong();
+
+    const QJsonArray streams = probe.value(QLatin1String("streams")).toArray();
+    for (const QJsonValue &value : streams) {
+        const QJsonObject stream = value.toObject();
+        const QString type = text(stream, QLatin1String("codec_type"));
+        if (type == QLatin1String("video")) {
+            facts.videoTracks.append(videoTrack(stream));
+        } else if (type == QLatin1String("audio")) {
+            facts.audioTracks.append(audioTrack(stream));
+        } else {
+            continue;
+        }
+        if (facts.duration == 0) {
+            facts.duration = std::max(0.0, text(stream, QLatin1String("duration")).toDouble());
+        }
+    }
+    return facts;
+}
+
+const VideoTrack *MediaFacts::picture() const
+{
+    return defaultOrFirst(videoTracks, [](const VideoTrack &track) { return !track.isCover; });
+}
+
+const VideoTrack *MediaFacts::cover() const
+{
+    return defaultOrFirst(videoTracks, [](const VideoTrack &track) { return track.isCover; });
+}
+
+const AudioTrack *MediaFacts::sound() const
+{
+    return defaultOrFirst(audioTracks, [](const AudioTrack &) { return true; });
+}
+
+QString MediaFacts::summary() const
+{
+    QStringList parts;
+    if (const VideoTrack *video = picture()) {
+        const QSize size = video->displaySize();
+        QString line = tr("%1 %2x%3").arg(video->codec).arg(size.width()).arg(size.height());
+        if (video->frameRate.isValid()) {
+            line += tr(" %1 fps").arg(QString::number(video->frameRate.value(), 'g', 4));
+        }
+        parts << line;
+    }
+    if (const AudioTrack *audio = sound()) {
+        QString line = tr("%1 %2 Hz %3")
+                           .arg(audio->codec)
+                           .arg(audio->sampleRate)
+                           .arg(channelText(audio->channels));
+        if (audioTracks.size() > 1) {
+            line += tr(" (%1 audio tracks)").arg(audioTracks.size());
+        }
+        parts << line;
+    }
+    if (duration > 0) {
+        parts << clockText(duration);
+    }
+    parts << QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+    return parts.join(QStringLiteral(", "));
+}
+
+QString clockText(double seconds)
+{
+    const qint64 whole = qint64(std::max(0.0, std::round(seconds)));
+    const QLatin1Char zero('0');
+    const QString tail = QStringLiteral("%1:%2");
+    const qint64 minutes = whole / 60;
+    if (minutes < 60) {
+        return tail.arg(minutes).arg(whole % 60, 2, 10, zero);
+    }
+    return QStringLiteral("%1:").arg(minutes / 60) +
+           tail.arg(minutes % 60, 2, 10, zero).arg(whole % 60, 2, 10, zero);
+}

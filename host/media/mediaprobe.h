@@ -1,0 +1,21 @@
+#ifndef MEDIA_MEDIAPROBE_H
+#define MEDIA_MEDIAPROBE_H
+
+#include "host/media/mediafacts.h"
+#include "host/media/tool.h"
+
+/*! Facts about a media file, or one line that says why there are none and how to mend it. */
+struct ProbeOutcome
+{
+    MediaFacts facts;
+    QString error;
+};
+
+/*!
+ * Asks ffprobe what the file holds, without waiting. \a done is called once from the event loop;
+ * destroying the returned tool, a child of \a parent, gives the question up.
+ */
+Tool *probeMedia(const QString &path, QObject *parent,
+                 const std::function<void(const ProbeOutcome &)> &done);
+
+#endif

@@ -1,0 +1,70 @@
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+import Public 1.0
+
+/*! Two handles on a line, for the two ends of a part. */
+T.RangeSlider {
+    id: root
+
+    required property string firstName
+    required property string secondName
+    readonly property QtObject theme: VexThemeMgr.curTheme
+
+    component Handle: Rectangle {
+        property bool marked: false
+        property bool held: false
+
+        y: (root.height - height) / 2
+        width: 14
+        height: 14
+        radius: 7
+        border.width: 2
+        border.color: root.enabled ? root.theme.font_color_grade3 : root.theme.font_color_disabled
+        color: held ? root.theme.accentPale : root.theme.basics_gradeTone1
+        activeFocusOnTab: root.activeFocusOnTab || activeFocus
+        Accessible.role: Accessible.Slider
+
+        VEXFocusFrame {
+            radius: 10
+            visible: parent.marked
+        }
+    }
+
+    implicitWidth: 200
+    implicitHeight: 20
+    leftPadding: 7
+    rightPadding: 7
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+
+    first.handle: Handle {
+        x: root.leftPadding - 7 + root.first.visualPosition * root.availableWidth
+        marked: activeFocus
+        held: root.first.pressed || root.first.hovered
+        Accessible.name: root.firstName
+    }
+
+    second.handle: Handle {
+        x: root.leftPadding - 7 + root.second.visualPosition * root.availableWidth
+        marked: activeFocus
+        held: root.second.pressed || root.second.hovered
+        Accessible.name: root.secondName
+    }
+
+    background: Rectangle {
+        x: root.leftPadding
+        y: (root.height - height) / 2
+        width: root.availableWidth
+        height: 4
+        radius: 2
+        color: root.theme.secondary_gradeTone4
+
+        Rectangle {
+            x: root.first.visualPosition * parent.width
+            width: (root.second.visualPosition - root.first.visualPosition) * parent.width
+            height: parent.height
+            radius: parent.radius
+            color: root.enabled ? root.theme.font_color_grade3 : root.theme.font_color_disabled
+        }
+    }
+}

@@ -1,0 +1,28 @@
+import QtQuick 2.15
+
+/*! A line to type in, without a frame of its own. */
+TextInput {
+    id: root
+
+    property bool isSearch: false
+    /*! Whether the cursor has the size that follows, instead of the usual one. */
+    property bool isCostomCursor: false
+    property int cursorWidth: 1
+    property int cursorHeight: 15
+
+    selectByMouse: true
+    selectionColor: VexThemeMgr.curTheme.font_color_grade3
+    selectedTextColor: "#FFFFFF"
+    inputMethodHints: root.isSearch ? Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase : Qt.ImhNone
+    onActiveFocusChanged: {
+        if (!activeFocus) {
+            deselect()
+        }
+    }
+
+    cursorDelegate: VEXTextCursor {
+        field: root
+        shownWidth: root.isCostomCursor ? root.cursorWidth : 1
+        shownHeight: root.isCostomCursor ? root.cursorHeight : 0
+    }
+}

@@ -1,0 +1,61 @@
+import QtQuick 2.15
+import Controls 1.0
+import Tasks 1.0
+
+/*! The buttons of a task: those that make sense in its state. */
+Row {
+    id: root
+
+    required property QtObject page
+    required property int taskId
+    required property int taskState
+    required property bool inTabOrder
+
+    readonly property bool isQueued: root.taskState === Task.Waiting
+                                     || root.taskState === Task.Running
+    readonly property bool canRetry: root.taskState === Task.Failed
+                                     || root.taskState === Task.Cancelled
+
+    component Action: VEXImageButton {
+        width: 28
+        height: 28
+        iconSize: 18
+        focusPolicy: root.inTabOrder || activeFocus ? Qt.TabFocus : Qt.NoFocus
+    }
+
+    spacing: 4
+
+    Action {
+        visible: root.taskState === Task.Converted
+        iconSource: "qrc:/window/images/folder.svg"
+        Accessible.name: ToolFun.tr("Show in folder")
+        onClicked: root.page.showInFolder(root.taskId)
+    }
+
+    Action {
+        visible: root.taskState === Task.Ready
+        iconSource: "qrc:/window/images/start.svg"
+        Accessible.name: ToolFun.tr("Convert")
+        onClicked: root.page.convert(root.taskId)
+    }
+
+    Action {
+        visible: root.canRetry
+        iconSource: "qrc:/window/images/retry.svg"
+        Accessible.name: ToolFun.tr("Try again")
+        onClicked: root.page.convert(root.taskId)
+    }
+
+    Action {
+        visible: root.isQueued
+        iconSource: "qrc:/window/images/stop.svg"
+        Accessible.name: ToolFun.tr("Stop")
+        onClicked: root.page.cancel(root.taskId)
+    }
+
+    Action {
+        iconSource: "qrc:/window/images/remove.svg"
+        Accessible.name: ToolFun.tr("Remove from the list")
+        onClicked: root.page.remove(root.taskId)
+    }
+}

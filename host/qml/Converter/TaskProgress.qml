@@ -1,0 +1,96 @@
+import QtQuick 2.15
+import Controls 1.0
+import Public 1.0
+import Tasks 1.0
+
+/*! Where a task stands: in words, and as a bar while it is at work. */
+Item {
+    id: root
+
+    required property int taskState
+    required property int percent
+    required property real speed
+    required property string timeLeft
+    required property string error
+
+    readonly property bool isRunning: root.taskState === Task.Running
+    readonly property string words: {
+        switch (root.taskState) {
+        case Task.Reading:
+            return ToolFun.tr("Reading …")
+        case Task.Waiting:
+            return ToolFun.tr("Waiting")
+        case Task.Converted:
+            return ToolFun.tr("Converted")
+        case Task.Failed:
+            return root.error
+        case Task.Cancelled:
+            return ToolFun.tr("Stopped")
+        case Task.Running:
+            return root.runningWords()
+        }
+        return ""
+    }
+
+    function runningWords() {
+        const parts = [root.percent < 0 ? ToolFun.tr("Converting …") : root.percent + " %"]
+        if (root.speed > 0) {
+            parts.push(root.speed.toFixed(root.speed < 10 ? 1 : 0) + "×")
+        }
+        if (root.timeLeft !== "") {
+            parts.push(ToolFun.tr("%1 left").arg(root.timeLeft))
+        }
+        return parts.join("  ·  ")
+    }
+
+    implicitHeight: Math.max(20, wordsLabel.implicitHeight)
+
+    VEXProgressBar {
+        id: bar
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(220, parent.width * 0.45)
+        visible: root.isRunning
+        value: Math.max(0, root.percent) / 100
+        indeterminate: root.isRunning && root.percent < 0
+        Accessible.name: root.words
+    }
+
+    VEXIcon {
+        id: sign
+
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.taskState === Task.Converted || root.taskState === Task.Failed
+        size: 16
+        source: root.taskState === Task.Converted ? "qrc:/window/images/done.svg"
+                                                  : "qrc:/window/images/failed.svg"
+    }
+
+    VEXLabel {
+        id: wordsLabel
+
+        anchors {
+            left: root.isRunning ? bar.right : sign.visible ? sign.right : parent.left
+            leftMargin: root.isRunning ? 12 : sign.visible ? 6 : 0
+            right: parent.right
+            verticalCenter: parent.verticalCenter
+        }
+        wrapMode: Text.Wrap
+        maximumLineCount: root.taskState === Task.Failed ? 2 : 1
+        text: root.words
+        font.pixelSize: 12
+        color: root.taskState === Task.Failed ? VexThemeMgr.curTheme.danger
+                                              : root.taskState === Task.Converted
+                                                ? VexThemeMgr.curTheme.success
+                                                : VexThemeMgr.curTheme.font_color_grade4
+
+        HoverHandler {
+            id: hover
+        }
+
+        VEXHint {
+            shown: hover.hovered && wordsLabel.truncated
+            text: root.words
+        }
+    }
+}

@@ -1,0 +1,189 @@
+import QtQuick 2.15
+import Controls 1.0
+import Public 1.0
+import Tasks 1.0
+
+/*! One file: what it is, what becomes of it and how far that is. */
+Rectangle {
+    id: root
+
+    required property QtObject page
+    required property bool canCut
+
+    required property int index
+    required property int taskId
+    required property string name
+    required property string source
+    required property string details
+    required property string codecs
+    required property real seconds
+    required property string thumbnail
+    required property string format
+    required property string formatCaption
+    required property string formatIcon
+    required property int taskState
+    required property int percent
+    required property real speed
+    required property string timeLeft
+    required property string error
+    required property real start
+    required property real end
+
+    // One row of the list is a stop of the Tab key, with the controls in it.
+    readonly property bool isCurrent: ListView.isCurrentItem
+    readonly property bool isQueued: root.taskState === Task.Waiting
+                                     || root.taskState === Task.Running
+
+    signal formatClicked(Item button)
+    signal pressed()
+
+    function activate() {
+        if (!root.isQueued) {
+            root.formatClicked(formatButton)
+        }
+    }
+
+    implicitHeight: root.canCut ? 128 : 96
+    activeFocusOnTab: root.isCurrent || root.activeFocus
+    radius: VexThemeMgr.curTheme.radius_2
+    color: hover.hovered ? VexThemeMgr.curTheme.hover : VexThemeMgr.curTheme.basics_gradeTone1
+    border.width: 1
+    border.color: VexThemeMgr.curTheme.rule
+    Accessible.role: Accessible.ListItem
+    Accessible.name: [root.name, root.details, root.formatCaption,
+                      progress.words].filter(Boolean).join(", ")
+    Accessible.focusable: true
+    Accessible.onPressAction: root.activate()
+
+    // What a control in the row leaves over is not meant for the row.
+    Keys.enabled: root.activeFocus
+    Keys.onReturnPressed: root.activate()
+    Keys.onEnterPressed: root.activate()
+    Keys.onSpacePressed: root.activate()
+    Keys.onDeletePressed: root.page.remove(root.taskId)
+
+    HoverHandler {
+        id: hover
+    }
+
+    TapHandler {
+        gesturePolicy: TapHandler.DragThreshold
+        onPressedChanged: {
+            if (pressed) {
+                root.pressed()
+                root.forceActiveFocus(Qt.MouseFocusReason)
+            }
+        }
+    }
+
+    VEXFocusFrame {
+        radius: parent.radius + 3
+        visible: root.activeFocus
+    }
+
+    Thumbnail {
+        id: thumbnail
+
+        x: 16
+        y: 16
+        source: root.thumbnail
+    }
+
+    Column {
+        anchors {
+            left: thumbnail.right
+            leftMargin: 16
+            right: formatButton.left
+            rightMargin: 24
+            top: thumbnail.top
+        }
+        spacing: 2
+
+        VEXLabel {
+            width: parent.width
+            height: 20
+            text: root.name
+            elide: Text.ElideMiddle
+            font.pixelSize: 14
+            font.weight: Font.DemiBold
+        }
+
+        VEXLabel {
+            width: parent.width
+            height: 18
+            visible: text !== ""
+            text: [root.details, root.codecs].filter(Boolean).join("  ·  ")
+            font.pixelSize: 12
+            color: VexThemeMgr.curTheme.font_color_grade4
+        }
+
+        TaskProgress {
+            id: progress
+
+            width: parent.width
+            taskState: root.taskState
+            percent: root.percent
+            speed: root.speed
+            timeLeft: root.timeLeft
+            error: root.error
+        }
+    }
+
+    VEXFormatButton {
+        id: formatButton
+
+        anchors {
+            right: actions.left
+            rightMargin: 16
+            verticalCenter: thumbnail.verticalCenter
+        }
+        width: 208
+        focusPolicy: root.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+        enabled: !root.isQueued
+        purpose: ToolFun.tr("Format")
+        text: root.formatCaption
+        iconSource: root.formatIcon
+        onClicked: root.activate()
+    }
+
+    Item {
+        id: actions
+
+        anchors {
+            right: parent.right
+            rightMargin: 16
+            verticalCenter: thumbnail.verticalCenter
+        }
+        width: 60
+        height: 28
+
+        TaskActions {
+            anchors.right: parent.right
+            page: root.page
+            taskId: root.taskId
+            taskState: root.taskState
+            inTabOrder: root.isCurrent
+        }
+    }
+
+    Loader {
+        active: root.canCut
+        anchors {
+            left: thumbnail.left
+            right: parent.right
+            rightMargin: 16
+            top: thumbnail.bottom
+            topMargin: 8
+        }
+
+        sourceComponent: CutBar {
+            page: root.page
+            taskId: root.taskId
+            seconds: root.seconds
+            start: root.start
+            end: root.end
+            inTabOrder: root.isCurrent
+            enabled: !root.isQueued && root.seconds > 0
+        }
+    }
+}

@@ -1,0 +1,133 @@
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import QtQuick.Controls 2.5
+import Controls 1.0
+import Converter 1.0
+import Public 1.0
+
+/*! The window: its two pages, and the picker that both use. */
+ApplicationWindow {
+    id: root
+
+    readonly property var shownPage: tabs.current === 0 ? converterPage : editorPage
+    property alias currentPage: tabs.current
+    property alias picker: pickerLoader.item
+
+    /*! Opens the picker at \a button, above it where there is room. */
+    function openPicker(button, taskId, formatId) {
+        const picker = pickerLoader.item
+        picker.fromPage = tabs.current === 0 ? "Converter" : "Editor"
+        picker.openWay = taskId === null
+        picker.listId = taskId
+        picker.listFormatId = formatId
+        picker.mainPageHeight = root.shownPage.height
+        const place = button.mapToItem(root.contentItem, 0, 0)
+        const above = place.y - picker.height - 8
+        const below = place.y + button.height + 8
+        const fitsAbove = above >= 8
+        const fitsBelow = below + picker.height <= root.contentItem.height - 8
+        picker.x = Math.max(8, Math.min(place.x, root.contentItem.width - picker.width - 8))
+        picker.y = fitsAbove ? above
+                             : fitsBelow ? below
+                                         : Math.max(8, (root.contentItem.height - picker.height) / 2)
+        picker.open()
+    }
+
+    function openGlobalPicker() {
+        root.openPicker(root.shownPage.globalButton, null, null)
+    }
+
+    width: 1040
+    height: 700
+    minimumWidth: 900
+    minimumHeight: 560
+    visible: true
+    title: "VexConvert"
+    color: VexThemeMgr.curTheme.basics_gradeTone2
+
+    Shortcut {
+        sequence: StandardKey.Open
+        onActivated: O_Files.chooseFiles(root.shownPage.page)
+    }
+
+    Rectangle {
+        id: top
+
+        width: parent.width
+        height: 60
+        color: VexThemeMgr.curTheme.basics_gradeTone1
+
+        PageTabs {
+            id: tabs
+
+            anchors {
+                left: parent.left
+                leftMargin: 16
+                verticalCenter: parent.verticalCenter
+            }
+            captions: [ToolFun.tr("Converter"), ToolFun.tr("Editor")]
+        }
+
+        VEXButton {
+            anchors {
+                right: parent.right
+                rightMargin: 24
+                verticalCenter: parent.verticalCenter
+            }
+            text: ToolFun.tr("Add files")
+            onClicked: O_Files.chooseFiles(root.shownPage.page)
+        }
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: VexThemeMgr.curTheme.rule
+        }
+    }
+
+    NoticeBar {
+        id: notice
+
+        anchors.top: top.bottom
+        width: parent.width
+        text: O_Notices.text
+        onDismissed: O_Notices.dismiss()
+    }
+
+    component Place: TaskPage {
+        anchors {
+            top: notice.bottom
+            bottom: parent.bottom
+        }
+        width: parent.width
+        onPickerAsked: root.openPicker(button, taskId, formatId)
+    }
+
+    Place {
+        id: converterPage
+
+        visible: tabs.current === 0
+        page: O_ConverterProxy
+        canCut: false
+        formatLabel: ToolFun.tr("Convert all to")
+        formatLabelWidth: root.picker ? root.picker.converterButtonWidth() : 0
+    }
+
+    Place {
+        id: editorPage
+
+        visible: tabs.current === 1
+        page: O_EditorProxy
+        canCut: true
+        formatLabel: ToolFun.tr("Format")
+        formatLabelWidth: root.picker ? root.picker.editorButtonWidth() : 0
+    }
+
+    Loader {
+        id: pickerLoader
+
+        source: "qrc:/formats/ParameterconversionPage.qml"
+        onLoaded: item.parent = root.contentItem
+    }
+}

@@ -1,0 +1,18 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.5
+
+ScrollBar {
+    id: root
+
+    policy: root.size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+    padding: 2
+    minimumSize: 0.08
+
+    contentItem: Rectangle {
+        implicitWidth: 6
+        implicitHeight: 6
+        radius: 3
+        color: VexThemeMgr.curTheme.font_color_grade4
+        opacity: root.pressed ? 0.7 : root.hovered ? 0.5 : 0.3
+    }
+}

@@ -1,0 +1,799 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Vex</name>
+    <message>
+        <source>Convert all to</source>
+        <translation>Convert all to</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>recently</source>
+        <translation>Recent</translation>
+    </message>
+    <message>
+        <source>video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>socialVideo</source>
+        <translation>Web video</translation>
+    </message>
+    <message>
+        <source>Format search</source>
+        <translation>Find format</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>No data</translation>
+    </message>
+    <message>
+        <source>Keep Orignal</source>
+        <translation>Keep original</translation>
+    </message>
+    <message>
+        <source>Smart Fit</source>
+        <translation>Smart fit</translation>
+    </message>
+    <message>
+        <source>The selected format cannot be deleted because it is in use.</source>
+        <translation>The selected format cannot be deleted because it is in use.</translation>
+    </message>
+    <message>
+        <source>The format you searched for was not found</source>
+        <translation>The format you searched for was not found</translation>
+    </message>
+    <message>
+        <source>Preference</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <translation>custom</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>High quality</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>Low quality</translation>
+    </message>
+    <message>
+        <source>Middle Quality</source>
+        <translation>Medium quality</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Encoder</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Sample rate</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Create</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>Converter</source>
+        <translation>Converter</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Add files</translation>
+    </message>
+    <message>
+        <source>Choose folder</source>
+        <translation>Choose folder</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Drop videos or songs here</source>
+        <translation>Drop videos or songs here</translation>
+    </message>
+    <message>
+        <source>Then choose a format and press Convert All</source>
+        <translation>Then choose a format and press Convert All</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>Convert</translation>
+    </message>
+    <message>
+        <source>Convert All</source>
+        <translation>Convert All</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Stop All</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Remove from the list</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Show in folder</translation>
+    </message>
+    <message>
+        <source>Same folder as the source</source>
+        <translation>Same folder as the source</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Save to</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>Reading …</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>Converting …</source>
+        <translation>Converting …</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>Converted</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 left</translation>
+    </message>
+    <message>
+        <source>The window can&apos;t be made</source>
+        <translation>The window can&apos;t be made</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>Same as source</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Lossless</translation>
+    </message>
+    <message>
+        <source>CD Quality</source>
+        <translation>CD quality</translation>
+    </message>
+    <message>
+        <source>32 bit float</source>
+        <translation>32-bit float</translation>
+    </message>
+    <message>
+        <source>32 bit</source>
+        <translation>32 bit</translation>
+    </message>
+    <message>
+        <source>24 bit</source>
+        <translation>24 bit</translation>
+    </message>
+    <message>
+        <source>16 bit</source>
+        <translation>16 bit</translation>
+    </message>
+    <message>
+        <source>Surround 5.1</source>
+        <translation>Surround 5.1</translation>
+    </message>
+    <message>
+        <source>Wideband</source>
+        <translation>Wideband</translation>
+    </message>
+    <message>
+        <source>2K</source>
+        <translation>2K</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
+    </message>
+    <message>
+        <source>48000 Hz</source>
+        <translation>48000 Hz</translation>
+    </message>
+    <message>
+        <source>4K</source>
+        <translation>4K</translation>
+    </message>
+    <message>
+        <source>4K TV</source>
+        <translation>4K TV</translation>
+    </message>
+    <message>
+        <source>4K TV MKV</source>
+        <translation>4K TV MKV</translation>
+    </message>
+    <message>
+        <source>96000 Hz</source>
+        <translation>96000 Hz</translation>
+    </message>
+    <message>
+        <source>A HD 720P</source>
+        <translation>A HD 720P</translation>
+    </message>
+    <message>
+        <source>Apple TV 4K</source>
+        <translation>Apple TV 4K</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 1080P</source>
+        <translation>Apple TV HD 1080P</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 720P</source>
+        <translation>Apple TV HD 720P</translation>
+    </message>
+    <message>
+        <source>BRAVIA 4K</source>
+        <translation>BRAVIA 4K</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 1080P</source>
+        <translation>BRAVIA HD 1080P</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 720P</source>
+        <translation>BRAVIA HD 720P</translation>
+    </message>
+    <message>
+        <source>CIF 288P</source>
+        <translation>CIF 288P</translation>
+    </message>
+    <message>
+        <source>Chromecast 4K</source>
+        <translation>Chromecast 4K</translation>
+    </message>
+    <message>
+        <source>Chromecast HD 1080P</source>
+        <translation>Chromecast HD 1080P</translation>
+    </message>
+    <message>
+        <source>Clip Portrait HD 1080P</source>
+        <translation>Clip portrait HD 1080P</translation>
+    </message>
+    <message>
+        <source>DivX TV SD 576P</source>
+        <translation>DivX TV SD 576P</translation>
+    </message>
+    <message>
+        <source>Echo Show HD 720P</source>
+        <translation>Echo Show HD 720P</translation>
+    </message>
+    <message>
+        <source>Find X 4K</source>
+        <translation>Find X 4K</translation>
+    </message>
+    <message>
+        <source>Find X HD 1080P</source>
+        <translation>Find X HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire 7 SD 576P</source>
+        <translation>Fire 7 SD 576P</translation>
+    </message>
+    <message>
+        <source>Fire HD 10 HD 1080P</source>
+        <translation>Fire HD 10 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire HD 8 HD 720P</source>
+        <translation>Fire HD 8 HD 720P</translation>
+    </message>
+    <message>
+        <source>Fire Max 11 HD 1080P</source>
+        <translation>Fire Max 11 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire TV 4K</source>
+        <translation>Fire TV 4K</translation>
+    </message>
+    <message>
+        <source>Fire TV Stick HD 1080P</source>
+        <translation>Fire TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>Full HD TV</source>
+        <translation>Full HD TV</translation>
+    </message>
+    <message>
+        <source>Full HD TV TS</source>
+        <translation>Full HD TV TS</translation>
+    </message>
+    <message>
+        <source>G Series HD 1080P</source>
+        <translation>G Series HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 1080P</source>
+        <translation>Galaxy A HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 720P</source>
+        <translation>Galaxy A HD 720P</translation>
+    </message>
+    <message>
+        <source>Galaxy S 4K</source>
+        <translation>Galaxy S 4K</translation>
+    </message>
+    <message>
+        <source>Galaxy S HD 1080P</source>
+        <translation>Galaxy S HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab 2K</source>
+        <translation>Galaxy Tab 2K</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 1080P</source>
+        <translation>Galaxy Tab HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 720P</source>
+        <translation>Galaxy Tab HD 720P</translation>
+    </message>
+    <message>
+        <source>HD 1080P</source>
+        <translation>HD 1080P</translation>
+    </message>
+    <message>
+        <source>HD 720P</source>
+        <translation>HD 720P</translation>
+    </message>
+    <message>
+        <source>HD Ready TV</source>
+        <translation>HD Ready TV</translation>
+    </message>
+    <message>
+        <source>K Series HD 720P</source>
+        <translation>K Series HD 720P</translation>
+    </message>
+    <message>
+        <source>Mate 4K</source>
+        <translation>Mate 4K</translation>
+    </message>
+    <message>
+        <source>MatePad 2K</source>
+        <translation>MatePad 2K</translation>
+    </message>
+    <message>
+        <source>MatePad HD 1080P</source>
+        <translation>MatePad HD 1080P</translation>
+    </message>
+    <message>
+        <source>NTSC 240P</source>
+        <translation>NTSC 240P</translation>
+    </message>
+    <message>
+        <source>NTSC 480P</source>
+        <translation>NTSC 480P</translation>
+    </message>
+    <message>
+        <source>Nest Hub HD 720P</source>
+        <translation>Nest Hub HD 720P</translation>
+    </message>
+    <message>
+        <source>New 3DS SD 240P</source>
+        <translation>New 3DS SD 240P</translation>
+    </message>
+    <message>
+        <source>OLED TV 4K</source>
+        <translation>OLED TV 4K</translation>
+    </message>
+    <message>
+        <source>OPPO Pad 2K</source>
+        <translation>OPPO Pad 2K</translation>
+    </message>
+    <message>
+        <source>P HD 1080P</source>
+        <translation>P HD 1080P</translation>
+    </message>
+    <message>
+        <source>PAL 288P</source>
+        <translation>PAL 288P</translation>
+    </message>
+    <message>
+        <source>PAL 576P</source>
+        <translation>PAL 576P</translation>
+    </message>
+    <message>
+        <source>PS Vita HD 720P</source>
+        <translation>PS Vita HD 720P</translation>
+    </message>
+    <message>
+        <source>PSP SD 272P</source>
+        <translation>PSP SD 272P</translation>
+    </message>
+    <message>
+        <source>Pixel 4K</source>
+        <translation>Pixel 4K</translation>
+    </message>
+    <message>
+        <source>Pixel 4K WEBM</source>
+        <translation>Pixel 4K WEBM</translation>
+    </message>
+    <message>
+        <source>Pixel HD 1080P</source>
+        <translation>Pixel HD 1080P</translation>
+    </message>
+    <message>
+        <source>Pixel Tablet 2K</source>
+        <translation>Pixel Tablet 2K</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 1080P</source>
+        <translation>PlayStation 3 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 720P</source>
+        <translation>PlayStation 3 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P</source>
+        <translation>PlayStation 4 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P MKV</source>
+        <translation>PlayStation 4 HD 1080P MKV</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 720P</source>
+        <translation>PlayStation 4 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 4K</source>
+        <translation>PlayStation 5 4K</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 HD 1080P</source>
+        <translation>PlayStation 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait 4:5</source>
+        <translation>Portrait 4:5</translation>
+    </message>
+    <message>
+        <source>Portrait 4K</source>
+        <translation>Portrait 4K</translation>
+    </message>
+    <message>
+        <source>Portrait HD 1080P</source>
+        <translation>Portrait HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait HD 720P</source>
+        <translation>Portrait HD 720P</translation>
+    </message>
+    <message>
+        <source>Portrait SD 540P</source>
+        <translation>Portrait SD 540P</translation>
+    </message>
+    <message>
+        <source>QCIF 144P</source>
+        <translation>QCIF 144P</translation>
+    </message>
+    <message>
+        <source>QVGA 240P</source>
+        <translation>QVGA 240P</translation>
+    </message>
+    <message>
+        <source>Redmi HD 720P</source>
+        <translation>Redmi HD 720P</translation>
+    </message>
+    <message>
+        <source>Redmi Note HD 1080P</source>
+        <translation>Redmi Note HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 1080P</source>
+        <translation>Reels HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 720P</source>
+        <translation>Reels HD 720P</translation>
+    </message>
+    <message>
+        <source>Reno HD 1080P</source>
+        <translation>Reno HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 1080P</source>
+        <translation>Roku Express HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 720P</source>
+        <translation>Roku Express HD 720P</translation>
+    </message>
+    <message>
+        <source>Roku TV 4K</source>
+        <translation>Roku TV 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K</source>
+        <translation>Roku Ultra 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K MKV</source>
+        <translation>Roku Ultra 4K MKV</translation>
+    </message>
+    <message>
+        <source>SD 180P</source>
+        <translation>SD 180P</translation>
+    </message>
+    <message>
+        <source>SD 240P</source>
+        <translation>SD 240P</translation>
+    </message>
+    <message>
+        <source>SD 360P</source>
+        <translation>SD 360P</translation>
+    </message>
+    <message>
+        <source>SD 480P</source>
+        <translation>SD 480P</translation>
+    </message>
+    <message>
+        <source>SD 576P</source>
+        <translation>SD 576P</translation>
+    </message>
+    <message>
+        <source>Shorts 4K</source>
+        <translation>Shorts 4K</translation>
+    </message>
+    <message>
+        <source>Shorts HD 1080P</source>
+        <translation>Shorts HD 1080P</translation>
+    </message>
+    <message>
+        <source>Shorts HD 720P</source>
+        <translation>Shorts HD 720P</translation>
+    </message>
+    <message>
+        <source>Smart TV 4K</source>
+        <translation>Smart TV 4K</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 1080P</source>
+        <translation>Smart TV HD 1080P</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 720P</source>
+        <translation>Smart TV HD 720P</translation>
+    </message>
+    <message>
+        <source>Square HD 1080P</source>
+        <translation>Square HD 1080P</translation>
+    </message>
+    <message>
+        <source>Square HD 720P</source>
+        <translation>Square HD 720P</translation>
+    </message>
+    <message>
+        <source>Story HD 1080P</source>
+        <translation>Story HD 1080P</translation>
+    </message>
+    <message>
+        <source>TV Box 4K</source>
+        <translation>TV Box 4K</translation>
+    </message>
+    <message>
+        <source>TV Stick HD 1080P</source>
+        <translation>TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>V Series 4K</source>
+        <translation>V Series 4K</translation>
+    </message>
+    <message>
+        <source>Wii SD 480P</source>
+        <translation>Wii SD 480P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 1080P</source>
+        <translation>Wii U HD 1080P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 720P</source>
+        <translation>Wii U HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 1080P</source>
+        <translation>Xbox 360 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 720P</source>
+        <translation>Xbox 360 HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 1080P</source>
+        <translation>Xbox One HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 720P</source>
+        <translation>Xbox One HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One X 4K</source>
+        <translation>Xbox One X 4K</translation>
+    </message>
+    <message>
+        <source>Xbox Series S 2K</source>
+        <translation>Xbox Series S 2K</translation>
+    </message>
+    <message>
+        <source>Xbox Series X 4K</source>
+        <translation>Xbox Series X 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi 4K</source>
+        <translation>Xiaomi 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi HD 1080P</source>
+        <translation>Xiaomi HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xiaomi Pad 2K</source>
+        <translation>Xiaomi Pad 2K</translation>
+    </message>
+    <message>
+        <source>Xperia 1 4K</source>
+        <translation>Xperia 1 4K</translation>
+    </message>
+    <message>
+        <source>Xperia 5 HD 1080P</source>
+        <translation>Xperia 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xperia L HD 720P</source>
+        <translation>Xperia L HD 720P</translation>
+    </message>
+    <message>
+        <source>Y HD 720P</source>
+        <translation>Y HD 720P</translation>
+    </message>
+    <message>
+        <source>iPad 4K</source>
+        <translation>iPad 4K</translation>
+    </message>
+    <message>
+        <source>iPad HD 1080P</source>
+        <translation>iPad HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPad HD 720P</source>
+        <translation>iPad HD 720P</translation>
+    </message>
+    <message>
+        <source>iPhone 4K</source>
+        <translation>iPhone 4K</translation>
+    </message>
+    <message>
+        <source>iPhone HD 1080P</source>
+        <translation>iPhone HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPhone HD 720P</source>
+        <translation>iPhone HD 720P</translation>
+    </message>
+    <message>
+        <source>nova HD 1080P</source>
+        <translation>nova HD 1080P</translation>
+    </message>
+</context>
+</TS>

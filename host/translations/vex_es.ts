@@ -1,0 +1,917 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Vex</name>
+    <message>
+        <source>Convert all to</source>
+        <translation>Convertir todo a</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>recently</source>
+        <translation>Recientes</translation>
+    </message>
+    <message>
+        <source>video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>socialVideo</source>
+        <translation>Vídeo web</translation>
+    </message>
+    <message>
+        <source>Format search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>Sin datos</translation>
+    </message>
+    <message>
+        <source>Keep Orignal</source>
+        <translation>Como el original</translation>
+    </message>
+    <message>
+        <source>Smart Fit</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>The selected format cannot be deleted because it is in use.</source>
+        <translation>El formato elegido está en uso y no se puede eliminar.</translation>
+    </message>
+    <message>
+        <source>The format you searched for was not found</source>
+        <translation>No se encontró el formato buscado</translation>
+    </message>
+    <message>
+        <source>Preference</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <translation>propio</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>Calidad alta</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>Calidad baja</translation>
+    </message>
+    <message>
+        <source>Middle Quality</source>
+        <translation>Calidad media</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Códec</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>Fotogramas</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>Tasa de bits</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>Muestreo</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Crear</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Converter</source>
+        <translation>Conversor</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Añadir archivos</translation>
+    </message>
+    <message>
+        <source>Choose folder</source>
+        <translation>Elegir carpeta</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Drop videos or songs here</source>
+        <translation>Suelta aquí vídeos o música</translation>
+    </message>
+    <message>
+        <source>Then choose a format and press Convert All</source>
+        <translation>Después elige un formato y pulsa «Convertir todo»</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>Convertir</translation>
+    </message>
+    <message>
+        <source>Convert All</source>
+        <translation>Convertir todo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Detener todo</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Same folder as the source</source>
+        <translation>Carpeta del original</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Guardar en</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>Converting …</source>
+        <translation>Convirtiendo…</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>Convertido</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>quedan %1</translation>
+    </message>
+    <message>
+        <source>The window can&apos;t be made</source>
+        <translation>No se puede crear la ventana</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>Como el origen</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voz</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sin pérdida</translation>
+    </message>
+    <message>
+        <source>CD Quality</source>
+        <translation>Calidad de CD</translation>
+    </message>
+    <message>
+        <source>32 bit float</source>
+        <translation>32 bits flotante</translation>
+    </message>
+    <message>
+        <source>32 bit</source>
+        <translation>32 bits</translation>
+    </message>
+    <message>
+        <source>24 bit</source>
+        <translation>24 bits</translation>
+    </message>
+    <message>
+        <source>16 bit</source>
+        <translation>16 bits</translation>
+    </message>
+    <message>
+        <source>Surround 5.1</source>
+        <translation>Envolvente 5.1</translation>
+    </message>
+    <message>
+        <source>Wideband</source>
+        <translation>Banda ancha</translation>
+    </message>
+    <message>
+        <source>2K</source>
+        <translation>2K</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
+    </message>
+    <message>
+        <source>48000 Hz</source>
+        <translation>48000 Hz</translation>
+    </message>
+    <message>
+        <source>4K</source>
+        <translation>4K</translation>
+    </message>
+    <message>
+        <source>4K TV</source>
+        <translation>TV 4K</translation>
+    </message>
+    <message>
+        <source>4K TV MKV</source>
+        <translation>TV 4K MKV</translation>
+    </message>
+    <message>
+        <source>96000 Hz</source>
+        <translation>96000 Hz</translation>
+    </message>
+    <message>
+        <source>A HD 720P</source>
+        <translation>A HD 720P</translation>
+    </message>
+    <message>
+        <source>Apple TV 4K</source>
+        <translation>Apple TV 4K</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 1080P</source>
+        <translation>Apple TV HD 1080P</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 720P</source>
+        <translation>Apple TV HD 720P</translation>
+    </message>
+    <message>
+        <source>BRAVIA 4K</source>
+        <translation>BRAVIA 4K</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 1080P</source>
+        <translation>BRAVIA HD 1080P</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 720P</source>
+        <translation>BRAVIA HD 720P</translation>
+    </message>
+    <message>
+        <source>CIF 288P</source>
+        <translation>CIF 288P</translation>
+    </message>
+    <message>
+        <source>Chromecast 4K</source>
+        <translation>Chromecast 4K</translation>
+    </message>
+    <message>
+        <source>Chromecast HD 1080P</source>
+        <translation>Chromecast HD 1080P</translation>
+    </message>
+    <message>
+        <source>Clip Portrait HD 1080P</source>
+        <translation>Clip vertical HD 1080P</translation>
+    </message>
+    <message>
+        <source>DivX TV SD 576P</source>
+        <translation>DivX TV SD 576P</translation>
+    </message>
+    <message>
+        <source>Echo Show HD 720P</source>
+        <translation>Echo Show HD 720P</translation>
+    </message>
+    <message>
+        <source>Find X 4K</source>
+        <translation>Find X 4K</translation>
+    </message>
+    <message>
+        <source>Find X HD 1080P</source>
+        <translation>Find X HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire 7 SD 576P</source>
+        <translation>Fire 7 SD 576P</translation>
+    </message>
+    <message>
+        <source>Fire HD 10 HD 1080P</source>
+        <translation>Fire HD 10 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire HD 8 HD 720P</source>
+        <translation>Fire HD 8 HD 720P</translation>
+    </message>
+    <message>
+        <source>Fire Max 11 HD 1080P</source>
+        <translation>Fire Max 11 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire TV 4K</source>
+        <translation>Fire TV 4K</translation>
+    </message>
+    <message>
+        <source>Fire TV Stick HD 1080P</source>
+        <translation>Fire TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>Full HD TV</source>
+        <translation>TV Full HD</translation>
+    </message>
+    <message>
+        <source>Full HD TV TS</source>
+        <translation>TV Full HD TS</translation>
+    </message>
+    <message>
+        <source>G Series HD 1080P</source>
+        <translation>G Series HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 1080P</source>
+        <translation>Galaxy A HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 720P</source>
+        <translation>Galaxy A HD 720P</translation>
+    </message>
+    <message>
+        <source>Galaxy S 4K</source>
+        <translation>Galaxy S 4K</translation>
+    </message>
+    <message>
+        <source>Galaxy S HD 1080P</source>
+        <translation>Galaxy S HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab 2K</source>
+        <translation>Galaxy Tab 2K</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 1080P</source>
+        <translation>Galaxy Tab HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 720P</source>
+        <translation>Galaxy Tab HD 720P</translation>
+    </message>
+    <message>
+        <source>HD 1080P</source>
+        <translation>HD 1080P</translation>
+    </message>
+    <message>
+        <source>HD 720P</source>
+        <translation>HD 720P</translation>
+    </message>
+    <message>
+        <source>HD Ready TV</source>
+        <translation>TV HD Ready</translation>
+    </message>
+    <message>
+        <source>K Series HD 720P</source>
+        <translation>K Series HD 720P</translation>
+    </message>
+    <message>
+        <source>Mate 4K</source>
+        <translation>Mate 4K</translation>
+    </message>
+    <message>
+        <source>MatePad 2K</source>
+        <translation>MatePad 2K</translation>
+    </message>
+    <message>
+        <source>MatePad HD 1080P</source>
+        <translation>MatePad HD 1080P</translation>
+    </message>
+    <message>
+        <source>NTSC 240P</source>
+        <translation>NTSC 240P</translation>
+    </message>
+    <message>
+        <source>NTSC 480P</source>
+        <translation>NTSC 480P</translation>
+    </message>
+    <message>
+        <source>Nest Hub HD 720P</source>
+        <translation>Nest Hub HD 720P</translation>
+    </message>
+    <message>
+        <source>New 3DS SD 240P</source>
+        <translation>New 3DS SD 240P</translation>
+    </message>
+    <message>
+        <source>OLED TV 4K</source>
+        <translation>OLED TV 4K</translation>
+    </message>
+    <message>
+        <source>OPPO Pad 2K</source>
+        <translation>OPPO Pad 2K</translation>
+    </message>
+    <message>
+        <source>P HD 1080P</source>
+        <translation>P HD 1080P</translation>
+    </message>
+    <message>
+        <source>PAL 288P</source>
+        <translation>PAL 288P</translation>
+    </message>
+    <message>
+        <source>PAL 576P</source>
+        <translation>PAL 576P</translation>
+    </message>
+    <message>
+        <source>PS Vita HD 720P</source>
+        <translation>PS Vita HD 720P</translation>
+    </message>
+    <message>
+        <source>PSP SD 272P</source>
+        <translation>PSP SD 272P</translation>
+    </message>
+    <message>
+        <source>Pixel 4K</source>
+        <translation>Pixel 4K</translation>
+    </message>
+    <message>
+        <source>Pixel 4K WEBM</source>
+        <translation>Pixel 4K WEBM</translation>
+    </message>
+    <message>
+        <source>Pixel HD 1080P</source>
+        <translation>Pixel HD 1080P</translation>
+    </message>
+    <message>
+        <source>Pixel Tablet 2K</source>
+        <translation>Pixel Tablet 2K</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 1080P</source>
+        <translation>PlayStation 3 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 720P</source>
+        <translation>PlayStation 3 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P</source>
+        <translation>PlayStation 4 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P MKV</source>
+        <translation>PlayStation 4 HD 1080P MKV</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 720P</source>
+        <translation>PlayStation 4 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 4K</source>
+        <translation>PlayStation 5 4K</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 HD 1080P</source>
+        <translation>PlayStation 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait 4:5</source>
+        <translation>Vertical 4:5</translation>
+    </message>
+    <message>
+        <source>Portrait 4K</source>
+        <translation>Vertical 4K</translation>
+    </message>
+    <message>
+        <source>Portrait HD 1080P</source>
+        <translation>Vertical HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait HD 720P</source>
+        <translation>Vertical HD 720P</translation>
+    </message>
+    <message>
+        <source>Portrait SD 540P</source>
+        <translation>Vertical SD 540P</translation>
+    </message>
+    <message>
+        <source>QCIF 144P</source>
+        <translation>QCIF 144P</translation>
+    </message>
+    <message>
+        <source>QVGA 240P</source>
+        <translation>QVGA 240P</translation>
+    </message>
+    <message>
+        <source>Redmi HD 720P</source>
+        <translation>Redmi HD 720P</translation>
+    </message>
+    <message>
+        <source>Redmi Note HD 1080P</source>
+        <translation>Redmi Note HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 1080P</source>
+        <translation>Reels HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 720P</source>
+        <translation>Reels HD 720P</translation>
+    </message>
+    <message>
+        <source>Reno HD 1080P</source>
+        <translation>Reno HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 1080P</source>
+        <translation>Roku Express HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 720P</source>
+        <translation>Roku Express HD 720P</translation>
+    </message>
+    <message>
+        <source>Roku TV 4K</source>
+        <translation>Roku TV 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K</source>
+        <translation>Roku Ultra 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K MKV</source>
+        <translation>Roku Ultra 4K MKV</translation>
+    </message>
+    <message>
+        <source>SD 180P</source>
+        <translation>SD 180P</translation>
+    </message>
+    <message>
+        <source>SD 240P</source>
+        <translation>SD 240P</translation>
+    </message>
+    <message>
+        <source>SD 360P</source>
+        <translation>SD 360P</translation>
+    </message>
+    <message>
+        <source>SD 480P</source>
+        <translation>SD 480P</translation>
+    </message>
+    <message>
+        <source>SD 576P</source>
+        <translation>SD 576P</translation>
+    </message>
+    <message>
+        <source>Shorts 4K</source>
+        <translation>Shorts 4K</translation>
+    </message>
+    <message>
+        <source>Shorts HD 1080P</source>
+        <translation>Shorts HD 1080P</translation>
+    </message>
+    <message>
+        <source>Shorts HD 720P</source>
+        <translation>Shorts HD 720P</translation>
+    </message>
+    <message>
+        <source>Smart TV 4K</source>
+        <translation>Smart TV 4K</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 1080P</source>
+        <translation>Smart TV HD 1080P</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 720P</source>
+        <translation>Smart TV HD 720P</translation>
+    </message>
+    <message>
+        <source>Square HD 1080P</source>
+        <translation>Cuadrado HD 1080P</translation>
+    </message>
+    <message>
+        <source>Square HD 720P</source>
+        <translation>Cuadrado HD 720P</translation>
+    </message>
+    <message>
+        <source>Story HD 1080P</source>
+        <translation>Historia HD 1080P</translation>
+    </message>
+    <message>
+        <source>TV Box 4K</source>
+        <translation>TV Box 4K</translation>
+    </message>
+    <message>
+        <source>TV Stick HD 1080P</source>
+        <translation>TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>V Series 4K</source>
+        <translation>V Series 4K</translation>
+    </message>
+    <message>
+        <source>Wii SD 480P</source>
+        <translation>Wii SD 480P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 1080P</source>
+        <translation>Wii U HD 1080P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 720P</source>
+        <translation>Wii U HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 1080P</source>
+        <translation>Xbox 360 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 720P</source>
+        <translation>Xbox 360 HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 1080P</source>
+        <translation>Xbox One HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 720P</source>
+        <translation>Xbox One HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One X 4K</source>
+        <translation>Xbox One X 4K</translation>
+    </message>
+    <message>
+        <source>Xbox Series S 2K</source>
+        <translation>Xbox Series S 2K</translation>
+    </message>
+    <message>
+        <source>Xbox Series X 4K</source>
+        <translation>Xbox Series X 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi 4K</source>
+        <translation>Xiaomi 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi HD 1080P</source>
+        <translation>Xiaomi HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xiaomi Pad 2K</source>
+        <translation>Xiaomi Pad 2K</translation>
+    </message>
+    <message>
+        <source>Xperia 1 4K</source>
+        <translation>Xperia 1 4K</translation>
+    </message>
+    <message>
+        <source>Xperia 5 HD 1080P</source>
+        <translation>Xperia 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xperia L HD 720P</source>
+        <translation>Xperia L HD 720P</translation>
+    </message>
+    <message>
+        <source>Y HD 720P</source>
+        <translation>Y HD 720P</translation>
+    </message>
+    <message>
+        <source>iPad 4K</source>
+        <translation>iPad 4K</translation>
+    </message>
+    <message>
+        <source>iPad HD 1080P</source>
+        <translation>iPad HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPad HD 720P</source>
+        <translation>iPad HD 720P</translation>
+    </message>
+    <message>
+        <source>iPhone 4K</source>
+        <translation>iPhone 4K</translation>
+    </message>
+    <message>
+        <source>iPhone HD 1080P</source>
+        <translation>iPhone HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPhone HD 720P</source>
+        <translation>iPhone HD 720P</translation>
+    </message>
+    <message>
+        <source>nova HD 1080P</source>
+        <translation>nova HD 1080P</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegArguments</name>
+    <message>
+        <source>has no video; choose an audio preset</source>
+        <translation>no tiene vídeo; elige un formato de audio</translation>
+    </message>
+    <message>
+        <source>has no sound; choose a video preset</source>
+        <translation>no tiene sonido; elige un formato de vídeo</translation>
+    </message>
+    <message>
+        <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
+        <translation>un archivo .%1 no admite vídeo; elige un formato de audio</translation>
+    </message>
+    <message>
+        <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
+        <translation>necesita el codificador %1 para %2, que este ffmpeg no tiene; elige un formato con otro codificador o instala un ffmpeg que lo tenga</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> o </translation>
+    </message>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>no se pueden escribir archivos de tipo «.%1»; elige otro formato</translation>
+    </message>
+</context>
+<context>
+    <name>Conversion</name>
+    <message>
+        <source>the disk with %1 is full; free some space or choose another folder</source>
+        <translation>el disco de %1 está lleno; libera espacio o elige otra carpeta</translation>
+    </message>
+    <message>
+        <source>ffmpeg couldn&apos;t convert it (%1); check the file or try another preset</source>
+        <translation>ffmpeg no pudo convertirlo (%1); revisa el archivo o prueba otro formato</translation>
+    </message>
+    <message>
+        <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
+        <translation>ffmpeg escribió un archivo que no se puede reproducir; prueba otro formato</translation>
+    </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
+        <translation>no se pudo dar nombre al resultado en %1; elige otra carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>MediaProbe</name>
+    <message>
+        <source>no such file; check its name</source>
+        <translation>no existe el archivo; comprueba su nombre</translation>
+    </message>
+    <message>
+        <source>this is a folder; name the files in it</source>
+        <translation>es una carpeta; elige los archivos que contiene</translation>
+    </message>
+    <message>
+        <source>cannot be read as media (%1); check that it is a complete video or audio file</source>
+        <translation>no se puede leer como vídeo o audio (%1); comprueba que el archivo esté completo</translation>
+    </message>
+    <message>
+        <source>holds neither video nor audio; choose a video or audio file</source>
+        <translation>no contiene vídeo ni audio; elige un archivo de vídeo o audio</translation>
+    </message>
+</context>
+<context>
+    <name>PendingFile</name>
+    <message>
+        <source>the folder %1 doesn&apos;t exist; make it or choose another one</source>
+        <translation>la carpeta %1 no existe; créala o elige otra</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the folder %1 (%2); choose another one</source>
+        <translation>no se puede escribir en la carpeta %1 (%2); elige otra</translation>
+    </message>
+</context>
+<context>
+    <name>PresetStore</name>
+    <message>
+        <source>another program is writing the presets in %1; try again when it is done</source>
+        <translation>otro programa está usando los formatos de %1; inténtalo cuando termine</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1; name another one</source>
+        <translation>no se puede escribir en la carpeta de configuración %1; indica otra</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
+        <translation>%1 estaba dañado; en su lugar está la última copia buena y el archivo dañado se guarda como %2</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 estaba dañado y no hay copia buena; se guarda como %2</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
+        <translation>no se puede guardar una copia de %1; libera espacio en el disco</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
+        <translation>no se puede escribir %1, que queda como antes; revisa el disco y los permisos</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
+        <translation>%1 está dañado y no se puede leer; repáralo o retíralo</translation>
+    </message>
+</context>
+<context>
+    <name>ToolOutcome</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 se detuvo sin decir por qué</translation>
+    </message>
+    <message>
+        <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
+        <translation>%1 no está en el PATH; instala ffmpeg (Debian: apt-get install ffmpeg) e inténtalo de nuevo</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,917 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Vex</name>
+    <message>
+        <source>Convert all to</source>
+        <translation>すべて変換</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>recently</source>
+        <translation>最近使用</translation>
+    </message>
+    <message>
+        <source>video</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>audio</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>socialVideo</source>
+        <translation>Web 動画</translation>
+    </message>
+    <message>
+        <source>Format search</source>
+        <translation>形式を検索</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>データなし</translation>
+    </message>
+    <message>
+        <source>Keep Orignal</source>
+        <translation>元のまま</translation>
+    </message>
+    <message>
+        <source>Smart Fit</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>The selected format cannot be deleted because it is in use.</source>
+        <translation>選択した形式は使用中のため削除できません。</translation>
+    </message>
+    <message>
+        <source>The format you searched for was not found</source>
+        <translation>検索した形式は見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>Preference</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>低品質</translation>
+    </message>
+    <message>
+        <source>Middle Quality</source>
+        <translation>中品質</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>コーデック</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>フレーム数</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>ビットレート</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>サンプル数</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>作成</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>Converter</source>
+        <translation>変換</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>ファイルを追加</translation>
+    </message>
+    <message>
+        <source>Choose folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Drop videos or songs here</source>
+        <translation>動画や音楽をここにドロップ</translation>
+    </message>
+    <message>
+        <source>Then choose a format and press Convert All</source>
+        <translation>形式を選んで「すべて変換」を押してください</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>変換</translation>
+    </message>
+    <message>
+        <source>Convert All</source>
+        <translation>すべて変換</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>すべて中止</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>リストから削除</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>フォルダーに表示</translation>
+    </message>
+    <message>
+        <source>Same folder as the source</source>
+        <translation>元のファイルと同じフォルダー</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>保存先</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Converting …</source>
+        <translation>変換中…</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>変換しました</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>The window can&apos;t be made</source>
+        <translation>ウィンドウを作成できません</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>元と同じ</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>ロスレス</translation>
+    </message>
+    <message>
+        <source>CD Quality</source>
+        <translation>CD 品質</translation>
+    </message>
+    <message>
+        <source>32 bit float</source>
+        <translation>32 ビット浮動小数</translation>
+    </message>
+    <message>
+        <source>32 bit</source>
+        <translation>32 ビット</translation>
+    </message>
+    <message>
+        <source>24 bit</source>
+        <translation>24 ビット</translation>
+    </message>
+    <message>
+        <source>16 bit</source>
+        <translation>16 ビット</translation>
+    </message>
+    <message>
+        <source>Surround 5.1</source>
+        <translation>サラウンド 5.1</translation>
+    </message>
+    <message>
+        <source>Wideband</source>
+        <translation>広帯域</translation>
+    </message>
+    <message>
+        <source>2K</source>
+        <translation>2K</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
+    </message>
+    <message>
+        <source>48000 Hz</source>
+        <translation>48000 Hz</translation>
+    </message>
+    <message>
+        <source>4K</source>
+        <translation>4K</translation>
+    </message>
+    <message>
+        <source>4K TV</source>
+        <translation>4Kテレビ</translation>
+    </message>
+    <message>
+        <source>4K TV MKV</source>
+        <translation>4Kテレビ MKV</translation>
+    </message>
+    <message>
+        <source>96000 Hz</source>
+        <translation>96000 Hz</translation>
+    </message>
+    <message>
+        <source>A HD 720P</source>
+        <translation>A HD 720P</translation>
+    </message>
+    <message>
+        <source>Apple TV 4K</source>
+        <translation>Apple TV 4K</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 1080P</source>
+        <translation>Apple TV HD 1080P</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 720P</source>
+        <translation>Apple TV HD 720P</translation>
+    </message>
+    <message>
+        <source>BRAVIA 4K</source>
+        <translation>BRAVIA 4K</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 1080P</source>
+        <translation>BRAVIA HD 1080P</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 720P</source>
+        <translation>BRAVIA HD 720P</translation>
+    </message>
+    <message>
+        <source>CIF 288P</source>
+        <translation>CIF 288P</translation>
+    </message>
+    <message>
+        <source>Chromecast 4K</source>
+        <translation>Chromecast 4K</translation>
+    </message>
+    <message>
+        <source>Chromecast HD 1080P</source>
+        <translation>Chromecast HD 1080P</translation>
+    </message>
+    <message>
+        <source>Clip Portrait HD 1080P</source>
+        <translation>クリップ縦長 HD 1080P</translation>
+    </message>
+    <message>
+        <source>DivX TV SD 576P</source>
+        <translation>DivX TV SD 576P</translation>
+    </message>
+    <message>
+        <source>Echo Show HD 720P</source>
+        <translation>Echo Show HD 720P</translation>
+    </message>
+    <message>
+        <source>Find X 4K</source>
+        <translation>Find X 4K</translation>
+    </message>
+    <message>
+        <source>Find X HD 1080P</source>
+        <translation>Find X HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire 7 SD 576P</source>
+        <translation>Fire 7 SD 576P</translation>
+    </message>
+    <message>
+        <source>Fire HD 10 HD 1080P</source>
+        <translation>Fire HD 10 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire HD 8 HD 720P</source>
+        <translation>Fire HD 8 HD 720P</translation>
+    </message>
+    <message>
+        <source>Fire Max 11 HD 1080P</source>
+        <translation>Fire Max 11 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire TV 4K</source>
+        <translation>Fire TV 4K</translation>
+    </message>
+    <message>
+        <source>Fire TV Stick HD 1080P</source>
+        <translation>Fire TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>Full HD TV</source>
+        <translation>フルHDテレビ</translation>
+    </message>
+    <message>
+        <source>Full HD TV TS</source>
+        <translation>フルHDテレビ TS</translation>
+    </message>
+    <message>
+        <source>G Series HD 1080P</source>
+        <translation>G Series HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 1080P</source>
+        <translation>Galaxy A HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 720P</source>
+        <translation>Galaxy A HD 720P</translation>
+    </message>
+    <message>
+        <source>Galaxy S 4K</source>
+        <translation>Galaxy S 4K</translation>
+    </message>
+    <message>
+        <source>Galaxy S HD 1080P</source>
+        <translation>Galaxy S HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab 2K</source>
+        <translation>Galaxy Tab 2K</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 1080P</source>
+        <translation>Galaxy Tab HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 720P</source>
+        <translation>Galaxy Tab HD 720P</translation>
+    </message>
+    <message>
+        <source>HD 1080P</source>
+        <translation>HD 1080P</translation>
+    </message>
+    <message>
+        <source>HD 720P</source>
+        <translation>HD 720P</translation>
+    </message>
+    <message>
+        <source>HD Ready TV</source>
+        <translation>HDテレビ</translation>
+    </message>
+    <message>
+        <source>K Series HD 720P</source>
+        <translation>K Series HD 720P</translation>
+    </message>
+    <message>
+        <source>Mate 4K</source>
+        <translation>Mate 4K</translation>
+    </message>
+    <message>
+        <source>MatePad 2K</source>
+        <translation>MatePad 2K</translation>
+    </message>
+    <message>
+        <source>MatePad HD 1080P</source>
+        <translation>MatePad HD 1080P</translation>
+    </message>
+    <message>
+        <source>NTSC 240P</source>
+        <translation>NTSC 240P</translation>
+    </message>
+    <message>
+        <source>NTSC 480P</source>
+        <translation>NTSC 480P</translation>
+    </message>
+    <message>
+        <source>Nest Hub HD 720P</source>
+        <translation>Nest Hub HD 720P</translation>
+    </message>
+    <message>
+        <source>New 3DS SD 240P</source>
+        <translation>New 3DS SD 240P</translation>
+    </message>
+    <message>
+        <source>OLED TV 4K</source>
+        <translation>OLED TV 4K</translation>
+    </message>
+    <message>
+        <source>OPPO Pad 2K</source>
+        <translation>OPPO Pad 2K</translation>
+    </message>
+    <message>
+        <source>P HD 1080P</source>
+        <translation>P HD 1080P</translation>
+    </message>
+    <message>
+        <source>PAL 288P</source>
+        <translation>PAL 288P</translation>
+    </message>
+    <message>
+        <source>PAL 576P</source>
+        <translation>PAL 576P</translation>
+    </message>
+    <message>
+        <source>PS Vita HD 720P</source>
+        <translation>PS Vita HD 720P</translation>
+    </message>
+    <message>
+        <source>PSP SD 272P</source>
+        <translation>PSP SD 272P</translation>
+    </message>
+    <message>
+        <source>Pixel 4K</source>
+        <translation>Pixel 4K</translation>
+    </message>
+    <message>
+        <source>Pixel 4K WEBM</source>
+        <translation>Pixel 4K WEBM</translation>
+    </message>
+    <message>
+        <source>Pixel HD 1080P</source>
+        <translation>Pixel HD 1080P</translation>
+    </message>
+    <message>
+        <source>Pixel Tablet 2K</source>
+        <translation>Pixel Tablet 2K</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 1080P</source>
+        <translation>PlayStation 3 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 720P</source>
+        <translation>PlayStation 3 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P</source>
+        <translation>PlayStation 4 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P MKV</source>
+        <translation>PlayStation 4 HD 1080P MKV</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 720P</source>
+        <translation>PlayStation 4 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 4K</source>
+        <translation>PlayStation 5 4K</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 HD 1080P</source>
+        <translation>PlayStation 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait 4:5</source>
+        <translation>縦長 4:5</translation>
+    </message>
+    <message>
+        <source>Portrait 4K</source>
+        <translation>縦長 4K</translation>
+    </message>
+    <message>
+        <source>Portrait HD 1080P</source>
+        <translation>縦長 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait HD 720P</source>
+        <translation>縦長 HD 720P</translation>
+    </message>
+    <message>
+        <source>Portrait SD 540P</source>
+        <translation>縦長 SD 540P</translation>
+    </message>
+    <message>
+        <source>QCIF 144P</source>
+        <translation>QCIF 144P</translation>
+    </message>
+    <message>
+        <source>QVGA 240P</source>
+        <translation>QVGA 240P</translation>
+    </message>
+    <message>
+        <source>Redmi HD 720P</source>
+        <translation>Redmi HD 720P</translation>
+    </message>
+    <message>
+        <source>Redmi Note HD 1080P</source>
+        <translation>Redmi Note HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 1080P</source>
+        <translation>Reels HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 720P</source>
+        <translation>Reels HD 720P</translation>
+    </message>
+    <message>
+        <source>Reno HD 1080P</source>
+        <translation>Reno HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 1080P</source>
+        <translation>Roku Express HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 720P</source>
+        <translation>Roku Express HD 720P</translation>
+    </message>
+    <message>
+        <source>Roku TV 4K</source>
+        <translation>Roku TV 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K</source>
+        <translation>Roku Ultra 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K MKV</source>
+        <translation>Roku Ultra 4K MKV</translation>
+    </message>
+    <message>
+        <source>SD 180P</source>
+        <translation>SD 180P</translation>
+    </message>
+    <message>
+        <source>SD 240P</source>
+        <translation>SD 240P</translation>
+    </message>
+    <message>
+        <source>SD 360P</source>
+        <translation>SD 360P</translation>
+    </message>
+    <message>
+        <source>SD 480P</source>
+        <translation>SD 480P</translation>
+    </message>
+    <message>
+        <source>SD 576P</source>
+        <translation>SD 576P</translation>
+    </message>
+    <message>
+        <source>Shorts 4K</source>
+        <translation>Shorts 4K</translation>
+    </message>
+    <message>
+        <source>Shorts HD 1080P</source>
+        <translation>Shorts HD 1080P</translation>
+    </message>
+    <message>
+        <source>Shorts HD 720P</source>
+        <translation>Shorts HD 720P</translation>
+    </message>
+    <message>
+        <source>Smart TV 4K</source>
+        <translation>スマートテレビ 4K</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 1080P</source>
+        <translation>スマートテレビ HD 1080P</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 720P</source>
+        <translation>スマートテレビ HD 720P</translation>
+    </message>
+    <message>
+        <source>Square HD 1080P</source>
+        <translation>正方形 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Square HD 720P</source>
+        <translation>正方形 HD 720P</translation>
+    </message>
+    <message>
+        <source>Story HD 1080P</source>
+        <translation>ストーリー HD 1080P</translation>
+    </message>
+    <message>
+        <source>TV Box 4K</source>
+        <translation>テレビボックス 4K</translation>
+    </message>
+    <message>
+        <source>TV Stick HD 1080P</source>
+        <translation>TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>V Series 4K</source>
+        <translation>V Series 4K</translation>
+    </message>
+    <message>
+        <source>Wii SD 480P</source>
+        <translation>Wii SD 480P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 1080P</source>
+        <translation>Wii U HD 1080P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 720P</source>
+        <translation>Wii U HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 1080P</source>
+        <translation>Xbox 360 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 720P</source>
+        <translation>Xbox 360 HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 1080P</source>
+        <translation>Xbox One HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 720P</source>
+        <translation>Xbox One HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One X 4K</source>
+        <translation>Xbox One X 4K</translation>
+    </message>
+    <message>
+        <source>Xbox Series S 2K</source>
+        <translation>Xbox Series S 2K</translation>
+    </message>
+    <message>
+        <source>Xbox Series X 4K</source>
+        <translation>Xbox Series X 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi 4K</source>
+        <translation>Xiaomi 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi HD 1080P</source>
+        <translation>Xiaomi HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xiaomi Pad 2K</source>
+        <translation>Xiaomi Pad 2K</translation>
+    </message>
+    <message>
+        <source>Xperia 1 4K</source>
+        <translation>Xperia 1 4K</translation>
+    </message>
+    <message>
+        <source>Xperia 5 HD 1080P</source>
+        <translation>Xperia 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xperia L HD 720P</source>
+        <translation>Xperia L HD 720P</translation>
+    </message>
+    <message>
+        <source>Y HD 720P</source>
+        <translation>Y HD 720P</translation>
+    </message>
+    <message>
+        <source>iPad 4K</source>
+        <translation>iPad 4K</translation>
+    </message>
+    <message>
+        <source>iPad HD 1080P</source>
+        <translation>iPad HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPad HD 720P</source>
+        <translation>iPad HD 720P</translation>
+    </message>
+    <message>
+        <source>iPhone 4K</source>
+        <translation>iPhone 4K</translation>
+    </message>
+    <message>
+        <source>iPhone HD 1080P</source>
+        <translation>iPhone HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPhone HD 720P</source>
+        <translation>iPhone HD 720P</translation>
+    </message>
+    <message>
+        <source>nova HD 1080P</source>
+        <translation>nova HD 1080P</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegArguments</name>
+    <message>
+        <source>has no video; choose an audio preset</source>
+        <translation>動画がありません。音声の形式を選んでください</translation>
+    </message>
+    <message>
+        <source>has no sound; choose a video preset</source>
+        <translation>音声がありません。動画の形式を選んでください</translation>
+    </message>
+    <message>
+        <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
+        <translation>.%1 ファイルに動画は入りません。音声の形式を選んでください</translation>
+    </message>
+    <message>
+        <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
+        <translation>%2 にはエンコーダー %1 が必要ですが、この ffmpeg にはありません。別のエンコーダーの形式を選ぶか、対応する ffmpeg をインストールしてください</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> または </translation>
+    </message>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>「.%1」のファイルは書き出せません。別の形式を選んでください</translation>
+    </message>
+</context>
+<context>
+    <name>Conversion</name>
+    <message>
+        <source>the disk with %1 is full; free some space or choose another folder</source>
+        <translation>%1 のディスクがいっぱいです。空きを作るか別のフォルダーを選んでください</translation>
+    </message>
+    <message>
+        <source>ffmpeg couldn&apos;t convert it (%1); check the file or try another preset</source>
+        <translation>ffmpeg で変換できませんでした（%1）。ファイルを確認するか別の形式をお試しください</translation>
+    </message>
+    <message>
+        <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
+        <translation>再生できないファイルができました。別の形式をお試しください</translation>
+    </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
+        <translation>%1 に結果を置けませんでした。別のフォルダーを選んでください</translation>
+    </message>
+</context>
+<context>
+    <name>MediaProbe</name>
+    <message>
+        <source>no such file; check its name</source>
+        <translation>ファイルがありません。名前を確認してください</translation>
+    </message>
+    <message>
+        <source>this is a folder; name the files in it</source>
+        <translation>フォルダーです。中のファイルを選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be read as media (%1); check that it is a complete video or audio file</source>
+        <translation>動画や音声として読めません（%1）。完全なファイルか確認してください</translation>
+    </message>
+    <message>
+        <source>holds neither video nor audio; choose a video or audio file</source>
+        <translation>動画も音声もありません。動画か音声のファイルを選んでください</translation>
+    </message>
+</context>
+<context>
+    <name>PendingFile</name>
+    <message>
+        <source>the folder %1 doesn&apos;t exist; make it or choose another one</source>
+        <translation>フォルダー %1 がありません。作成するか別のフォルダーを選んでください</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the folder %1 (%2); choose another one</source>
+        <translation>フォルダー %1 に書き込めません（%2）。別のフォルダーを選んでください</translation>
+    </message>
+</context>
+<context>
+    <name>PresetStore</name>
+    <message>
+        <source>another program is writing the presets in %1; try again when it is done</source>
+        <translation>別のプログラムが %1 の設定を使っています。終わってからやり直してください</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1; name another one</source>
+        <translation>設定フォルダー %1 に書き込めません。別のフォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
+        <translation>%1 が壊れていたため、最後の正常なコピーに戻しました。壊れたファイルは %2 として残しています</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 が壊れていて正常なコピーもありません。%2 として残しています</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
+        <translation>%1 のコピーを保存できません。ディスクの空きを作ってください</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
+        <translation>%1 に書き込めず、元のままです。ディスクと権限を確認してください</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
+        <translation>%1 が壊れていて読めません。修復するか別の場所に移してください</translation>
+    </message>
+</context>
+<context>
+    <name>ToolOutcome</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 は理由を示さずに止まりました</translation>
+    </message>
+    <message>
+        <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
+        <translation>%1 が PATH にありません。ffmpeg をインストール（Debian: apt-get install ffmpeg）してやり直してください</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,917 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Vex</name>
+    <message>
+        <source>Convert all to</source>
+        <translation>全部转换为</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>recently</source>
+        <translation>最近使用</translation>
+    </message>
+    <message>
+        <source>video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>socialVideo</source>
+        <translation>网络视频</translation>
+    </message>
+    <message>
+        <source>Format search</source>
+        <translation>搜索格式</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>暂无数据</translation>
+    </message>
+    <message>
+        <source>Keep Orignal</source>
+        <translation>与源文件相同</translation>
+    </message>
+    <message>
+        <source>Smart Fit</source>
+        <translation>智能匹配</translation>
+    </message>
+    <message>
+        <source>The selected format cannot be deleted because it is in use.</source>
+        <translation>所选格式正在使用中，无法删除。</translation>
+    </message>
+    <message>
+        <source>The format you searched for was not found</source>
+        <translation>未找到您搜索的格式</translation>
+    </message>
+    <message>
+        <source>Preference</source>
+        <translation>参数设置</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>High Quality</source>
+        <translation>高质量</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>Low Quality</source>
+        <translation>低质量</translation>
+    </message>
+    <message>
+        <source>Middle Quality</source>
+        <translation>中等质量</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>编码器</translation>
+    </message>
+    <message>
+        <source>Frame Rate</source>
+        <translation>帧率</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>比特率</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>声道</translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation>采样率</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>创建</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Converter</source>
+        <translation>转换</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>添加文件</translation>
+    </message>
+    <message>
+        <source>Choose folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Drop videos or songs here</source>
+        <translation>将视频或音乐拖放到此处</translation>
+    </message>
+    <message>
+        <source>Then choose a format and press Convert All</source>
+        <translation>然后选择格式并点击“全部转换”</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>转换</translation>
+    </message>
+    <message>
+        <source>Convert All</source>
+        <translation>全部转换</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>全部停止</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>从列表中移除</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Same folder as the source</source>
+        <translation>与源文件相同的文件夹</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>保存到</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>Converting …</source>
+        <translation>正在转换…</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>已转换</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>The window can&apos;t be made</source>
+        <translation>无法创建窗口</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>与源文件相同</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>语音</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>无损</translation>
+    </message>
+    <message>
+        <source>CD Quality</source>
+        <translation>CD 音质</translation>
+    </message>
+    <message>
+        <source>32 bit float</source>
+        <translation>32 位浮点</translation>
+    </message>
+    <message>
+        <source>32 bit</source>
+        <translation>32 位</translation>
+    </message>
+    <message>
+        <source>24 bit</source>
+        <translation>24 位</translation>
+    </message>
+    <message>
+        <source>16 bit</source>
+        <translation>16 位</translation>
+    </message>
+    <message>
+        <source>Surround 5.1</source>
+        <translation>5.1 环绕声</translation>
+    </message>
+    <message>
+        <source>Wideband</source>
+        <translation>宽带</translation>
+    </message>
+    <message>
+        <source>2K</source>
+        <translation>2K</translation>
+    </message>
+    <message>
+        <source>44100 Hz</source>
+        <translation>44100 Hz</translation>
+    </message>
+    <message>
+        <source>48000 Hz</source>
+        <translation>48000 Hz</translation>
+    </message>
+    <message>
+        <source>4K</source>
+        <translation>4K</translation>
+    </message>
+    <message>
+        <source>4K TV</source>
+        <translation>4K 电视</translation>
+    </message>
+    <message>
+        <source>4K TV MKV</source>
+        <translation>4K 电视 MKV</translation>
+    </message>
+    <message>
+        <source>96000 Hz</source>
+        <translation>96000 Hz</translation>
+    </message>
+    <message>
+        <source>A HD 720P</source>
+        <translation>A HD 720P</translation>
+    </message>
+    <message>
+        <source>Apple TV 4K</source>
+        <translation>Apple TV 4K</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 1080P</source>
+        <translation>Apple TV HD 1080P</translation>
+    </message>
+    <message>
+        <source>Apple TV HD 720P</source>
+        <translation>Apple TV HD 720P</translation>
+    </message>
+    <message>
+        <source>BRAVIA 4K</source>
+        <translation>BRAVIA 4K</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 1080P</source>
+        <translation>BRAVIA HD 1080P</translation>
+    </message>
+    <message>
+        <source>BRAVIA HD 720P</source>
+        <translation>BRAVIA HD 720P</translation>
+    </message>
+    <message>
+        <source>CIF 288P</source>
+        <translation>CIF 288P</translation>
+    </message>
+    <message>
+        <source>Chromecast 4K</source>
+        <translation>Chromecast 4K</translation>
+    </message>
+    <message>
+        <source>Chromecast HD 1080P</source>
+        <translation>Chromecast HD 1080P</translation>
+    </message>
+    <message>
+        <source>Clip Portrait HD 1080P</source>
+        <translation>短片竖屏 HD 1080P</translation>
+    </message>
+    <message>
+        <source>DivX TV SD 576P</source>
+        <translation>DivX TV SD 576P</translation>
+    </message>
+    <message>
+        <source>Echo Show HD 720P</source>
+        <translation>Echo Show HD 720P</translation>
+    </message>
+    <message>
+        <source>Find X 4K</source>
+        <translation>Find X 4K</translation>
+    </message>
+    <message>
+        <source>Find X HD 1080P</source>
+        <translation>Find X HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire 7 SD 576P</source>
+        <translation>Fire 7 SD 576P</translation>
+    </message>
+    <message>
+        <source>Fire HD 10 HD 1080P</source>
+        <translation>Fire HD 10 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire HD 8 HD 720P</source>
+        <translation>Fire HD 8 HD 720P</translation>
+    </message>
+    <message>
+        <source>Fire Max 11 HD 1080P</source>
+        <translation>Fire Max 11 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Fire TV 4K</source>
+        <translation>Fire TV 4K</translation>
+    </message>
+    <message>
+        <source>Fire TV Stick HD 1080P</source>
+        <translation>Fire TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>Full HD TV</source>
+        <translation>全高清电视</translation>
+    </message>
+    <message>
+        <source>Full HD TV TS</source>
+        <translation>全高清电视 TS</translation>
+    </message>
+    <message>
+        <source>G Series HD 1080P</source>
+        <translation>G Series HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 1080P</source>
+        <translation>Galaxy A HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy A HD 720P</source>
+        <translation>Galaxy A HD 720P</translation>
+    </message>
+    <message>
+        <source>Galaxy S 4K</source>
+        <translation>Galaxy S 4K</translation>
+    </message>
+    <message>
+        <source>Galaxy S HD 1080P</source>
+        <translation>Galaxy S HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab 2K</source>
+        <translation>Galaxy Tab 2K</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 1080P</source>
+        <translation>Galaxy Tab HD 1080P</translation>
+    </message>
+    <message>
+        <source>Galaxy Tab HD 720P</source>
+        <translation>Galaxy Tab HD 720P</translation>
+    </message>
+    <message>
+        <source>HD 1080P</source>
+        <translation>HD 1080P</translation>
+    </message>
+    <message>
+        <source>HD 720P</source>
+        <translation>HD 720P</translation>
+    </message>
+    <message>
+        <source>HD Ready TV</source>
+        <translation>高清电视</translation>
+    </message>
+    <message>
+        <source>K Series HD 720P</source>
+        <translation>K Series HD 720P</translation>
+    </message>
+    <message>
+        <source>Mate 4K</source>
+        <translation>Mate 4K</translation>
+    </message>
+    <message>
+        <source>MatePad 2K</source>
+        <translation>MatePad 2K</translation>
+    </message>
+    <message>
+        <source>MatePad HD 1080P</source>
+        <translation>MatePad HD 1080P</translation>
+    </message>
+    <message>
+        <source>NTSC 240P</source>
+        <translation>NTSC 240P</translation>
+    </message>
+    <message>
+        <source>NTSC 480P</source>
+        <translation>NTSC 480P</translation>
+    </message>
+    <message>
+        <source>Nest Hub HD 720P</source>
+        <translation>Nest Hub HD 720P</translation>
+    </message>
+    <message>
+        <source>New 3DS SD 240P</source>
+        <translation>New 3DS SD 240P</translation>
+    </message>
+    <message>
+        <source>OLED TV 4K</source>
+        <translation>OLED TV 4K</translation>
+    </message>
+    <message>
+        <source>OPPO Pad 2K</source>
+        <translation>OPPO Pad 2K</translation>
+    </message>
+    <message>
+        <source>P HD 1080P</source>
+        <translation>P HD 1080P</translation>
+    </message>
+    <message>
+        <source>PAL 288P</source>
+        <translation>PAL 288P</translation>
+    </message>
+    <message>
+        <source>PAL 576P</source>
+        <translation>PAL 576P</translation>
+    </message>
+    <message>
+        <source>PS Vita HD 720P</source>
+        <translation>PS Vita HD 720P</translation>
+    </message>
+    <message>
+        <source>PSP SD 272P</source>
+        <translation>PSP SD 272P</translation>
+    </message>
+    <message>
+        <source>Pixel 4K</source>
+        <translation>Pixel 4K</translation>
+    </message>
+    <message>
+        <source>Pixel 4K WEBM</source>
+        <translation>Pixel 4K WEBM</translation>
+    </message>
+    <message>
+        <source>Pixel HD 1080P</source>
+        <translation>Pixel HD 1080P</translation>
+    </message>
+    <message>
+        <source>Pixel Tablet 2K</source>
+        <translation>Pixel Tablet 2K</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 1080P</source>
+        <translation>PlayStation 3 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 3 HD 720P</source>
+        <translation>PlayStation 3 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P</source>
+        <translation>PlayStation 4 HD 1080P</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 1080P MKV</source>
+        <translation>PlayStation 4 HD 1080P MKV</translation>
+    </message>
+    <message>
+        <source>PlayStation 4 HD 720P</source>
+        <translation>PlayStation 4 HD 720P</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 4K</source>
+        <translation>PlayStation 5 4K</translation>
+    </message>
+    <message>
+        <source>PlayStation 5 HD 1080P</source>
+        <translation>PlayStation 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait 4:5</source>
+        <translation>竖屏 4:5</translation>
+    </message>
+    <message>
+        <source>Portrait 4K</source>
+        <translation>竖屏 4K</translation>
+    </message>
+    <message>
+        <source>Portrait HD 1080P</source>
+        <translation>竖屏 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Portrait HD 720P</source>
+        <translation>竖屏 HD 720P</translation>
+    </message>
+    <message>
+        <source>Portrait SD 540P</source>
+        <translation>竖屏 SD 540P</translation>
+    </message>
+    <message>
+        <source>QCIF 144P</source>
+        <translation>QCIF 144P</translation>
+    </message>
+    <message>
+        <source>QVGA 240P</source>
+        <translation>QVGA 240P</translation>
+    </message>
+    <message>
+        <source>Redmi HD 720P</source>
+        <translation>Redmi HD 720P</translation>
+    </message>
+    <message>
+        <source>Redmi Note HD 1080P</source>
+        <translation>Redmi Note HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 1080P</source>
+        <translation>Reels HD 1080P</translation>
+    </message>
+    <message>
+        <source>Reels HD 720P</source>
+        <translation>Reels HD 720P</translation>
+    </message>
+    <message>
+        <source>Reno HD 1080P</source>
+        <translation>Reno HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 1080P</source>
+        <translation>Roku Express HD 1080P</translation>
+    </message>
+    <message>
+        <source>Roku Express HD 720P</source>
+        <translation>Roku Express HD 720P</translation>
+    </message>
+    <message>
+        <source>Roku TV 4K</source>
+        <translation>Roku TV 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K</source>
+        <translation>Roku Ultra 4K</translation>
+    </message>
+    <message>
+        <source>Roku Ultra 4K MKV</source>
+        <translation>Roku Ultra 4K MKV</translation>
+    </message>
+    <message>
+        <source>SD 180P</source>
+        <translation>SD 180P</translation>
+    </message>
+    <message>
+        <source>SD 240P</source>
+        <translation>SD 240P</translation>
+    </message>
+    <message>
+        <source>SD 360P</source>
+        <translation>SD 360P</translation>
+    </message>
+    <message>
+        <source>SD 480P</source>
+        <translation>SD 480P</translation>
+    </message>
+    <message>
+        <source>SD 576P</source>
+        <translation>SD 576P</translation>
+    </message>
+    <message>
+        <source>Shorts 4K</source>
+        <translation>Shorts 4K</translation>
+    </message>
+    <message>
+        <source>Shorts HD 1080P</source>
+        <translation>Shorts HD 1080P</translation>
+    </message>
+    <message>
+        <source>Shorts HD 720P</source>
+        <translation>Shorts HD 720P</translation>
+    </message>
+    <message>
+        <source>Smart TV 4K</source>
+        <translation>智能电视 4K</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 1080P</source>
+        <translation>智能电视 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Smart TV HD 720P</source>
+        <translation>智能电视 HD 720P</translation>
+    </message>
+    <message>
+        <source>Square HD 1080P</source>
+        <translation>方形 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Square HD 720P</source>
+        <translation>方形 HD 720P</translation>
+    </message>
+    <message>
+        <source>Story HD 1080P</source>
+        <translation>快拍 HD 1080P</translation>
+    </message>
+    <message>
+        <source>TV Box 4K</source>
+        <translation>电视盒子 4K</translation>
+    </message>
+    <message>
+        <source>TV Stick HD 1080P</source>
+        <translation>TV Stick HD 1080P</translation>
+    </message>
+    <message>
+        <source>V Series 4K</source>
+        <translation>V Series 4K</translation>
+    </message>
+    <message>
+        <source>Wii SD 480P</source>
+        <translation>Wii SD 480P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 1080P</source>
+        <translation>Wii U HD 1080P</translation>
+    </message>
+    <message>
+        <source>Wii U HD 720P</source>
+        <translation>Wii U HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 1080P</source>
+        <translation>Xbox 360 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox 360 HD 720P</source>
+        <translation>Xbox 360 HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 1080P</source>
+        <translation>Xbox One HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xbox One HD 720P</source>
+        <translation>Xbox One HD 720P</translation>
+    </message>
+    <message>
+        <source>Xbox One X 4K</source>
+        <translation>Xbox One X 4K</translation>
+    </message>
+    <message>
+        <source>Xbox Series S 2K</source>
+        <translation>Xbox Series S 2K</translation>
+    </message>
+    <message>
+        <source>Xbox Series X 4K</source>
+        <translation>Xbox Series X 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi 4K</source>
+        <translation>Xiaomi 4K</translation>
+    </message>
+    <message>
+        <source>Xiaomi HD 1080P</source>
+        <translation>Xiaomi HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xiaomi Pad 2K</source>
+        <translation>Xiaomi Pad 2K</translation>
+    </message>
+    <message>
+        <source>Xperia 1 4K</source>
+        <translation>Xperia 1 4K</translation>
+    </message>
+    <message>
+        <source>Xperia 5 HD 1080P</source>
+        <translation>Xperia 5 HD 1080P</translation>
+    </message>
+    <message>
+        <source>Xperia L HD 720P</source>
+        <translation>Xperia L HD 720P</translation>
+    </message>
+    <message>
+        <source>Y HD 720P</source>
+        <translation>Y HD 720P</translation>
+    </message>
+    <message>
+        <source>iPad 4K</source>
+        <translation>iPad 4K</translation>
+    </message>
+    <message>
+        <source>iPad HD 1080P</source>
+        <translation>iPad HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPad HD 720P</source>
+        <translation>iPad HD 720P</translation>
+    </message>
+    <message>
+        <source>iPhone 4K</source>
+        <translation>iPhone 4K</translation>
+    </message>
+    <message>
+        <source>iPhone HD 1080P</source>
+        <translation>iPhone HD 1080P</translation>
+    </message>
+    <message>
+        <source>iPhone HD 720P</source>
+        <translation>iPhone HD 720P</translation>
+    </message>
+    <message>
+        <source>nova HD 1080P</source>
+        <translation>nova HD 1080P</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegArguments</name>
+    <message>
+        <source>has no video; choose an audio preset</source>
+        <translation>没有视频；请选择音频预设</translation>
+    </message>
+    <message>
+        <source>has no sound; choose a video preset</source>
+        <translation>没有声音；请选择视频预设</translation>
+    </message>
+    <message>
+        <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
+        <translation>.%1 文件不能包含视频；请选择音频预设</translation>
+    </message>
+    <message>
+        <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
+        <translation>%2 需要编码器 %1，但此 ffmpeg 没有；请选择使用其他编码器的预设，或安装带有它的 ffmpeg</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> 或 </translation>
+    </message>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>无法写入“.%1”类型的文件；请选择其他预设</translation>
+    </message>
+</context>
+<context>
+    <name>Conversion</name>
+    <message>
+        <source>the disk with %1 is full; free some space or choose another folder</source>
+        <translation>%1 所在的磁盘已满；请释放空间或选择其他文件夹</translation>
+    </message>
+    <message>
+        <source>ffmpeg couldn&apos;t convert it (%1); check the file or try another preset</source>
+        <translation>ffmpeg 无法转换（%1）；请检查文件或尝试其他预设</translation>
+    </message>
+    <message>
+        <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
+        <translation>ffmpeg 写出的文件无法播放；请尝试其他预设</translation>
+    </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
+        <translation>无法在 %1 中为结果命名；请选择其他文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>MediaProbe</name>
+    <message>
+        <source>no such file; check its name</source>
+        <translation>文件不存在；请检查文件名</translation>
+    </message>
+    <message>
+        <source>this is a folder; name the files in it</source>
+        <translation>这是文件夹；请选择其中的文件</translation>
+    </message>
+    <message>
+        <source>cannot be read as media (%1); check that it is a complete video or audio file</source>
+        <translation>无法作为媒体读取（%1）；请确认它是完整的视频或音频文件</translation>
+    </message>
+    <message>
+        <source>holds neither video nor audio; choose a video or audio file</source>
+        <translation>既没有视频也没有音频；请选择视频或音频文件</translation>
+    </message>
+</context>
+<context>
+    <name>PendingFile</name>
+    <message>
+        <source>the folder %1 doesn&apos;t exist; make it or choose another one</source>
+        <translation>文件夹 %1 不存在；请创建它或选择其他文件夹</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the folder %1 (%2); choose another one</source>
+        <translation>无法写入文件夹 %1（%2）；请选择其他文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>PresetStore</name>
+    <message>
+        <source>another program is writing the presets in %1; try again when it is done</source>
+        <translation>另一个程序正在使用 %1 中的预设；请在它结束后重试</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1; name another one</source>
+        <translation>无法写入配置文件夹 %1；请指定其他文件夹</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
+        <translation>%1 已损坏；已恢复其最近的完好副本，损坏的文件保存为 %2</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 已损坏且没有完好的副本；它保存为 %2</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
+        <translation>无法保存 %1 的副本；请释放磁盘空间</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
+        <translation>无法写入 %1，文件保持原样；请检查磁盘和权限</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
+        <translation>%1 已损坏，无法读取；请修复或移走它</translation>
+    </message>
+</context>
+<context>
+    <name>ToolOutcome</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 已停止，未说明原因</translation>
+    </message>
+    <message>
+        <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
+        <translation>PATH 中没有 %1；请安装 ffmpeg（Debian：apt-get install ffmpeg）后重试</translation>
+    </message>
+</context>
+</TS>

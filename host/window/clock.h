@@ -1,0 +1,16 @@
+#ifndef WINDOW_CLOCK_H
+#define WINDOW_CLOCK_H
+
+#include <QString>
+
+/*! Moments of a film as people write them. */
+namespace Clock {
+
+/*! Seconds of "1:02:03.5", "2:03" or "7.25"; -1 for anything else. */
+[[nodiscard]] double secondsOf(const QString &text);
+/*! "1:02:03", "2:03" or "0:07.25": exact to a hundredth, without zeros that say nothing. */
+[[nodiscard]] QString textOf(double seconds);
+
+} // namespace Clock
+
+#endif

@@ -1,0 +1,46 @@
+#ifndef WINDOW_DIALOGFRAME_H
+#define WINDOW_DIALOGFRAME_H
+
+#include <QObject>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QVariantMap>
+
+#include <memory>
+
+class QQmlEngine;
+
+/*!
+ * A dialog in a window of its own. The QML file that is its content calls it "O_Frame", and its
+ * window follows the content's size.
+ */
+class DialogFrame : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QVariantMap info READ info CONSTANT)
+
+public:
+    /*! \a info is what the dialog is about. Deletes itself when it is closed. */
+    DialogFrame(QQmlEngine &engine, const QUrl &content, const QVariantMap &info,
+                QWindow *transientParent);
+    ~DialogFrame() override;
+
+    QVariantMap info() const { return m_info; }
+    QQuickWindow *window() { return &m_window; }
+
+    Q_INVOKABLE void resizeWinSize(int width, int height);
+    /*! Closes the dialog. \a id is the preset that it saved, if any. */
+    Q_INVOKABLE void cancelClicked(const QString &id = QString());
+    /*! For a press on the title bar: the window system moves the window with the mouse. */
+    Q_INVOKABLE void startMoving();
+
+Q_SIGNALS:
+    void closed(const QString &savedId);
+
+private:
+    const QVariantMap m_info;
+    QQuickWindow m_window;
+    std::unique_ptr<QQuickItem> m_content;
+};
+
+#endif

@@ -1,0 +1,48 @@
+#include "host/window/languages.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+QStringList Languages::all()
+{
+    return {QStringLiteral("en"), QStringLiteral("zh"), QStringLiteral("de"),
+            QStringLiteral("es"), QStringLiteral("fr"), QStringLiteral("ja")};
+}
+
+QString Languages::suiting(const QString &locale)
+{
+    const QString language = locale.left(2).toLower();
+    const bool isWholeWord = locale.size() == 2 || !locale.at(2).isLetter();
+    return isWholeWord && all().contains(language) ? language : QString();
+}
+
+void Languages::install(const QString &code)
+{
+    QLocale::setDefault(QLocale(code));
+    const auto load = [](const QString &file, const QString &folder) {
+        auto *translator = new QTranslator(QCoreApplication::instance());
+        if (translator->load(file, folder)) {
+            QCoreApplication::installTranslator(translator);
+        } else {
+            delete translator;
+        }
+    };
+    // Qt's own catalogue serves the file dialogs; not every system has it.
+    load(QStringLiteral("qtbase_") + (code == QLatin1String("zh") ? QStringLiteral("zh_CN") : code),
+         QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    load(QStringLiteral("vex_") + code, QStringLiteral(":/translations"));
+}
+
+QString Languages::ofSystem()
+{
+    const QStringList wanted = QLocale::system().uiLanguages();
+    for (const QString &locale : wanted) {
+        const QString code = suiting(locale);
+        if (!code.isEmpty()) {
+            return code;
+        }
+    }
+    return QStringLiteral("en");
+}

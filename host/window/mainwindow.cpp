@@ -1,0 +1,124 @@
+#include "host/window/mainwindow.h"
+
+#include "host/window/pageproxies.h"
+#include "host/window/presets.h"
+#include "host/window/settings.h"
+
+#include "formats/proxy/formatsproxy.h"
+
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQuickWindow>
+
+/*! The resources of a static library have to be asked for, from outside of any namespace. */
+static void initResources()
+{
+    Q_INIT_RESOURCE(window);
+    Q_INIT_RESOURCE(translations);
+}
+
+MainWindow::MainWindow(const QString &configFolder, QObject *parent)
+    : QObject(parent)
+    , m_store(configFolder)
+{
+    initResources();
+}
+
+MainWindow::~MainWindow()
+{
+    m_engine.reset();
+    if (m_presets != nullptr) {
+        m_presets->flush();
+    }
+}
+
+QString MainWindow::open()
+{
+    const QString refusal = m_store.lock(0);
+    if (!refusal.isEmpty()) {
+        return refusal;
+    }
+    const QStringList repairs = m_store.repair();
+    const QString problem = m_store.open(PresetStore::ReadWrite);
+    for (const QString &line : repairs) {
+        m_notices.add(line);
+    }
+    if (!problem.isEmpty()) {
+        m_notices.add(problem);
+    }
+    m_settings = std::make_unique<Settings>(m_store.filePath(QStringLiteral("vexconvert.ini")));
+    m_presets = std::make_unique<Presets>(m_store);
+    m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets);
+    m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets);
+    connect(m_presets.get(), &Presets::saveFailed, &m_notices, &Notices::add);
+    connect(m_converter.get(), &ConverterProxy::editingAsked, this, &MainWindow::editPreset);
+    connect(m_converter.get(), &ConverterProxy::messageAsked, this,
+            [this](const QVariantMap &info) {
+                openDialog(QUrl(QStringLiteral("qrc:/modules/MessageBox/VEXMessage.qml")), info);
+            });
+    publish();
+    m_engine->load(QUrl(QStringLiteral("qrc:/window/Main.qml")));
+    if (window() == nullptr) {
+        return ToolFun::text(QStringLiteral("The window can't be made"));
+    }
+    window()->requestActivate();
+    return {};
+}
+
+QQuickWindow *MainWindow::window() const
+{
+    return m_engine == nullptr || m_engine->rootObjects().isEmpty()
+               ? nullptr
+               : qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
+}
+
+void MainWindow::publish()
+{
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    m_engine->addImportPath(QStringLiteral("qrc:/modules"));
+    qmlRegisterUncreatableMetaObject(Task::staticMetaObject, "Tasks", 1, 0, "Task",
+                                     QStringLiteral("holds the states of a task"));
+    // The scene is scaled as a whole for dense screens: sizes are the same everywhere.
+    m_engine->globalObject().setProperty(QStringLiteral("dpi"),
+                                         m_engine->evaluate(QStringLiteral("(function (n) { "
+                                                                           "return n })")));
+    QQmlContext *context = m_engine->rootContext();
+    const QVector<QQmlContext::PropertyPair> objects = {
+        {QStringLiteral("O_FormatsProxy"), QVariant::fromValue(&m_store.formats())},
+        {QStringLiteral("O_ConverterProxy"), QVariant::fromValue(m_converter.get())},
+        {QStringLiteral("O_EditorProxy"), QVariant::fromValue(m_editor.get())},
+        {QStringLiteral("O_Setting"), QVariant::fromValue(m_settings.get())},
+        {QStringLiteral("O_Notices"), QVariant::fromValue(&m_notices)},
+        {QStringLiteral("O_Files"), QVariant::fromValue(&m_files)},
+        {QStringLiteral("ToolFun"), QVariant::fromValue(&m_toolFun)},
+    };
+    context->setContextProperties(objects);
+    QQmlComponent theme(m_engine.get(), QUrl(QStringLiteral("qrc:/modules/VexTheme/Theme.qml")));
+    QObject *themeObject = theme.create(context);
+    themeObject->setParent(m_engine.get());
+    context->setContextProperty(QStringLiteral("VexThemeMgr"), themeObject);
+}
+
+void MainWindow::editPreset(const QVariantMap &info)
+{
+    openDialog(QUrl(QStringLiteral("qrc:/formats/DetailedParameterEditingMsgBox.qml")), info);
+    const QPointer<QObject> row = info.value(QStringLiteral("closeItem")).value<QObject *>();
+    const bool isUserDefined = info.value(QStringLiteral("userDefine")).toBool();
+    connect(m_dialog, &DialogFrame::closed, this, [this, row, isUserDefined](const QString &id) {
+        if (id.isEmpty()) {
+            return;
+        }
+        if (!isUserDefined) {
+            // The picker stays and shows the new preset.
+            Q_EMIT m_converter->signalCreateNewFormatMsgClose(id);
+        } else if (row != nullptr) {
+            QMetaObject::invokeMethod(row, "colseItem");
+        }
+    });
+}
+
+void MainWindow::openDialog(const QUrl &content, const QVariantMap &info)
+{
+    delete m_dialog;
+    m_dialog = new DialogFrame(*m_engine, content, info, window());
+}

@@ -1,0 +1,64 @@
+#ifndef WINDOW_MAINWINDOW_H
+#define WINDOW_MAINWINDOW_H
+
+#include "host/presets/presetstore.h"
+#include "host/window/dialogframe.h"
+#include "host/window/filechooser.h"
+#include "host/window/notices.h"
+#include "host/window/toolfun.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QQmlApplicationEngine>
+
+#include <memory>
+
+class ConverterProxy;
+class EditorProxy;
+class Presets;
+class QQuickWindow;
+class Settings;
+
+/*! The window with its two pages, and everything that the QML files find in their context. */
+class MainWindow : public QObject
+{
+    Q_OBJECT
+
+public:
+    /*! An empty \a configFolder is the platform's. */
+    explicit MainWindow(const QString &configFolder, QObject *parent = nullptr);
+    ~MainWindow() override;
+
+    /*!
+     * Takes the configuration folder for itself, puts good copies in the place of damaged files and
+     * shows the window. Returns why it can't, or an empty text.
+     */
+    [[nodiscard]] QString open();
+
+    /*! Null before open(). */
+    QQuickWindow *window() const;
+    /*! The dialog that is open; null when there is none. */
+    DialogFrame *dialog() const { return m_dialog; }
+    ConverterProxy &converter() const { return *m_converter; }
+    EditorProxy &editor() const { return *m_editor; }
+    Settings &settings() const { return *m_settings; }
+
+private:
+    void publish();
+    void editPreset(const QVariantMap &info);
+    void openDialog(const QUrl &content, const QVariantMap &info);
+
+    PresetStore m_store;
+    Notices m_notices;
+    ToolFun m_toolFun;
+    FileChooser m_files;
+    std::unique_ptr<Settings> m_settings;
+    std::unique_ptr<Presets> m_presets;
+    std::unique_ptr<ConverterProxy> m_converter;
+    std::unique_ptr<EditorProxy> m_editor;
+    QPointer<DialogFrame> m_dialog;
+    // Goes first: what it shows is all of the above.
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+};
+
+#endif

@@ -1,0 +1,29 @@
+#ifndef WINDOW_NOTICES_H
+#define WINDOW_NOTICES_H
+
+#include <QObject>
+#include <QStringList>
+
+/*! What the user ought to know, until it is dismissed; the QML files call it "O_Notices". */
+class Notices : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text NOTIFY textChanged)
+
+public:
+    using QObject::QObject;
+
+    /*! One line a notice; empty when there is none. */
+    QString text() const { return m_lines.join(QLatin1Char('\n')); }
+    /*! Shows the line and writes it to the log; a line that is shown already isn't repeated. */
+    void add(const QString &line);
+    Q_INVOKABLE void dismiss();
+
+Q_SIGNALS:
+    void textChanged();
+
+private:
+    QStringList m_lines;
+};
+
+#endif

@@ -1,0 +1,88 @@
+#ifndef WINDOW_PAGE_H
+#define WINDOW_PAGE_H
+
+#include "host/convert/conversion.h"
+#include "host/window/inspector.h"
+#include "host/window/settings.h"
+#include "host/window/tasklist.h"
+
+#include <QList>
+#include <QPointer>
+#include <QUrl>
+
+class Presets;
+
+/*!
+ * A page of the window: its list of files, its format and its folder, and the conversions, which
+ * run one after another. A task that fails says why and the next one has its turn.
+ */
+class Page : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(TaskList *tasks READ tasks CONSTANT)
+    Q_PROPERTY(QString globalCaption READ globalCaption NOTIFY globalFormatChanged)
+    Q_PROPERTY(QString globalIcon READ globalIcon NOTIFY globalFormatChanged)
+    Q_PROPERTY(QString folder READ folder WRITE setFolder NOTIFY folderChanged)
+    Q_PROPERTY(bool isBusy READ isBusy NOTIFY queueChanged)
+    Q_PROPERTY(bool canConvert READ canConvert NOTIFY queueChanged)
+
+public:
+    Page(PageKind kind, Settings &settings, Presets &presets, QObject *parent = nullptr);
+
+    TaskList *tasks() { return &m_tasks; }
+    QString globalCaption() const;
+    QString globalIcon() const;
+    /*! Where results go; empty: beside their sources. */
+    QString folder() const { return m_settings.folder(m_kind); }
+    void setFolder(const QString &folder);
+    /*! Whether any task is converted or waits for its turn. */
+    bool isBusy() const;
+    /*! Whether convertAll() would do anything. */
+    bool canConvert() const;
+
+    /*! Appends the files, and of folders the films and songs in them. */
+    Q_INVOKABLE void addFiles(const QList<QUrl> &urls);
+    /*! A running task is stopped first. */
+    Q_INVOKABLE void remove(int taskId);
+    Q_INVOKABLE void convert(int taskId);
+    /*! Converts whatever isn't converted yet. */
+    Q_INVOKABLE void convertAll();
+    Q_INVOKABLE void cancel(int taskId);
+    Q_INVOKABLE void cancelAll();
+    /*! Opens the folder of the task's result in the file manager. */
+    Q_INVOKABLE void showInFolder(int taskId);
+
+    /*! Whether a running or waiting task uses the preset. */
+    Q_INVOKABLE bool checkFormatUsed(const QString &id) const;
+
+Q_SIGNALS:
+    void globalFormatChanged();
+    void folderChanged();
+    void queueChanged();
+
+protected:
+    /*! The format of the page, for new files and for all in the list that aren't at work. */
+    void setGlobalFormat(const QString &id);
+    void setTaskFormat(int taskId, const QString &id);
+    /*! The part of the file to convert, in seconds; an \a end of 0 is the file's end. */
+    void setCut(int taskId, double start, double end);
+
+private:
+    void addFile(const QString &path);
+    void setState(int taskId, Task::State state);
+    void assign(int taskId, const QString &format);
+    void choose(int taskId, const QString &format);
+    void followPresets();
+    void runNext();
+    void finish(const ConversionOutcome &outcome);
+
+    const PageKind m_kind;
+    Settings &m_settings;
+    Presets &m_presets;
+    TaskList m_tasks;
+    Inspector m_inspector;
+    QPointer<Conversion> m_conversion;
+    int m_runningTask = 0;
+};
+
+#endif

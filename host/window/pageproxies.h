@@ -1,0 +1,62 @@
+#ifndef WINDOW_PAGEPROXIES_H
+#define WINDOW_PAGEPROXIES_H
+
+#include "host/window/page.h"
+
+#include <QVariantMap>
+
+/*! The converter page; the QML files call it "O_ConverterProxy". */
+class ConverterProxy : public Page
+{
+    Q_OBJECT
+
+public:
+    ConverterProxy(Settings &settings, Presets &presets, QObject *parent = nullptr)
+        : Page(PageKind::Converter, settings, presets, parent)
+    {}
+
+    Q_INVOKABLE void setConverterGlobalFormat(const QString &id) { setGlobalFormat(id); }
+    Q_INVOKABLE void setConvertingListTaskFormat(int listId, const QString &id)
+    {
+        setTaskFormat(listId, id);
+    }
+
+    /*! Opens the dialog that edits the preset described by \a info. */
+    Q_INVOKABLE void openConvertionParametersMsgBox(const QVariantMap &info)
+    {
+        Q_EMIT editingAsked(info);
+    }
+    /*! Opens a dialog that says info["showText"]. */
+    Q_INVOKABLE void openSelectFormatMsgBox(const QVariantMap &info) { Q_EMIT messageAsked(info); }
+
+Q_SIGNALS:
+    void editingAsked(const QVariantMap &info);
+    void messageAsked(const QVariantMap &info);
+    /*! The user made the preset \a id in the dialog. */
+    void signalCreateNewFormatMsgClose(const QString &id);
+};
+
+/*! The editor page; the QML files call it "O_EditorProxy". */
+class EditorProxy : public Page
+{
+    Q_OBJECT
+
+public:
+    EditorProxy(Settings &settings, Presets &presets, QObject *parent = nullptr)
+        : Page(PageKind::Editor, settings, presets, parent)
+    {}
+
+    Q_INVOKABLE void setEditorGlobalFormat(const QString &id) { setGlobalFormat(id); }
+    Q_INVOKABLE void setEditingListTaskFormat(int listId, const QString &id)
+    {
+        setTaskFormat(listId, id);
+    }
+
+    /*! Seconds for a moment such as "1:02.5"; -1 for what is none. */
+    Q_INVOKABLE double secondsOf(const QString &text) const;
+    Q_INVOKABLE QString clockOf(double seconds) const;
+    /*! Cuts the task to the part between these seconds; an \a end of 0 is the file's end. */
+    Q_INVOKABLE void cut(int taskId, double start, double end) { setCut(taskId, start, end); }
+};
+
+#endif

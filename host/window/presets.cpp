@@ -1,0 +1,80 @@
+#include "host/window/presets.h"
+
+#include "host/window/settings.h"
+#include "host/window/toolfun.h"
+
+#include "formats/proxy/formatsproxy.h"
+
+Presets::Presets(PresetStore &store, QObject *parent)
+    : QObject(parent)
+    , m_store(store)
+{
+    // One deed of the user's may change several rows: they are saved together.
+    m_change.setSingleShot(true);
+    m_change.setInterval(0);
+    connect(&m_change, &QTimer::timeout, this, &Presets::save);
+
+    const FormatListModel *formats = store.formats().formatListModel();
+    for (int row = 0; row < formats->rowCount(); ++row) {
+        watch(formats->formatDetailModel(formats->getTitle(row)));
+    }
+    watch(store.formats().recentlyFormatsModel());
+}
+
+QString Presets::usable(const QString &id, const QString &standIn) const
+{
+    for (const QString &candidate : {id, standIn}) {
+        if (!find(candidate).map.isEmpty()) {
+            return candidate;
+        }
+    }
+    return Settings::defaultPreset();
+}
+
+QString Presets::caption(const QString &id) const
+{
+    const FoundPreset preset = find(id);
+    const QString title = preset.map.value(QStringLiteral("title")).toString();
+    const QString shown = title == QLatin1String("Same as source")
+                              ? ToolFun::text(QStringLiteral("Keep Orignal"))
+                              : ToolFun::text(title);
+    return preset.className.isEmpty() ? shown
+                                      : QStringLiteral("%1 - %2").arg(preset.className, shown);
+}
+
+QString Presets::icon(const QString &id) const
+{
+    const QString name = m_store.formats().getClassIconById(id);
+    return name.isEmpty() ? QString() : QStringLiteral("qrc:/formats/image/%1.svg").arg(name);
+}
+
+void Presets::noteUse(const QString &id)
+{
+    const FoundPreset preset = find(id);
+    m_store.formats().add2Recently(preset.tag, preset.className, id);
+}
+
+void Presets::flush()
+{
+    if (m_change.isActive()) {
+        m_change.stop();
+        save();
+    }
+}
+
+void Presets::save()
+{
+    const QString problem = m_store.save();
+    if (!problem.isEmpty()) {
+        Q_EMIT saveFailed(problem);
+    }
+    Q_EMIT changed();
+}
+
+void Presets::watch(const QAbstractItemModel *presets)
+{
+    const auto note = [this] { m_change.start(); };
+    connect(presets, &QAbstractItemModel::rowsInserted, this, note);
+    connect(presets, &QAbstractItemModel::rowsRemoved, this, note);
+    connect(presets, &QAbstractItemModel::dataChanged, this, note);
+}

@@ -1,0 +1,228 @@
+#include "host/window/screenshots.h"
+
+#include "host/commandline/commandline.h"
+#include "host/media/tool.h"
+#include "host/window/pageproxies.h"
+
+#include "formats/proxy/formatsproxy.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QQuickItemGrabResult>
+#include <QQuickWindow>
+#include <QTimer>
+
+#include <algorithm>
+
+Screenshots::Screenshots(const QString &folder)
+    : m_folder(folder)
+    , m_window(m_work.filePath(QStringLiteral("config")))
+{}
+
+QString Screenshots::takeAll()
+{
+    if (!QDir().mkpath(m_folder.path())) {
+        return CommandLine::tr("can't make the folder %1; name another one").arg(m_folder.path());
+    }
+    m_problem = m_window.open();
+    if (!m_problem.isEmpty()) {
+        return m_problem;
+    }
+    take(QStringLiteral("converter-empty"));
+    showPage(1);
+    take(QStringLiteral("editor-empty"));
+    showPage(0);
+    takePickers();
+    takeDialogs();
+    takeTasks();
+    return m_problem;
+}
+
+void Screenshots::takePickers()
+{
+    openPicker();
+    const QVariantList tags = FormatsProxy::getInstance()->formatTags();
+    for (const QVariant &tag : tags) {
+        showTag(tag.toString());
+        take(QStringLiteral("picker-") + tag.toString());
+    }
+    showTag(QStringLiteral("video"));
+    type(QStringLiteral("mp"));
+    take(QStringLiteral("picker-search"));
+    type(QStringLiteral("zzz"));
+    take(QStringLiteral("picker-search-empty"));
+    QMetaObject::invokeMethod(picker(), "close");
+
+    for (const char *id : {"Audio_MP3_002", "Audio_FLAC_001", "Video_MKV_001", "Device_APPLE_001",
+                           "Video_WEBM_001", "Video_MP4_005", "Video_MP4_004"}) {
+        m_window.converter().setConverterGlobalFormat(QString::fromLatin1(id));
+    }
+    openPicker();
+    take(QStringLiteral("picker-recently-used"));
+    QMetaObject::invokeMethod(picker(), "close");
+}
+
+void Screenshots::takeDialogs()
+{
+    editPreset(QStringLiteral("video"), QStringLiteral("MP4"), QStringLiteral("Video_MP4_004"));
+    take(QStringLiteral("dialog-video"), m_window.dialog()->window());
+    m_window.dialog()->cancelClicked();
+    editPreset(QStringLiteral("audio"), QStringLiteral("MP3"), QStringLiteral("Audio_MP3_002"));
+    take(QStringLiteral("dialog-audio"), m_window.dialog()->window());
+    m_window.dialog()->cancelClicked();
+    m_window.converter().openSelectFormatMsgBox(
+        {{QStringLiteral("showText"),
+          ToolFun::text(
+              QStringLiteral("The selected format cannot be deleted because it is in use."))}});
+    settle();
+    take(QStringLiteral("message"), m_window.dialog()->window());
+    m_window.dialog()->cancelClicked();
+}
+
+void Screenshots::takeTasks()
+{
+    const QString film = QStringLiteral("-f lavfi -i gradients=size=1280x720:rate=30:duration=%1:"
+                                        "seed=%2:speed=0.02 -f lavfi -i sine=duration=%1 "
+                                        "-c:v libx264 -preset ultrafast -c:a aac");
+    const QList<QUrl> files = {
+        clip(QStringLiteral("Lake at dawn.mp4"), film.arg(3).arg(7)),
+        clip(QStringLiteral("Holidays.mkv"), film.arg(12).arg(21)),
+        clip(QStringLiteral("Interview.wav"), QStringLiteral("-f lavfi -i sine=duration=65")),
+        clip(QStringLiteral("Broken.mov"), QStringLiteral("-f lavfi -i sine=duration=1 -f s16le")),
+    };
+    for (Page *page :
+         {static_cast<Page *>(&m_window.converter()), static_cast<Page *>(&m_window.editor())}) {
+        page->addFiles(files);
+        const TaskList &tasks = *page->tasks();
+        waitUntil([&tasks] {
+            return std::all_of(tasks.tasks().begin(), tasks.tasks().end(), [](const Task &task) {
+                return task.state == Task::Failed ||
+                       (task.state == Task::Ready &&
+                        (task.facts.picture() == nullptr || !task.thumbnail.isEmpty()));
+            });
+        });
+    }
+    take(QStringLiteral("converter-ready"));
+    showPage(1);
+    m_window.editor().cut(m_window.editor().tasks()->tasks().at(1).id, 1.5, 8);
+    take(QStringLiteral("editor-ready"));
+    showPage(0);
+
+    TaskList &tasks = *m_window.converter().tasks();
+    const QString results = m_work.filePath(QStringLiteral("Converted"));
+    QDir().mkpath(results);
+    m_window.converter().setFolder(results);
+    m_window.converter().setConvertingListTaskFormat(tasks.tasks().at(2).id,
+                                                     QStringLiteral("Audio_MP3_002"));
+    m_window.converter().convertAll();
+    waitUntil([&tasks] { return tasks.tasks().at(1).progress.percent() > 20; });
+    take(QStringLiteral("converter-running"));
+    waitUntil([this] { return !m_window.converter().isBusy(); });
+    take(QStringLiteral("converter-done"));
+}
+
+QObject *Screenshots::picker() const
+{
+    return m_window.window()->property("picker").value<QObject *>();
+}
+
+void Screenshots::openPicker()
+{
+    QMetaObject::invokeMethod(m_window.window(), "openGlobalPicker");
+    settle();
+}
+
+void Screenshots::showTag(const QString &tag)
+{
+    QMetaObject::invokeMethod(picker(), "showTag", Q_ARG(QVariant, tag));
+    settle();
+}
+
+void Screenshots::type(const QString &text)
+{
+    for (const QChar letter : text) {
+        for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(kind, 0, Qt::NoModifier, QString(letter));
+            QCoreApplication::sendEvent(m_window.window(), &event);
+        }
+    }
+    settle();
+}
+
+void Screenshots::showPage(int page)
+{
+    m_window.window()->setProperty("currentPage", page);
+}
+
+QUrl Screenshots::clip(const QString &name, const QString &arguments)
+{
+    const QString path = m_work.filePath(name);
+    bool isMade = false;
+    new Tool(
+        QStringLiteral("ffmpeg"),
+        QStringList{QStringLiteral("-nostdin"), QStringLiteral("-v"), QStringLiteral("error")} +
+            arguments.split(QLatin1Char(' ')) + QStringList{path},
+        [this, &isMade](const ToolOutcome &outcome) {
+            isMade = true;
+            if (!outcome.started) {
+                m_problem = outcome.missingToolText();
+            }
+        },
+        &m_window);
+    waitUntil([&isMade] { return isMade; });
+    return QUrl::fromLocalFile(path);
+}
+
+void Screenshots::editPreset(const QString &tag, const QString &className, const QString &id)
+{
+    m_window.converter().openConvertionParametersMsgBox({
+        {QStringLiteral("format"), tag},
+        {QStringLiteral("curclass"), className},
+        {QStringLiteral("idIndex"), id},
+        {QStringLiteral("openTheWay"), true},
+        {QStringLiteral("fromPAGE"), QStringLiteral("Converter")},
+        {QStringLiteral("userDefine"), false},
+    });
+    settle();
+}
+
+void Screenshots::waitUntil(const std::function<bool()> &isSo)
+{
+    constexpr int patience = 120000;
+    QElapsedTimer clock;
+    clock.start();
+    while (!isSo() && clock.elapsed() < patience) {
+        settle(20);
+    }
+}
+
+void Screenshots::settle(int pause)
+{
+    QEventLoop loop;
+    QTimer::singleShot(pause, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void Screenshots::take(const QString &name, QQuickWindow *window)
+{
+    settle();
+    QQuickWindow *shown = window == nullptr ? m_window.window() : window;
+    // Without a screen there is no window to grab: its content is drawn once more, on its ground.
+    const QSize pixels = shown->size() * shown->effectiveDevicePixelRatio();
+    const auto content = shown->contentItem()->grabToImage(pixels);
+    bool isDrawn = false;
+    QObject::connect(content.data(), &QQuickItemGrabResult::ready, &m_window,
+                     [&isDrawn] { isDrawn = true; });
+    waitUntil([&isDrawn] { return isDrawn; });
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(shown->color());
+    QPainter(&image).drawImage(0, 0, content->image());
+
+    const QString path = m_folder.absoluteFilePath(name + QStringLiteral(".png"));
+    if (!image.save(path)) {
+        m_problem = CommandLine::tr("can't write %1; name another folder").arg(path);
+    }
+}

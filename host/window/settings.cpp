@@ -1,0 +1,46 @@
+#include "host/window/settings.h"
+
+namespace {
+
+QString key(PageKind page, const char *name)
+{
+    return QLatin1String(page == PageKind::Converter ? "converter/" : "editor/") +
+           QLatin1String(name);
+}
+
+} // namespace
+
+Settings::Settings(const QString &path, QObject *parent)
+    : QObject(parent)
+    , m_file(path, QSettings::IniFormat)
+{}
+
+QString Settings::globalId(PageKind page) const
+{
+    return m_file.value(key(page, "globalId"), defaultPreset()).toString();
+}
+
+void Settings::setGlobalId(PageKind page, const QString &id)
+{
+    if (id == globalId(page)) {
+        return;
+    }
+    m_file.setValue(key(page, "globalId"), id);
+    m_file.sync();
+    if (page == PageKind::Converter) {
+        Q_EMIT converterGlobalIdChanged();
+    } else {
+        Q_EMIT editorGlobalIdChanged();
+    }
+}
+
+QString Settings::folder(PageKind page) const
+{
+    return m_file.value(key(page, "folder")).toString();
+}
+
+void Settings::setFolder(PageKind page, const QString &folder)
+{
+    m_file.setValue(key(page, "folder"), folder);
+    m_file.sync();
+}

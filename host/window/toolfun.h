@@ -1,0 +1,26 @@
+#ifndef WINDOW_TOOLFUN_H
+#define WINDOW_TOOLFUN_H
+
+#include <QJSValue>
+#include <QObject>
+
+/*! What the QML files call "ToolFun". */
+class ToolFun : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool isMac READ isMac CONSTANT)
+
+public:
+    using QObject::QObject;
+
+    /*! The text for \a key in the user's language; \a key itself where there is none. */
+    static QString text(const QString &key);
+    Q_INVOKABLE QString tr(const QString &key) const { return text(key); }
+
+    /*! Calls \a function once, \a ms milliseconds from now. */
+    Q_INVOKABLE void timerOnce(int ms, const QJSValue &function);
+
+    bool isMac() const;
+};
+
+#endif

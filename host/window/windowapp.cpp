@@ -1,0 +1,73 @@
+#include "host/window/windowapp.h"
+
+#include "host/commandline/commandline.h"
+#include "host/window/languages.h"
+#include "host/window/mainwindow.h"
+#include "host/window/screenshots.h"
+
+#include <QApplication>
+#include <QQuickStyle>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/*! While the application connects to the display. Qt would abort where it can't. */
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &)
+{
+    if (type == QtFatalMsg) {
+        std::fputs("vexconvert: there is no display to show the window on; start it in a desktop, "
+                   "or use a subcommand: \"vexconvert --help\" lists them\n",
+                   stderr);
+        std::_Exit(WrongUsage);
+    }
+}
+
+ExitCode showWindow(const QString &configFolder)
+{
+    MainWindow window(configFolder);
+    const QString problem = window.open();
+    if (!problem.isEmpty()) {
+        return failure(problem);
+    }
+    return QCoreApplication::exec() == 0 ? Success : Failure;
+}
+
+ExitCode takeScreenshots(const QString &folder)
+{
+    const QString problem = Screenshots(folder).takeAll();
+    return problem.isEmpty() ? Success : failure(problem);
+}
+
+} // namespace
+
+int runWindow(int &argc, char **argv, const WindowOptions &options)
+{
+    const QString language =
+        options.language.isEmpty() ? Languages::ofSystem() : Languages::suiting(options.language);
+    if (language.isEmpty()) {
+        return wrongUsage(CommandLine::tr("--language is one of: %1")
+                              .arg(Languages::all().join(QStringLiteral(", "))));
+    }
+    const bool isForScreenshots = !options.screenshotFolder.isEmpty();
+    if (isForScreenshots) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QUICK_BACKEND", "software");
+    }
+    // Pictures have the scale of QT_SCALE_FACTOR, as there is no screen to follow.
+    QGuiApplication::setAttribute(isForScreenshots ? Qt::AA_DisableHighDpiScaling
+                                                   : Qt::AA_EnableHighDpiScaling);
+    QGuiApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QQuickStyle::setStyle(QStringLiteral("Default"));
+
+    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
+    QApplication app(argc, argv);
+    qInstallMessageHandler(usual);
+
+    Languages::install(language);
+    return isForScreenshots ? takeScreenshots(options.screenshotFolder)
+                            : showWindow(options.configFolder);
+}

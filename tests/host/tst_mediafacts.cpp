@@ -1,0 +1,255 @@
+#include "host/media/mediafacts.h"
+#include "tests/support/messagelog.h"
+
+#include <QtTest>
+
+#include <optional>
+
+class TestMediaFacts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_log.emplace(); }
+    void cleanup()
+    {
+        QCOMPARE(m_log->takeAll(), QStringList());
+        m_log.reset();
+    }
+
+    void aProbedFilmTellsItsTracks();
+    void whatIsNoProbeHoldsNothing_data();
+    void whatIsNoProbeHoldsNothing();
+    void theShownSizeIsUprightWithSquarePixels_data();
+    void theShownSizeIsUprightWithSquarePixels();
+    void aVariableRateIsTheAverage();
+    void theRateIsUnknownWhenTheFileDoesNotSay();
+    void aCoverIsNoPicture();
+    void theDefaultTrackComesFirst();
+    void withoutADefaultTheFirstTrackIsTaken();
+    void theDurationComesFromATrackWhenTheFileHasNone();
+    void otherStreamsAreLeftOut();
+    void theSummaryIsOneLineForPeople_data();
+    void theSummaryIsOneLineForPeople();
+    void aClockTellsHoursOnlyWhenThereAreSome_data();
+    void aClockTellsHoursOnlyWhenThereAreSome();
+
+private:
+    static MediaFacts probe(const QByteArray &streams,
+                            const QByteArray &format = R"("duration": "2.5")")
+    {
+        return MediaFacts::fromProbe("{\"streams\": [" + streams + "], \"format\": {" + format +
+                                     "}}");
+    }
+
+    std::optional<MessageLog> m_log;
+};
+
+void TestMediaFacts::aProbedFilmTellsItsTracks()
+{
+    const MediaFacts facts = probe(
+        R"({"index": 0, "codec_type": "video", "codec_name": "h264", "width": 720, "height": 576,
+            "sample_aspect_ratio": "16:11", "r_frame_rate": "25/1", "avg_frame_rate": "25/1",
+            "disposition": {"default": 1, "attached_pic": 0}},
+           {"index": 1, "codec_type": "audio", "codec_name": "aac", "sample_rate": "44100",
+            "channels": 2, "channel_layout": "stereo", "disposition": {"default": 1}})",
+        R"("duration": "12.345", "size": "95012")");
+    QVERIFY(!facts.isEmpty());
+    QCOMPARE(facts.duration, 12.345);
+    QCOMPARE(facts.bytes, 95012);
+
+    QCOMPARE(facts.videoTracks.size(), 1);
+    const VideoTrack &video = facts.videoTracks.constFirst();
+    QCOMPARE(video.index, 0);
+    QCOMPARE(video.codec, QStringLiteral("h264"));
+    QCOMPARE(video.storedSize, QSize(720, 576));
+    QVERIFY((video.pixelAspect == Ratio{16, 11}));
+    QVERIFY((video.frameRate == Ratio{25, 1}));
+    QVERIFY(video.hasSteadyRate);
+    QVERIFY(video.isDefault);
+    QVERIFY(!video.isCover);
+
+    QCOMPARE(facts.audioTracks.size(), 1);
+    const AudioTrack &audio = facts.audioTracks.constFirst();
+    QCOMPARE(audio.index, 1);
+    QCOMPARE(audio.codec, QStringLiteral("aac"));
+    QCOMPARE(audio.sampleRate, 44100);
+    QCOMPARE(audio.channels, 2);
+    QVERIFY(audio.hasLayout);
+}
+
+void TestMediaFacts::whatIsNoProbeHoldsNothing_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("empty object") << QByteArray("{}");
+    QTest::newRow("list") << QByteArray("[1]");
+    QTest::newRow("no JSON") << QByteArray("ffprobe: error");
+    QTest::newRow("wrong types") << QByteArray(R"({"streams": 3, "format": "x"})");
+}
+
+void TestMediaFacts::whatIsNoProbeHoldsNothing()
+{
+    QFETCH(QByteArray, json);
+    const MediaFacts facts = MediaFacts::fromProbe(json);
+    QVERIFY(facts.isEmpty());
+    QCOMPARE(facts.duration, 0.0);
+    QVERIFY(facts.picture() == nullptr);
+    QVERIFY(facts.sound() == nullptr);
+    QVERIFY(facts.cover() == nullptr);
+}
+
+void TestMediaFacts::theShownSizeIsUprightWithSquarePixels_data()
+{
+    QTest::addColumn<QByteArray>("more");
+    QTest::addColumn<QSize>("shown");
+
+    QTest::newRow("plain") << QByteArray(R"("sample_aspect_ratio": "1:1")") << QSize(720, 480);
+    QTest::newRow("aspect unknown")
+        << QByteArray(R"("sample_aspect_ratio": "0:1")") << QSize(720, 480);
+    QTest::newRow("narrow pixels")
+        << QByteArray(R"("sample_aspect_ratio": "8:9")") << QSize(640, 480);
+    QTest::newRow("wide pixels") << QByteArray(R"("sample_aspect_ratio": "32:27")")
+                                 << QSize(853, 480);
+    QTest::newRow("turned by the matrix")
+        << QByteArray(
+               R"("side_data_list": [{"side_data_type": "Display Matrix", "rotation": -90}])")
+        << QSize(480, 720);
+    QTest::newRow("turned behind other side data")
+        << QByteArray(R"("side_data_list": [{"side_data_type": "CPB"}, {"rotation": 90}])")
+        << QSize(480, 720);
+    QTest::newRow("upside down") << QByteArray(R"("side_data_list": [{"rotation": 180}])")
+                                 << QSize(720, 480);
+    QTest::newRow("turned by the tag")
+        << QByteArray(R"("tags": {"rotate": "270"})") << QSize(480, 720);
+    QTest::newRow("turned with narrow pixels")
+        << QByteArray(R"("sample_aspect_ratio": "8:9", "side_data_list": [{"rotation": 90}])")
+        << QSize(480, 640);
+}
+
+void TestMediaFacts::theShownSizeIsUprightWithSquarePixels()
+{
+    QFETCH(QByteArray, more);
+    QFETCH(QSize, shown);
+    const MediaFacts facts =
+        probe(R"({"codec_type": "video", "width": 720, "height": 480, )" + more + "}");
+    QCOMPARE(facts.picture()->displaySize(), shown);
+    QCOMPARE(facts.picture()->storedSize, QSize(720, 480));
+}
+
+void TestMediaFacts::aVariableRateIsTheAverage()
+{
+    const MediaFacts facts = probe(
+        R"({"codec_type": "video", "r_frame_rate": "90000/1", "avg_frame_rate": "2997/100"})");
+    QVERIFY(!facts.picture()->hasSteadyRate);
+    QCOMPARE(facts.picture()->frameRate.value(), 29.97);
+}
+
+void TestMediaFacts::theRateIsUnknownWhenTheFileDoesNotSay()
+{
+    const MediaFacts facts =
+        probe(R"({"codec_type": "video", "r_frame_rate": "0/0", "avg_frame_rate": "0/0"})");
+    QVERIFY(!facts.picture()->frameRate.isValid());
+    QVERIFY(!facts.picture()->hasSteadyRate);
+}
+
+void TestMediaFacts::aCoverIsNoPicture()
+{
+    const MediaFacts facts = probe(
+        R"({"index": 0, "codec_type": "audio", "codec_name": "mp3"},
+           {"index": 1, "codec_type": "video", "disposition": {"attached_pic": 1, "default": 1}})");
+    QVERIFY(facts.picture() == nullptr);
+    QCOMPARE(facts.cover()->index, 1);
+}
+
+void TestMediaFacts::theDefaultTrackComesFirst()
+{
+    const MediaFacts facts = probe(
+        R"({"index": 0, "codec_type": "audio", "disposition": {"default": 0}},
+           {"index": 1, "codec_type": "audio", "disposition": {"default": 1}},
+           {"index": 2, "codec_type": "video", "disposition": {"default": 0}},
+           {"index": 3, "codec_type": "video", "disposition": {"default": 1}})");
+    QCOMPARE(facts.sound()->index, 1);
+    QCOMPARE(facts.picture()->index, 3);
+}
+
+void TestMediaFacts::withoutADefaultTheFirstTrackIsTaken()
+{
+    const MediaFacts facts = probe(R"({"index": 4, "codec_type": "audio"},
+                                      {"index": 5, "codec_type": "audio"},
+                                      {"index": 6, "codec_type": "video"},
+                                      {"index": 7, "codec_type": "video"})");
+    QCOMPARE(facts.sound()->index, 4);
+    QCOMPARE(facts.picture()->index, 6);
+}
+
+void TestMediaFacts::theDurationComesFromATrackWhenTheFileHasNone()
+{
+    const MediaFacts facts = probe(
+        R"({"codec_type": "subtitle", "duration": "99"}, {"codec_type": "audio", "duration": "3.5"})",
+        R"("size": "1")");
+    QCOMPARE(facts.duration, 3.5);
+    QCOMPARE(probe(R"({"codec_type": "audio"})", R"("duration": "N/A")").duration, 0.0);
+    QCOMPARE(probe(R"({"codec_type": "audio"})", R"("duration": "-1")").duration, 0.0);
+}
+
+void TestMediaFacts::otherStreamsAreLeftOut()
+{
+    QVERIFY(probe(R"({"codec_type": "subtitle"}, {"codec_type": "data"}, {})").isEmpty());
+}
+
+void TestMediaFacts::theSummaryIsOneLineForPeople_data()
+{
+    QTest::addColumn<QByteArray>("streams");
+    QTest::addColumn<QString>("summary");
+
+    const QByteArray video = R"({"codec_type": "video", "codec_name": "h264", "width": 1280,
+                                 "height": 720, "r_frame_rate": "30000/1001"})";
+    const QByteArray audio =
+        R"({"codec_type": "audio", "codec_name": "aac", "sample_rate": "48000", "channels": 2})";
+    QTest::newRow("film") << video + "," + audio
+                          << QStringLiteral("h264 1280x720 29.97 fps, aac 48000 Hz stereo, 1:02, "
+                                            "1.5 kB");
+    QTest::newRow("silent film") << video
+                                 << QStringLiteral("h264 1280x720 29.97 fps, 1:02, 1.5 kB");
+    QTest::newRow("several tracks")
+        << audio + "," + audio
+        << QStringLiteral("aac 48000 Hz stereo (2 audio tracks), 1:02, 1.5 kB");
+    QTest::newRow("mono")
+        << QByteArray(R"({"codec_type": "audio", "codec_name": "mp3", "sample_rate": "8000",
+                          "channels": 1})")
+        << QStringLiteral("mp3 8000 Hz mono, 1:02, 1.5 kB");
+    QTest::newRow("surround")
+        << QByteArray(R"({"codec_type": "audio", "codec_name": "ac3", "sample_rate": "48000",
+                          "channels": 6})")
+        << QStringLiteral("ac3 48000 Hz 6 channels, 1:02, 1.5 kB");
+}
+
+void TestMediaFacts::theSummaryIsOneLineForPeople()
+{
+    QFETCH(QByteArray, streams);
+    QFETCH(QString, summary);
+    QCOMPARE(probe(streams, R"("duration": "61.6", "size": "1536")").summary(), summary);
+}
+
+void TestMediaFacts::aClockTellsHoursOnlyWhenThereAreSome_data()
+{
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("nothing") << 0.0 << QStringLiteral("0:00");
+    QTest::newRow("negative") << -3.0 << QStringLiteral("0:00");
+    QTest::newRow("rounded") << 0.98 << QStringLiteral("0:01");
+    QTest::newRow("minutes") << 754.0 << QStringLiteral("12:34");
+    QTest::newRow("an hour less one") << 3599.0 << QStringLiteral("59:59");
+    QTest::newRow("hours") << 3723.0 << QStringLiteral("1:02:03");
+}
+
+void TestMediaFacts::aClockTellsHoursOnlyWhenThereAreSome()
+{
+    QFETCH(double, seconds);
+    QFETCH(QString, text);
+    QCOMPARE(clockText(seconds), text);
+}
+
+QTEST_GUILESS_MAIN(TestMediaFacts)
+#include "tst_mediafacts.moc"

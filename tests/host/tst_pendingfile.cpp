@@ -1,0 +1,198 @@
+#include "host/convert/pendingfile.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <optional>
+#include <thread>
+#include <vector>
+
+class TestPendingFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace();
+        QVERIFY(m_folder->isValid());
+    }
+    void cleanup() { m_folder.reset(); }
+
+    void aPendingFileHasAHiddenName();
+    void droppingItLeavesNothing();
+    void discardingItLeavesNothing();
+    void publishedItHasItsName();
+    void aTakenNameIsNumbered();
+    void aDanglingLinkTakesTheNameToo();
+    void aFolderTakesTheNameToo();
+    void filesPublishedAtTheSameTimeGetNamesOfTheirOwn();
+    void publishOverReplacesTheFile();
+    void publishOverAFolderLeavesAllAsItWas();
+    void aFolderThatIsNotThereIsRefused();
+    void aFileInPlaceOfTheFolderIsRefused();
+    void anOverlongNameIsShortened();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QStringList everything() const
+    {
+        return QDir(m_folder->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                       QDir::Name);
+    }
+    void write(const QString &filePath, const QByteArray &content) const
+    {
+        QFile file(filePath);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), qint64(content.size()));
+    }
+    QByteArray content(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+
+    std::optional<QTemporaryDir> m_folder;
+};
+
+void TestPendingFile::aPendingFileHasAHiddenName()
+{
+    PendingFile pending;
+    QCOMPARE(pending.create(m_folder->path()), QString());
+    QCOMPARE(everything().size(), 1);
+    QVERIFY(everything().constFirst().startsWith(QLatin1Char('.')));
+    QCOMPARE(path(everything().constFirst()), pending.path());
+}
+
+void TestPendingFile::droppingItLeavesNothing()
+{
+    {
+        PendingFile pending;
+        QCOMPARE(pending.create(m_folder->path()), QString());
+        write(pending.path(), "half");
+    }
+    QCOMPARE(everything(), QStringList());
+}
+
+void TestPendingFile::discardingItLeavesNothing()
+{
+    PendingFile pending;
+    QCOMPARE(pending.create(m_folder->path()), QString());
+    pending.discard();
+    QCOMPARE(everything(), QStringList());
+    QCOMPARE(pending.path(), QString());
+}
+
+void TestPendingFile::publishedItHasItsName()
+{
+    PendingFile pending;
+    QCOMPARE(pending.create(m_folder->path()), QString());
+    write(pending.path(), "whole");
+    QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
+             path(QStringLiteral("clip.mp4")));
+    QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
+    QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("whole"));
+}
+
+void TestPendingFile::aTakenNameIsNumbered()
+{
+    write(path(QStringLiteral("clip.mp4")), "first");
+    write(path(QStringLiteral("clip (2).mp4")), "second");
+    PendingFile pending;
+    QCOMPARE(pending.create(m_folder->path()), QString());
+    QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
+             path(QStringLiteral("clip (3).mp4")));
+    QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("first"));
+    QCOMPARE(content(QStringLiteral("clip (2).mp4")), QByteArray("second"));
+}
+
+void TestPendingFile::aDanglingLinkTakesTheNameToo()
+{
+    QVERIFY(QFile::link(path(QStringLiteral("nowhere")), path(QStringLiteral("clip.mp4"))));
+    QCOMPARE(freeName(m_folder->path(), QStringLiteral("clip"), QStringLiteral("mp4")),
+             path(QStringLiteral("clip (2).mp4")));
+}
+
+void TestPendingFile::aFolderTakesTheNameToo()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("clip.mp4")));
+    PendingFile pending;
+    QCOMPARE(pending.create(m_folder->path()), QString());
+    QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
+             path(QStringLiteral("clip (2).mp4")));
+}
+
+void TestPendingFile::filesPublishedAtTheSameTimeGetNamesOfTheirOwn()
+{
+    constexpr int publishers = 8;
+    constexpr int filesEach = 25;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < publishers; ++i) {
+        threads.emplace_back([this] {
+            for (int j = 0; j < filesEach; ++j) {
+                PendingFile pending;
+                if (pending.create(m_folder->path()).isEmpty()) {
+                    (void)pending.publish(QStringLiteral("clip"), QStringLiteral("mp4"));
+                }
+            }
+        });
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    QCOMPARE(everything().size(), publishers * filesEach);
+}
+
+void TestPendingFile::publishOverReplacesTheFile()
+{
+    write(path(QStringLiteral("clip.mp4")), "old");
+    PendingFile pending;
+    QCOMPARE(pending.create(m_folder->path()), QString());
+    write(pending.path(), "new");
+    QVERIFY(pending.publishOver(path(QStringLiteral("clip.mp4"))));
+    QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
+    QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("new"));
+}
+
+void TestPendingFile::publishOverAFolderLeavesAllAsItWas()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("clip.mp4")));
+    {
+        PendingFile pending;
+        QCOMPARE(pending.create(m_folder->path()), QString());
+        QVERIFY(!pending.publishOver(path(QStringLiteral("clip.mp4"))));
+    }
+    QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
+}
+
+void TestPendingFile::aFolderThatIsNotThereIsRefused()
+{
+    PendingFile pending;
+    const QString folder = path(QStringLiteral("missing"));
+    QCOMPARE(
+        pending.create(folder),
+        QStringLiteral("the folder %1 doesn't exist; make it or choose another one").arg(folder));
+    QCOMPARE(everything(), QStringList());
+}
+
+void TestPendingFile::aFileInPlaceOfTheFolderIsRefused()
+{
+    write(path(QStringLiteral("file")), "content");
+    PendingFile pending;
+    QVERIFY(!pending.create(path(QStringLiteral("file"))).isEmpty());
+    QCOMPARE(everything(), QStringList{QStringLiteral("file")});
+}
+
+void TestPendingFile::anOverlongNameIsShortened()
+{
+    const QString base(251, QLatin1Char('a'));
+    QCOMPARE(QFileInfo(freeName(m_folder->path(), base, QStringLiteral("mp4"))).fileName().size(),
+             255);
+    const QString webm =
+        QFileInfo(freeName(m_folder->path(), base, QStringLiteral("webm"))).fileName();
+    QCOMPARE(webm, QString(250, QLatin1Char('a')) + QStringLiteral(".webm"));
+}
+
+QTEST_GUILESS_MAIN(TestPendingFile)
+#include "tst_pendingfile.moc"

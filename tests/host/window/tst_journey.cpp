@@ -1,0 +1,314 @@
+#include "host/window/languages.h"
+#include "host/window/mainwindow.h"
+#include "host/window/pageproxies.h"
+#include "host/window/settings.h"
+
+#include "formats/proxy/formatsproxy.h"
+#include "tests/host/mediaclips.h"
+
+#include <QAccessible>
+#include <QMimeData>
+#include <QProcess>
+#include <QQuickItem>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const char configVariable[] = "VEX_JOURNEY_CONFIG";
+
+QStringList unexpected; // the engine's and the program's warnings
+
+void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        unexpected << text;
+    }
+}
+
+QString nameOf(QQuickItem *item)
+{
+    QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(item);
+    return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
+}
+
+QPoint middleOf(const QQuickItem *item)
+{
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+/*! All visible items that lie in the window and have this text, or this name for screen readers. */
+QList<QQuickItem *> itemsNamed(QQuickItem *root, const QString &name)
+{
+    QList<QQuickItem *> found;
+    if (!root->isVisible()) {
+        return found;
+    }
+    const QSize size = root->window()->size();
+    const bool hasName = root->property("text").toString() == name || nameOf(root) == name;
+    if (hasName && QRect(QPoint(), size).contains(middleOf(root))) {
+        found << root;
+    }
+    for (QQuickItem *child : root->childItems()) {
+        found << itemsNamed(child, name);
+    }
+    return found;
+}
+
+/*! Clicks the first item of this name, as soon as it is there and stands still. */
+bool click(QQuickWindow *window, const QString &name)
+{
+    QPoint place;
+    const bool isThere = QTest::qWaitFor([&place, window, &name] {
+        const QList<QQuickItem *> found = itemsNamed(window->contentItem(), name);
+        if (found.isEmpty() || !found.constFirst()->isEnabled()) {
+            return false;
+        }
+        const QPoint before = place;
+        place = middleOf(found.constFirst());
+        return place == before;
+    });
+    if (isThere) {
+        QTest::mouseClick(window, Qt::LeftButton, {}, place);
+    }
+    return isThere;
+}
+
+void type(QQuickWindow *window, const QString &text)
+{
+    for (const QChar letter : text) {
+        QTest::keyClick(window, letter.toLatin1());
+    }
+}
+
+void drop(QQuickWindow *window, const QList<QUrl> &urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    const QPoint place(window->width() / 2, window->height() / 2);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &enter);
+    QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &move);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &drop);
+}
+
+/*! The names of what can take the focus or be pressed and has none for screen readers. */
+QStringList namelessControls(QQuickItem *root)
+{
+    QStringList nameless;
+    if (!root->isVisible()) {
+        return nameless;
+    }
+    if (root->activeFocusOnTab() && root->isEnabled() && nameOf(root).isEmpty()) {
+        nameless << QString::fromLatin1(root->metaObject()->className());
+    }
+    for (QQuickItem *child : root->childItems()) {
+        nameless << namelessControls(child);
+    }
+    return nameless;
+}
+
+} // namespace
+
+/*! A user's way through the real window, with mouse and keys. */
+class TestJourney : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void convertsTwoFilesWithPresetsOfTheUsersOwn();
+    void everythingIsThereAfterARestart();
+    void keysDoWhatTheMouseDoes();
+
+private:
+    QString configFolder() const;
+
+    QTemporaryDir m_work;
+};
+
+void TestJourney::initTestCase()
+{
+    Languages::install(QStringLiteral("en"));
+    qInstallMessageHandler(collectWarnings);
+}
+
+void TestJourney::cleanup()
+{
+    QCOMPARE(unexpected.join(QLatin1Char('\n')), QString());
+}
+
+QString TestJourney::configFolder() const
+{
+    const QString given = qEnvironmentVariable(configVariable);
+    return given.isEmpty() ? m_work.filePath(QStringLiteral("config")) : given;
+}
+
+void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
+{
+    const QString film = m_work.filePath(QStringLiteral("film.mp4"));
+    const QString song = m_work.filePath(QStringLiteral("song.wav"));
+    QVERIFY(MediaClips::makeFilm(film));
+    QVERIFY(MediaClips::makeSong(song));
+
+    MainWindow main(configFolder());
+    QCOMPARE(main.open(), QString());
+    QQuickWindow *window = main.window();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    const FormatsProxy &formats = *FormatsProxy::getInstance();
+    const Settings &settings = main.settings();
+
+    // Two files are dropped.
+    QVERIFY(
+        !itemsNamed(window->contentItem(), QStringLiteral("Drop videos or songs here")).isEmpty());
+    drop(window, {QUrl::fromLocalFile(film), QUrl::fromLocalFile(song)});
+    const QVector<Task> &tasks = main.converter().tasks()->tasks();
+    QTRY_COMPARE(tasks.size(), 2);
+    QTRY_VERIFY(tasks.at(0).state == Task::Ready && tasks.at(1).state == Task::Ready);
+
+    // The format of both is found by a search.
+    auto *picker = window->property("picker").value<QObject *>();
+    QVERIFY(click(window, QStringLiteral("Convert all to: MP4 - Keep original")));
+    QTRY_VERIFY(picker->property("opened").toBool());
+    type(window, QStringLiteral("mp3"));
+    QVERIFY(click(window, QStringLiteral("High quality")));
+    QTRY_VERIFY(!picker->property("visible").toBool());
+    QCOMPARE(settings.converterGlobalId(), QStringLiteral("Audio_MP3_002"));
+    QCOMPARE(tasks.at(0).format, QStringLiteral("Audio_MP3_002"));
+    QVERIFY(formats.isFormatInRecently(QStringLiteral("Audio_MP3_002")));
+
+    // It is edited to a preset of the user's own, which is deleted, and to another, which stays.
+    QVERIFY(click(window, QStringLiteral("Convert all to: MP3 - High quality")));
+    QTRY_VERIFY(picker->property("opened").toBool());
+    QVERIFY(click(window, QStringLiteral("Audio")));
+    const QStringList titles = {QStringLiteral("Passing"), QStringLiteral("Mine")};
+    for (const QString &title : titles) {
+        QVERIFY(click(window, QStringLiteral("Edit")));
+        QTRY_VERIFY(main.dialog() != nullptr);
+        QQuickWindow *dialog = main.dialog()->window();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QVERIFY(QTest::qWaitFor([dialog] {
+            return itemsNamed(dialog->contentItem(), QStringLiteral("Title")).size() == 2;
+        }));
+        QQuickItem *field = itemsNamed(dialog->contentItem(), QStringLiteral("Title")).at(1);
+        QTest::mouseClick(dialog, Qt::LeftButton, {}, middleOf(field));
+        QTest::keyClick(dialog, Qt::Key_A, Qt::ControlModifier);
+        type(dialog, title);
+        QVERIFY(click(dialog, QStringLiteral("Create")));
+        QTRY_VERIFY(main.dialog() == nullptr);
+        QVERIFY(picker->property("visible").toBool());
+        const QString made = settings.converterGlobalId();
+        QCOMPARE(formats.getFormat(made).value(QStringLiteral("title")).toString(), title);
+        QCOMPARE(picker->property("curId").toString(), made);
+        if (title == titles.constFirst()) {
+            QVERIFY(click(window, QStringLiteral("Delete")));
+            QTRY_VERIFY(formats.getFormat(made).isEmpty());
+            QCOMPARE(settings.converterGlobalId(), QStringLiteral("Video_MP4_001"));
+        }
+    }
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_VERIFY(!picker->property("visible").toBool());
+
+    // Both are converted.
+    QVERIFY(click(window, QStringLiteral("Convert All")));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        tasks.at(0).state == Task::Converted && tasks.at(1).state == Task::Converted, 60000);
+    for (const char *result : {"film.mp3", "song.mp3"}) {
+        const MediaFacts facts = MediaClips::factsOf(m_work.filePath(QString::fromLatin1(result)));
+        QVERIFY(facts.picture() == nullptr);
+        QCOMPARE(facts.sound()->codec, QStringLiteral("mp3"));
+    }
+}
+
+/*! Looks for it in a process of its own: the library loads its files once in a process. */
+void TestJourney::everythingIsThereAfterARestart()
+{
+    if (!qEnvironmentVariableIsSet(configVariable)) {
+        QProcess second;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QString::fromLatin1(configVariable), configFolder());
+        second.setProcessEnvironment(environment);
+        second.setProcessChannelMode(QProcess::ForwardedChannels);
+        second.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(__func__)});
+        QVERIFY(second.waitForFinished(60000));
+        QCOMPARE(second.exitCode(), 0);
+        return;
+    }
+    MainWindow main(configFolder());
+    QCOMPARE(main.open(), QString());
+    QQuickWindow *window = main.window();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    auto *picker = window->property("picker").value<QObject *>();
+    QVERIFY(click(window, QStringLiteral("Convert all to: MP3 - Mine")));
+    QTRY_VERIFY(picker->property("opened").toBool());
+    QTRY_COMPARE(picker->property("selectTag").toString(), QStringLiteral("recently"));
+    QTRY_VERIFY(!itemsNamed(window->contentItem(), QStringLiteral("MP3- Mine")).isEmpty());
+    QVERIFY(!itemsNamed(window->contentItem(), QStringLiteral("MP3- High quality")).isEmpty());
+    QVERIFY(itemsNamed(window->contentItem(), QStringLiteral("MP3- Passing")).isEmpty());
+    QVERIFY(click(window, QStringLiteral("Audio")));
+    QTRY_VERIFY(!itemsNamed(window->contentItem(), QStringLiteral("Mine")).isEmpty());
+}
+
+void TestJourney::keysDoWhatTheMouseDoes()
+{
+    if (qEnvironmentVariableIsSet(configVariable)) {
+        return;
+    }
+    const QString song = m_work.filePath(QStringLiteral("keys.wav"));
+    QVERIFY(MediaClips::makeSong(song));
+    QTemporaryDir config;
+    MainWindow main(config.path());
+    QCOMPARE(main.open(), QString());
+    QQuickWindow *window = main.window();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    QCOMPARE(namelessControls(window->contentItem()), QStringList());
+
+    main.converter().addFiles({QUrl::fromLocalFile(song)});
+    const QVector<Task> &tasks = main.converter().tasks()->tasks();
+    QTRY_COMPARE(tasks.at(0).state, Task::Ready);
+    QCOMPARE(namelessControls(window->contentItem()), QStringList());
+
+    // Tab comes to every control in turn, and back to the first one.
+    QStringList stops;
+    for (int i = 0; i < 40 && (stops.size() < 2 || stops.constLast() != stops.constFirst()); ++i) {
+        QTest::keyClick(window, Qt::Key_Tab);
+        stops << nameOf(window->activeFocusItem());
+    }
+    for (const char *name : {"Converter", "Add files", "Format: MP4 - Keep original", "Convert",
+                             "Remove from the list", "Convert All"}) {
+        QVERIFY2(stops.contains(QString::fromLatin1(name)),
+                 qPrintable(QString::fromLatin1(name) + QStringLiteral(" is not in ") +
+                            stops.join(QStringLiteral(" | "))));
+    }
+
+    // In the list, Enter opens the picker of the file, Escape closes it, Delete removes the file.
+    const auto goTo = [window](const QString &name) {
+        for (int i = 0; i < 40 && !nameOf(window->activeFocusItem()).startsWith(name); ++i) {
+            QTest::keyClick(window, Qt::Key_Tab);
+        }
+    };
+    auto *picker = window->property("picker").value<QObject *>();
+    goTo(QStringLiteral("keys.wav"));
+    QTest::keyClick(window, Qt::Key_Return);
+    QTRY_VERIFY(picker->property("opened").toBool());
+    QCOMPARE(picker->property("openWay").toBool(), false);
+    QCOMPARE(picker->property("listId").toInt(), tasks.at(0).id);
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_VERIFY(!picker->property("visible").toBool());
+    goTo(QStringLiteral("keys.wav"));
+    QTest::keyClick(window, Qt::Key_Delete);
+    QTRY_COMPARE(tasks.size(), 0);
+
+    // Arrows change the page.
+    goTo(QStringLiteral("Converter"));
+    QTest::keyClick(window, Qt::Key_Right);
+    QCOMPARE(window->property("currentPage").toInt(), 1);
+    QCOMPARE(namelessControls(window->contentItem()), QStringList());
+}
+
+QTEST_MAIN(TestJourney)
+#include "tst_journey.moc"

@@ -1,0 +1,140 @@
+#include "host/window/tasklist.h"
+
+#include <QAbstractItemModelTester>
+#include <QtTest>
+
+namespace {
+
+Task task(const char *source)
+{
+    Task made;
+    made.source = QString::fromLatin1(source);
+    return made;
+}
+
+} // namespace
+
+class TestTaskList : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tasksKeepTheOrderInWhichTheyCame();
+    void idsAreNeverGivenTwice();
+    void aChangeIsAnnouncedForItsRowOnly();
+    void unknownIdsChangeNothing();
+    void rolesReadTheTask();
+    void queuedAndEndedStatesAreTold_data();
+    void queuedAndEndedStatesAreTold();
+};
+
+void TestTaskList::tasksKeepTheOrderInWhichTheyCame()
+{
+    TaskList list;
+    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy counts(&list, &TaskList::countChanged);
+    list.add(task("/a"));
+    const int second = list.add(task("/b"));
+    list.add(task("/c"));
+    list.remove(second);
+    QCOMPARE(list.count(), 2);
+    QCOMPARE(list.data(list.index(0), TaskList::SourceRole).toString(), QStringLiteral("/a"));
+    QCOMPARE(list.data(list.index(1), TaskList::SourceRole).toString(), QStringLiteral("/c"));
+    QCOMPARE(counts.count(), 4);
+}
+
+void TestTaskList::idsAreNeverGivenTwice()
+{
+    TaskList one;
+    TaskList other;
+    const int first = one.add(task("/a"));
+    one.remove(first);
+    const int second = one.add(task("/a"));
+    const int third = other.add(task("/a"));
+    QCOMPARE((QSet<int>{first, second, third}.size()), 3);
+}
+
+void TestTaskList::aChangeIsAnnouncedForItsRowOnly()
+{
+    TaskList list;
+    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    list.add(task("/a"));
+    const int id = list.add(task("/b"));
+    QSignalSpy changes(&list, &TaskList::dataChanged);
+    list.update(id, [](Task &changed) { changed.state = Task::Running; });
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.at(0).at(0).toModelIndex(), list.index(1));
+    QCOMPARE(changes.at(0).at(1).toModelIndex(), list.index(1));
+    QCOMPARE(list.find(id)->state, Task::Running);
+}
+
+void TestTaskList::unknownIdsChangeNothing()
+{
+    TaskList list;
+    const int id = list.add(task("/a"));
+    QSignalSpy changes(&list, &TaskList::dataChanged);
+    QSignalSpy counts(&list, &TaskList::countChanged);
+    list.remove(id + 1);
+    list.update(id + 1, [](Task &changed) { changed.state = Task::Running; });
+    QVERIFY(list.find(id + 1) == nullptr);
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(counts.count(), 0);
+}
+
+void TestTaskList::rolesReadTheTask()
+{
+    Task film = task("/films/Sea.mp4");
+    VideoTrack picture;
+    picture.codec = QStringLiteral("h264");
+    picture.storedSize = QSize(1280, 720);
+    AudioTrack sound;
+    sound.codec = QStringLiteral("aac");
+    film.facts.videoTracks = {picture};
+    film.facts.audioTracks = {sound};
+    film.facts.duration = 65;
+    film.facts.bytes = 2048;
+    film.progress.done = 13;
+    film.progress.total = 65;
+    film.progress.speed = 2;
+    TaskList list;
+    list.add(film);
+
+    const QHash<int, QByteArray> names = list.roleNames();
+    const auto value = [&list, &names](const char *name) {
+        return list.data(list.index(0), names.key(name)).toString();
+    };
+    QCOMPARE(value("name"), QStringLiteral("Sea.mp4"));
+    QCOMPARE(value("codecs"), QStringLiteral("h264, aac"));
+    QVERIFY(value("details").contains(QStringLiteral("1280 × 720")));
+    QVERIFY(value("details").contains(QStringLiteral("1:05")));
+    QCOMPARE(value("percent"), QStringLiteral("20"));
+    QCOMPARE(value("speed"), QStringLiteral("2"));
+    QCOMPARE(value("timeLeft"), QStringLiteral("0:26"));
+    QCOMPARE(value("seconds"), QStringLiteral("65"));
+}
+
+void TestTaskList::queuedAndEndedStatesAreTold_data()
+{
+    QTest::addColumn<Task::State>("state");
+    QTest::addColumn<bool>("isQueued");
+    QTest::addColumn<bool>("hasEnded");
+    QTest::newRow("reading") << Task::Reading << false << false;
+    QTest::newRow("ready") << Task::Ready << false << false;
+    QTest::newRow("waiting") << Task::Waiting << true << false;
+    QTest::newRow("running") << Task::Running << true << false;
+    QTest::newRow("converted") << Task::Converted << false << true;
+    QTest::newRow("failed") << Task::Failed << false << true;
+    QTest::newRow("cancelled") << Task::Cancelled << false << true;
+}
+
+void TestTaskList::queuedAndEndedStatesAreTold()
+{
+    QFETCH(Task::State, state);
+    Task made;
+    made.state = state;
+    QTEST(made.isQueued(), "isQueued");
+    QTEST(made.hasEnded(), "hasEnded");
+}
+
+QTEST_GUILESS_MAIN(TestTaskList)
+#include "tst_tasklist.moc"

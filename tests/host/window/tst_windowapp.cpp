@@ -1,0 +1,192 @@
+#include "host/commandline/commandline.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+struct Run
+{
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+void prepare(QProcess &program, const QStringList &arguments, const QString &platform)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DISPLAY"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+    program.setProcessEnvironment(environment);
+    program.setProgram(QStringLiteral(VEXCONVERT));
+    program.setArguments(arguments);
+}
+
+Run run(const QStringList &arguments, const QString &platform = QStringLiteral("offscreen"))
+{
+    QProcess program;
+    prepare(program, arguments, platform);
+    program.start();
+    constexpr int patience = 60000;
+    Run result;
+    if (program.waitForFinished(patience) && program.exitStatus() == QProcess::NormalExit) {
+        result.exitCode = program.exitCode();
+    }
+    result.out = QString::fromUtf8(program.readAllStandardOutput());
+    result.err = QString::fromUtf8(program.readAllStandardError());
+    return result;
+}
+
+} // namespace
+
+/*! The start of the program, as its caller sees it. */
+class TestWindowApp : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aCallWithoutASubcommandAsksForTheWindow_data();
+    void aCallWithoutASubcommandAsksForTheWindow();
+    void withoutADisplayThatIsSaid();
+    void subcommandsNeedNoDisplay();
+    void aFolderIsForOneWindow();
+    void aDamagedFileIsToldInTheLog();
+    void badOptionsAreRefused_data();
+    void badOptionsAreRefused();
+    void theHelpTellsOfTheWindow();
+};
+
+void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("isForWindow");
+    const auto row = [](const char *line, bool isForWindow) {
+        QTest::newRow(line) << QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                            << isForWindow;
+    };
+    row("", true);
+    row("--config /folder --language de --screenshots /pictures", true);
+    row("--help", false);
+    row("--version", false);
+    row("--bogus", false);
+    row("--config /folder formats", false);
+    row("formats", false);
+}
+
+void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, isForWindow);
+    const auto options = CommandLine::windowOptions(arguments);
+    QCOMPARE(options.has_value(), isForWindow);
+    if (!arguments.isEmpty() && isForWindow) {
+        QCOMPARE(options->configFolder, QStringLiteral("/folder"));
+        QCOMPARE(options->language, QStringLiteral("de"));
+        QCOMPARE(options->screenshotFolder, QStringLiteral("/pictures"));
+    }
+}
+
+void TestWindowApp::withoutADisplayThatIsSaid()
+{
+    const Run told = run({}, QStringLiteral("xcb"));
+    QCOMPARE(told.exitCode, 2);
+    QCOMPARE(told.out, QString());
+    QCOMPARE(told.err, QStringLiteral("vexconvert: there is no display to show the window on; "
+                                      "start it in a desktop, or use a subcommand: \"vexconvert "
+                                      "--help\" lists them\n"));
+}
+
+void TestWindowApp::subcommandsNeedNoDisplay()
+{
+    const Run told = run({QStringLiteral("formats")}, QStringLiteral("xcb"));
+    QCOMPARE(told.exitCode, 0);
+    QVERIFY(told.out.contains(QStringLiteral("MP4")));
+    QCOMPARE(told.err, QString());
+}
+
+void TestWindowApp::aFolderIsForOneWindow()
+{
+    QTemporaryDir folder;
+    const QStringList call = {QStringLiteral("--config"), folder.path()};
+    QProcess first;
+    prepare(first, call, QStringLiteral("offscreen"));
+    first.start();
+    QTRY_VERIFY(QFile::exists(folder.filePath(QStringLiteral("vexconvert.lock"))));
+
+    const Run second = run(call);
+    QCOMPARE(second.exitCode, 1);
+    QVERIFY2(second.err.startsWith(
+                 QStringLiteral("vexconvert: another program is writing the presets in ")),
+             qUtf8Printable(second.err));
+    QCOMPARE(first.state(), QProcess::Running);
+    first.kill();
+    first.waitForFinished();
+}
+
+void TestWindowApp::aDamagedFileIsToldInTheLog()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("recently.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[ {");
+    file.close();
+
+    QProcess window;
+    prepare(window,
+            {QStringLiteral("--config"), folder.path(), QStringLiteral("--language"),
+             QStringLiteral("en")},
+            QStringLiteral("offscreen"));
+    window.start();
+    QByteArray log;
+    QTRY_VERIFY((log += window.readAllStandardError()).endsWith('\n'));
+    QVERIFY2(log.contains("recently.json was damaged"), log.constData());
+    window.kill();
+    window.waitForFinished();
+}
+
+void TestWindowApp::badOptionsAreRefused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("unknown language")
+        << QStringList{QStringLiteral("--language"), QStringLiteral("tlh")} << 2
+        << QStringLiteral("vexconvert: --language is one of: en, zh, de, es, fr, ja\n");
+    QTest::newRow("for the window, with a subcommand")
+        << QStringList{QStringLiteral("--language"), QStringLiteral("de"),
+                       QStringLiteral("formats")}
+        << 2
+        << QStringLiteral("vexconvert: --language is for the window; leave it out before a "
+                          "subcommand\n");
+    QTest::newRow("folder that can't be")
+        << QStringList{QStringLiteral("--config"), QStringLiteral("/dev/null/x"),
+                       QStringLiteral("--language"), QStringLiteral("en")}
+        << 1
+        << QStringLiteral("vexconvert: can't write into the configuration folder /dev/null/x; "
+                          "name another one\n");
+    QTest::newRow("pictures into a folder that can't be")
+        << QStringList{QStringLiteral("--screenshots"), QStringLiteral("/dev/null/x")} << 1
+        << QStringLiteral("vexconvert: can't make the folder /dev/null/x; name another one\n");
+}
+
+void TestWindowApp::badOptionsAreRefused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, error);
+    const Run told = run(arguments);
+    QCOMPARE(told.err, error);
+    QCOMPARE(told.exitCode, exitCode);
+}
+
+void TestWindowApp::theHelpTellsOfTheWindow()
+{
+    const QString help = run({QStringLiteral("--help")}).out;
+    QVERIFY(help.contains(QStringLiteral("--language <LANG>")));
+    QVERIFY(help.contains(QStringLiteral("--screenshots <DIR>")));
+}
+
+QTEST_GUILESS_MAIN(TestWindowApp)
+#include "tst_windowapp.moc"
