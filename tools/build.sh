@@ -26,4 +26,14 @@ build() {
     cmake --build --preset "$preset" -- --quiet >&2
 }
 
-build_packages=(g++ cmake ninja-build qtbase5-dev qtdeclarative5-dev ffmpeg)
+build_packages=(
+    g++ cmake ninja-build
+    qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev qttools5-dev qttools5-dev-tools
+)
+run_packages=(
+    ffmpeg libqt5svg5 fonts-dejavu-core
+    qml-module-qtqml qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
+    qml-module-qtquick-templates2 qml-module-qtquick-layouts qml-module-qt-labs-settings
+    qml-module-qtgraphicaleffects
+)
+test_packages=(qml-module-qttest xvfb xauth python3 python3-jsonschema)

@@ -133,19 +133,25 @@ public:
 
 private:
     void readFile(const QJsonObject &file);
+    void readLists(const QJsonObject &lists);
+    void readTemplates(const QJsonObject &templates);
     void readGroup(const QString &category, QJsonObject group, const QString &path);
+    QVariantMap readWithTemplate(QJsonObject from, const QString &path);
     QVariantMap readSettings(const QJsonObject &from, const QString &path);
     QVariantMap readBlock(QLatin1String block, const QJsonValue &value, const QString &path);
     QVariantList readOptions(const QJsonValue &value, QJsonValue::Type type, const QString &path);
     void complete(QVariantMap &preset, const QString &path);
 
     QVariantList shared(const QJsonArray &array);
+    QJsonObject objectOrNone(const QJsonObject &file, const QString &key);
     QString text(const QJsonValue &value, const QString &path);
     void expect(QJsonValue::Type type, const QJsonValue &value, const QString &path);
+    void expectElements(QJsonValue::Type type, const QJsonArray &array, const QString &path);
     void raise(const QString &path, const QString &reason);
 
     QString m_source;
-    QJsonObject m_lists;
+    QHash<QString, QJsonArray> m_lists;
+    QHash<QString, QVariantMap> m_templates;
     QHash<QByteArray, QVariantList> m_shared;
     QSet<QString> m_ids;
 };
@@ -167,15 +173,8 @@ void Reader::read(const CatalogueSource &source)
 
 void Reader::readFile(const QJsonObject &file)
 {
-    const QString listsPath = QStringLiteral("lists");
-    const QJsonValue lists = file.value(listsPath);
-    m_lists = lists.toObject();
-    if (!lists.isUndefined()) {
-        expect(QJsonValue::Object, lists, listsPath);
-    }
-    for (auto it = m_lists.constBegin(); it != m_lists.constEnd(); ++it) {
-        expect(QJsonValue::Array, it.value(), member(listsPath, it.key()));
-    }
+    readLists(objectOrNone(file, QStringLiteral("lists")));
+    readTemplates(objectOrNone(file, QStringLiteral("templates")));
 
     const QString categoryPath = QStringLiteral("category");
     const QString category = text(file.value(categoryPath), categoryPath);
@@ -191,6 +190,27 @@ void Reader::readFile(const QJsonObject &file)
         const QString path = element(groupsPath, i);
         expect(QJsonValue::Object, groups.at(i), path);
         readGroup(category, groups.at(i).toObject(), path);
+    }
+}
+
+void Reader::readLists(const QJsonObject &lists)
+{
+    for (auto it = lists.constBegin(); it != lists.constEnd(); ++it) {
+        const QString path = member(QStringLiteral("lists"), it.key());
+        expect(QJsonValue::Array, it.value(), path);
+        const QJsonArray list = it.value().toArray();
+        expectElements(list.first().isString() ? QJsonValue::String : QJsonValue::Double, list,
+                       path);
+        m_lists.insert(it.key(), list);
+    }
+}
+
+void Reader::readTemplates(const QJsonObject &templates)
+{
+    for (auto it = templates.constBegin(); it != templates.constEnd(); ++it) {
+        const QString path = member(QStringLiteral("templates"), it.key());
+        expect(QJsonValue::Object, it.value(), path);
+        m_templates.insert(it.key(), readSettings(it.value().toObject(), path));
     }
 }
 
@@ -213,13 +233,13 @@ void Reader::readGroup(const QString &category, QJsonObject group, const QString
     const QString presetsPath = member(path, QStringLiteral("presets"));
     expect(QJsonValue::Array, list, presetsPath);
 
-    const QVariantMap usual = readSettings(group, path);
+    const QVariantMap usual = readWithTemplate(group, path);
     QVariantList maps;
     const QJsonArray presets = list.toArray();
     for (int i = 0; i < presets.size(); ++i) {
         const QString presetPath = element(presetsPath, i);
         expect(QJsonValue::Object, presets.at(i), presetPath);
-        QVariantMap map = merged(usual, readSettings(presets.at(i).toObject(), presetPath));
+        QVariantMap map = merged(usual, readWithTemplate(presets.at(i).toObject(), presetPath));
         complete(map, presetPath);
         maps.append(map);
     }
@@ -232,7 +252,23 @@ void Reader::readGroup(const QString &category, QJsonObject group, const QString
     });
 }
 
-/*! A group's or a preset's own settings; further keys travel along as they are. */
+/*! The settings of a group or a preset, over those of the template that it names. */
+QVariantMap Reader::readWithTemplate(QJsonObject from, const QString &path)
+{
+    const QJsonValue base = from.take(QStringLiteral("template"));
+    const QVariantMap own = readSettings(from, path);
+    if (base.isUndefined()) {
+        return own;
+    }
+    const QString basePath = member(path, QStringLiteral("template"));
+    const QString name = text(base, basePath);
+    if (!m_templates.contains(name)) {
+        raise(basePath, QStringLiteral("there is no template \"%1\" in \"templates\"").arg(name));
+    }
+    return merged(m_templates.value(name), own);
+}
+
+/*! The settings of a group, a template or a preset; further keys travel along as they are. */
 QVariantMap Reader::readSettings(const QJsonObject &from, const QString &path)
 {
     QVariantMap map;
@@ -275,22 +311,18 @@ QVariantMap Reader::readBlock(QLatin1String block, const QJsonValue &value, cons
     return map;
 }
 
-/*! An option list, written as such or as the name of one of the file's lists. */
+/*! An option list, written as such or as the name of a list. */
 QVariantList Reader::readOptions(const QJsonValue &value, QJsonValue::Type type,
                                  const QString &path)
 {
     const QString name = value.toString();
     if (value.isString() && !m_lists.contains(name)) {
         raise(path, QStringLiteral("there is no list \"%1\" in \"lists\"").arg(name));
-        return {};
+    } else if (!value.isString()) {
+        expect(QJsonValue::Array, value, path);
     }
-    const QString listPath = value.isString() ? member(QStringLiteral("lists"), name) : path;
-    const QJsonValue list = value.isString() ? m_lists.value(name) : value;
-    expect(QJsonValue::Array, list, listPath);
-    const QJsonArray array = list.toArray();
-    for (int i = 0; i < array.size(); ++i) {
-        expect(type, array.at(i), element(listPath, i));
-    }
+    const QJsonArray array = value.isString() ? m_lists.value(name) : value.toArray();
+    expectElements(type, array, path);
     return shared(array);
 }
 
@@ -338,6 +370,14 @@ QVariantList Reader::shared(const QJsonArray &array)
     return list;
 }
 
+QJsonObject Reader::objectOrNone(const QJsonObject &file, const QString &key)
+{
+    if (file.contains(key)) {
+        expect(QJsonValue::Object, file.value(key), key);
+    }
+    return file.value(key).toObject();
+}
+
 QString Reader::text(const QJsonValue &value, const QString &path)
 {
     expect(QJsonValue::String, value, path);
@@ -352,6 +392,13 @@ void Reader::expect(QJsonValue::Type type, const QJsonValue &value, const QStrin
     if (value.type() != type) {
         raise(path,
               QStringLiteral("must be %1 but is %2").arg(typeName(type), typeName(value.type())));
+    }
+}
+
+void Reader::expectElements(QJsonValue::Type type, const QJsonArray &array, const QString &path)
+{
+    for (int i = 0; i < array.size(); ++i) {
+        expect(type, array.at(i), element(path, i));
     }
 }
 

@@ -19,7 +19,9 @@ CatalogueResult readCatalogueAt(const QString &path)
         const QStringList names =
             folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
         for (const QString &name : names) {
-            files.append(folder.filePath(name));
+            if (!name.endsWith(QLatin1String(".schema.json"))) {
+                files.append(folder.filePath(name));
+            }
         }
         if (files.isEmpty()) {
             const QString reason = folder.isReadable()

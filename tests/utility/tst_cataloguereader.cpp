@@ -44,10 +44,10 @@ QByteArray group(const QByteArray &name, const QList<QByteArray> &settings,
 }
 
 QByteArray file(const QByteArray &category, const QList<QByteArray> &groups,
-                const QByteArray &lists = "{}")
+                const QByteArray &lists = "{}", const QByteArray &templates = "{}")
 {
-    return R"({ "category": ")" + category + R"(", "lists": )" + lists + R"(, "groups": [)" +
-           joined(groups) + "] }";
+    return R"({ "category": ")" + category + R"(", "lists": )" + lists + R"(, "templates": )" +
+           templates + R"(, "groups": [)" + joined(groups) + "] }";
 }
 
 QVector<CatalogueSource> sources(const QList<QByteArray> &files)
@@ -77,7 +77,7 @@ QByteArray broken(const QByteArray &right, const QByteArray &wrong)
 {
     const QByteArray whole =
         file("Video", {group("MP4", {videoBlocks, audioBlocks}, {preset("A_B_001")})},
-             R"({ "rates": [0, 30] })");
+             R"({ "rates": [0, 30] })", R"({ "size": { "extension": "y" } })");
     QByteArray result = whole;
     result.replace(right, wrong);
     return result == whole ? QByteArray("nothing was exchanged") : result;
@@ -98,7 +98,11 @@ private slots:
     void audioOnlyPresetsHaveNoVideoKeys();
     void presetsWithoutSoundHaveEmptyAudioMaps();
     void namedListsStandForTheirValues();
-    void namedListsAreThoseOfTheFile();
+    void namesHoldForTheFilesAfterTheirs();
+    void theNewestMeaningOfANameHolds();
+    void templatesStandBetweenGroupAndPreset();
+    void aGroupMayHaveATemplateToo();
+    void furtherKeysOfATemplateTravelAlong();
     void equalListsAreShared();
     void listsOfTextsAreNotSharedWithListsOfNumbers();
     void numbersStayNumbersAndTextsTexts();
@@ -213,23 +217,89 @@ void tst_CatalogueReader::namedListsStandForTheirValues()
         sources({file("Video",
                       {group("MP4", {videoBlocks, audioBlocks},
                              {preset("1", R"("videoOptions": { "frameRateList": "rates" })")})},
-                      R"({ "rates": [0, 24, 25], "neverUsed": ["any", 1, {}] })")}));
+                      R"({ "rates": [0, 24, 25], "neverUsed": [], "texts": ["a"] })")}));
     QCOMPARE(result.error, QString());
     QCOMPARE(valueAt(presetOf(result, "Video", "MP4"), "videoOptions", "frameRateList"),
              QVariant(QVariantList{0, 24, 25}));
 }
 
-void tst_CatalogueReader::namedListsAreThoseOfTheFile()
+void tst_CatalogueReader::namesHoldForTheFilesAfterTheirs()
 {
-    const QByteArray byName = R"("audioOptions": { "channelList": "channels" })";
+    const QByteArray names = R"("template": "mono", "audioOptions": { "channelList": "one" })";
     const CatalogueResult result = readCatalogue(sources(
-        {file("A", {group("G", {audioBlocks}, {preset("1", byName)})}, R"({ "channels": [0, 1] })"),
-         file("B", {group("G", {audioBlocks}, {preset("2", byName)})},
-              R"({ "channels": [0, 6] })")}));
+        {file("A", {}, R"({ "one": [1] })", R"({ "mono": { "audioParam": { "channel": 1 } } })"),
+         file("B", {group("G", {audioBlocks}, {preset("1", names)})})}));
+    QCOMPARE(result.error, QString());
+    const QVariantMap map = presetOf(result, "B", "G");
+    QCOMPARE(valueAt(map, "audioOptions", "channelList"), QVariant(QVariantList{1}));
+    QCOMPARE(valueAt(map, "audioParam", "channel"), QVariant(1));
+}
+
+void tst_CatalogueReader::theNewestMeaningOfANameHolds()
+{
+    const QByteArray names = R"("template": "t", "audioOptions": { "channelList": "channels" })";
+    const CatalogueResult result = readCatalogue(sources(
+        {file("A", {group("G", {audioBlocks}, {preset("1", names)})}, R"({ "channels": [0, 1] })",
+              R"({ "t": { "title": "old", "extension": "old" } })"),
+         file("B", {group("G", {audioBlocks}, {preset("2", names)})}, R"({ "channels": [0, 6] })",
+              R"({ "t": { "extension": "new" } })")}));
+    QCOMPARE(result.error, QString());
     QCOMPARE(valueAt(presetOf(result, "A", "G"), "audioOptions", "channelList"),
              QVariant(QVariantList{0, 1}));
     QCOMPARE(valueAt(presetOf(result, "B", "G"), "audioOptions", "channelList"),
              QVariant(QVariantList{0, 6}));
+    QCOMPARE(presetOf(result, "A", "G").value(QStringLiteral("extension")),
+             QVariant(QStringLiteral("old")));
+    QCOMPARE(presetOf(result, "B", "G").value(QStringLiteral("extension")),
+             QVariant(QStringLiteral("new")));
+}
+
+void tst_CatalogueReader::templatesStandBetweenGroupAndPreset()
+{
+    const CatalogueResult result = readCatalogue(sources({file(
+        "Audio",
+        {group("MP3", {audioBlocks},
+               {R"({ "id": "1", "template": "speech", "audioParam": { "bitrateKbps": 64 } })"})},
+        R"({ "low": [0, 32] })", R"({ "speech": {
+            "title": "Voice",
+            "audioParam": { "channel": 1, "bitrateKbps": 32 },
+            "audioOptions": { "bitrateKbpsList": "low" } } })")}));
+    QCOMPARE(result.error, QString());
+    const QVariantMap map = presetOf(result, "Audio", "MP3");
+    QCOMPARE(map.value(QStringLiteral("title")), QVariant(QStringLiteral("Voice")));
+    QCOMPARE(map.value(QStringLiteral("extension")), QVariant(QStringLiteral("x")));
+    QCOMPARE(valueAt(map, "audioParam", "encoder"), QVariant(QStringLiteral("aac")));
+    QCOMPARE(valueAt(map, "audioParam", "channel"), QVariant(1));
+    QCOMPARE(valueAt(map, "audioParam", "bitrateKbps"), QVariant(64));
+    QCOMPARE(valueAt(map, "audioOptions", "bitrateKbpsList"), QVariant(QVariantList{0, 32}));
+    QCOMPARE(valueAt(map, "audioOptions", "channelList"), QVariant(QVariantList{0, 1, 2}));
+    QVERIFY(!map.contains(QStringLiteral("template")));
+}
+
+void tst_CatalogueReader::aGroupMayHaveATemplateToo()
+{
+    const CatalogueResult result = readCatalogue(
+        sources({file("Audio",
+                      {group("MP3", {R"("template": "usual", "audioParam": { "channel": 1 })"},
+                             {preset("1"), preset("2", R"("template": "low")")})},
+                      "{}", R"({ "usual": { "extension": "not taken", )" + audioBlocks + R"( },
+             "low": { "audioParam": { "channel": 6, "bitrateKbps": 32 } } })")}));
+    QCOMPARE(result.error, QString());
+    const QVariantMap first = presetOf(result, "Audio", "MP3", 0);
+    QCOMPARE(first.value(QStringLiteral("extension")), QVariant(QStringLiteral("x")));
+    QCOMPARE(valueAt(first, "audioParam", "channel"), QVariant(1));
+    QCOMPARE(valueAt(first, "audioParam", "bitrateKbps"), QVariant(192));
+    const QVariantMap second = presetOf(result, "Audio", "MP3", 1);
+    QCOMPARE(valueAt(second, "audioParam", "channel"), QVariant(6));
+    QCOMPARE(valueAt(second, "audioParam", "bitrateKbps"), QVariant(32));
+}
+
+void tst_CatalogueReader::furtherKeysOfATemplateTravelAlong()
+{
+    const CatalogueResult result = readCatalogue(
+        sources({file("Audio", {group("MP3", {audioBlocks}, {preset("1", R"("template": "t")")})},
+                      "{}", R"({ "t": { "twoPass": true } })")}));
+    QCOMPARE(presetOf(result, "Audio", "MP3").value(QStringLiteral("twoPass")), QVariant(true));
 }
 
 void tst_CatalogueReader::equalListsAreShared()
@@ -355,6 +425,27 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
         ": lists: must be an object but is a list");
     row("a named list is no list", broken("[0, 30]", "30"),
         ": lists.rates: must be a list but is a number");
+    row("a text among the numbers of a named list", broken("[0, 30]", R"([0, "30"])"),
+        ": lists.rates[1]: must be a number but is a text");
+    row("a number among the texts of a named list", broken("[0, 30]", R"(["0", 30])"),
+        ": lists.rates[1]: must be a text but is a number");
+    row("a named list of lists", broken("[0, 30]", "[[0, 30]]"),
+        ": lists.rates[0]: must be a number but is a list");
+    row("templates is no object", broken(R"({ "size": { "extension": "y" } })", "true"),
+        ": templates: must be an object but is true or false");
+    row("a template is no object", broken(R"({ "extension": "y" })", R"("y")"),
+        ": templates.size: must be an object but is a text");
+    row("a template's extension is no text", broken(R"("extension": "y")", R"("extension": 1)"),
+        ": templates.size.extension: must be a text but is a number");
+    row("a template's option list is wrong",
+        broken(R"("extension": "y")", R"("audioOptions": { "channelList": [1, "2"] })"),
+        ": templates.size.audioOptions.channelList[1]: must be a number but is a text");
+    row("template is no text", broken(R"("title": "T")", R"("title": "T", "template": 1)"),
+        ": groups[0].presets[0].template: must be a text but is a number");
+    row("unknown template", broken(R"("title": "T")", R"("title": "T", "template": "Size")"),
+        ": groups[0].presets[0].template: there is no template \"Size\" in \"templates\"");
+    row("unknown template of a group", broken(R"("name")", R"("template": "Size", "name")"),
+        ": groups[0].template: there is no template \"Size\" in \"templates\"");
 
     row("group is no object", R"({ "category": "Video", "groups": [true] })",
         ": groups[0]: must be an object but is true or false");
@@ -439,8 +530,8 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
         ": groups[0].audioOptions.channelList[1]: must be a number but is a text");
     row("a number among texts", broken(R"(["0", "h264"])", R"(["0", "h264", 0])"),
         ": groups[0].videoOptions.encoderList[2]: must be a text but is a number");
-    row("a number among the texts of a named list", broken(R"(["0", "h264"])", R"("rates")"),
-        ": lists.rates[0]: must be a text but is a number");
+    row("a named list of numbers for texts", broken(R"(["0", "h264"])", R"("rates")"),
+        ": groups[0].videoOptions.encoderList[0]: must be a text but is a number");
     row("two levels", broken("[12000, 8000, 4000]", "[8000, 4000]"),
         ": groups[0].videoOptions.levelList: must hold three bitrates: high, middle and low");
     row("four levels", broken("[12000, 8000, 4000]", "[8, 4, 2, 1]"),

@@ -107,6 +107,7 @@ private slots:
     void aRelativePathStartsAtTheWorkingDirectory();
     void aFolderIsServedInTheOrderOfItsFileNames();
     void oneCategoryMayComeFromSeveralFiles();
+    void theFilesOfTheBuiltInCatalogueServeItToo();
     void whatCannotBeServedIsReportedInOneLine_data();
     void whatCannotBeServedIsReportedInOneLine();
     void whatMayNotBeReadIsReported_data();
@@ -258,6 +259,7 @@ void tst_FormatCodecApi::aFolderIsServedInTheOrderOfItsFileNames()
     write(folder.path(), {{QStringLiteral("b.json"), catalogue("B", "G", "2")},
                           {QStringLiteral("a.json"), catalogue("C", "G", "1")},
                           {QStringLiteral("c.json"), catalogue("A", "G", "3")},
+                          {QStringLiteral("d.schema.json"), "a schema"},
                           {QStringLiteral("notes.txt"), "no catalogue"}});
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.json")));
     const Served served = servedWith(folder.path());
@@ -273,6 +275,14 @@ void tst_FormatCodecApi::oneCategoryMayComeFromSeveralFiles()
                           {QStringLiteral("3.json"), catalogue("Video", "MKV", "3")}});
     QCOMPARE(servedWith(folder.path()).catalogue,
              QByteArray("Video MP4 1\nVideo MKV 3\nAudio MP3 2\n"));
+}
+
+// So that a copy of the folder is a good start for a catalogue of one's own.
+void tst_FormatCodecApi::theFilesOfTheBuiltInCatalogueServeItToo()
+{
+    const Served served = servedWith(QStringLiteral(VEX_CATALOGUE_FOLDER));
+    QCOMPARE(served.standardError, QByteArray());
+    QCOMPARE(served.catalogue, servedCatalogue());
 }
 
 void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
