@@ -1,0 +1,135 @@
+// How long the window takes to answer: each figure is printed beside the time that a person waits
+// without noticing, and the exit code is 1 when one is over it.
+
+#include "formats/models/formatdetailmodel.h"
+#include "formats/proxy/formatsproxy.h"
+#include "host/window/mainwindow.h"
+#include "host/window/settings.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+/*! A figure of something that didn't happen is no figure. */
+void require(bool isSo, const char *otherwise)
+{
+    if (!isSo) {
+        qFatal("%s", otherwise);
+    }
+}
+
+bool report(const QString &what, double milliseconds, double limit)
+{
+    QTextStream(stdout) << QStringLiteral("%1 %2 ms, at most %3 ms\n")
+                               .arg(what, -52)
+                               .arg(milliseconds, 8, 'f', 1)
+                               .arg(limit);
+    return milliseconds <= limit;
+}
+
+double sinceStart(const QElapsedTimer &clock)
+{
+    return double(clock.nsecsElapsed()) / 1e6;
+}
+
+/*! Lets the window draw what has changed, and returns when that is done. */
+void waitForFrame(QQuickWindow *window)
+{
+    QEventLoop loop;
+    QObject::connect(window, &QQuickWindow::afterRendering, &loop, &QEventLoop::quit,
+                     Qt::QueuedConnection);
+    window->update();
+    loop.exec();
+}
+
+/*! The first preset of the format that has most of them. */
+QString presetOfTheBiggestClass(FormatsProxy &formats)
+{
+    const FormatListModel &list = *formats.formatListModel();
+    const FormatDetailModel *biggest = nullptr;
+    for (int row = 0; row < list.rowCount(); ++row) {
+        const FormatDetailModel *presets = list.formatDetailModel(list.getTitle(row));
+        if (biggest == nullptr || presets->rowCount() > biggest->rowCount()) {
+            biggest = presets;
+        }
+    }
+    return biggest->getId(0);
+}
+
+void press(QQuickWindow *window, QChar letter)
+{
+    QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
+    QCoreApplication::sendEvent(window, &event);
+}
+
+double medianOf(QVector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QElapsedTimer clock;
+    clock.start();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QApplication app(argc, argv);
+    QTemporaryDir config;
+    MainWindow main(config.path());
+    const QString problem = main.open();
+    if (!problem.isEmpty()) {
+        qFatal("%s", qUtf8Printable(problem));
+    }
+    QQuickWindow *window = main.window();
+    waitForFrame(window);
+    bool isFast = report(QStringLiteral("First window"), sinceStart(clock), 1000);
+
+    QObject *picker = window->property("picker").value<QObject *>();
+    main.settings().setConverterGlobalId(presetOfTheBiggestClass(*FormatsProxy::getInstance()));
+    QVector<double> openings;
+    for (int round = 0; round < 10; ++round) {
+        clock.restart();
+        QMetaObject::invokeMethod(window, "openGlobalPicker");
+        waitForFrame(window);
+        openings << sinceStart(clock);
+        require(picker->property("opened").toBool(), "the picker isn't open");
+        QMetaObject::invokeMethod(picker, "close");
+        waitForFrame(window);
+    }
+    isFast &= report(QStringLiteral("Picker of the biggest class, for the first time"),
+                     openings.constFirst(), 150);
+    isFast &=
+        report(QStringLiteral("Picker of the biggest class, median of %1").arg(openings.size()),
+               medianOf(openings), 150);
+
+    QMetaObject::invokeMethod(window, "openGlobalPicker");
+    waitForFrame(window);
+    QVector<double> strokes;
+    for (int round = 0; round < 10; ++round) {
+        for (const QChar letter : QStringLiteral("mp4")) {
+            clock.restart();
+            press(window, letter);
+            waitForFrame(window);
+            strokes << sinceStart(clock);
+        }
+        require(FormatsProxy::getInstance()->formatListModelProxy()->searchKey() ==
+                    QStringLiteral("mp4"),
+                "the search didn't get the keys");
+        QMetaObject::invokeMethod(picker, "showTag", Q_ARG(QVariant, QStringLiteral("video")));
+        waitForFrame(window);
+    }
+    isFast &= report(QStringLiteral("Key stroke in the search, median of %1").arg(strokes.size()),
+                     medianOf(strokes), 16);
+    return isFast ? 0 : 1;
+}
