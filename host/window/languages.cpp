@@ -14,7 +14,7 @@ QStringList Languages::all()
 QString Languages::suiting(const QString &locale)
 {
     const QString language = locale.left(2).toLower();
-    const bool isWholeWord = locale.size() == 2 || !locale.at(2).isLetter();
+    const bool isWholeWord = locale.size() <= 2 || !locale.at(2).isLetter();
     return isWholeWord && all().contains(language) ? language : QString();
 }
 
