@@ -40,7 +40,7 @@ ApplicationWindow {
     width: 1040
     height: 700
     minimumWidth: 900
-    minimumHeight: 560
+    minimumHeight: 480
     visible: true
     title: "VexConvert"
     color: VexThemeMgr.curTheme.basics_gradeTone2

@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Voice</source>
-        <translation>音声</translation>
+        <translation>ボイス</translation>
     </message>
     <message>
         <source>Lossless</source>

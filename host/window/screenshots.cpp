@@ -31,6 +31,8 @@ QString Screenshots::takeAll()
     if (!m_problem.isEmpty()) {
         return m_problem;
     }
+    // The screen that isn't there has a size, which the window mustn't have.
+    m_window.window()->resize(1040, 700);
     take(QStringLiteral("converter-empty"));
     showPage(1);
     take(QStringLiteral("editor-empty"));

@@ -201,6 +201,13 @@ void TestPresets::aFolderHasOneUserAtATime()
         PresetStore first(path);
         QCOMPARE(first.lock(0), QString());
         QVERIFY(second.lock(0).startsWith(QStringLiteral("another program is writing")));
+
+        // However long it has been there.
+        QFile lock(QDir(path).filePath(QStringLiteral("vexconvert.lock")));
+        QVERIFY(lock.open(QIODevice::ReadWrite));
+        QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-1),
+                                 QFileDevice::FileModificationTime));
+        QVERIFY(second.lock(0).startsWith(QStringLiteral("another program is writing")));
     }
     QCOMPARE(second.lock(0), QString());
 }
