@@ -34,6 +34,6 @@ run_packages=(
     ffmpeg libqt5svg5 fonts-dejavu-core
     qml-module-qtqml qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
     qml-module-qtquick-templates2 qml-module-qtquick-layouts qml-module-qt-labs-settings
-    qml-module-qtgraphicaleffects
+    qml-module-qtgraphicaleffects qttranslations5-l10n
 )
-test_packages=(qml-module-qttest xvfb xauth python3 python3-jsonschema)
+test_packages=(qml-module-qttest xvfb xauth libgl1-mesa-dri python3 python3-jsonschema)
