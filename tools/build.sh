@@ -23,7 +23,7 @@ build() {
         echo "Building the preset \"$preset\" for the first time, which takes a few minutes." >&2
         cmake --preset "$preset" >&2
     fi
-    cmake --build --preset "$preset" -- --quiet >&2
+    cmake --build --preset "$preset" -- --quiet 2>&1 | sed '/^ninja: no work to do\.$/d' >&2
 }
 
 build_packages=(

@@ -170,7 +170,7 @@ bool FormatDetailModel::getModelInfoByIndex(int index, FormatDetailModelData &ou
 
 bool FormatDetailModel::getModelInfoById(const QString &id, FormatDetailModelData &out) const
 {
-    const FormatDetailModelData *row = m_rowsById.first(id);
+    const FormatDetailModelData *row = find(id);
     if (!row) {
         return false;
     }
@@ -194,7 +194,7 @@ bool FormatDetailModel::setRoleValue(InvitationRoles role, const QString &id, co
 
 QVariant FormatDetailModel::getRoleValue(InvitationRoles role, const QString &id) const
 {
-    const FormatDetailModelData *row = m_rowsById.first(id);
+    const FormatDetailModelData *row = find(id);
     return row && role == ExtensionRole ? QVariant(row->extension) : QVariant();
 }
 
@@ -217,6 +217,11 @@ QVariantList FormatDetailModel::toVariantListForTest() const
         list.append(map);
     }
     return list;
+}
+
+const FormatDetailModelData *FormatDetailModel::find(const QString &id) const
+{
+    return m_rowsById.first(id);
 }
 
 bool FormatDetailModel::hasRow(int index) const

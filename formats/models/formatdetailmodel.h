@@ -113,6 +113,10 @@ Q_SIGNALS:
 
 private:
     friend class FormatListModel;
+    friend class FormatsProxyPrivate;
+
+    // The first row with this id, valid until the rows change; null when there is none.
+    const FormatDetailModelData *find(const QString &id) const;
 
     bool hasRow(int index) const;
     void insertData(int index, FormatDetailModelData &&data);

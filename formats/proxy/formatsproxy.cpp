@@ -184,11 +184,11 @@ FormatDetailModel *FormatsProxy::recentlyFormatsModel()
 
 bool FormatsProxy::add2Recently(const QString &tagName, const QString &className, const QString &id)
 {
-    const FormatDetailModel *source = d->presetsOf(tagName, className);
-    FormatDetailModelData preset;
-    if (!source || !source->getModelInfoById(id, preset)) {
+    const FormatDetailModelData *source = d->find(tagName, className, id);
+    if (!source) {
         return true;
     }
+    FormatDetailModelData preset = *source;
     // Only user-defined presets are saved, and the recently-used ones are to be.
     preset.userDefine = true;
     FormatDetailModel *recently = d->recentlyModel;
@@ -255,9 +255,8 @@ bool FormatsProxy::delUserDefineFormat(const QString & /*tagName*/, const QStrin
 QVariantMap FormatsProxy::getFormat(const QString &tagName, const QString &className,
                                     const QString &id) const
 {
-    const FormatDetailModel *presets = d->presetsOf(tagName, className);
-    FormatDetailModelData preset;
-    return presets && presets->getModelInfoById(id, preset) ? preset.toVarMap() : QVariantMap();
+    const FormatDetailModelData *preset = d->find(tagName, className, id);
+    return preset ? preset->toVarMap() : QVariantMap();
 }
 
 QVariantMap FormatsProxy::getFormat(const QString &id) const
@@ -272,18 +271,14 @@ QVariantMap FormatsProxy::getFormat(const QString &id) const
 
 bool FormatsProxy::isAudioFormat(const QString &id) const
 {
-    QString className;
-    FormatDetailModelData preset;
-    return d->findInCatalogue(id, className, preset) && preset.videoEncoders.isEmpty() &&
-           !preset.audioEncoders.isEmpty();
+    const FormatDetailModelData *preset = d->findInCatalogue(id);
+    return preset && preset->videoEncoders.isEmpty() && !preset->audioEncoders.isEmpty();
 }
 
 bool FormatsProxy::isVideoFormat(const QString &id) const
 {
-    QString className;
-    FormatDetailModelData preset;
-    return d->findInCatalogue(id, className, preset) && !preset.videoEncoders.isEmpty() &&
-           !preset.audioEncoders.isEmpty();
+    const FormatDetailModelData *preset = d->findInCatalogue(id);
+    return preset && !preset->videoEncoders.isEmpty() && !preset->audioEncoders.isEmpty();
 }
 
 bool FormatsProxy::isSupportMultiTrack(const QString &id) const
@@ -291,8 +286,7 @@ bool FormatsProxy::isSupportMultiTrack(const QString &id) const
     static const QStringList multiTrackClasses{QStringLiteral("MP4"), QStringLiteral("MOV"),
                                                QStringLiteral("AVI"), QStringLiteral("M4V")};
     QString className;
-    FormatDetailModelData preset;
-    return d->findInCatalogue(id, className, preset) && multiTrackClasses.contains(className);
+    return d->findInCatalogue(id, &className) && multiTrackClasses.contains(className);
 }
 
 QString FormatsProxy::getTagName(const QString &id) const

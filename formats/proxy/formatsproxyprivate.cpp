@@ -39,19 +39,26 @@ void FormatsProxyPrivate::save(QLatin1String fileName, const QVariantList &list)
     write2Local(configPath(fileName), QString::fromUtf8(json));
 }
 
-FormatDetailModel *FormatsProxyPrivate::presetsOf(const QString &tagName,
-                                                  const QString &className) const
+const FormatDetailModelData *
+FormatsProxyPrivate::find(const QString &tagName, const QString &className, const QString &id) const
 {
-    return tagName == QLatin1String("recently") ? recentlyModel
-                                                : formatListModel->formatDetailModel(className);
+    const FormatDetailModel *presets = tagName == QLatin1String("recently")
+                                           ? recentlyModel
+                                           : formatListModel->formatDetailModel(className);
+    return presets ? presets->find(id) : nullptr;
 }
 
-bool FormatsProxyPrivate::findInCatalogue(const QString &id, QString &className,
-                                          FormatDetailModelData &preset) const
+const FormatDetailModelData *FormatsProxyPrivate::findInCatalogue(const QString &id,
+                                                                  QString *className) const
 {
-    className = q->getTagAndClassById(id).value(QStringLiteral("class")).toString();
-    return !className.isEmpty() &&
-           formatListModel->formatDetailModel(className)->getModelInfoById(id, preset);
+    const QString title = q->getTagAndClassById(id).value(QStringLiteral("class")).toString();
+    if (title.isEmpty()) {
+        return nullptr;
+    }
+    if (className) {
+        *className = title;
+    }
+    return formatListModel->formatDetailModel(title)->find(id);
 }
 
 void FormatsProxyPrivate::updateFormatDetailModelDataByAudioBitrate(FormatDetailModelData &preset,

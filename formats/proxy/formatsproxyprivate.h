@@ -41,10 +41,11 @@ private:
 
     Q_DECL_HIDDEN QString configPath(QLatin1String fileName) const;
     Q_DECL_HIDDEN void save(QLatin1String fileName, const QVariantList &list);
-    Q_DECL_HIDDEN FormatDetailModel *presetsOf(const QString &tagName,
-                                               const QString &className) const;
-    Q_DECL_HIDDEN bool findInCatalogue(const QString &id, QString &className,
-                                       FormatDetailModelData &preset) const;
+    // Both null when there is no such preset, and valid until its list changes.
+    Q_DECL_HIDDEN const FormatDetailModelData *
+    find(const QString &tagName, const QString &className, const QString &id) const;
+    Q_DECL_HIDDEN const FormatDetailModelData *findInCatalogue(const QString &id,
+                                                               QString *className = nullptr) const;
     Q_DECL_HIDDEN void updateFormatDetailModelDataByAudioBitrate(FormatDetailModelData &preset,
                                                                  const QString &bitrate);
 };
