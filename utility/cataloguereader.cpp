@@ -7,10 +7,11 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace {
 
-struct Setting
+struct SettingKey
 {
     QLatin1String block;
     QLatin1String key;
@@ -23,7 +24,7 @@ const QLatin1String audioParam("audioParam");
 const QLatin1String audioOptions("audioOptions");
 const QLatin1String levelList("levelList");
 
-const std::array<Setting, 17> settings{{
+const std::array<SettingKey, 17> settingsKeys{{
     {videoParam, QLatin1String("encoder"), QJsonValue::String},
     {videoParam, QLatin1String("resolution"), QJsonValue::String},
     {videoParam, QLatin1String("frameRate"), QJsonValue::Double},
@@ -44,8 +45,13 @@ const std::array<Setting, 17> settings{{
 }};
 
 const std::array<QLatin1String, 4> blocks{videoParam, videoOptions, audioParam, audioOptions};
+const std::array<QLatin1String, 5> fileKeys{QLatin1String("$schema"), QLatin1String("category"),
+                                            QLatin1String("lists"), QLatin1String("templates"),
+                                            QLatin1String("groups")};
 const std::array<QLatin1String, 3> presetTexts{QLatin1String("id"), QLatin1String("extension"),
                                                QLatin1String("title")};
+
+const QString missing = QStringLiteral("is missing from the preset and its group");
 
 QString typeName(QJsonValue::Type type)
 {
@@ -89,15 +95,15 @@ QString reasonOf(const QJsonParseError &error)
     }
 }
 
-QString syntaxError(const QByteArray &json, const QJsonParseError &error)
+CatalogueMistake syntaxMistake(const CatalogueSource &source, const QJsonParseError &error)
 {
-    if (json.trimmed().isEmpty()) {
-        return QStringLiteral("1:1: the file is empty");
+    if (source.json.trimmed().isEmpty()) {
+        return {{source.name, {}}, QStringLiteral("the file is empty"), QStringLiteral("1:1")};
     }
     // Qt has already read the byte that it rejects, except behind the end of the document.
     const int offset =
         error.error == QJsonParseError::GarbageAtEnd ? error.offset : std::max(0, error.offset - 1);
-    return QStringLiteral("%1: %2").arg(lineAndColumn(json, offset), reasonOf(error));
+    return {{source.name, {}}, reasonOf(error), lineAndColumn(source.json, offset)};
 }
 
 QString member(const QString &path, const QString &key)
@@ -108,6 +114,12 @@ QString member(const QString &path, const QString &key)
 QString element(const QString &path, int index)
 {
     return path + QLatin1Char('[') + QString::number(index) + QLatin1Char(']');
+}
+
+template <typename Names>
+bool isIn(const Names &names, const QString &name)
+{
+    return std::find(names.cbegin(), names.cend(), name) != names.cend();
 }
 
 QVariantMap merged(QVariantMap base, const QVariantMap &over)
@@ -123,7 +135,21 @@ QVariantMap merged(QVariantMap base, const QVariantMap &over)
     return base;
 }
 
-// Keeps the first error; what it reads after that is thrown away.
+/*! What a group, a template or a preset states, and where. */
+struct Settings
+{
+    QVariantMap values;
+    PresetPlaces places;
+
+    void add(const Settings &over)
+    {
+        values = merged(values, over.values);
+        for (auto it = over.places.cbegin(); it != over.places.cend(); ++it) {
+            places.insert(it.key(), *it);
+        }
+    }
+};
+
 class Reader
 {
 public:
@@ -136,24 +162,36 @@ private:
     void readLists(const QJsonObject &lists);
     void readTemplates(const QJsonObject &templates);
     void readGroup(const QString &category, QJsonObject group, const QString &path);
-    QVariantMap readWithTemplate(QJsonObject from, const QString &path);
-    QVariantMap readSettings(const QJsonObject &from, const QString &path);
-    QVariantMap readBlock(QLatin1String block, const QJsonValue &value, const QString &path);
+    QVariantList readPresets(const QJsonArray &presets, const Settings *usual, const QString &path);
+    Settings readWithTemplate(QJsonObject from, const QString &path);
+    Settings readSettings(const QJsonObject &from, const QString &path);
+    void readBlock(QLatin1String block, const QJsonValue &value, const QString &path,
+                   Settings &settings);
     QVariantList readOptions(const QJsonValue &value, QJsonValue::Type type, const QString &path);
+    void claimId(const Settings &preset, const QString &path);
     void complete(QVariantMap &preset, const QString &path);
+    void completeBlock(QLatin1String block, const QVariantMap &preset, const QString &path);
 
     QVariantList shared(const QJsonArray &array);
     QJsonObject objectOrNone(const QJsonObject &file, const QString &key);
     QString text(const QJsonValue &value, const QString &path);
     void expect(QJsonValue::Type type, const QJsonValue &value, const QString &path);
     void expectElements(QJsonValue::Type type, const QJsonArray &array, const QString &path);
-    void raise(const QString &path, const QString &reason);
+
+    /*! The value that a name stands for; empty and refused where there is none. */
+    template <typename Value>
+    Value named(const QHash<QString, std::optional<Value>> &values, const QString &name,
+                const QString &refusal, const QString &path);
+    void refuse(const QString &path, const QString &reason);
+    void noteFurtherKey(const QString &path);
 
     QString m_source;
-    QHash<QString, QJsonArray> m_lists;
-    QHash<QString, QVariantMap> m_templates;
+    // Without a value where that is wrong: it is named already where it stands.
+    QHash<QString, std::optional<QJsonArray>> m_lists;
+    QHash<QString, std::optional<Settings>> m_templates;
     QHash<QByteArray, QVariantList> m_shared;
     QSet<QString> m_ids;
+    int m_refusals = 0;
 };
 
 void Reader::read(const CatalogueSource &source)
@@ -162,10 +200,9 @@ void Reader::read(const CatalogueSource &source)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(source.json, &error);
     if (error.error != QJsonParseError::NoError) {
-        result.error = QStringLiteral("%1:%2").arg(m_source, syntaxError(source.json, error));
+        result.mistakes.append(syntaxMistake(source, error));
     } else if (!document.isObject()) {
-        result.error =
-            QStringLiteral("%1: the file must hold an object but holds a list").arg(m_source);
+        refuse({}, QStringLiteral("the file must hold an object but holds a list"));
     } else {
         readFile(document.object());
     }
@@ -173,12 +210,17 @@ void Reader::read(const CatalogueSource &source)
 
 void Reader::readFile(const QJsonObject &file)
 {
+    for (auto it = file.constBegin(); it != file.constEnd(); ++it) {
+        if (!isIn(fileKeys, it.key())) {
+            noteFurtherKey(it.key());
+        }
+    }
     readLists(objectOrNone(file, QStringLiteral("lists")));
     readTemplates(objectOrNone(file, QStringLiteral("templates")));
 
     const QString categoryPath = QStringLiteral("category");
     const QString category = text(file.value(categoryPath), categoryPath);
-    if (!result.catalogue.groups.contains(category)) {
+    if (!category.isEmpty() && !result.catalogue.groups.contains(category)) {
         result.catalogue.groups.insert(category, {});
         result.catalogue.categories.append(category);
     }
@@ -189,174 +231,234 @@ void Reader::readFile(const QJsonObject &file)
     for (int i = 0; i < groups.size(); ++i) {
         const QString path = element(groupsPath, i);
         expect(QJsonValue::Object, groups.at(i), path);
-        readGroup(category, groups.at(i).toObject(), path);
+        if (groups.at(i).isObject()) {
+            readGroup(category, groups.at(i).toObject(), path);
+        }
     }
 }
 
 void Reader::readLists(const QJsonObject &lists)
 {
     for (auto it = lists.constBegin(); it != lists.constEnd(); ++it) {
+        const int before = m_refusals;
         const QString path = member(QStringLiteral("lists"), it.key());
         expect(QJsonValue::Array, it.value(), path);
         const QJsonArray list = it.value().toArray();
         expectElements(list.first().isString() ? QJsonValue::String : QJsonValue::Double, list,
                        path);
-        m_lists.insert(it.key(), list);
+        m_lists.insert(it.key(), m_refusals == before ? std::make_optional(list) : std::nullopt);
     }
 }
 
 void Reader::readTemplates(const QJsonObject &templates)
 {
     for (auto it = templates.constBegin(); it != templates.constEnd(); ++it) {
+        const int before = m_refusals;
         const QString path = member(QStringLiteral("templates"), it.key());
         expect(QJsonValue::Object, it.value(), path);
-        m_templates.insert(it.key(), readSettings(it.value().toObject(), path));
+        const Settings settings = readSettings(it.value().toObject(), path);
+        m_templates.insert(it.key(),
+                           m_refusals == before ? std::make_optional(settings) : std::nullopt);
     }
 }
 
 void Reader::readGroup(const QString &category, QJsonObject group, const QString &path)
 {
-    const QString namePath = member(path, QStringLiteral("name"));
-    const QString name = text(group.take(QStringLiteral("name")), namePath);
-    if (result.catalogue.presets.contains({category, name})) {
-        raise(namePath, QStringLiteral("the category \"%1\" already has a group \"%2\"; put the "
-                                       "presets into that one or give this one a name of its own")
-                            .arg(category, name));
-    }
-
     const QJsonValue icon = group.take(QStringLiteral("icon"));
     if (!icon.isUndefined()) {
         expect(QJsonValue::String, icon, member(path, QStringLiteral("icon")));
     }
 
-    const QJsonValue list = group.take(QStringLiteral("presets"));
-    const QString presetsPath = member(path, QStringLiteral("presets"));
-    expect(QJsonValue::Array, list, presetsPath);
-
-    const QVariantMap usual = readWithTemplate(group, path);
-    QVariantList maps;
-    const QJsonArray presets = list.toArray();
-    for (int i = 0; i < presets.size(); ++i) {
-        const QString presetPath = element(presetsPath, i);
-        expect(QJsonValue::Object, presets.at(i), presetPath);
-        QVariantMap map = merged(usual, readWithTemplate(presets.at(i).toObject(), presetPath));
-        complete(map, presetPath);
-        maps.append(map);
+    const int before = m_refusals;
+    const QString namePath = member(path, QStringLiteral("name"));
+    const QString name = text(group.take(QStringLiteral("name")), namePath);
+    if (result.catalogue.presets.contains({category, name})) {
+        refuse(namePath, QStringLiteral("the category \"%1\" already has a group \"%2\"; put the "
+                                        "presets into that one or give this one a name of its own")
+                             .arg(category, name));
     }
+    const QJsonValue presets = group.take(QStringLiteral("presets"));
+    const QString presetsPath = member(path, QStringLiteral("presets"));
+    expect(QJsonValue::Array, presets, presetsPath);
+    const Settings usual = readWithTemplate(group, path);
+    const bool isSound = m_refusals == before && !category.isEmpty();
 
+    const QVariantList maps =
+        readPresets(presets.toArray(), isSound ? &usual : nullptr, presetsPath);
+    const bool hasLostAll = maps.isEmpty() && !presets.toArray().isEmpty();
+    if (!isSound || hasLostAll) {
+        return;
+    }
     result.catalogue.presets.insert({category, name}, maps);
     result.catalogue.groups[category].append(QVariantMap{
         {QStringLiteral("category"), category},
         {QStringLiteral("name"), name},
         {QStringLiteral("icon"), icon.toString()},
     });
+    result.groupPlaces.insert({category, name}, {m_source, path});
+}
+
+/*! The sound presets. Without usual settings, those of a group that is wrong: only their own
+ *  mistakes are looked for. */
+QVariantList Reader::readPresets(const QJsonArray &presets, const Settings *usual,
+                                 const QString &path)
+{
+    QVariantList maps;
+    for (int i = 0; i < presets.size(); ++i) {
+        const int before = m_refusals;
+        const QString presetPath = element(path, i);
+        expect(QJsonValue::Object, presets.at(i), presetPath);
+        Settings preset = usual == nullptr ? Settings() : *usual;
+        preset.add(readWithTemplate(presets.at(i).toObject(), presetPath));
+        claimId(preset, presetPath);
+        if (usual == nullptr || m_refusals != before) {
+            continue;
+        }
+        complete(preset.values, presetPath);
+        if (m_refusals == before) {
+            maps.append(preset.values);
+            result.presetPlaces.insert(preset.values.value(QStringLiteral("id")).toString(),
+                                       preset.places);
+        }
+    }
+    return maps;
 }
 
 /*! The settings of a group or a preset, over those of the template that it names. */
-QVariantMap Reader::readWithTemplate(QJsonObject from, const QString &path)
+Settings Reader::readWithTemplate(QJsonObject from, const QString &path)
 {
     const QJsonValue base = from.take(QStringLiteral("template"));
-    const QVariantMap own = readSettings(from, path);
+    Settings own = readSettings(from, path);
     if (base.isUndefined()) {
         return own;
     }
     const QString basePath = member(path, QStringLiteral("template"));
     const QString name = text(base, basePath);
-    if (!m_templates.contains(name)) {
-        raise(basePath, QStringLiteral("there is no template \"%1\" in \"templates\"").arg(name));
+    if (name.isEmpty()) {
+        return own;
     }
-    return merged(m_templates.value(name), own);
+    Settings settings =
+        named(m_templates, name, QStringLiteral("there is no template \"%1\" in \"templates\""),
+              basePath);
+    settings.add(own);
+    return settings;
 }
 
 /*! The settings of a group, a template or a preset; further keys travel along as they are. */
-QVariantMap Reader::readSettings(const QJsonObject &from, const QString &path)
+Settings Reader::readSettings(const QJsonObject &from, const QString &path)
 {
-    QVariantMap map;
+    Settings settings;
     for (auto it = from.constBegin(); it != from.constEnd(); ++it) {
         const QString valuePath = member(path, it.key());
         const auto block = std::find(blocks.cbegin(), blocks.cend(), it.key());
         if (block != blocks.cend()) {
-            map.insert(it.key(), readBlock(*block, it.value(), valuePath));
-        } else if (std::find(presetTexts.cbegin(), presetTexts.cend(), it.key()) !=
-                   presetTexts.cend()) {
-            map.insert(it.key(), text(it.value(), valuePath));
-        } else {
-            map.insert(it.key(), it.value().toVariant());
+            readBlock(*block, it.value(), valuePath, settings);
+            continue;
+        }
+        const bool isText = isIn(presetTexts, it.key());
+        settings.values.insert(it.key(),
+                               isText ? text(it.value(), valuePath) : it.value().toVariant());
+        settings.places.insert(it.key(), {m_source, valuePath});
+        if (!isText) {
+            noteFurtherKey(valuePath);
         }
     }
-    return map;
+    return settings;
 }
 
-QVariantMap Reader::readBlock(QLatin1String block, const QJsonValue &value, const QString &path)
+void Reader::readBlock(QLatin1String block, const QJsonValue &value, const QString &path,
+                       Settings &settings)
 {
     expect(QJsonValue::Object, value, path);
     const QJsonObject object = value.toObject();
     QVariantMap map = object.toVariantMap();
-    for (const Setting &setting : settings) {
-        const auto found = object.constFind(setting.key);
-        if (setting.block != block || found == object.constEnd()) {
-            continue;
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+        const QString valuePath = member(path, it.key());
+        settings.places.insert(member(block, it.key()), {m_source, valuePath});
+        const auto known = std::find_if(
+            settingsKeys.cbegin(), settingsKeys.cend(), [&](const SettingKey &setting) {
+                return setting.block == block && setting.key == it.key();
+            });
+        if (known == settingsKeys.cend()) {
+            noteFurtherKey(valuePath);
+        } else if (block == videoParam || block == audioParam) {
+            expect(known->type, it.value(), valuePath);
+        } else {
+            const QVariantList options = readOptions(it.value(), known->type, valuePath);
+            if (known->key == levelList && options.size() != 3) {
+                refuse(valuePath, QStringLiteral("must hold three bitrates: high, middle and low"));
+            }
+            map.insert(it.key(), options);
         }
-        const QString valuePath = member(path, setting.key);
-        if (block == videoParam || block == audioParam) {
-            expect(setting.type, *found, valuePath);
-            continue;
-        }
-        const QVariantList options = readOptions(*found, setting.type, valuePath);
-        if (setting.key == levelList && options.size() != 3) {
-            raise(valuePath, QStringLiteral("must hold three bitrates: high, middle and low"));
-        }
-        map.insert(setting.key, options);
     }
-    return map;
+    settings.values.insert(block, map);
 }
 
 /*! An option list, written as such or as the name of a list. */
 QVariantList Reader::readOptions(const QJsonValue &value, QJsonValue::Type type,
                                  const QString &path)
 {
-    const QString name = value.toString();
-    if (value.isString() && !m_lists.contains(name)) {
-        raise(path, QStringLiteral("there is no list \"%1\" in \"lists\"").arg(name));
-    } else if (!value.isString()) {
+    if (!value.isString()) {
         expect(QJsonValue::Array, value, path);
     }
-    const QJsonArray array = value.isString() ? m_lists.value(name) : value.toArray();
+    const QJsonArray array =
+        value.isString() ? named(m_lists, value.toString(),
+                                 QStringLiteral("there is no list \"%1\" in \"lists\""), path)
+                         : value.toArray();
     expectElements(type, array, path);
     return shared(array);
 }
 
-/*! Adds what the preset may leave out; raises an error for what it may not. */
+void Reader::claimId(const Settings &preset, const QString &path)
+{
+    const QString key = QStringLiteral("id");
+    const QString id = preset.values.value(key).toString();
+    if (m_ids.contains(id)) {
+        refuse(member(path, key),
+               QStringLiteral("\"%1\" is already the id of another preset").arg(id));
+    }
+    if (!id.isEmpty()) {
+        m_ids.insert(id);
+    }
+}
+
+/*! Adds what the preset may leave out; refuses it without what it may not. */
 void Reader::complete(QVariantMap &preset, const QString &path)
 {
     for (const QLatin1String key : presetTexts) {
         if (!preset.contains(key)) {
-            raise(member(path, key), QStringLiteral("is missing from the preset and its group"));
+            refuse(member(path, key), missing);
         }
     }
-    const QString id = preset.value(QStringLiteral("id")).toString();
-    if (m_ids.contains(id)) {
-        raise(member(path, QStringLiteral("id")),
-              QStringLiteral("\"%1\" is already the id of another preset").arg(id));
-    }
-    m_ids.insert(id);
-
     const bool hasVideo = preset.contains(videoParam) || preset.contains(videoOptions);
     const bool hasAudio = preset.contains(audioParam) || preset.contains(audioOptions);
     if (!hasVideo && !hasAudio) {
-        raise(path, QStringLiteral("has neither video nor audio settings"));
+        refuse(path, QStringLiteral("has neither video nor audio settings"));
     }
-    for (const Setting &setting : settings) {
-        const bool isOfVideo = setting.block == videoParam || setting.block == videoOptions;
-        if ((isOfVideo ? hasVideo : hasAudio) &&
-            !preset.value(setting.block).toMap().contains(setting.key)) {
-            raise(member(member(path, setting.block), setting.key),
-                  QStringLiteral("is missing from the preset and its group"));
+    for (const QLatin1String block : blocks) {
+        const bool isOfVideo = block == videoParam || block == videoOptions;
+        if (isOfVideo ? hasVideo : hasAudio) {
+            completeBlock(block, preset, path);
         }
     }
     if (!hasAudio) {
         preset.insert(audioParam, QVariantMap());
         preset.insert(audioOptions, QVariantMap());
+    }
+}
+
+void Reader::completeBlock(QLatin1String block, const QVariantMap &preset, const QString &path)
+{
+    const QString blockPath = member(path, block);
+    if (!preset.contains(block)) {
+        refuse(blockPath, missing);
+        return;
+    }
+    const QVariantMap values = preset.value(block).toMap();
+    for (const SettingKey &setting : settingsKeys) {
+        if (setting.block == block && !values.contains(setting.key)) {
+            refuse(member(blockPath, setting.key), missing);
+        }
     }
 }
 
@@ -381,8 +483,8 @@ QJsonObject Reader::objectOrNone(const QJsonObject &file, const QString &key)
 QString Reader::text(const QJsonValue &value, const QString &path)
 {
     expect(QJsonValue::String, value, path);
-    if (value.toString().isEmpty()) {
-        raise(path, QStringLiteral("must not be empty"));
+    if (value.isString() && value.toString().isEmpty()) {
+        refuse(path, QStringLiteral("must not be empty"));
     }
     return value.toString();
 }
@@ -390,8 +492,8 @@ QString Reader::text(const QJsonValue &value, const QString &path)
 void Reader::expect(QJsonValue::Type type, const QJsonValue &value, const QString &path)
 {
     if (value.type() != type) {
-        raise(path,
-              QStringLiteral("must be %1 but is %2").arg(typeName(type), typeName(value.type())));
+        refuse(path,
+               QStringLiteral("must be %1 but is %2").arg(typeName(type), typeName(value.type())));
     }
 }
 
@@ -402,23 +504,54 @@ void Reader::expectElements(QJsonValue::Type type, const QJsonArray &array, cons
     }
 }
 
-void Reader::raise(const QString &path, const QString &reason)
+template <typename Value>
+Value Reader::named(const QHash<QString, std::optional<Value>> &values, const QString &name,
+                    const QString &refusal, const QString &path)
 {
-    if (result.error.isEmpty()) {
-        result.error = QStringLiteral("%1: %2: %3").arg(m_source, path, reason);
+    const auto found = values.constFind(name);
+    if (found == values.constEnd()) {
+        refuse(path, refusal.arg(name));
+        return {};
     }
+    if (!*found) {
+        ++m_refusals;
+    }
+    return found->value_or(Value());
+}
+
+void Reader::refuse(const QString &path, const QString &reason)
+{
+    ++m_refusals;
+    result.mistakes.append({{m_source, path}, reason});
+}
+
+void Reader::noteFurtherKey(const QString &path)
+{
+    CatalogueMistake mistake{{m_source, path}, QStringLiteral("is none of the known keys")};
+    mistake.isServed = true;
+    result.mistakes.append(mistake);
 }
 
 } // namespace
+
+QString CatalogueMistake::text() const
+{
+    QString line = place.source;
+    if (!position.isEmpty()) {
+        line += QLatin1Char(':') + position;
+    }
+    line += QStringLiteral(": ");
+    if (!place.path.isEmpty()) {
+        line += place.path + QStringLiteral(": ");
+    }
+    return line + reason;
+}
 
 CatalogueResult readCatalogue(const QVector<CatalogueSource> &sources)
 {
     Reader reader;
     for (const CatalogueSource &source : sources) {
         reader.read(source);
-        if (!reader.result.error.isEmpty()) {
-            return {{}, reader.result.error};
-        }
     }
     return reader.result;
 }

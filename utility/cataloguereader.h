@@ -1,6 +1,8 @@
 #ifndef UTILITY_CATALOGUEREADER_H
 #define UTILITY_CATALOGUEREADER_H
 
+#include "utilityglobal.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QPair>
@@ -16,29 +18,51 @@ struct ExportCatalogue
     QHash<QPair<QString, QString>, QVariantList> presets; //!< by category and group name
 };
 
-/*! One catalogue file: its name as errors show it, and its bytes. */
+/*! One catalogue file: its name as mistakes show it, and its bytes. */
 struct CatalogueSource
 {
     QString name;
     QByteArray json;
 };
 
+/*! Where something stands in the catalogue's files. */
+struct CataloguePlace
+{
+    QString source;
+    QString path; //!< "groups[0].presets[2].id"; empty: the whole file
+};
+
+struct CatalogueMistake
+{
+    CataloguePlace place;
+    QString reason;
+    QString position = {}; //!< "line:column", counted from 1, of what is no JSON; else empty
+    bool isServed = false; //!< served as it is; else left out, with what it stands in
+
+    /*! One line: the source's name, the place in it and the reason. */
+    [[nodiscard]] VEX_UTILITY_EXPORT QString text() const;
+};
+
+/*! By key, "id" or "videoParam.encoder": where a preset's value stands, inherited or not. */
+using PresetPlaces = QHash<QString, CataloguePlace>;
+
 struct CatalogueResult
 {
-    ExportCatalogue catalogue;
-    /*!
-     * Empty when all went well; then the catalogue is valid. Else one line: source name, position
-     * (line:column of a JSON error, counted from 1, or the JSON path of a wrong value) and reason.
-     */
-    QString error;
+    ExportCatalogue catalogue;          //!< what is sound
+    QVector<CatalogueMistake> mistakes; //!< in the order of the files
+
+    QHash<QPair<QString, QString>, CataloguePlace> groupPlaces; //!< by category and group name
+    QHash<QString, PresetPlaces> presetPlaces;                  //!< by id
 };
 
 /*!
  * Makes one catalogue of JSON files of the shape that catalogue/README.md describes.
  *
  * Categories stand in the order in which they first appear, and groups of one category in several
- * files follow each other. Stops at the first error.
+ * files follow each other. A wrong value is named once, and what it stands in is left out: the
+ * preset, the group, the template, the list or the file, and whatever starts from that.
  */
-[[nodiscard]] CatalogueResult readCatalogue(const QVector<CatalogueSource> &sources);
+[[nodiscard]] VEX_UTILITY_EXPORT CatalogueResult
+readCatalogue(const QVector<CatalogueSource> &sources);
 
 #endif

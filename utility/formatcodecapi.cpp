@@ -1,67 +1,50 @@
 #include "utility/formatcodecapi.h"
 
-#include "utility/cataloguereader.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "utility/cataloguefiles.h"
 
 #include <cstdio>
 
 namespace {
 
-CatalogueResult readCatalogueAt(const QString &path)
+void complain(const QString &complaint)
 {
-    QStringList files{path};
-    if (QFileInfo(path).isDir()) {
-        const QDir folder(path);
-        files.clear();
-        const QStringList names =
-            folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
-        for (const QString &name : names) {
-            if (!name.endsWith(QLatin1String(".schema.json"))) {
-                files.append(folder.filePath(name));
-            }
-        }
-        if (files.isEmpty()) {
-            const QString reason = folder.isReadable()
-                                       ? QStringLiteral("the folder holds no *.json file")
-                                       : QStringLiteral("the folder cannot be read");
-            return {{}, QStringLiteral("%1: %2").arg(path, reason)};
-        }
-    }
+    QString line = QStringLiteral("VEX_EXPORT_CATALOGUE: ") + complaint;
+    line.replace(QLatin1Char('\n'), QLatin1Char(' ')); // names may hold line breaks
+    // Not qWarning(): where no terminal is attached, Qt may log to the system's journal instead.
+    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+}
 
-    QVector<CatalogueSource> sources;
-    for (const QString &name : qAsConst(files)) {
-        QFile file(name);
-        QByteArray json;
-        if (file.open(QIODevice::ReadOnly)) {
-            json = file.readAll();
+/*! The first mistake for which something is left out, and how many follow; empty without one. */
+QString leftOut(const QVector<CatalogueMistake> &mistakes)
+{
+    QStringList texts;
+    for (const CatalogueMistake &mistake : mistakes) {
+        if (!mistake.isServed) {
+            texts.append(mistake.text());
         }
-        if (file.error() != QFileDevice::NoError) {
-            return {{}, QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
-        }
-        sources.append({name, json});
     }
-    return readCatalogue(sources);
+    if (texts.size() < 2) {
+        return texts.value(0);
+    }
+    return QStringLiteral("%1 (and %2 more)").arg(texts.first(), QString::number(texts.size() - 1));
 }
 
 ExportCatalogue loadCatalogue()
 {
-    const QString path = QFile::decodeName(qgetenv("VEX_EXPORT_CATALOGUE"));
+    const QString path = ownCataloguePath();
     if (!path.isEmpty()) {
         const CatalogueResult own = readCatalogueAt(path);
-        if (own.error.isEmpty()) {
+        const QString complaint = leftOut(own.mistakes);
+        const bool isServed = complaint.isEmpty() || !own.presetPlaces.isEmpty();
+        if (!complaint.isEmpty()) {
+            complain(complaint + (isServed ? QStringLiteral("; the rest is used")
+                                           : QStringLiteral("; the built-in catalogue is used")));
+        }
+        if (isServed) {
             return own.catalogue;
         }
-        QString line = QStringLiteral("VEX_EXPORT_CATALOGUE: %1; the built-in catalogue is used")
-                           .arg(own.error);
-        line.replace(QLatin1Char('\n'), QLatin1Char(' ')); // names may hold line breaks
-        // Not qWarning(): where no terminal is attached, Qt may log to the system's journal
-        // instead.
-        std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
     }
-    return readCatalogueAt(QStringLiteral(":/morrow/catalogue")).catalogue;
+    return readCatalogueAt(builtInCataloguePath()).catalogue;
 }
 
 } // namespace

@@ -17,9 +17,9 @@ struct ExportCatalogue;
  * presets.
  *
  * Serves the built-in catalogue, or the one in the file or folder that the environment variable
- * VEX_EXPORT_CATALOGUE names when the instance is made. What cannot be read there is reported in
- * one line on stderr, and the built-in catalogue is served. The lists are made once: a call costs
- * one look-up, and equal option lists share their data.
+ * VEX_EXPORT_CATALOGUE names when the instance is made. What is wrong there is reported in one line
+ * on stderr and left out; where no preset is left, the built-in catalogue is served. The lists are
+ * made once: a call costs one look-up, and equal option lists share their data.
  */
 class VEX_UTILITY_EXPORT FormatCodecApi
 {

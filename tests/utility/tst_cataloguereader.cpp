@@ -59,6 +59,18 @@ QVector<CatalogueSource> sources(const QList<QByteArray> &files)
     return result;
 }
 
+// One line each, of those for which something is left out or of those for which nothing is.
+QString mistakesIn(const CatalogueResult &result, bool areServed = false)
+{
+    QStringList lines;
+    for (const CatalogueMistake &mistake : result.mistakes) {
+        if (mistake.isServed == areServed) {
+            lines.append(mistake.text());
+        }
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 QVariantMap presetOf(const CatalogueResult &result, const char *category, const char *name,
                      int index = 0)
 {
@@ -111,8 +123,12 @@ private slots:
     void noSourcesMakeAnEmptyCatalogue();
     void whatIsWrongIsNamedWithItsPlace_data();
     void whatIsWrongIsNamedWithItsPlace();
-    void errorsNameTheSourceThatIsWrong();
-    void afterAnErrorThereIsNoCatalogue();
+    void mistakesNameTheSourceThatIsWrong();
+    void whatIsWrongIsLeftOutAndTheRestServed_data();
+    void whatIsWrongIsLeftOutAndTheRestServed();
+    void furtherKeysAreNamedButServed();
+    void itIsKnownWhereAValueStands_data();
+    void itIsKnownWhereAValueStands();
 };
 
 void tst_CatalogueReader::presetsStateOnlyWhatDiffersFromTheirGroup()
@@ -123,7 +139,7 @@ void tst_CatalogueReader::presetsStateOnlyWhatDiffersFromTheirGroup()
                {preset("A_B_001", R"("videoParam": { "encoder": "0" })"),
                 preset("A_B_002",
                        R"("extension": "m4v", "videoOptions": { "levelList": [3, 2, 1] })")})})}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
 
     const QVariantMap first = presetOf(result, "Video", "MP4", 0);
     QCOMPARE(first.value(QStringLiteral("id")), QVariant(QStringLiteral("A_B_001")));
@@ -152,7 +168,7 @@ void tst_CatalogueReader::aPresetMayStateEverythingItself()
     const CatalogueResult result = readCatalogue(sources(
         {R"({ "category": "C", "groups": [{ "name": "G", "presets": [{ "id": "1", "title": "T", "extension": "e", )" +
          joined({videoBlocks, audioBlocks}) + "}] }] }"}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     QCOMPARE(valueAt(presetOf(result, "C", "G"), "audioParam", "channel"), QVariant(2));
 }
 
@@ -162,7 +178,7 @@ void tst_CatalogueReader::furtherKeysTravelAlong()
         {R"({ "category": "C", "note": 1, "groups": [{ "name": "G", "extension": "e", "twoPass": true, "mux": { "a": 1, "b": 2 }, )" +
          audioBlocks + R"(, "presets": [)" +
          preset("1", R"("mux": { "b": 3 }, "audioParam": { "vbr": 4 })") + "] }] }"}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     const QVariantMap map = presetOf(result, "C", "G");
     QCOMPARE(map.value(QStringLiteral("twoPass")), QVariant(true));
     QCOMPARE(valueAt(map, "mux", "a"), QVariant(1));
@@ -185,7 +201,7 @@ void tst_CatalogueReader::aGroupWithoutIconHasAnEmptyOne()
 {
     const CatalogueResult result = readCatalogue(
         sources({R"({ "category": "C", "groups": [{ "name": "G", "presets": [] }] })"}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     const QVariantMap map = result.catalogue.groups.value(QStringLiteral("C")).value(0).toMap();
     QCOMPARE(map.value(QStringLiteral("icon")), QVariant(QString()));
 }
@@ -204,7 +220,7 @@ void tst_CatalogueReader::presetsWithoutSoundHaveEmptyAudioMaps()
 {
     const CatalogueResult result =
         readCatalogue(sources({file("Video", {group("GIF", {videoBlocks}, {preset("1")})})}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     const QVariantMap map = presetOf(result, "Video", "GIF");
     QCOMPARE(map.value(QStringLiteral("audioParam")), QVariant(QVariantMap()));
     QCOMPARE(map.value(QStringLiteral("audioOptions")), QVariant(QVariantMap()));
@@ -218,7 +234,7 @@ void tst_CatalogueReader::namedListsStandForTheirValues()
                       {group("MP4", {videoBlocks, audioBlocks},
                              {preset("1", R"("videoOptions": { "frameRateList": "rates" })")})},
                       R"({ "rates": [0, 24, 25], "neverUsed": [], "texts": ["a"] })")}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     QCOMPARE(valueAt(presetOf(result, "Video", "MP4"), "videoOptions", "frameRateList"),
              QVariant(QVariantList{0, 24, 25}));
 }
@@ -229,7 +245,7 @@ void tst_CatalogueReader::namesHoldForTheFilesAfterTheirs()
     const CatalogueResult result = readCatalogue(sources(
         {file("A", {}, R"({ "one": [1] })", R"({ "mono": { "audioParam": { "channel": 1 } } })"),
          file("B", {group("G", {audioBlocks}, {preset("1", names)})})}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     const QVariantMap map = presetOf(result, "B", "G");
     QCOMPARE(valueAt(map, "audioOptions", "channelList"), QVariant(QVariantList{1}));
     QCOMPARE(valueAt(map, "audioParam", "channel"), QVariant(1));
@@ -243,7 +259,7 @@ void tst_CatalogueReader::theNewestMeaningOfANameHolds()
               R"({ "t": { "title": "old", "extension": "old" } })"),
          file("B", {group("G", {audioBlocks}, {preset("2", names)})}, R"({ "channels": [0, 6] })",
               R"({ "t": { "extension": "new" } })")}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     QCOMPARE(valueAt(presetOf(result, "A", "G"), "audioOptions", "channelList"),
              QVariant(QVariantList{0, 1}));
     QCOMPARE(valueAt(presetOf(result, "B", "G"), "audioOptions", "channelList"),
@@ -264,7 +280,7 @@ void tst_CatalogueReader::templatesStandBetweenGroupAndPreset()
             "title": "Voice",
             "audioParam": { "channel": 1, "bitrateKbps": 32 },
             "audioOptions": { "bitrateKbpsList": "low" } } })")}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     const QVariantMap map = presetOf(result, "Audio", "MP3");
     QCOMPARE(map.value(QStringLiteral("title")), QVariant(QStringLiteral("Voice")));
     QCOMPARE(map.value(QStringLiteral("extension")), QVariant(QStringLiteral("x")));
@@ -284,7 +300,7 @@ void tst_CatalogueReader::aGroupMayHaveATemplateToo()
                              {preset("1"), preset("2", R"("template": "low")")})},
                       "{}", R"({ "usual": { "extension": "not taken", )" + audioBlocks + R"( },
              "low": { "audioParam": { "channel": 6, "bitrateKbps": 32 } } })")}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     const QVariantMap first = presetOf(result, "Audio", "MP3", 0);
     QCOMPARE(first.value(QStringLiteral("extension")), QVariant(QStringLiteral("x")));
     QCOMPARE(valueAt(first, "audioParam", "channel"), QVariant(1));
@@ -312,7 +328,7 @@ void tst_CatalogueReader::equalListsAreShared()
               {group("MP4", {videoBlocks, audioBlocks},
                      {preset("4", R"("audioOptions": { "channelList": "c" })")})},
               R"({ "c": [0, 1, 2] })")}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     const QVariantList channels =
         valueAt(presetOf(result, "Audio", "MP3"), "audioOptions", "channelList").toList();
     QCOMPARE(channels, (QVariantList{0, 1, 2}));
@@ -357,7 +373,7 @@ void tst_CatalogueReader::categoriesComeInOrderOfAppearance()
         sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
                  file("Audio", {group("MP3", {audioBlocks}, {preset("2")})}),
                  file("Video", {group("MKV", {audioBlocks}, {preset("3")})}), file("Device", {})}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     QCOMPARE(
         result.catalogue.categories,
         QVariantList({QStringLiteral("Video"), QStringLiteral("Audio"), QStringLiteral("Device")}));
@@ -374,7 +390,7 @@ void tst_CatalogueReader::oneGroupNameMayStandInTwoCategories()
     const CatalogueResult result =
         readCatalogue(sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
                                file("Device", {group("MP4", {audioBlocks}, {preset("2")})})}));
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     QCOMPARE(presetOf(result, "Video", "MP4").value(QStringLiteral("id")),
              QVariant(QStringLiteral("1")));
     QCOMPARE(presetOf(result, "Device", "MP4").value(QStringLiteral("id")),
@@ -384,7 +400,7 @@ void tst_CatalogueReader::oneGroupNameMayStandInTwoCategories()
 void tst_CatalogueReader::noSourcesMakeAnEmptyCatalogue()
 {
     const CatalogueResult result = readCatalogue({});
-    QCOMPARE(result.error, QString());
+    QCOMPARE(mistakesIn(result), QString());
     QVERIFY(result.catalogue.categories.isEmpty());
 }
 
@@ -492,14 +508,14 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
         ": groups[0].presets[0]: has neither video nor audio settings");
 
     row("no videoParam", broken(R"("videoParam")", R"("VideoParam")"),
-        ": groups[0].presets[0].videoParam.encoder: is missing from the preset and its group");
+        ": groups[0].presets[0].videoParam: is missing from the preset and its group");
     row("no videoOptions", broken(R"("videoOptions")", R"("VideoOptions")"),
-        ": groups[0].presets[0].videoOptions.encoderList: is missing from the preset and its "
+        ": groups[0].presets[0].videoOptions: is missing from the preset and its "
         "group");
     row("no audioParam", broken(R"("audioParam")", R"("AudioParam")"),
-        ": groups[0].presets[0].audioParam.encoder: is missing from the preset and its group");
+        ": groups[0].presets[0].audioParam: is missing from the preset and its group");
     row("no audioOptions", broken(R"("audioOptions")", R"("AudioOptions")"),
-        ": groups[0].presets[0].audioOptions.encoderList: is missing from the preset and its "
+        ": groups[0].presets[0].audioOptions: is missing from the preset and its "
         "group");
     row("no resolution", broken(R"("resolution": "0", )", ""),
         ": groups[0].presets[0].videoParam.resolution: is missing from the preset and its group");
@@ -531,7 +547,8 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
     row("a number among texts", broken(R"(["0", "h264"])", R"(["0", "h264", 0])"),
         ": groups[0].videoOptions.encoderList[2]: must be a text but is a number");
     row("a named list of numbers for texts", broken(R"(["0", "h264"])", R"("rates")"),
-        ": groups[0].videoOptions.encoderList[0]: must be a text but is a number");
+        ": groups[0].videoOptions.encoderList[0]: must be a text but is a number\n"
+        "file1.json: groups[0].videoOptions.encoderList[1]: must be a text but is a number");
     row("two levels", broken("[12000, 8000, 4000]", "[8000, 4000]"),
         ": groups[0].videoOptions.levelList: must hold three bitrates: high, middle and low");
     row("four levels", broken("[12000, 8000, 4000]", "[8, 4, 2, 1]"),
@@ -543,31 +560,146 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace()
     QFETCH(QByteArray, json);
     QFETCH(QString, error);
     const QString separator = error.startsWith(QLatin1Char(':')) ? QString() : QStringLiteral(":");
-    QCOMPARE(readCatalogue(sources({json})).error,
+    QCOMPARE(mistakesIn(readCatalogue(sources({json}))),
              QStringLiteral("file1.json") + separator + error);
 }
 
-void tst_CatalogueReader::errorsNameTheSourceThatIsWrong()
+void tst_CatalogueReader::mistakesNameTheSourceThatIsWrong()
 {
     const QByteArray right = file("Video", {group("MP4", {audioBlocks}, {preset("1")})});
-    QCOMPARE(readCatalogue(sources({right, "{", "["})).error,
+    QCOMPARE(mistakesIn(readCatalogue(sources(
+                 {right, "{", file("Audio", {group("MP3", {audioBlocks}, {preset("1")})})}))),
              QStringLiteral(
-                 "file2.json:1:1: expected a comma, a closing brace or a key in double quotes"));
-    QCOMPARE(
-        readCatalogue(sources({right, file("Audio", {group("MP3", {audioBlocks}, {preset("1")})})}))
-            .error,
-        QStringLiteral("file2.json: groups[0].presets[0].id: \"1\" is already the id of another "
-                       "preset"));
+                 "file2.json:1:1: expected a comma, a closing brace or a key in double quotes\n"
+                 "file3.json: groups[0].presets[0].id: \"1\" is already the id of another preset"));
 }
 
-void tst_CatalogueReader::afterAnErrorThereIsNoCatalogue()
+void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed_data()
 {
-    const CatalogueResult result =
-        readCatalogue(sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}), "{}"}));
-    QVERIFY(!result.error.isEmpty());
-    QVERIFY(result.catalogue.categories.isEmpty());
-    QVERIFY(result.catalogue.groups.isEmpty());
-    QVERIFY(result.catalogue.presets.isEmpty());
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<int>("mistakes");
+    QTest::addColumn<QString>("served");
+
+    const auto row = [](const char *name, const QByteArray &json, int mistakes,
+                        const char *served) {
+        QTest::newRow(name) << json << mistakes << QString::fromLatin1(served);
+    };
+    const QByteArray wrong = R"("audioParam": { "channel": "2" })";
+    const QByteArray right = group("MP3", {audioBlocks}, {preset("1"), preset("2")});
+
+    row("nothing wrong", file("Audio", {right}), 0, "MP3: 1 2");
+    row("a preset", file("Audio", {group("MP3", {audioBlocks}, {preset("1", wrong), preset("2")})}),
+        1, "MP3: 2");
+    row("several mistakes of one preset",
+        file("Audio", {group("MP3", {audioBlocks},
+                             {preset("1", wrong + R"(, "extension": 1)"), preset("2")})}),
+        2, "MP3: 2");
+    row("the second preset of an id",
+        file("Audio", {group("MP3", {audioBlocks}, {preset("1"), preset("1"), preset("2")})}), 1,
+        "MP3: 1 2");
+    row("a group",
+        file("Audio", {group("AAC", {audioBlocks, R"("title": 1)"}, {preset("3")}), right}), 1,
+        "MP3: 1 2");
+    row("a group, and its presets have mistakes of their own",
+        file("Audio", {group("AAC", {audioBlocks, R"("title": 1)"}, {preset("3", wrong)}), right}),
+        2, "MP3: 1 2");
+    row("a group that is no object", file("Audio", {"7", right}), 1, "MP3: 1 2");
+    row("the second group of a name",
+        file("Audio", {right, group("MP3", {audioBlocks}, {preset("3")})}), 1, "MP3: 1 2");
+    row("a group without a sound preset",
+        file("Audio", {group("AAC", {audioBlocks}, {preset("3", wrong)}), right}), 1, "MP3: 1 2");
+    row("a template and what starts from it",
+        file("Audio",
+             {group("AAC", {audioBlocks, R"("template": "t")"}, {preset("3")}),
+              group("MP3", {audioBlocks}, {preset("1", R"("template": "t")"), preset("2")})},
+             "{}", R"({ "t": { "title": 1 } })"),
+        1, "MP3: 2");
+    row("a list and what takes it",
+        file("Audio",
+             {group("MP3", {audioBlocks},
+                    {preset("1", R"("audioOptions": { "channelList": "l" })"), preset("2")})},
+             R"({ "l": [1, "2"] })"),
+        1, "MP3: 2");
+    row("a category", file("", {right}), 1, "");
+    row("an icon that is no text",
+        R"({ "category": "Audio", "groups": [{ "name": "MP3", "icon": 1, "extension": "x",)" +
+            audioBlocks + R"(, "presets": [)" + preset("1") + "] }] }",
+        1, "MP3: 1");
+}
+
+void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(int, mistakes);
+    QFETCH(QString, served);
+
+    const CatalogueResult result = readCatalogue(sources({json}));
+    QStringList groups;
+    for (const QVariant &category : result.catalogue.categories) {
+        for (const QVariant &map : result.catalogue.groups.value(category.toString())) {
+            const QString name = map.toMap().value(QStringLiteral("name")).toString();
+            QString line = name + QLatin1Char(':');
+            for (const QVariant &preset :
+                 result.catalogue.presets.value({category.toString(), name})) {
+                line += QLatin1Char(' ') + preset.toMap().value(QStringLiteral("id")).toString();
+            }
+            groups.append(line);
+        }
+    }
+    QCOMPARE(result.mistakes.size(), mistakes);
+    QCOMPARE(groups.join(QStringLiteral("; ")), served);
+}
+
+void tst_CatalogueReader::furtherKeysAreNamedButServed()
+{
+    const CatalogueResult result = readCatalogue(sources(
+        {R"({ "category": "Audio", "note": 1, "groups": [{ "name": "MP3", "extension": "x", "mux": 2,)" +
+         audioBlocks + R"(, "presets": [)" + preset("1", R"("audioParam": { "vbr": 4 })") +
+         "] }] }"}));
+    QCOMPARE(mistakesIn(result), QString());
+    QCOMPARE(mistakesIn(result, true),
+             QStringLiteral("file1.json: note: is none of the known keys\n"
+                            "file1.json: groups[0].mux: is none of the known keys\n"
+                            "file1.json: groups[0].presets[0].audioParam.vbr: is none of the known "
+                            "keys"));
+    QCOMPARE(valueAt(presetOf(result, "Audio", "MP3"), "audioParam", "vbr"), QVariant(4));
+}
+
+void tst_CatalogueReader::itIsKnownWhereAValueStands_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("place");
+    const auto row = [](const char *name, const char *key, const char *place) {
+        QTest::newRow(name) << QString::fromLatin1(key) << QString::fromLatin1(place);
+    };
+    row("the preset's own", "audioParam.channel",
+        "file2.json groups[0].presets[0].audioParam.channel");
+    row("of the preset's template", "audioParam.sampleRate",
+        "file1.json templates.t.audioParam.sampleRate");
+    row("of the group", "audioParam.encoder", "file2.json groups[0].audioParam.encoder");
+    row("a text", "id", "file2.json groups[0].presets[0].id");
+    row("a list with a name", "audioOptions.channelList",
+        "file2.json groups[0].presets[0].audioOptions.channelList");
+    row("nowhere", "videoParam.encoder", " ");
+}
+
+void tst_CatalogueReader::itIsKnownWhereAValueStands()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, place);
+
+    const CatalogueResult result = readCatalogue(sources(
+        {file("Audio", {}, R"({ "l": [1, 2] })",
+              R"({ "t": { "audioParam": { "channel": 1, "sampleRate": 44100 } } })"),
+         file("Audio", {group("MP3", {audioBlocks},
+                              {preset("1", R"("template": "t", "audioParam": { "channel": 2 },
+                                              "audioOptions": { "channelList": "l" })")})})}));
+    QCOMPARE(mistakesIn(result), QString());
+    const CataloguePlace found = result.presetPlaces.value(QStringLiteral("1")).value(key);
+    QCOMPARE(found.source + QLatin1Char(' ') + found.path, place);
+    const CataloguePlace group =
+        result.groupPlaces.value({QStringLiteral("Audio"), QStringLiteral("MP3")});
+    QCOMPARE(group.source + QLatin1Char(' ') + group.path, QStringLiteral("file2.json groups[0]"));
 }
 
 QTEST_GUILESS_MAIN(tst_CatalogueReader)

@@ -110,6 +110,8 @@ private slots:
     void theFilesOfTheBuiltInCatalogueServeItToo();
     void whatCannotBeServedIsReportedInOneLine_data();
     void whatCannotBeServedIsReportedInOneLine();
+    void whatIsSoundIsServedBesideMistakes_data();
+    void whatIsSoundIsServedBesideMistakes();
     void whatMayNotBeReadIsReported_data();
     void whatMayNotBeReadIsReported();
 };
@@ -314,12 +316,11 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
     QTest::newRow("wrong shape")
         << Files{{own, R"({ "category": "Video", "groups": [{}] })"}}
         << QStringLiteral("@/own.json")
-        << QStringLiteral("@/own.json: groups[0].name: must be a text but is missing");
-    QTest::newRow("second file of a folder")
-        << Files{{QStringLiteral("1.json"), catalogue("Video", "MP4", "1")},
-                 {QStringLiteral("2.json"), "[]"}}
+        << QStringLiteral("@/own.json: groups[0].name: must be a text but is missing (and 1 more)");
+    QTest::newRow("all files of a folder")
+        << Files{{QStringLiteral("1.json"), "{}"}, {QStringLiteral("2.json"), "[]"}}
         << QStringLiteral("@")
-        << QStringLiteral("@/2.json: the file must hold an object but holds a list");
+        << QStringLiteral("@/1.json: category: must be a text but is missing (and 2 more)");
     QTest::newRow("line break in the path")
         << Files() << QStringLiteral("@/a\nb")
         << QStringLiteral("@/a b: cannot be read: No such file or directory");
@@ -347,6 +348,44 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine()
              QStringLiteral("VEX_EXPORT_CATALOGUE: ") + error +
                  QStringLiteral("; the built-in catalogue is used\n"));
     QCOMPARE(served.catalogue, servedCatalogue());
+}
+
+void tst_FormatCodecApi::whatIsSoundIsServedBesideMistakes_data()
+{
+    QTest::addColumn<Files>("files");
+    QTest::addColumn<QString>("report");
+
+    const QString one = QStringLiteral("1.json");
+    const QString two = QStringLiteral("2.json");
+    const QByteArray right = catalogue("Video", "MP4", "1");
+    QTest::newRow("a file that is no JSON")
+        << Files{{one, "MP4"}, {two, right}}
+        << QStringLiteral("@/1.json:1:1: illegal value; the rest is used\n");
+    QTest::newRow("mistakes of several files")
+        << Files{{one, right}, {two, "[]"}, {QStringLiteral("3.json"), ""}}
+        << QStringLiteral("@/2.json: the file must hold an object but holds a list (and 1 more); "
+                          "the rest is used\n");
+    QTest::newRow("an id twice")
+        << Files{{one, right}, {two, catalogue("Video", "MKV", "1")}}
+        << QStringLiteral("@/2.json: groups[0].presets[0].id: \"1\" is already the id of another "
+                          "preset; the rest is used\n");
+    QTest::newRow("further keys are no reason to complain")
+        << Files{{one, QByteArray(right).replace(R"("title")", R"("note": "n", "title")")}}
+        << QString();
+}
+
+void tst_FormatCodecApi::whatIsSoundIsServedBesideMistakes()
+{
+    QFETCH(Files, files);
+    QFETCH(QString, report);
+
+    const QTemporaryDir folder;
+    write(folder.path(), files);
+    report.replace(QLatin1Char('@'), folder.path());
+    const Served served = servedWith(folder.path());
+    QCOMPARE(served.catalogue, QByteArray("Video MP4 1\n"));
+    QCOMPARE(QString::fromUtf8(served.standardError),
+             report.isEmpty() ? report : QStringLiteral("VEX_EXPORT_CATALOGUE: ") + report);
 }
 
 void tst_FormatCodecApi::whatMayNotBeReadIsReported_data()
