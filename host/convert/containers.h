@@ -11,12 +11,14 @@ struct Container
         None = 0,
         SeveralAudioTracks = 1,
         TakesCover = 2,
-        KeepsRotation = 4, //!< holds the turn of a picture that players apply
-        TagsHevcAsHvc1 = 8 //!< the form of hevc that all players of this container know
+        KeepsRotation = 4,    //!< holds the turn of a picture that players apply
+        TagsHevcAsHvc1 = 8,   //!< the form of hevc that all players of this container know
+        SoundInEachFrame = 16 //!< a frame of the picture can't be written before its sound
     };
 
     const char *extensions; //!< without dot
     const char *muxer;
+    const char *demuxer;     //!< as ffprobe names such files
     const char *options;     //!< "name=value name=value" for the muxer
     const char *videoCodecs; //!< those it holds, the usual one first; empty: sound only
     const char *audioCodecs; //!< the same; empty: no sound

@@ -107,6 +107,7 @@ public:
     /*! The streams, their codecs and the muxer; empty with an error set where that can't be. */
     QStringList outputArguments();
     QString error() const { return m_error; }
+    bool lacksEncoder() const { return m_lacksEncoder; }
 
 private:
     QVector<AudioTrack> chosenSound() const;
@@ -138,6 +139,7 @@ private:
     QStringList m_maps;
     QStringList m_codecs;
     QString m_error;
+    bool m_lacksEncoder = false;
 };
 
 QStringList Former::outputArguments()
@@ -311,9 +313,10 @@ void Former::addSound(const AudioTrack &track, int position)
 
 bool Former::keepsSound(const AudioTrack &track) const
 {
-    return canCopy() && m_settings.audioCodec.isEmpty() &&
-           holds(m_container.audioCodecs, track.codec) && m_settings.audioKbps == 0 &&
-           wantedSampleRate(track) == track.sampleRate && wantedChannels(track) == track.channels;
+    return canCopy() && !m_container.has(Container::SoundInEachFrame) &&
+           m_settings.audioCodec.isEmpty() && holds(m_container.audioCodecs, track.codec) &&
+           m_settings.audioKbps == 0 && wantedSampleRate(track) == track.sampleRate &&
+           wantedChannels(track) == track.channels;
 }
 
 int Former::wantedSampleRate(const AudioTrack &track) const
@@ -345,6 +348,12 @@ void Former::encodeSound(const AudioTrack &track, const QString &codecName, cons
     }
     if (channels != track.channels || (channels > 0 && !track.hasLayout)) {
         m_codecs << QStringLiteral("-ac") + stream << QString::number(channels);
+    }
+    if (m_container.has(Container::SoundInEachFrame)) {
+        // The sound comes a frame early, as rounding may make it late, and with silence behind it:
+        // ffmpeg would end the file with the sound.
+        m_codecs << QStringLiteral("-filter") + stream << QStringLiteral("apad,asetpts=PTS-0.04/TB")
+                 << QStringLiteral("-shortest");
     }
     const double asked = codec.takesBitrate ? m_settings.audioKbps : 0;
     double kbps = asked > 0 ? asked : codec.kbpsPerChannel * channels;
@@ -391,6 +400,7 @@ QString Former::availableEncoder(const QStringList &names, const QString &codec)
             return name;
         }
     }
+    m_lacksEncoder = true;
     m_error = Arguments::tr("needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset "
                             "with another encoder or install an ffmpeg that has it")
                   .arg(names.join(Arguments::tr(" or ")), codec);
@@ -413,6 +423,7 @@ FfmpegArguments FfmpegArguments::form(const OutputSettings &settings, const Medi
     Former former(settings, source, encoders, *container);
     const QStringList output = former.outputArguments();
     result.error = former.error();
+    result.lacksEncoder = former.lacksEncoder();
     if (result.error.isEmpty()) {
         result.arguments = QStringList{QStringLiteral("-nostdin"),  QStringLiteral("-hide_banner"),
                                        QStringLiteral("-v"),        QStringLiteral("error"),

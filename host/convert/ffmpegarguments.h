@@ -16,6 +16,7 @@ struct FfmpegArguments
 public:
     QStringList arguments;
     QString error;
+    bool lacksEncoder = false; //!< why: another ffmpeg may have the encoder
 
     /*!
      * Forms the run that writes \a source with \a settings. \a encoders are the names of the

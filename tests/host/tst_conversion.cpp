@@ -66,6 +66,8 @@ private Q_SLOTS:
 
     void aFilmIsConverted();
     void aSilentFilmStaysSilent();
+    void dvHoldsTheWholeFilmWhateverItsSound_data();
+    void dvHoldsTheWholeFilmWhateverItsSound();
     void theSoundOfAFilmIsTaken();
     void aCoverComesAlong();
     void aPortraitPictureFitsTheTurnedBox();
@@ -243,6 +245,30 @@ void TestConversion::aSilentFilmStaysSilent()
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.facts.picture()->codec, QStringLiteral("vp9"));
     QVERIFY(outcome.facts.audioTracks.isEmpty());
+}
+
+void TestConversion::dvHoldsTheWholeFilmWhateverItsSound_data()
+{
+    QTest::addColumn<QString>("sound");
+    QTest::newRow("another sample rate") << QStringLiteral("sine=duration=2:sample_rate=44100");
+    QTest::newRow("ends early") << QStringLiteral("sine=duration=0.5:sample_rate=48000");
+    QTest::newRow("goes on") << QStringLiteral("sine=duration=3:sample_rate=48000");
+    QTest::newRow("as the file holds it")
+        << QStringLiteral("sine=duration=2:sample_rate=48000,aformat=channel_layouts=stereo");
+}
+
+void TestConversion::dvHoldsTheWholeFilmWhateverItsSound()
+{
+    QFETCH(QString, sound);
+    const QString source = path(QStringLiteral("film.mkv"));
+    QVERIFY(MediaClips::make(
+        source, QStringLiteral("-f lavfi -i testsrc2=size=320x240:rate=30000/1001:duration=2 "
+                               "-f lavfi -i %1 -c:v mpeg4 -c:a pcm_s16le")
+                    .arg(sound)));
+    const ConversionOutcome outcome = convert(job(source, video(QStringLiteral("dv"))));
+    QCOMPARE(outcome.error, QString());
+    QVERIFY(qAbs(outcome.facts.duration - 2.0) < 0.05);
+    QCOMPARE(outcome.facts.sound()->channels, 2);
 }
 
 void TestConversion::theSoundOfAFilmIsTaken()

@@ -216,7 +216,7 @@ void TestFfmpegArguments::aPresetBecomesACommand_data()
         facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(1920, 800); }),
         "-map 0:0 -map 0:1 -c:v:0 dvvideo -filter:v:0 "
         "scale=720:426,pad=720:576:(ow-iw)/2:(oh-ih)/2,setsar=64/45 -pix_fmt:v:0 yuv420p "
-        "-c:a:0 pcm_s16le -f dv");
+        "-c:a:0 pcm_s16le -filter:a:0 apad,asetpts=PTS-0.04/TB -shortest -f dv");
 
     // Rates of frames.
     row("the nearest rate that the codec has", video("mpg"),
@@ -320,7 +320,7 @@ void TestFfmpegArguments::aPresetBecomesACommand_data()
         facts(film(), [](MediaFacts &f) { f.audioTracks[0].channels = 1; }),
         "-map 0:0 -map 0:1 -c:v:0 dvvideo -filter:v:0 "
         "scale=720:576,pad=720:576:(ow-iw)/2:(oh-ih)/2,setsar=64/45 -pix_fmt:v:0 yuv420p "
-        "-c:a:0 pcm_s16le -ac:a:0 2 -f dv");
+        "-c:a:0 pcm_s16le -ac:a:0 2 -filter:a:0 apad,asetpts=PTS-0.04/TB -shortest -f dv");
     row("more bits than the encoder starts with",
         settings(audio("ogg", "vorbis"), [](OutputSettings &s) { s.audioKbps = 320; }),
         song(QStringLiteral("mp3"), 22050, 1), "-map 0:0 -c:a:0 libvorbis -b:a:0 85k -f ogg");
@@ -410,6 +410,7 @@ void TestFfmpegArguments::whatCannotBeDoneIsSaid()
         settings, source, usualEncoders(), QStringLiteral("/in"), QStringLiteral("/out"));
     QCOMPARE(formed.error, error);
     QCOMPARE(formed.arguments, QStringList());
+    QCOMPARE(formed.lacksEncoder, error.contains(QStringLiteral("which this ffmpeg lacks")));
 }
 
 void TestFfmpegArguments::anotherEncoderOfTheCodecIsTaken()
