@@ -45,6 +45,7 @@ struct Subcommand
 [[nodiscard]] QVector<Subcommand> catalogueCommands();
 [[nodiscard]] QVector<Subcommand> convertCommands();
 [[nodiscard]] QVector<Subcommand> presetCommands();
+[[nodiscard]] QVector<Subcommand> checkCommands();
 
 /*! The command line: finds the subcommand, or prints the help. */
 class CommandLine

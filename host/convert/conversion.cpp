@@ -87,6 +87,7 @@ void Conversion::convertWith(const ToolOutcome &encoderListing)
         replaced.isEmpty() ? freeName(folder(), baseName(), m_job.settings.extension) : replaced;
     const FfmpegArguments planned = plan(target);
     if (!planned.error.isEmpty()) {
+        m_lacksEncoder = planned.lacksEncoder;
         endWith(planned.error);
         return;
     }
@@ -177,5 +178,6 @@ void Conversion::endWith(const QString &error)
     ConversionOutcome outcome;
     outcome.result = m_isCancelled ? ConversionOutcome::Cancelled : ConversionOutcome::Failed;
     outcome.error = m_isCancelled ? QString() : error;
+    outcome.lacksEncoder = m_lacksEncoder;
     Q_EMIT finished(outcome);
 }

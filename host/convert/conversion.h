@@ -28,10 +28,11 @@ struct ConversionOutcome
     enum Result { Converted, Planned, Failed, Cancelled };
 
     Result result = Failed;
-    QString error;         //!< Failed: one line that says what happened and how to mend it
-    QString target;        //!< Converted: the new file; Planned: its name as things stand
-    MediaFacts facts;      //!< Converted: what the new file holds
-    QStringList arguments; //!< Planned: those of ffmpeg, with the target's name
+    QString error;             //!< Failed: one line that says what happened and how to mend it
+    QString target;            //!< Converted: the new file; Planned: its name as things stand
+    MediaFacts facts;          //!< Converted: what the new file holds
+    QStringList arguments;     //!< Planned: those of ffmpeg, with the target's name
+    bool lacksEncoder = false; //!< Failed: another ffmpeg may have the encoder
 };
 Q_DECLARE_METATYPE(ConversionOutcome)
 
@@ -78,6 +79,7 @@ private:
     ProgressReader m_progress;
     QPointer<Tool> m_tool;
     bool m_isCancelled = false;
+    bool m_lacksEncoder = false;
 };
 
 #endif

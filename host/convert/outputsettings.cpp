@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -26,6 +27,16 @@ double videoKbpsOf(const QVariantMap &preset)
         node.value(QStringLiteral("videoParam")).toMap().value(QStringLiteral("bitrateKbps"));
     const QVariantMap video = preset.value(QStringLiteral("video")).toMap();
     return (kbps.isValid() ? kbps : video.value(QStringLiteral("bitrateMid"))).toDouble();
+}
+
+/*! All values, to compare them. */
+auto valuesOf(const OutputSettings &settings)
+{
+    return std::make_tuple(settings.extension, settings.hasPicture, settings.videoCodec,
+                           settings.frameRate, settings.box, settings.videoKbps,
+                           settings.audioCodec, settings.sampleRate, settings.channels,
+                           settings.audioKbps, settings.allAudioTracks, settings.start,
+                           settings.end);
 }
 
 } // namespace
@@ -52,6 +63,11 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
     settings.channels = audio.value(QStringLiteral("channel")).toInt();
     settings.audioKbps = audio.value(QStringLiteral("bitrate")).toDouble();
     return settings;
+}
+
+bool OutputSettings::operator==(const OutputSettings &other) const
+{
+    return valuesOf(*this) == valuesOf(other);
 }
 
 double OutputSettings::cutDuration(double duration) const

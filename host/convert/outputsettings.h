@@ -30,6 +30,8 @@ struct OutputSettings
     /*! Reads a preset map, as FormatDetailModelData::toVarMap() makes it. */
     [[nodiscard]] static OutputSettings fromPreset(const QVariantMap &preset);
 
+    bool operator==(const OutputSettings &other) const;
+
     /*! Seconds that a result has whose source has \a duration; 0 when unknown. */
     [[nodiscard]] double cutDuration(double duration) const;
 };

@@ -126,6 +126,7 @@ MediaFacts MediaFacts::fromProbe(const QByteArray &json)
     MediaFacts facts;
     const QJsonObject probe = QJsonDocument::fromJson(json).object();
     const QJsonObject format = probe.value(QLatin1String("format")).toObject();
+    facts.container = text(format, QLatin1String("format_name"));
     facts.duration = std::max(0.0, text(format, QLatin1String("duration")).toDouble());
     facts.bytes = text(format, QLatin1String("size")).toLongLong();
 

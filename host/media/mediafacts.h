@@ -42,6 +42,7 @@ struct MediaFacts
 {
     Q_DECLARE_TR_FUNCTIONS(MediaFacts)
 public:
+    QString container; //!< ffprobe's names for the kind of file, "mov,mp4,m4a,3gp,3g2,mj2"
     QVector<VideoTrack> videoTracks;
     QVector<AudioTrack> audioTracks;
     double duration = 0; //!< seconds, 0 when unknown

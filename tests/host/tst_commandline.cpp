@@ -1,3 +1,4 @@
+#include "tests/host/commandrun.h"
 #include "tests/host/mediaclips.h"
 
 #include <QJsonArray>
@@ -11,11 +12,7 @@
 #include <memory>
 #include <optional>
 
-#include <unistd.h>
-
 namespace {
-
-constexpr int patience = 60000; // for a command, on a busy machine
 
 const char catalogue[] = R"({
   "category": "Video",
@@ -74,20 +71,6 @@ const char audioCatalogue[] = R"({
     }
   ]
 })";
-
-/*! A process with a group of its own, as a shell starts one. */
-class GroupProcess : public QProcess
-{
-protected:
-    void setupChildProcess() override { setpgid(0, 0); }
-};
-
-struct Run
-{
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
 
 } // namespace
 
@@ -169,21 +152,13 @@ private:
         process.setWorkingDirectory(m_folder->path());
         process.start(QStringLiteral(VEXCONVERT), arguments);
     }
-    Run finish(QProcess &process) const
-    {
-        if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit) {
-            return {};
-        }
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-                QString::fromUtf8(process.readAllStandardError())};
-    }
-    Run run(const QStringList &arguments) const
+    CommandRun run(const QStringList &arguments) const
     {
         QProcess process;
         start(process, QStringList{QStringLiteral("--config"), config()} + arguments);
-        return finish(process);
+        return CommandRun::of(process);
     }
-    Run run(const char *line) const { return run(words(line)); }
+    CommandRun run(const char *line) const { return run(words(line)); }
     QStringList recentIds() const
     {
         QStringList ids;
@@ -233,8 +208,8 @@ void TestCommandLine::helpIsPrinted_data()
                          << QStringLiteral("Usage: vexconvert [options]\n");
     QTest::newRow("short") << QStringLiteral("-h")
                            << QStringLiteral("Usage: vexconvert [options]\n");
-    for (const char *name :
-         {"formats", "search", "presets", "show", "fit", "convert", "recent", "user"}) {
+    for (const char *name : {"formats", "search", "presets", "show", "fit", "convert", "recent",
+                             "user", "check-catalogue"}) {
         QTest::newRow(name) << QString::fromLatin1(name) + QStringLiteral(" --help")
                             << QStringLiteral("Usage: vexconvert ") + QString::fromLatin1(name);
     }
@@ -246,7 +221,7 @@ void TestCommandLine::helpIsPrinted()
 {
     QFETCH(QString, line);
     QFETCH(QString, start);
-    const Run told = run(line.split(QLatin1Char(' ')));
+    const CommandRun told = run(line.split(QLatin1Char(' ')));
     QCOMPARE(told.exitCode, 0);
     QVERIFY2(told.out.startsWith(start), qPrintable(told.out));
     QVERIFY(told.out.contains(QStringLiteral("--config <DIR>")));
@@ -255,7 +230,7 @@ void TestCommandLine::helpIsPrinted()
 
 void TestCommandLine::theVersionIsPrinted()
 {
-    const Run told = run("--version");
+    const CommandRun told = run("--version");
     QCOMPARE(told.exitCode, 0);
     QCOMPARE(told.out, QStringLiteral("vexconvert " VEX_VERSION "\n"));
 }
@@ -309,6 +284,7 @@ void TestCommandLine::aWrongCallIsExplained_data()
     row("user change V_MP4_2 --title x",
         "preset V_MP4_2 isn't yours and stays as it is; \"vexconvert user add V_MP4_2");
     row("user delete V_MP4_2", "preset V_MP4_2 isn't yours and stays as it is");
+    row("check-catalogue MP4", "\"check-catalogue\" takes no arguments but options");
     row("user delete bogus", "no preset has the id \"bogus\"");
 }
 
@@ -316,7 +292,7 @@ void TestCommandLine::aWrongCallIsExplained()
 {
     QFETCH(QString, line);
     QFETCH(QString, error);
-    const Run told = run(line.split(QLatin1Char(' ')));
+    const CommandRun told = run(line.split(QLatin1Char(' ')));
     QCOMPARE(told.exitCode, 2);
     QCOMPARE(told.out, QString());
     QVERIFY2(told.err.startsWith(QStringLiteral("vexconvert: ") + error), qPrintable(told.err));
@@ -327,7 +303,7 @@ void TestCommandLine::aWrongCallIsExplained()
 
 void TestCommandLine::formatsAreListedInColumns()
 {
-    const Run told = run("formats");
+    const CommandRun told = run("formats");
     QCOMPARE(told.exitCode, 0);
     QCOMPARE(told.out, QStringLiteral("Format  Tag    Presets\n"
                                       "MP4     video  2\n"
@@ -340,7 +316,7 @@ void TestCommandLine::formatsAreListedByTag()
 {
     QCOMPARE(run("formats --tag audio").out, QStringLiteral("Format  Tag    Presets\n"
                                                             "MP3     audio  2\n"));
-    const Run none = run("formats --tag device");
+    const CommandRun none = run("formats --tag device");
     QCOMPARE(none.exitCode, 0);
     QCOMPARE(none.out, QStringLiteral("Format  Tag  Presets\n"));
 }
@@ -350,7 +326,7 @@ void TestCommandLine::formatsAreFoundByTheirTitle()
     QCOMPARE(run("search mp").out, QStringLiteral("Format  Tag    Presets\n"
                                                   "MP4     video  2\n"
                                                   "MP3     audio  2\n"));
-    const Run none = run("search bogus");
+    const CommandRun none = run("search bogus");
     QCOMPARE(none.exitCode, 0);
     QCOMPARE(none.out, QStringLiteral("No format has \"bogus\" in its title.\n"));
 }
@@ -420,7 +396,7 @@ void TestCommandLine::listsComeAsJson()
 {
     QFETCH(QString, line);
     QFETCH(int, size);
-    const Run told = run(line.split(QLatin1Char(' ')));
+    const CommandRun told = run(line.split(QLatin1Char(' ')));
     QCOMPARE(told.exitCode, 0);
     const QJsonDocument json = QJsonDocument::fromJson(told.out.toUtf8());
     QVERIFY2(json.isArray(), qPrintable(told.out));
@@ -444,7 +420,7 @@ void TestCommandLine::theFittingPresetIsPrinted()
 {
     QFETCH(QString, wish);
     QFETCH(QString, id);
-    const Run told = run(QStringList{QStringLiteral("fit")} + wish.split(QLatin1Char(' ')));
+    const CommandRun told = run(QStringList{QStringLiteral("fit")} + wish.split(QLatin1Char(' ')));
     QCOMPARE(told.exitCode, 0);
     const QJsonObject preset = QJsonDocument::fromJson(told.out.toUtf8()).object();
     QCOMPARE(preset.value(QStringLiteral("id")).toString(), id);
@@ -453,7 +429,7 @@ void TestCommandLine::theFittingPresetIsPrinted()
 
 void TestCommandLine::anUnknownFormatIsReplacedAndSaid()
 {
-    const Run told = run("fit --type audio --format bogus --target 320");
+    const CommandRun told = run("fit --type audio --format bogus --target 320");
     QCOMPARE(told.exitCode, 0);
     QVERIFY(told.out.contains(QStringLiteral("A_MP3_1")));
     QCOMPARE(told.err, QStringLiteral("vexconvert: there is no format \"bogus\"; the usual one for "
@@ -462,7 +438,7 @@ void TestCommandLine::anUnknownFormatIsReplacedAndSaid()
 
 void TestCommandLine::aFileIsConverted()
 {
-    const Run told = run("convert film.mp4 --preset V_MKV_1");
+    const CommandRun told = run("convert film.mp4 --preset V_MKV_1");
     QCOMPARE(told.err, QString());
     QCOMPARE(told.exitCode, 0);
     const QString target = path(QStringLiteral("film.mkv"));
@@ -479,7 +455,7 @@ void TestCommandLine::aFileIsConverted()
 
 void TestCommandLine::aFittingPresetConverts()
 {
-    const Run told = run("convert film.mp4 --type audio --format MP3 --target 320");
+    const CommandRun told = run("convert film.mp4 --type audio --format MP3 --target 320");
     QCOMPARE(told.exitCode, 0);
     QCOMPARE(MediaClips::factsOf(path(QStringLiteral("film.mp3"))).sound()->codec,
              QStringLiteral("mp3"));
@@ -489,7 +465,7 @@ void TestCommandLine::aFittingPresetConverts()
 void TestCommandLine::oneBadFileDoesNotStopTheOthers()
 {
     write(path(QStringLiteral("bad.avi")), "no media");
-    const Run told = run("convert missing.mp4 bad.avi film.mp4 --preset V_MKV_1");
+    const CommandRun told = run("convert missing.mp4 bad.avi film.mp4 --preset V_MKV_1");
     QCOMPARE(told.exitCode, 1);
     QVERIFY(
         told.err.startsWith(QStringLiteral("vexconvert: missing.mp4: no such file; check its name\n"
@@ -516,7 +492,7 @@ void TestCommandLine::resultsOfOneRunAreNotOverwritten()
 void TestCommandLine::aDryRunOnlyPrintsTheCommand()
 {
     QVERIFY(QFile::rename(path(QStringLiteral("film.mp4")), path(QStringLiteral("it's.mp4"))));
-    const Run told =
+    const CommandRun told =
         run({QStringLiteral("convert"), QStringLiteral("it's.mp4"), QStringLiteral("--preset"),
              QStringLiteral("V_MP4_1"), QStringLiteral("--dry-run")});
     QCOMPARE(told.exitCode, 0);
@@ -563,12 +539,12 @@ void TestCommandLine::interruptingLeavesNothing()
     start(process, QStringList{QStringLiteral("--config"), config()} +
                        words("convert long.mp4 film.mp4 --preset V_MKV_1"));
     QByteArray told;
-    while (!told.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
+    while (!told.contains("long.mp4: ") && process.waitForReadyRead(CommandRun::patience)) {
         told += process.readAllStandardOutput();
     }
     QCOMPARE(everything().size(), 3);
     QCOMPARE(::kill(-pid_t(process.processId()), signalNumber), 0);
-    const Run ended = finish(process);
+    const CommandRun ended = CommandRun::of(process);
     QCOMPARE(ended.exitCode, 1);
     QCOMPARE(ended.err, QStringLiteral("vexconvert: long.mp4: stopped; nothing was written\n"));
     QCOMPARE(ended.out, QStringLiteral("0 of 2 files converted\n"));
@@ -579,7 +555,7 @@ void TestCommandLine::interruptingLeavesNothing()
 void TestCommandLine::withoutFfmpegItSaysWhatToInstall()
 {
     m_environment.insert(QStringLiteral("PATH"), m_folder->path());
-    const Run told = run("convert film.mp4 --preset V_MKV_1");
+    const CommandRun told = run("convert film.mp4 --preset V_MKV_1");
     QCOMPARE(told.exitCode, 1);
     QCOMPARE(told.err, QStringLiteral("vexconvert: film.mp4: ffprobe is not on the PATH; install "
                                       "ffmpeg (Debian: apt-get install ffmpeg) and try again\n"));
@@ -609,7 +585,7 @@ void TestCommandLine::aUsedPresetIsForgotten()
 {
     run("convert missing.mp4 --preset V_MKV_1");
     run("convert missing.mp4 --preset A_MP3_1");
-    const Run told = run("recent delete V_MKV_1");
+    const CommandRun told = run("recent delete V_MKV_1");
     QCOMPARE(told.exitCode, 0);
     QCOMPARE(told.out, QStringLiteral("V_MKV_1 is no longer listed as recently used\n"));
     QCOMPARE(recentIds(), QStringList{QStringLiteral("A_MP3_1")});
@@ -618,7 +594,7 @@ void TestCommandLine::aUsedPresetIsForgotten()
 void TestCommandLine::aUsersPresetIsMadeChangedAndDeleted()
 {
     QVERIFY(run("user list").out.startsWith(QStringLiteral("You have made no preset yet; ")));
-    const Run added =
+    const CommandRun added =
         run({QStringLiteral("user"), QStringLiteral("add"), QStringLiteral("V_MP4_2"),
              QStringLiteral("--title"), QStringLiteral("My own"), QStringLiteral("--video-encoder"),
              QStringLiteral("mpeg4"), QStringLiteral("--frame-rate"), QStringLiteral("29.97"),
@@ -638,7 +614,7 @@ void TestCommandLine::aUsersPresetIsMadeChangedAndDeleted()
     QCOMPARE(facts.picture()->frameRate.toText(), QStringLiteral("30000/1001"));
     QCOMPARE(facts.picture()->displaySize(), QSize(120, 90));
 
-    const Run changed = run("user change 1001 --video-bitrate 4000 --title New");
+    const CommandRun changed = run("user change 1001 --video-bitrate 4000 --title New");
     QCOMPARE(changed.out, QStringLiteral("1001 changed\n"));
     const QString list = run("user list").out;
     QVERIFY2(
@@ -670,7 +646,7 @@ void TestCommandLine::aDeletedPresetIsStillUsableFromTheRecentOnes()
     QCOMPARE(run("convert film.mp4 --preset V_MKV_1").exitCode, 0);
     QVERIFY(QFile::exists(path(QStringLiteral("film (2).mkv"))));
     QCOMPARE(recentIds(), words("V_MKV_1 A_MP3_1"));
-    const Run refused = run("user add V_MKV_1 --title x");
+    const CommandRun refused = run("user add V_MKV_1 --title x");
     QCOMPARE(refused.exitCode, 2);
     QVERIFY(refused.err.contains(QStringLiteral("is only among the recently used ones")));
 }
@@ -704,14 +680,14 @@ void TestCommandLine::aDamagedFileIsNeverWrittenOver()
     const QString complaint =
         QStringLiteral("%1 is damaged and can't be read; mend it or move it away\n").arg(damaged);
 
-    const Run add = run("user add V_MP4_1 --title x");
+    const CommandRun add = run("user add V_MP4_1 --title x");
     QCOMPARE(add.exitCode, 1);
     QCOMPARE(add.err, QStringLiteral("vexconvert: ") + complaint);
-    const Run list = run("formats");
+    const CommandRun list = run("formats");
     QCOMPARE(list.exitCode, 0);
     QCOMPARE(list.err, QStringLiteral("vexconvert: ") + complaint);
     // A conversion needs no file of the user's.
-    const Run convert = run("convert film.mp4 --preset V_MKV_1");
+    const CommandRun convert = run("convert film.mp4 --preset V_MKV_1");
     QCOMPARE(convert.exitCode, 0);
     QCOMPARE(convert.err,
              QStringLiteral("vexconvert: the preset isn't noted as recently used: ") + complaint);
@@ -734,7 +710,7 @@ void TestCommandLine::thePreviousVersionOfAFileIsKept()
 void TestCommandLine::aConfigFolderThatCannotBeIsSaid()
 {
     write(config(), "a file");
-    const Run told = run("user add V_MP4_1 --title x");
+    const CommandRun told = run("user add V_MP4_1 --title x");
     QCOMPARE(told.exitCode, 1);
     QCOMPARE(told.err, QStringLiteral("vexconvert: can't write into the configuration folder %1; "
                                       "name another one\n")
@@ -748,13 +724,13 @@ void TestCommandLine::theUsualConfigFolderIsThePlatforms()
     m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("home")));
     QProcess process;
     start(process, words("user add V_MP4_1 --title x"));
-    QCOMPARE(finish(process).exitCode, 0);
+    QCOMPARE(CommandRun::of(process).exitCode, 0);
     QVERIFY(QFile::exists(path(QStringLiteral("home/vexconvert/formatCache.json"))));
 
     // Also behind the subcommand.
     QProcess after;
     start(after, words("user list --config") << path(QStringLiteral("home/vexconvert")));
-    QVERIFY(finish(after).out.contains(QStringLiteral("1001")));
+    QVERIFY(CommandRun::of(after).out.contains(QStringLiteral("1001")));
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)

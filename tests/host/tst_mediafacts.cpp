@@ -53,8 +53,9 @@ void TestMediaFacts::aProbedFilmTellsItsTracks()
             "disposition": {"default": 1, "attached_pic": 0}},
            {"index": 1, "codec_type": "audio", "codec_name": "aac", "sample_rate": "44100",
             "channels": 2, "channel_layout": "stereo", "disposition": {"default": 1}})",
-        R"("duration": "12.345", "size": "95012")");
+        R"("format_name": "mpegts", "duration": "12.345", "size": "95012")");
     QVERIFY(!facts.isEmpty());
+    QCOMPARE(facts.container, QStringLiteral("mpegts"));
     QCOMPARE(facts.duration, 12.345);
     QCOMPARE(facts.bytes, 95012);
 

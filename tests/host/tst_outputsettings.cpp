@@ -2,6 +2,11 @@
 
 #include <QtTest>
 
+#include <functional>
+
+using Change = std::function<void(OutputSettings &)>;
+Q_DECLARE_METATYPE(Change)
+
 class TestOutputSettings : public QObject
 {
     Q_OBJECT
@@ -15,6 +20,8 @@ private Q_SLOTS:
     void theVideoBitrateIsTheConvertersOwn();
     void aTextThatIsNoSizeIsNoBox_data();
     void aTextThatIsNoSizeIsNoBox();
+    void settingsAreTheSameWhenAllValuesAre_data();
+    void settingsAreTheSameWhenAllValuesAre();
     void aCutIsAsLongAsWhatIsKept_data();
     void aCutIsAsLongAsWhatIsKept();
 
@@ -144,6 +151,35 @@ void TestOutputSettings::aTextThatIsNoSizeIsNoBox()
     QVERIFY(OutputSettings::fromPreset(
                 with(QStringLiteral("video"), QStringLiteral("resolution"), text))
                 .box.isEmpty());
+}
+
+void TestOutputSettings::settingsAreTheSameWhenAllValuesAre_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
+    row("extension", [](OutputSettings &s) { s.extension = QStringLiteral("avi"); });
+    row("picture", [](OutputSettings &s) { s.hasPicture = false; });
+    row("video codec", [](OutputSettings &s) { s.videoCodec = QStringLiteral("hevc"); });
+    row("frame rate", [](OutputSettings &s) { s.frameRate = {30, 1}; });
+    row("box", [](OutputSettings &s) { s.box = QSize(720, 1280); });
+    row("video bitrate", [](OutputSettings &s) { s.videoKbps = 1; });
+    row("audio codec", [](OutputSettings &s) { s.audioCodec = QStringLiteral("mp3"); });
+    row("sample rate", [](OutputSettings &s) { s.sampleRate = 8000; });
+    row("channels", [](OutputSettings &s) { s.channels = 1; });
+    row("audio bitrate", [](OutputSettings &s) { s.audioKbps = 12; });
+    row("audio tracks", [](OutputSettings &s) { s.allAudioTracks = false; });
+    row("start", [](OutputSettings &s) { s.start = 1; });
+    row("end", [](OutputSettings &s) { s.end = 1; });
+}
+
+void TestOutputSettings::settingsAreTheSameWhenAllValuesAre()
+{
+    QFETCH(Change, change);
+    const OutputSettings settings = OutputSettings::fromPreset(preset());
+    OutputSettings other = OutputSettings::fromPreset(preset());
+    QVERIFY(settings == other);
+    change(other);
+    QVERIFY(!(settings == other));
 }
 
 void TestOutputSettings::aCutIsAsLongAsWhatIsKept_data()

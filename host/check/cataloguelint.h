@@ -1,0 +1,17 @@
+#ifndef CHECK_CATALOGUELINT_H
+#define CHECK_CATALOGUELINT_H
+
+#include "utility/cataloguereader.h"
+
+#include <QStringList>
+
+/*!
+ * What presets say that can't be had: chosen values that they don't offer, options that their
+ * container or one of their encoders doesn't take, ids that don't name their group, groups whose
+ * icon is none of the \a pictures. Each mistake is named once, where the value stands, also when
+ * several presets inherit it.
+ */
+[[nodiscard]] QVector<CatalogueMistake> lintCatalogue(const CatalogueResult &catalogue,
+                                                      const QStringList &pictures);
+
+#endif

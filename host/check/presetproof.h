@@ -1,0 +1,57 @@
+#ifndef CHECK_PRESETPROOF_H
+#define CHECK_PRESETPROOF_H
+
+#include "host/check/writtenfile.h"
+#include "host/convert/conversion.h"
+
+#include <functional>
+
+/*! The clip that presets are proven on: one second of picture and stereo sound. */
+struct ProofClip
+{
+    QString path;
+    MediaFacts facts;
+};
+
+/*!
+ * Makes the clip in \a folder, with a picture of \a size in a form that no preset can copy, without
+ * waiting. \a done is called once from the event loop, with the reason where that failed.
+ */
+void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
+                   const std::function<void(const ProofClip &, const QString &error)> &done);
+
+/*! How a preset did. */
+struct ProofOutcome
+{
+    enum Result { Passed, LacksEncoder, Failed };
+
+    Result result = Failed;
+    QString reason; //!< one line; empty when passed
+};
+
+/*!
+ * Converts the clip with a preset's settings and holds the result against them, without waiting.
+ * Destroying it stops the conversion; the result is removed in any case.
+ */
+class PresetProof : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(PresetProof)
+
+public:
+    PresetProof(const OutputSettings &settings, const ProofClip &clip, QObject *parent = nullptr);
+
+    void start() { m_conversion.start(); }
+
+Q_SIGNALS:
+    void finished(const ProofOutcome &outcome);
+
+private:
+    void measure(const ConversionOutcome &outcome);
+
+    const OutputSettings m_settings;
+    const ProofClip m_clip;
+    Conversion m_conversion;
+};
+
+#endif

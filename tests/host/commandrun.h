@@ -1,0 +1,36 @@
+#ifndef HOST_COMMANDRUN_H
+#define HOST_COMMANDRUN_H
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+#include <unistd.h>
+
+/*! A finished run of vexconvert. */
+struct CommandRun
+{
+    static constexpr int patience = 60000; //!< ms, on a busy machine
+
+    int exitCode = -1; //!< -1: not in time, or crashed
+    QString out;
+    QString err;
+
+    [[nodiscard]] static CommandRun of(QProcess &process)
+    {
+        if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit) {
+            return {};
+        }
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+};
+
+/*! A process with a group of its own, as a shell starts one. */
+class GroupProcess : public QProcess
+{
+protected:
+    void setupChildProcess() override { setpgid(0, 0); }
+};
+
+#endif

@@ -1,0 +1,253 @@
+#include "host/check/cataloguelint.h"
+
+#include <QtTest>
+
+namespace {
+
+// One format with one preset, without a mistake.
+const QByteArray right = R"({
+  "category": "Video",
+  "lists": { "rates": [0, 25, 30] },
+  "groups": [{
+    "name": "MPEG-2", "icon": "fmt_mp4", "extension": "mpg",
+    "videoOptions": {
+      "encoderList": ["0", "mpeg2video"],
+      "resolutionList": ["0", "1280x720"],
+      "frameRateList": "rates",
+      "bitrateKbpsList": [0, 4000],
+      "levelList": [4000, 2000, 1000]
+    },
+    "videoParam": { "encoder": "mpeg2video", "resolution": "1280x720", "frameRate": 0,
+                    "bitrateKbps": 4000 },
+    "audioOptions": {
+      "encoderList": ["mp2"],
+      "channelList": [0, 1, 2],
+      "sampleRateList": [0, 44100, 48000],
+      "bitrateKbpsList": [0, 192]
+    },
+    "audioParam": { "encoder": "mp2", "channel": 2, "sampleRate": 48000, "bitrateKbps": 192 },
+    "presets": [{ "id": "Video_MPEG2_001", "title": "T" }]
+  }]
+})";
+
+QStringList mistakesIn(const QList<QByteArray> &files)
+{
+    QVector<CatalogueSource> sources;
+    for (const QByteArray &json : files) {
+        sources.append({QStringLiteral("file%1.json").arg(sources.size() + 1), json});
+    }
+    const CatalogueResult catalogue = readCatalogue(sources);
+    QStringList lines;
+    for (const CatalogueMistake &mistake :
+         catalogue.mistakes + lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")})) {
+        lines << mistake.text();
+    }
+    return lines;
+}
+
+/*! The right file with texts in it exchanged, each for the one behind it. */
+QByteArray changed(const QList<QByteArray> &exchanges)
+{
+    QByteArray json = right;
+    for (int i = 0; i < exchanges.size(); i += 2) {
+        const QByteArray before = json;
+        json.replace(exchanges.at(i), exchanges.at(i + 1));
+        if (json == before) {
+            return "nothing was exchanged";
+        }
+    }
+    return json;
+}
+
+} // namespace
+
+/*! Everything that a catalogue can say and that can't be had is named with its place. */
+class TestCatalogueLint : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aRightCatalogueHasNoMistake();
+    void whatCannotBeHadIsNamed_data();
+    void whatCannotBeHadIsNamed();
+    void aMistakeOfSeveralPresetsIsNamedOnce();
+    void aGroupNameIsUniqueInAllCategories();
+    void mistakesKeepNothingFromBeingServed();
+};
+
+void TestCatalogueLint::aRightCatalogueHasNoMistake()
+{
+    QCOMPARE(mistakesIn({right}), QStringList());
+}
+
+void TestCatalogueLint::whatCannotBeHadIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("mistake");
+
+    const auto row = [](const char *name, const QList<QByteArray> &exchanges, const char *mistake) {
+        QTest::newRow(name) << changed(exchanges) << QString::fromLatin1(mistake);
+    };
+
+    row("an id of another format", {"Video_MPEG2_001", "Video_MP4_001"},
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+    row("an id of another category", {"Video_MPEG2_001", "Audio_MPEG2_001"},
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+    row("an id with two digits", {"Video_MPEG2_001", "Video_MPEG2_01"},
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+    row("a picture that isn't there", {"fmt_mp4", "fmt_none"},
+        "groups[0].icon: there is no picture \"fmt_none\" in formats/qml/image");
+    row("no picture", {R"("icon": "fmt_mp4", )", ""},
+        "groups[0].icon: is missing; the format has no picture");
+
+    row("an encoder that isn't offered",
+        {R"("encoder": "mpeg2video")", R"("encoder": "mpeg1video")"},
+        "groups[0].videoParam.encoder: mpeg1video is none of the values that "
+        "videoOptions.encoderList offers");
+    row("a resolution that isn't offered",
+        {R"("resolution": "1280x720")", R"("resolution": "640x360")"},
+        "groups[0].videoParam.resolution: 640x360 is none of the values that "
+        "videoOptions.resolutionList offers");
+    row("a frame rate that isn't offered", {R"("frameRate": 0)", R"("frameRate": 24)"},
+        "groups[0].videoParam.frameRate: 24 is none of the values that "
+        "videoOptions.frameRateList offers");
+    row("a video bitrate that isn't offered", {R"("bitrateKbps": 4000)", R"("bitrateKbps": 3000)"},
+        "groups[0].videoParam.bitrateKbps: 3000 is none of the values that "
+        "videoOptions.bitrateKbpsList offers");
+    row("an audio encoder that isn't offered", {R"("encoder": "mp2")", R"("encoder": "ac3")"},
+        "groups[0].audioParam.encoder: ac3 is none of the values that audioOptions.encoderList "
+        "offers");
+    row("channels that aren't offered", {R"("channel": 2)", R"("channel": 6)"},
+        "groups[0].audioParam.channel: 6 is none of the values that audioOptions.channelList "
+        "offers");
+    row("a sample rate that isn't offered", {R"("sampleRate": 48000)", R"("sampleRate": 32000)"},
+        "groups[0].audioParam.sampleRate: 32000 is none of the values that "
+        "audioOptions.sampleRateList offers");
+    row("an audio bitrate that isn't offered", {R"("bitrateKbps": 192)", R"("bitrateKbps": 128)"},
+        "groups[0].audioParam.bitrateKbps: 128 is none of the values that "
+        "audioOptions.bitrateKbpsList offers");
+
+    row("a size that is none", {R"(["0", "1280x720"])", R"(["0", "1280x720", "720p"])"},
+        "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", "
+        "not 720p");
+    row("negative channels", {"[0, 1, 2]", "[-1, 0, 1, 2]"},
+        "groups[0].audioOptions.channelList[0]: must not be negative, but is -1");
+
+    row("a kind of file that can't be written", {R"("mpg")", R"("mpx")"},
+        "groups[0].extension: files of the kind \".mpx\" can't be written");
+    row("a video encoder that the container doesn't hold",
+        {R"(["0", "mpeg2video"])", R"(["0", "mpeg2video", "h264"])"},
+        "groups[0].videoOptions.encoderList[2]: a .mpg file can't hold h264, only mpeg2video, "
+        "mpeg1video");
+    row("an audio encoder that the container doesn't hold", {R"(["mp2"])", R"(["mp2", "aac"])"},
+        "groups[0].audioOptions.encoderList[1]: a .mpg file can't hold aac, only mp2, ac3, mp3");
+    row("video in a sound file",
+        {R"(["0", "mpeg2video"])", R"(["mpeg2video"])", R"("mpg")", R"("mp2")"},
+        "groups[0].videoOptions.encoderList[0]: a .mp2 file can't hold mpeg2video");
+    row("a frame rate that an encoder doesn't have", {"[0, 25, 30]", "[0, 15]"},
+        "groups[0].videoOptions.frameRateList[1]: mpeg2video can't have 15 frames a second, only "
+        "24000/1001, 24, 25, 30000/1001, 30, 50, 60000/1001, 60");
+    row("a sample rate that an encoder doesn't have", {"[0, 44100, 48000]", "[0, 22050, 48000]"},
+        "groups[0].audioOptions.sampleRateList[1]: mp2 can't have 22050 Hz, only 32000, 44100, "
+        "48000");
+    row("more channels than an encoder has", {"[0, 1, 2]", "[0, 2, 6]"},
+        "groups[0].audioOptions.channelList[2]: mp2 can't have 6-channel sound, at most 2");
+    row("a bitrate that an encoder doesn't have", {"[0, 192]", "[0, 192, 200]"},
+        "groups[0].audioOptions.bitrateKbpsList[2]: mp2 can't have 200 kbps, only 32, 48, 56, 64, "
+        "80, 96, 112, 128, 160, 192, 224, 256, 320, 384");
+
+    // In a container and with an encoder of studios, where nearly everything is fixed.
+    const QList<QByteArray> dv = {R"(["0", "mpeg2video"])",
+                                  R"(["dvvideo"])",
+                                  R"("encoder": "mpeg2video")",
+                                  R"("encoder": "dvvideo")",
+                                  R"(["0", "1280x720"])",
+                                  R"(["720x576"])",
+                                  R"("resolution": "1280x720")",
+                                  R"("resolution": "720x576")",
+                                  "[0, 4000]",
+                                  "[0]",
+                                  R"("bitrateKbps": 4000)",
+                                  R"("bitrateKbps": 0)",
+                                  R"(["mp2"])",
+                                  R"(["pcm_s16le"])",
+                                  R"("encoder": "mp2")",
+                                  R"("encoder": "pcm_s16le")",
+                                  "[0, 192]",
+                                  "[0]",
+                                  R"("bitrateKbps": 192)",
+                                  R"("bitrateKbps": 0)",
+                                  "[0, 44100, 48000]",
+                                  "[48000]",
+                                  "[0, 1, 2]",
+                                  "[2]",
+                                  R"("mpg")",
+                                  R"("dv")"};
+    row("nothing", dv, "");
+    row("a size that an encoder doesn't have",
+        dv + QList<QByteArray>{R"(["720x576"])", R"(["720x576", "640x480"])"},
+        "groups[0].videoOptions.resolutionList[1]: dvvideo can't have the size 640x480, only "
+        "720x576, 720x480");
+    row("a video bitrate where the encoder sets it itself",
+        dv + QList<QByteArray>{R"("bitrateKbpsList": [0],
+      "levelList")",
+                               R"("bitrateKbpsList": [0, 25000],
+      "levelList")"},
+        "groups[0].videoOptions.bitrateKbpsList[1]: dvvideo can't have 25000 kbps, only 0");
+    row("an audio bitrate where the encoder sets it itself",
+        dv + QList<QByteArray>{R"("bitrateKbpsList": [0]
+    })",
+                               R"("bitrateKbpsList": [0, 1536] })"},
+        "groups[0].audioOptions.bitrateKbpsList[1]: pcm_s16le can't have 1536 kbps, only 0");
+    row("a sample rate that the container doesn't have",
+        dv + QList<QByteArray>{"[48000]", "[44100, 48000]"},
+        "groups[0].audioOptions.sampleRateList[0]: a .dv file can't have 44100 Hz, only 48000");
+    row("channels that the container doesn't have", dv + QList<QByteArray>{"[2]", "[1, 2]"},
+        "groups[0].audioOptions.channelList[0]: a .dv file can't have 1-channel sound, only 2");
+}
+
+void TestCatalogueLint::whatCannotBeHadIsNamed()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, mistake);
+    const QStringList expected =
+        mistake.isEmpty() ? QStringList() : QStringList{QStringLiteral("file1.json: ") + mistake};
+    QCOMPARE(mistakesIn({json}), expected);
+}
+
+void TestCatalogueLint::aMistakeOfSeveralPresetsIsNamedOnce()
+{
+    const QByteArray json = changed({R"("title": "T" }])", R"("title": "T" },
+        { "id": "Video_MPEG2_002", "title": "T",
+          "videoParam": { "encoder": "0" }, "audioParam": { "channel": 6 } }])",
+                                     R"(["mp2"])", R"(["mp2", "aac"])"});
+    QCOMPARE(
+        mistakesIn({json}),
+        QStringList({QStringLiteral("file1.json: groups[0].audioOptions.encoderList[1]: a .mpg "
+                                    "file can't hold aac, only mp2, ac3, mp3"),
+                     QStringLiteral("file1.json: groups[0].presets[1].audioParam.channel: 6 is "
+                                    "none of the values that audioOptions.channelList offers")}));
+}
+
+void TestCatalogueLint::aGroupNameIsUniqueInAllCategories()
+{
+    const QByteArray other = changed({R"("Video",)", R"("Device",)", "Video_", "Device_"});
+    QCOMPARE(mistakesIn({right, other}),
+             QStringList({QStringLiteral("file2.json: groups[0].name: another category has a group "
+                                         "\"MPEG-2\", too, and a format is found by its name only; "
+                                         "give this one a name of its own")}));
+}
+
+void TestCatalogueLint::mistakesKeepNothingFromBeingServed()
+{
+    const CatalogueResult catalogue =
+        readCatalogue({{QStringLiteral("f"), changed({"fmt_mp4", "fmt_none"})}});
+    const QVector<CatalogueMistake> mistakes =
+        lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")});
+    QCOMPARE(mistakes.size(), 1);
+    QVERIFY(mistakes.constFirst().isServed);
+    QVERIFY(!catalogue.presetPlaces.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestCatalogueLint)
+#include "tst_cataloguelint.moc"

@@ -1,0 +1,249 @@
+#include "host/check/writtenfile.h"
+
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+using Change = std::function<void(OutputSettings &asked, WrittenFile &file, MediaFacts &source)>;
+
+OutputSettings askedSettings()
+{
+    OutputSettings asked;
+    asked.extension = QStringLiteral("mp4");
+    asked.hasPicture = true;
+    asked.videoCodec = QStringLiteral("h264");
+    asked.box = QSize(1280, 720);
+    asked.frameRate = {30000, 1001};
+    asked.videoKbps = 4000;
+    asked.audioCodec = QStringLiteral("aac");
+    asked.channels = 2;
+    asked.sampleRate = 48000;
+    asked.audioKbps = 192;
+    return asked;
+}
+
+VideoTrack videoTrack(const char *codec, const QSize &size, const Ratio &rate)
+{
+    VideoTrack track;
+    track.index = 0;
+    track.codec = QLatin1String(codec);
+    track.storedSize = size;
+    track.frameRate = rate;
+    return track;
+}
+
+AudioTrack audioTrack(const char *codec, int channels, int sampleRate)
+{
+    AudioTrack track;
+    track.index = 1;
+    track.codec = QLatin1String(codec);
+    track.channels = channels;
+    track.sampleRate = sampleRate;
+    return track;
+}
+
+WrittenFile writtenFile()
+{
+    WrittenFile file;
+    file.facts.container = QStringLiteral("mov,mp4,m4a,3gp,3g2,mj2");
+    file.facts.videoTracks = {videoTrack("h264", QSize(1280, 720), {30000, 1001})};
+    file.facts.audioTracks = {audioTrack("aac", 2, 48000)};
+    file.facts.duration = 1.05;
+    file.streamBytes = {{0, 500000}, {1, 24000}};
+    return file;
+}
+
+MediaFacts sourceFacts()
+{
+    MediaFacts source;
+    source.videoTracks = {videoTrack("utvideo", QSize(1920, 1080), {30000, 1001})};
+    source.audioTracks = {audioTrack("adpcm_ms", 2, 44100)};
+    source.duration = 1;
+    return source;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Change)
+
+/*! What a file must have in common with the settings that it was written with. */
+class TestWrittenFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void deviationsAreNamed_data();
+    void deviationsAreNamed();
+    void allDeviationsAreNamed();
+    void packetsAreCountedByStream();
+};
+
+void TestWrittenFile::deviationsAreNamed_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QString>("deviation");
+
+    const auto row = [](const char *name, const char *deviation, const Change &change) {
+        QTest::newRow(name) << change << QString::fromLatin1(deviation);
+    };
+    const auto settings = [&row](const char *name, const char *deviation, auto change) {
+        row(name, deviation,
+            [change](OutputSettings &asked, WrittenFile &, MediaFacts &) { change(asked); });
+    };
+    const auto video = [&row](const char *name, const char *deviation, auto change) {
+        row(name, deviation, [change](OutputSettings &, WrittenFile &file, MediaFacts &) {
+            change(file.facts.videoTracks[0]);
+        });
+    };
+    const auto audio = [&row](const char *name, const char *deviation, auto change) {
+        row(name, deviation, [change](OutputSettings &, WrittenFile &file, MediaFacts &) {
+            change(file.facts.audioTracks[0]);
+        });
+    };
+    const auto bytes = [&row](const char *name, const char *deviation, int stream, int count) {
+        row(name, deviation, [stream, count](OutputSettings &, WrittenFile &file, MediaFacts &) {
+            file.streamBytes[stream] = count;
+        });
+    };
+
+    settings("as asked", "", [](OutputSettings &) {});
+    settings("nothing asked", "", [](OutputSettings &asked) {
+        const OutputSettings none;
+        asked.videoCodec = none.videoCodec;
+        asked.box = none.box;
+        asked.frameRate = none.frameRate;
+        asked.videoKbps = none.videoKbps;
+        asked.audioCodec = none.audioCodec;
+        asked.channels = none.channels;
+        asked.sampleRate = none.sampleRate;
+        asked.audioKbps = none.audioKbps;
+    });
+    settings("unknown container", "no container has the extension .xyz",
+             [](OutputSettings &asked) { asked.extension = QStringLiteral("xyz"); });
+    row("another container", "the file is avi, not mp4",
+        [](OutputSettings &, WrittenFile &file, MediaFacts &) {
+            file.facts.container = QStringLiteral("avi");
+        });
+
+    const auto duration = [&row](const char *name, const char *deviation, double seconds) {
+        row(name, deviation, [seconds](OutputSettings &, WrittenFile &file, MediaFacts &) {
+            file.facts.duration = seconds;
+        });
+    };
+    duration("too short", "lasts 0.7 s, not 1 s", 0.7);
+    duration("too long", "lasts 1.3 s, not 1 s", 1.3);
+    duration("of unknown length", "", 0);
+
+    row("no picture", "there is no picture",
+        [](OutputSettings &, WrittenFile &file, MediaFacts &) { file.facts.videoTracks.clear(); });
+    settings("a picture in an audio file", "there is a picture",
+             [](OutputSettings &asked) { asked.hasPicture = false; });
+    video("another video codec", "mpeg4, not h264",
+          [](VideoTrack &track) { track.codec = QStringLiteral("mpeg4"); });
+    row("a codec that the container doesn't hold where any is asked",
+        "flv1, not h264 or hevc or av1 or vp9 or mpeg4 or mpeg2video or mpeg1video or mjpeg",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
+            asked.videoCodec.clear();
+            file.facts.videoTracks[0].codec = QStringLiteral("flv1");
+        });
+    video("larger than the box", "1280x722 isn't fitted into 1280x720",
+          [](VideoTrack &track) { track.storedSize = QSize(1280, 722); });
+    video("smaller than the box", "1278x718 isn't fitted into 1280x720",
+          [](VideoTrack &track) { track.storedSize = QSize(1278, 718); });
+    video("only as high as the box", "",
+          [](VideoTrack &track) { track.storedSize = QSize(960, 720); });
+    video("only nearly as wide as the box, for the sake of even sizes", "",
+          [](VideoTrack &track) { track.storedSize = QSize(1279, 540); });
+    row("a source that is smaller than the box", "",
+        [](OutputSettings &, WrittenFile &file, MediaFacts &source) {
+            source.videoTracks[0].storedSize = QSize(640, 360);
+            file.facts.videoTracks[0].storedSize = QSize(640, 360);
+        });
+    video("pixels that aren't square", "2560x720 isn't fitted into 1280x720",
+          [](VideoTrack &track) {
+              track.pixelAspect = {2, 1};
+          });
+    row("the pixels of a fixed frame", "",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
+            asked.extension = QStringLiteral("mov");
+            asked.videoCodec = QStringLiteral("dvvideo");
+            asked.box = QSize(720, 576);
+            file.facts.videoTracks[0].codec = QStringLiteral("dvvideo");
+            file.facts.videoTracks[0].storedSize = QSize(720, 576);
+            file.facts.videoTracks[0].pixelAspect = {64, 45};
+        });
+    video("another frame rate", "25 frames a second, not 29.97", [](VideoTrack &track) {
+        track.frameRate = {25, 1};
+    });
+    video("a rounded frame rate", "", [](VideoTrack &track) { track.frameRate = {30, 1}; });
+    video("an unknown frame rate", "0 frames a second, not 29.97",
+          [](VideoTrack &track) { track.frameRate = {}; });
+    bytes("far too much video", "video has 12000 kbps, not 4000", 0, 1500000);
+    bytes("far too little video", "video has 1000 kbps, not 4000", 0, 125000);
+    row("no video bitrate of a codec that sets its own", "",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
+            asked.extension = QStringLiteral("mov");
+            asked.videoCodec = QStringLiteral("prores");
+            file.facts.videoTracks[0].codec = QStringLiteral("prores");
+            file.streamBytes[0] = 5000000;
+        });
+    row("bitrates are for the length of the source", "",
+        [](OutputSettings &, WrittenFile &file, MediaFacts &source) {
+            source.duration = 10;
+            file.facts.duration = 10;
+            file.streamBytes = {{0, 5000000}, {1, 240000}};
+        });
+
+    row("no sound", "there is no sound",
+        [](OutputSettings &, WrittenFile &file, MediaFacts &) { file.facts.audioTracks.clear(); });
+    row("a source without sound", "", [](OutputSettings &, WrittenFile &file, MediaFacts &source) {
+        source.audioTracks.clear();
+        file.facts.audioTracks.clear();
+    });
+    row("sound in a container without any", "there is sound",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
+            asked.extension = QStringLiteral("gif");
+            asked.videoCodec = QStringLiteral("gif");
+            file.facts.container = QStringLiteral("gif");
+            file.facts.videoTracks[0].codec = QStringLiteral("gif");
+        });
+    audio("another audio codec", "mp3, not aac",
+          [](AudioTrack &track) { track.codec = QStringLiteral("mp3"); });
+    audio("another sample rate", "44100 Hz, not 48000",
+          [](AudioTrack &track) { track.sampleRate = 44100; });
+    audio("other channels", "1 channels, not 2", [](AudioTrack &track) { track.channels = 1; });
+    bytes("far too much audio", "audio has 800 kbps, not 192", 1, 100000);
+    bytes("far too little audio", "audio has 32 kbps, not 192", 1, 4000);
+}
+
+void TestWrittenFile::deviationsAreNamed()
+{
+    QFETCH(Change, change);
+    QFETCH(QString, deviation);
+    OutputSettings asked = askedSettings();
+    WrittenFile file = writtenFile();
+    MediaFacts source = sourceFacts();
+    change(asked, file, source);
+    QCOMPARE(file.deviations(asked, source).join(QStringLiteral("; ")), deviation);
+}
+
+void TestWrittenFile::allDeviationsAreNamed()
+{
+    WrittenFile file = writtenFile();
+    file.facts.videoTracks[0].codec = QStringLiteral("hevc");
+    file.facts.audioTracks[0].channels = 6;
+    QCOMPARE(file.deviations(askedSettings(), sourceFacts()),
+             QStringList({QStringLiteral("hevc, not h264"), QStringLiteral("6 channels, not 2")}));
+}
+
+void TestWrittenFile::packetsAreCountedByStream()
+{
+    WrittenFile file;
+    file.readPackets("0,1000\n1,20\n0,234,more\r\n\n1,\n2,7");
+    QCOMPARE(file.streamBytes, (QHash<int, qint64>{{0, 1234}, {1, 20}, {2, 7}}));
+}
+
+QTEST_GUILESS_MAIN(TestWrittenFile)
+#include "tst_writtenfile.moc"
