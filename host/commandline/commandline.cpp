@@ -62,7 +62,7 @@ QString overviewText(const QCommandLineParser &parser)
     const QVector<Subcommand> all = subcommands();
     QString list;
     for (const Subcommand &subcommand : all) {
-        list += QStringLiteral("  %1 %2\n").arg(subcommand.name, -15).arg(subcommand.summary);
+        list += QStringLiteral("  %1 %2\n").arg(subcommand.name, -16).arg(subcommand.summary);
     }
     return CommandLine::tr("Usage: vexconvert [options]\n"
                            "       vexconvert SUBCOMMAND [arguments] [options]\n"
