@@ -23,6 +23,9 @@ add_compile_definitions(
   QT_NO_FOREACH
   QT_DEPRECATED_WARNINGS
   QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+if(VEX_FUZZERS)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 if(VEX_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -64,7 +64,7 @@ QString textOf(const QJsonObject &object, QLatin1String key)
     return object.value(key).toVariant().toString();
 }
 
-constexpr QLatin1String titleKey("title");
+const QLatin1String titleKey("title");
 
 } // namespace
 

@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr QLatin1String recentlyFile("recently.json");
-constexpr QLatin1String userPresetsFile("formatCache.json");
+const QLatin1String recentlyFile("recently.json");
+const QLatin1String userPresetsFile("formatCache.json");
 
 // The values that the user may change, each under its role name.
 void applyUserValues(FormatDetailModelData &preset, const QVariantMap &param)

@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr QLatin1String tagOption("tag");
-constexpr QLatin1String jsonFlag("json");
+const QLatin1String tagOption("tag");
+const QLatin1String jsonFlag("json");
 
 void printFormats(const FormatListModel &formats, const QAbstractItemModel &shown, bool asJson)
 {

@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr QLatin1String quickFlag("quick");
-constexpr QLatin1String jsonFlag("json");
+const QLatin1String quickFlag("quick");
+const QLatin1String jsonFlag("json");
 
 const QSize usualSize(1920, 1080);
 const QSize largeSize(3840, 2160);

@@ -14,10 +14,10 @@
 
 namespace {
 
-constexpr QLatin1String presetOption("preset");
-constexpr QLatin1String folderOption("to");
-constexpr QLatin1String overwriteFlag("overwrite");
-constexpr QLatin1String dryRunFlag("dry-run");
+const QLatin1String presetOption("preset");
+const QLatin1String folderOption("to");
+const QLatin1String overwriteFlag("overwrite");
+const QLatin1String dryRunFlag("dry-run");
 
 /*! A command as a person would type it into a shell. */
 QString shellCommand(const QString &program, const QStringList &arguments)

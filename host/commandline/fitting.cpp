@@ -8,10 +8,10 @@
 
 namespace {
 
-constexpr QLatin1String typeOption("type");
-constexpr QLatin1String formatOption("format");
-constexpr QLatin1String targetOption("target");
-constexpr QLatin1String preferSourceOption("prefer-source");
+const QLatin1String typeOption("type");
+const QLatin1String formatOption("format");
+const QLatin1String targetOption("target");
+const QLatin1String preferSourceOption("prefer-source");
 
 /*! What is wrong with the wish; empty when nothing is. */
 QString mistakeIn(const QString &type, const QString &format, const QString &target)

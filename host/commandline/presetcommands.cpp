@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr QLatin1String jsonFlag("json");
-constexpr QLatin1String titleOption("title");
+const QLatin1String jsonFlag("json");
+const QLatin1String titleOption("title");
 
 void printPresets(const QVector<QVariantMap> &presets, bool asJson, const QString &none)
 {

@@ -33,7 +33,7 @@ private:
 
 namespace {
 
-constexpr QLatin1String infoLine("info: getSupportAudioLisrfromType reverse tempList");
+const QLatin1String infoLine("info: getSupportAudioLisrfromType reverse tempList");
 
 } // namespace
 

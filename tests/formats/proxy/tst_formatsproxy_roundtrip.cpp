@@ -46,7 +46,7 @@ private:
 
 namespace {
 
-constexpr QLatin1String writeFiles("--write-files");
+const QLatin1String writeFiles("--write-files");
 
 // A preset of the user's with a value in every field and texts that JSON has to escape.
 FormatDetailModelData fullPreset()
