@@ -32,33 +32,28 @@ QString builtInCataloguePath()
 
 CatalogueResult readCatalogueAt(const QString &path)
 {
-    QStringList files{path};
-    QVector<CatalogueMistake> unread;
-    if (QFileInfo(path).isDir()) {
-        files = catalogueFilesIn(QDir(path));
-        if (files.isEmpty()) {
-            unread.append({{path, {}},
-                           QDir(path).isReadable()
-                               ? QStringLiteral("the folder holds no *.json file")
-                               : QStringLiteral("the folder cannot be read")});
-        }
-    }
-
     QVector<CatalogueSource> sources;
-    for (const QString &name : qAsConst(files)) {
+    const QStringList files =
+        QFileInfo(path).isDir() ? catalogueFilesIn(QDir(path)) : QStringList{path};
+    for (const QString &name : files) {
         QFile file(name);
-        QByteArray json;
+        CatalogueSource source{name, {}};
         if (file.open(QIODevice::ReadOnly)) {
-            json = file.readAll();
+            source.json = file.readAll();
         }
-        if (file.error() == QFileDevice::NoError) {
-            sources.append({name, json});
-        } else {
-            unread.append(
-                {{name, {}}, QStringLiteral("cannot be read: %1").arg(file.errorString())});
+        if (file.error() != QFileDevice::NoError) {
+            source.unreadable = QStringLiteral("cannot be read: %1").arg(file.errorString());
         }
+        sources.append(source);
     }
     CatalogueResult result = readCatalogue(sources);
-    result.mistakes = unread + result.mistakes;
+    if (files.isEmpty()) {
+        result.mistakes.append({{path, {}},
+                                QDir(path).isReadable()
+                                    ? QStringLiteral("the folder holds no *.json file")
+                                    : QStringLiteral("the folder cannot be read")});
+    } else if (result.mistakes.isEmpty() && result.presetPlaces.isEmpty()) {
+        result.mistakes.append({{path, {}}, QStringLiteral("holds no preset")});
+    }
     return result;
 }

@@ -11,7 +11,8 @@
 
 /*!
  * The catalogue in a file, or in a folder's *.json files but *.schema.json, in the order of their
- * names. A file that can't be read is a mistake like others.
+ * names. A file that can't be read is a mistake like others, and so is a catalogue without a
+ * preset.
  */
 [[nodiscard]] VEX_UTILITY_EXPORT CatalogueResult readCatalogueAt(const QString &path);
 

@@ -98,12 +98,12 @@ QString reasonOf(const QJsonParseError &error)
 CatalogueMistake syntaxMistake(const CatalogueSource &source, const QJsonParseError &error)
 {
     if (source.json.trimmed().isEmpty()) {
-        return {{source.name, {}}, QStringLiteral("the file is empty"), QStringLiteral("1:1")};
+        return {{source.name, {}, QStringLiteral("1:1")}, QStringLiteral("the file is empty")};
     }
     // Qt has already read the byte that it rejects, except behind the end of the document.
     const int offset =
         error.error == QJsonParseError::GarbageAtEnd ? error.offset : std::max(0, error.offset - 1);
-    return {{source.name, {}}, reasonOf(error), lineAndColumn(source.json, offset)};
+    return {{source.name, {}, lineAndColumn(source.json, offset)}, reasonOf(error)};
 }
 
 QString member(const QString &path, const QString &key)
@@ -150,6 +150,13 @@ struct Settings
     }
 };
 
+/*! A list of values, and where it stands. */
+struct OptionList
+{
+    QJsonArray values;
+    CataloguePlace place;
+};
+
 class Reader
 {
 public:
@@ -167,8 +174,7 @@ private:
     Settings readSettings(const QJsonObject &from, const QString &path);
     void readBlock(QLatin1String block, const QJsonValue &value, const QString &path,
                    Settings &settings);
-    QVariantList readOptions(const QJsonValue &value, QJsonValue::Type type, const QString &path);
-    void claimId(const Settings &preset, const QString &path);
+    OptionList readOptions(const QJsonValue &value, QJsonValue::Type type, const QString &path);
     void complete(QVariantMap &preset, const QString &path);
     void completeBlock(QLatin1String block, const QVariantMap &preset, const QString &path);
 
@@ -183,26 +189,30 @@ private:
     Value named(const QHash<QString, std::optional<Value>> &values, const QString &name,
                 const QString &refusal, const QString &path);
     void refuse(const QString &path, const QString &reason);
+    void refuse(const CataloguePlace &place, const QString &reason);
     void noteFurtherKey(const QString &path);
 
     QString m_source;
     // Without a value where that is wrong: it is named already where it stands.
-    QHash<QString, std::optional<QJsonArray>> m_lists;
+    QHash<QString, std::optional<OptionList>> m_lists;
     QHash<QString, std::optional<Settings>> m_templates;
     QHash<QByteArray, QVariantList> m_shared;
-    QSet<QString> m_ids;
     int m_refusals = 0;
 };
 
 void Reader::read(const CatalogueSource &source)
 {
     m_source = source.name;
+    if (!source.unreadable.isEmpty()) {
+        refuse(QString(), source.unreadable);
+        return;
+    }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(source.json, &error);
     if (error.error != QJsonParseError::NoError) {
         result.mistakes.append(syntaxMistake(source, error));
     } else if (!document.isObject()) {
-        refuse({}, QStringLiteral("the file must hold an object but holds a list"));
+        refuse(QString(), QStringLiteral("the file must hold an object but holds a list"));
     } else {
         readFile(document.object());
     }
@@ -246,7 +256,9 @@ void Reader::readLists(const QJsonObject &lists)
         const QJsonArray list = it.value().toArray();
         expectElements(list.first().isString() ? QJsonValue::String : QJsonValue::Double, list,
                        path);
-        m_lists.insert(it.key(), m_refusals == before ? std::make_optional(list) : std::nullopt);
+        m_lists.insert(it.key(), m_refusals == before
+                                     ? std::make_optional(OptionList{list, {m_source, path}})
+                                     : std::nullopt);
     }
 }
 
@@ -264,12 +276,11 @@ void Reader::readTemplates(const QJsonObject &templates)
 
 void Reader::readGroup(const QString &category, QJsonObject group, const QString &path)
 {
+    const int before = m_refusals;
     const QJsonValue icon = group.take(QStringLiteral("icon"));
     if (!icon.isUndefined()) {
         expect(QJsonValue::String, icon, member(path, QStringLiteral("icon")));
     }
-
-    const int before = m_refusals;
     const QString namePath = member(path, QStringLiteral("name"));
     const QString name = text(group.take(QStringLiteral("name")), namePath);
     if (result.catalogue.presets.contains({category, name})) {
@@ -310,15 +321,18 @@ QVariantList Reader::readPresets(const QJsonArray &presets, const Settings *usua
         expect(QJsonValue::Object, presets.at(i), presetPath);
         Settings preset = usual == nullptr ? Settings() : *usual;
         preset.add(readWithTemplate(presets.at(i).toObject(), presetPath));
-        claimId(preset, presetPath);
+        const QString id = preset.values.value(QStringLiteral("id")).toString();
+        if (result.presetPlaces.contains(id)) {
+            refuse(preset.places.value(QStringLiteral("id")),
+                   QStringLiteral("\"%1\" is already the id of another preset").arg(id));
+        }
         if (usual == nullptr || m_refusals != before) {
             continue;
         }
         complete(preset.values, presetPath);
         if (m_refusals == before) {
             maps.append(preset.values);
-            result.presetPlaces.insert(preset.values.value(QStringLiteral("id")).toString(),
-                                       preset.places);
+            result.presetPlaces.insert(id, preset.places);
         }
     }
     return maps;
@@ -374,7 +388,8 @@ void Reader::readBlock(QLatin1String block, const QJsonValue &value, const QStri
     QVariantMap map = object.toVariantMap();
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         const QString valuePath = member(path, it.key());
-        settings.places.insert(member(block, it.key()), {m_source, valuePath});
+        CataloguePlace &place = settings.places[member(block, it.key())];
+        place = {m_source, valuePath};
         const auto known = std::find_if(
             settingsKeys.cbegin(), settingsKeys.cend(), [&](const SettingKey &setting) {
                 return setting.block == block && setting.key == it.key();
@@ -384,42 +399,30 @@ void Reader::readBlock(QLatin1String block, const QJsonValue &value, const QStri
         } else if (block == videoParam || block == audioParam) {
             expect(known->type, it.value(), valuePath);
         } else {
-            const QVariantList options = readOptions(it.value(), known->type, valuePath);
-            if (known->key == levelList && options.size() != 3) {
+            const int before = m_refusals;
+            const OptionList options = readOptions(it.value(), known->type, valuePath);
+            if (known->key == levelList && options.values.size() != 3 && m_refusals == before) {
                 refuse(valuePath, QStringLiteral("must hold three bitrates: high, middle and low"));
             }
-            map.insert(it.key(), options);
+            place = options.place;
+            map.insert(it.key(), shared(options.values));
         }
     }
     settings.values.insert(block, map);
 }
 
 /*! An option list, written as such or as the name of a list. */
-QVariantList Reader::readOptions(const QJsonValue &value, QJsonValue::Type type,
-                                 const QString &path)
+OptionList Reader::readOptions(const QJsonValue &value, QJsonValue::Type type, const QString &path)
 {
-    if (!value.isString()) {
+    OptionList list{value.toArray(), {m_source, path}};
+    if (value.isString()) {
+        list = named(m_lists, value.toString(),
+                     QStringLiteral("there is no list \"%1\" in \"lists\""), path);
+    } else {
         expect(QJsonValue::Array, value, path);
     }
-    const QJsonArray array =
-        value.isString() ? named(m_lists, value.toString(),
-                                 QStringLiteral("there is no list \"%1\" in \"lists\""), path)
-                         : value.toArray();
-    expectElements(type, array, path);
-    return shared(array);
-}
-
-void Reader::claimId(const Settings &preset, const QString &path)
-{
-    const QString key = QStringLiteral("id");
-    const QString id = preset.values.value(key).toString();
-    if (m_ids.contains(id)) {
-        refuse(member(path, key),
-               QStringLiteral("\"%1\" is already the id of another preset").arg(id));
-    }
-    if (!id.isEmpty()) {
-        m_ids.insert(id);
-    }
+    expectElements(type, list.values, path);
+    return list;
 }
 
 /*! Adds what the preset may leave out; refuses it without what it may not. */
@@ -521,15 +524,18 @@ Value Reader::named(const QHash<QString, std::optional<Value>> &values, const QS
 
 void Reader::refuse(const QString &path, const QString &reason)
 {
+    refuse(CataloguePlace{m_source, path}, reason);
+}
+
+void Reader::refuse(const CataloguePlace &place, const QString &reason)
+{
     ++m_refusals;
-    result.mistakes.append({{m_source, path}, reason});
+    result.mistakes.append({place, reason});
 }
 
 void Reader::noteFurtherKey(const QString &path)
 {
-    CatalogueMistake mistake{{m_source, path}, QStringLiteral("is none of the known keys")};
-    mistake.isServed = true;
-    result.mistakes.append(mistake);
+    result.mistakes.append({{m_source, path}, QStringLiteral("is none of the known keys"), true});
 }
 
 } // namespace
@@ -537,8 +543,8 @@ void Reader::noteFurtherKey(const QString &path)
 QString CatalogueMistake::text() const
 {
     QString line = place.source;
-    if (!position.isEmpty()) {
-        line += QLatin1Char(':') + position;
+    if (!place.position.isEmpty()) {
+        line += QLatin1Char(':') + place.position;
     }
     line += QStringLiteral(": ");
     if (!place.path.isEmpty()) {

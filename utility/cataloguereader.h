@@ -18,25 +18,26 @@ struct ExportCatalogue
     QHash<QPair<QString, QString>, QVariantList> presets; //!< by category and group name
 };
 
-/*! One catalogue file: its name as mistakes show it, and its bytes. */
+/*! One catalogue file. */
 struct CatalogueSource
 {
-    QString name;
+    QString name; //!< as mistakes show it
     QByteArray json;
+    QString unreadable = {}; //!< why there are no bytes
 };
 
 /*! Where something stands in the catalogue's files. */
 struct CataloguePlace
 {
     QString source;
-    QString path; //!< "groups[0].presets[2].id"; empty: the whole file
+    QString path;          //!< "groups[0].presets[2].id"; empty: the whole file
+    QString position = {}; //!< "line:column", counted from 1, of what is no JSON; else empty
 };
 
 struct CatalogueMistake
 {
     CataloguePlace place;
     QString reason;
-    QString position = {}; //!< "line:column", counted from 1, of what is no JSON; else empty
     bool isServed = false; //!< served as it is; else left out, with what it stands in
 
     /*! One line: the source's name, the place in it and the reason. */

@@ -35,7 +35,7 @@ ExportCatalogue loadCatalogue()
     if (!path.isEmpty()) {
         const CatalogueResult own = readCatalogueAt(path);
         const QString complaint = leftOut(own.mistakes);
-        const bool isServed = complaint.isEmpty() || !own.presetPlaces.isEmpty();
+        const bool isServed = !own.presetPlaces.isEmpty();
         if (!complaint.isEmpty()) {
             complain(complaint + (isServed ? QStringLiteral("; the rest is used")
                                            : QStringLiteral("; the built-in catalogue is used")));

@@ -3,6 +3,7 @@
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
 #include "host/convert/textlist.h"
+#include "host/media/mediafacts.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -12,34 +13,44 @@
 namespace {
 
 const QString keepsSource = QStringLiteral("0");
+const QString extensionKey = QStringLiteral("extension");
+const QString kbpsUnit = QStringLiteral("%1 kbps");
+const QString levelsKey = QStringLiteral("videoOptions.levelList");
 
+/*! A value that a preset chooses, and the list of those that it offers. */
 struct ChosenValue
 {
+    enum Form { Text, Size, FrameRate, WholeNumber };
+
     QString param;
     QString options;
+    Form form;
 };
 
-const QVector<ChosenValue> chosenValues{
-    {QStringLiteral("videoParam.encoder"), QStringLiteral("videoOptions.encoderList")},
-    {QStringLiteral("videoParam.resolution"), QStringLiteral("videoOptions.resolutionList")},
-    {QStringLiteral("videoParam.frameRate"), QStringLiteral("videoOptions.frameRateList")},
-    {QStringLiteral("videoParam.bitrateKbps"), QStringLiteral("videoOptions.bitrateKbpsList")},
-    {QStringLiteral("audioParam.encoder"), QStringLiteral("audioOptions.encoderList")},
-    {QStringLiteral("audioParam.channel"), QStringLiteral("audioOptions.channelList")},
-    {QStringLiteral("audioParam.sampleRate"), QStringLiteral("audioOptions.sampleRateList")},
-    {QStringLiteral("audioParam.bitrateKbps"), QStringLiteral("audioOptions.bitrateKbpsList")},
-};
+const ChosenValue videoEncoder{QStringLiteral("videoParam.encoder"),
+                               QStringLiteral("videoOptions.encoderList"), ChosenValue::Text};
+const ChosenValue resolution{QStringLiteral("videoParam.resolution"),
+                             QStringLiteral("videoOptions.resolutionList"), ChosenValue::Size};
+const ChosenValue frameRate{QStringLiteral("videoParam.frameRate"),
+                            QStringLiteral("videoOptions.frameRateList"), ChosenValue::FrameRate};
+const ChosenValue videoBitrate{QStringLiteral("videoParam.bitrateKbps"),
+                               QStringLiteral("videoOptions.bitrateKbpsList"),
+                               ChosenValue::WholeNumber};
+const ChosenValue audioEncoder{QStringLiteral("audioParam.encoder"),
+                               QStringLiteral("audioOptions.encoderList"), ChosenValue::Text};
+const ChosenValue channel{QStringLiteral("audioParam.channel"),
+                          QStringLiteral("audioOptions.channelList"), ChosenValue::WholeNumber};
+const ChosenValue sampleRate{QStringLiteral("audioParam.sampleRate"),
+                             QStringLiteral("audioOptions.sampleRateList"),
+                             ChosenValue::WholeNumber};
+const ChosenValue audioBitrate{QStringLiteral("audioParam.bitrateKbps"),
+                               QStringLiteral("audioOptions.bitrateKbpsList"),
+                               ChosenValue::WholeNumber};
 
 QVariant valueAt(const QVariantMap &preset, const QString &key)
 {
     const QString block = key.section(QLatin1Char('.'), 0, 0);
     return preset.value(block).toMap().value(key.section(QLatin1Char('.'), 1));
-}
-
-/*! Unlike QVariant's own comparison, tells the text "0" from the number 0. */
-bool isSame(const QVariant &one, const QVariant &other)
-{
-    return one.type() == other.type() && one == other;
 }
 
 /*! As ids write the name of a group: "HEVC MP4" is HEVCMP4. */
@@ -49,44 +60,68 @@ QString idPart(const QString &groupName)
     return groupName.toUpper().remove(other);
 }
 
-/*! Words of a table's cell with commas between. */
-QString listed(const char *cell)
+bool hasForm(const QString &value, ChosenValue::Form form)
 {
-    return words(cell).join(QStringLiteral(", "));
+    static const QRegularExpression size(QStringLiteral("^[1-9][0-9]*x[1-9][0-9]*$"));
+    static const QRegularExpression wholeNumber(QStringLiteral("^[0-9]+$"));
+    constexpr double fastest = 300;
+    switch (form) {
+    case ChosenValue::Size:
+        return value == keepsSource || size.match(value).hasMatch();
+    case ChosenValue::FrameRate:
+        return value.toDouble() >= 0 && value.toDouble() <= fastest;
+    case ChosenValue::WholeNumber:
+        return wholeNumber.match(value).hasMatch();
+    case ChosenValue::Text:
+        break;
+    }
+    return true;
 }
 
-bool takes(const char *allowed, const QString &value)
+QString formText(ChosenValue::Form form)
 {
-    return *allowed == '\0' || words(allowed).contains(value);
-}
-
-bool takesFrameRate(const VideoCodec &codec, const QString &rate)
-{
-    const QStringList allowed = words(codec.frameRates);
-    return allowed.isEmpty() ||
-           std::any_of(allowed.begin(), allowed.end(), [&rate](const QString &text) {
-               return Ratio::fromText(text) == Ratio::fromFrameRate(rate);
-           });
+    switch (form) {
+    case ChosenValue::Size:
+        return QStringLiteral("\"0\" or a size like \"1920x1080\"");
+    case ChosenValue::FrameRate:
+        return QStringLiteral("frames a second from 0 to 300");
+    case ChosenValue::WholeNumber:
+        return QStringLiteral("a whole number from 0 on");
+    case ChosenValue::Text:
+        break;
+    }
+    return {};
 }
 
 QStringList sizesOf(const VideoCodec &codec)
 {
     QStringList sizes;
     for (const VideoCodec::Frame &frame : codec.frames) {
-        sizes << QStringLiteral("%1x%2").arg(frame.size.width()).arg(frame.size.height());
+        sizes << sizeText(frame.size);
     }
     sizes.removeDuplicates();
     return sizes;
 }
 
-/*! A catalogue's bitrates are whole numbers, also where a codec's are not. */
-bool takesBitrate(const AudioCodec &codec, const QString &kbps)
+/*! Whole numbers, as a catalogue's bitrates are, also where the codec's are not. */
+QStringList bitratesOf(const AudioCodec &codec)
 {
-    const QStringList allowed = words(codec.bitrates);
-    return allowed.isEmpty() ||
-           std::any_of(allowed.begin(), allowed.end(), [&kbps](const QString &text) {
-               return qRound(text.toDouble()) == kbps.toInt();
-           });
+    QStringList bitrates;
+    const QStringList exact = words(codec.bitrates);
+    for (const QString &kbps : exact) {
+        bitrates << QString::number(qRound(kbps.toDouble()));
+    }
+    bitrates.removeDuplicates();
+    return bitrates;
+}
+
+QStringList channelsUpTo(int count)
+{
+    QStringList channels;
+    for (int i = 1; i <= count; ++i) {
+        channels << QString::number(i);
+    }
+    return channels;
 }
 
 class Linter
@@ -101,18 +136,27 @@ public:
 
 private:
     void lintGroup(const QVariantMap &group);
+    void lintPreset(const QVariantMap &group);
     void lintId(const QVariantMap &group);
-    void lintChosenValues();
-    void lintForms();
+    void lintChosenValue(const ChosenValue &chosen);
+    void lintLevels();
     void lintVideo(const Container &container);
     void lintAudio(const Container &container);
-    QStringList lintEncoders(const QString &key, const char *held);
+    QStringList lintEncoders(const ChosenValue &encoder, const char *held, const QString &track);
 
-    /*! Notes each value of an option list, but those that keep the source's, that isn't taken. */
-    template <typename Takes>
-    void lintOptions(const QString &key, Takes takesValue, const QString &reason);
-    void note(const QString &key, const QString &reason, int element = -1);
-    void note(const CataloguePlace &place, const QString &reason);
+    /*!
+     * Notes each value of an option list that \a owner, a codec or kind of file that stands under
+     * \a ownerKey, can't have; an empty list allows all. In \a unit "%1" is the value.
+     */
+    void allowOnly(const QStringList &allowed, const ChosenValue &chosen, const QString &unit,
+                   const QString &owner, const QString &ownerKey);
+    [[nodiscard]] QString fileText() const;
+
+    void note(const QString &key, const QString &reason, const QString &otherKey = {});
+    void noteOption(int element, const QString &key, const QString &reason,
+                    const QString &otherKey = {});
+    void noteAt(const CataloguePlace &place, const QString &reason, const QString &addition = {});
+    [[nodiscard]] QString presetText(const QString &key, const QString &otherKey) const;
 
     const CatalogueResult &m_catalogue;
     const QStringList &m_pictures;
@@ -136,42 +180,55 @@ QVector<CatalogueMistake> Linter::mistakes()
 
 void Linter::lintGroup(const QVariantMap &group)
 {
+    static const QRegularExpression letters(QStringLiteral("^[A-Za-z]+$"));
+    const QString category = group.value(QStringLiteral("category")).toString();
     const QString name = group.value(QStringLiteral("name")).toString();
-    const QPair<QString, QString> key(group.value(QStringLiteral("category")).toString(), name);
-    CataloguePlace place = m_catalogue.groupPlaces.value(key);
-    const QString groupPath = place.path;
+    const CataloguePlace place = m_catalogue.groupPlaces.value({category, name});
+    const auto member = [&place](const char *key) {
+        return CataloguePlace{place.source, place.path + QLatin1Char('.') + QLatin1String(key)};
+    };
 
+    if (!letters.match(category).hasMatch()) {
+        noteAt({place.source, QStringLiteral("category")},
+               QStringLiteral("must be of the letters A to Z, as ids begin with it"));
+    }
     if (m_groupNames.contains(name)) {
-        place.path = groupPath + QStringLiteral(".name");
-        note(place,
-             QStringLiteral("another category has a group \"%1\", too, and a format is found "
-                            "by its name only; give this one a name of its own")
-                 .arg(name));
+        noteAt(member("name"),
+               QStringLiteral("another category has a group \"%1\", too, and a format is found by "
+                              "its name only; give this one a name of its own")
+                   .arg(name));
     }
     m_groupNames.insert(name);
 
     const QString icon = group.value(QStringLiteral("icon")).toString();
     if (!m_pictures.contains(icon)) {
-        place.path = groupPath + QStringLiteral(".icon");
-        note(place,
-             icon.isEmpty()
-                 ? QStringLiteral("is missing; the format has no picture")
-                 : QStringLiteral("there is no picture \"%1\" in formats/qml/image").arg(icon));
+        noteAt(member("icon"),
+               icon.isEmpty()
+                   ? QStringLiteral("is missing; the format has no picture")
+                   : QStringLiteral("there is no picture \"%1\" in formats/qml/image").arg(icon));
     }
-    for (const QVariant &preset : m_catalogue.catalogue.presets.value(key)) {
+    for (const QVariant &preset : m_catalogue.catalogue.presets.value({category, name})) {
         m_preset = preset.toMap();
         m_places = m_catalogue.presetPlaces.value(m_preset.value(QStringLiteral("id")).toString());
-        lintId(group);
-        lintChosenValues();
-        lintForms();
-        const QString extension = m_preset.value(QStringLiteral("extension")).toString();
-        if (const Container *container = Container::find(extension)) {
-            lintVideo(*container);
-            lintAudio(*container);
-        } else {
-            note(QStringLiteral("extension"),
-                 QStringLiteral("files of the kind \".%1\" can't be written").arg(extension));
-        }
+        lintPreset(group);
+    }
+}
+
+void Linter::lintPreset(const QVariantMap &group)
+{
+    lintId(group);
+    for (const ChosenValue &chosen : {videoEncoder, resolution, frameRate, videoBitrate,
+                                      audioEncoder, channel, sampleRate, audioBitrate}) {
+        lintChosenValue(chosen);
+    }
+    lintLevels();
+    const QString extension = m_preset.value(extensionKey).toString();
+    if (const Container *container = Container::find(extension)) {
+        lintVideo(*container);
+        lintAudio(*container);
+    } else {
+        note(extensionKey,
+             QStringLiteral("files of the kind \".%1\" can't be written").arg(extension));
     }
 }
 
@@ -186,148 +243,175 @@ void Linter::lintId(const QVariantMap &group)
     }
 }
 
-void Linter::lintChosenValues()
+void Linter::lintChosenValue(const ChosenValue &chosen)
 {
-    for (const ChosenValue &chosen : chosenValues) {
-        const QVariant value = valueAt(m_preset, chosen.param);
-        const QVariantList offered = valueAt(m_preset, chosen.options).toList();
-        if (value.isValid() &&
-            std::none_of(offered.begin(), offered.end(),
-                         [&value](const QVariant &option) { return isSame(option, value); })) {
-            note(chosen.param, QStringLiteral("%1 is none of the values that %2 offers")
-                                   .arg(value.toString(), chosen.options));
+    const QStringList offered = valueAt(m_preset, chosen.options).toStringList();
+    for (int i = 0; i < offered.size(); ++i) {
+        const QString &value = offered.at(i);
+        if (!hasForm(value, chosen.form)) {
+            noteOption(i, chosen.options,
+                       QStringLiteral("must be %1, not %2").arg(formText(chosen.form), value));
         }
+        if (offered.indexOf(value) < i) {
+            noteOption(i, chosen.options, QStringLiteral("%1 stands there twice").arg(value));
+        }
+    }
+    const QVariant value = valueAt(m_preset, chosen.param);
+    if (value.isValid() && !offered.contains(value.toString())) {
+        note(chosen.param,
+             QStringLiteral("%1 is none of the values that %2 offers")
+                 .arg(value.toString(), chosen.options),
+             chosen.options);
     }
 }
 
-void Linter::lintForms()
+void Linter::lintLevels()
 {
-    static const QRegularExpression size(QStringLiteral("^[1-9][0-9]*x[1-9][0-9]*$"));
-    for (const ChosenValue &chosen : chosenValues) {
-        if (chosen.param == QLatin1String("videoParam.resolution")) {
-            lintOptions(
-                chosen.options, [](const QString &value) { return size.match(value).hasMatch(); },
-                QStringLiteral("must be \"0\" or a size like \"1920x1080\", not %1"));
-        } else if (!chosen.param.endsWith(QLatin1String("encoder"))) {
-            lintOptions(
-                chosen.options, [](const QString &value) { return value.toDouble() > 0; },
-                QStringLiteral("must not be negative, but is %1"));
+    const QStringList offered = valueAt(m_preset, videoBitrate.options).toStringList();
+    const QVariantList levels = valueAt(m_preset, levelsKey).toList();
+    for (int i = 0; i < levels.size(); ++i) {
+        if (!offered.contains(levels.at(i).toString())) {
+            noteOption(i, levelsKey,
+                       QStringLiteral("%1 is none of the values that %2 offers")
+                           .arg(levels.at(i).toString(), videoBitrate.options),
+                       videoBitrate.options);
         }
+    }
+    const double high = levels.value(0).toDouble();
+    const double middle = levels.value(1).toDouble();
+    const double low = levels.value(2).toDouble();
+    if (high < low || (middle != 0 && (high < middle || middle < low))) {
+        note(levelsKey, QStringLiteral("must descend from the high to the low bitrate; only the "
+                                       "middle one may be 0 all the same"));
     }
 }
 
 /*! The codecs that the preset may be written with; "0" may come out as the container's usual one.
  */
-QStringList Linter::lintEncoders(const QString &key, const char *held)
+QStringList Linter::lintEncoders(const ChosenValue &encoder, const char *held, const QString &track)
 {
+    QStringList names = valueAt(m_preset, encoder.options).toStringList();
     const QStringList allowed = words(held);
-    const QString only = allowed.isEmpty() ? QString() : QStringLiteral(", only ") + listed(held);
-    lintOptions(
-        key, [&allowed](const QString &value) { return allowed.contains(value); },
-        QStringLiteral("a .%1 file can't hold ")
-                .arg(m_preset.value(QStringLiteral("extension")).toString()) +
-            QStringLiteral("%1") + only);
-    QStringList codecs = valueAt(m_preset, key).toStringList();
-    if (codecs.removeAll(keepsSource) > 0) {
-        codecs += allowed.mid(0, 1);
+    if (allowed.isEmpty() && !names.isEmpty()) {
+        note(encoder.options, QStringLiteral("%1 holds no %2").arg(fileText(), track),
+             extensionKey);
+        return {};
     }
-    return codecs;
+    allowOnly(allowed, encoder, QStringLiteral("%1"), fileText(), extensionKey);
+    if (names.removeAll(keepsSource) > 0) {
+        names += allowed.constFirst();
+    }
+    return names;
 }
 
 void Linter::lintVideo(const Container &container)
 {
     const QStringList names =
-        lintEncoders(QStringLiteral("videoOptions.encoderList"), container.videoCodecs);
+        lintEncoders(videoEncoder, container.videoCodecs, QStringLiteral("picture"));
     bool takesBitrates = names.isEmpty();
     for (const QString &name : names) {
         const VideoCodec &codec = videoCodec(name);
-        const QStringList sizes = sizesOf(codec);
         takesBitrates = takesBitrates || codec.takesBitrate;
-        lintOptions(
-            QStringLiteral("videoOptions.frameRateList"),
-            [&codec](const QString &rate) { return takesFrameRate(codec, rate); },
-            name + QStringLiteral(" can't have %1 frames a second, only ") +
-                listed(codec.frameRates));
-        lintOptions(
-            QStringLiteral("videoOptions.resolutionList"),
-            [&sizes](const QString &size) { return sizes.isEmpty() || sizes.contains(size); },
-            name + QStringLiteral(" can't have the size %1, only ") +
-                sizes.join(QStringLiteral(", ")));
+        const QString &owner = videoEncoder.options;
+        allowOnly(words(codec.frameRates), frameRate, QStringLiteral("%1 frames a second"), name,
+                  owner);
+        allowOnly(sizesOf(codec), resolution, QStringLiteral("the size %1"), name, owner);
     }
-    lintOptions(
-        QStringLiteral("videoOptions.bitrateKbpsList"),
-        [takesBitrates](const QString &) { return takesBitrates; },
-        names.join(QStringLiteral(", ")) + QStringLiteral(" can't have %1 kbps, only 0"));
+    if (!takesBitrates) {
+        allowOnly({keepsSource}, videoBitrate, kbpsUnit, names.join(QStringLiteral(", ")),
+                  videoEncoder.options);
+    }
 }
 
 void Linter::lintAudio(const Container &container)
 {
-    const QString channels = QStringLiteral("audioOptions.channelList");
-    const QString sampleRates = QStringLiteral("audioOptions.sampleRateList");
-    const QString bitrates = QStringLiteral("audioOptions.bitrateKbpsList");
-    const QString file =
-        QStringLiteral("a .%1 file").arg(m_preset.value(QStringLiteral("extension")).toString());
+    const QString channelUnit = QStringLiteral("%1-channel sound");
+    const QString sampleRateUnit = QStringLiteral("%1 Hz");
+    const QString &owner = audioEncoder.options;
     const QStringList names =
-        lintEncoders(QStringLiteral("audioOptions.encoderList"), container.audioCodecs);
+        lintEncoders(audioEncoder, container.audioCodecs, QStringLiteral("sound"));
     bool takesBitrates = names.isEmpty();
     for (const QString &name : names) {
         const AudioCodec &codec = audioCodec(name);
         takesBitrates = takesBitrates || codec.takesBitrate;
-        lintOptions(
-            sampleRates, [&codec](const QString &rate) { return takes(codec.sampleRates, rate); },
-            name + QStringLiteral(" can't have %1 Hz, only ") + listed(codec.sampleRates));
-        lintOptions(
-            channels, [&codec](const QString &count) { return count.toInt() <= codec.maxChannels; },
-            name + QStringLiteral(" can't have %1-channel sound, at most ") +
-                QString::number(codec.maxChannels));
-        lintOptions(
-            bitrates, [&codec](const QString &kbps) { return takesBitrate(codec, kbps); },
-            name + QStringLiteral(" can't have %1 kbps, only ") + listed(codec.bitrates));
+        if (codec.isOnlyCopied) {
+            note(owner, QStringLiteral("%1 can only be copied from a source").arg(name));
+        }
+        allowOnly(channelsUpTo(codec.maxChannels), channel, channelUnit, name, owner);
+        allowOnly(words(codec.sampleRates), sampleRate, sampleRateUnit, name, owner);
+        allowOnly(bitratesOf(codec), audioBitrate, kbpsUnit, name, owner);
     }
-    lintOptions(
-        sampleRates,
-        [&container](const QString &rate) { return takes(container.sampleRates, rate); },
-        file + QStringLiteral(" can't have %1 Hz, only ") + listed(container.sampleRates));
-    lintOptions(
-        channels,
-        [&container](const QString &count) {
-            return container.channels == 0 || count.toInt() == container.channels;
-        },
-        file + QStringLiteral(" can't have %1-channel sound, only ") +
-            QString::number(container.channels));
-    lintOptions(
-        bitrates, [takesBitrates](const QString &) { return takesBitrates; },
-        names.join(QStringLiteral(", ")) + QStringLiteral(" can't have %1 kbps, only 0"));
+    if (!takesBitrates) {
+        allowOnly({keepsSource}, audioBitrate, kbpsUnit, names.join(QStringLiteral(", ")), owner);
+    }
+    if (container.channels > 0) {
+        allowOnly({QString::number(container.channels)}, channel, channelUnit, fileText(),
+                  extensionKey);
+    }
+    allowOnly(words(container.sampleRates), sampleRate, sampleRateUnit, fileText(), extensionKey);
 }
 
-template <typename Takes>
-void Linter::lintOptions(const QString &key, Takes takesValue, const QString &reason)
+void Linter::allowOnly(const QStringList &allowed, const ChosenValue &chosen, const QString &unit,
+                       const QString &owner, const QString &ownerKey)
 {
-    const QStringList options = valueAt(m_preset, key).toStringList();
-    for (int i = 0; i < options.size(); ++i) {
-        if (options.at(i) != keepsSource && !takesValue(options.at(i))) {
-            note(key, reason.arg(options.at(i)), i);
+    const QStringList offered = valueAt(m_preset, chosen.options).toStringList();
+    for (int i = 0; i < offered.size() && !allowed.isEmpty(); ++i) {
+        const QString &value = offered.at(i);
+        const QString text =
+            chosen.form == ChosenValue::FrameRate ? Ratio::fromFrameRate(value).toText() : value;
+        // What isn't of the form has a mistake of its own.
+        if (value != keepsSource && hasForm(value, chosen.form) && !allowed.contains(text)) {
+            noteOption(i, chosen.options,
+                       QStringLiteral("%1 can't have %2, only %3")
+                           .arg(owner, unit.arg(value), allowed.join(QStringLiteral(", "))),
+                       ownerKey);
         }
     }
 }
 
-void Linter::note(const QString &key, const QString &reason, int element)
+QString Linter::fileText() const
 {
-    CataloguePlace place = m_places.value(key);
-    if (element >= 0) {
-        place.path += QStringLiteral("[%1]").arg(element);
-    }
-    note(place, reason);
+    return QStringLiteral("a .%1 file").arg(m_preset.value(extensionKey).toString());
 }
 
-void Linter::note(const CataloguePlace &place, const QString &reason)
+void Linter::note(const QString &key, const QString &reason, const QString &otherKey)
 {
-    CatalogueMistake mistake{place, reason};
-    mistake.isServed = true;
-    if (!m_noted.contains(mistake.text())) {
-        m_noted.insert(mistake.text());
-        m_mistakes.append(mistake);
+    noteAt(m_places.value(key), reason, presetText(key, otherKey));
+}
+
+void Linter::noteOption(int element, const QString &key, const QString &reason,
+                        const QString &otherKey)
+{
+    CataloguePlace place = m_places.value(key);
+    place.path += QStringLiteral("[%1]").arg(element);
+    noteAt(place, reason, presetText(key, otherKey));
+}
+
+/*! Each mistake once, also when several presets inherit it: \a addition tells them apart no more.
+ */
+void Linter::noteAt(const CataloguePlace &place, const QString &reason, const QString &addition)
+{
+    const QString text = CatalogueMistake{place, reason}.text();
+    if (!m_noted.contains(text)) {
+        m_noted.insert(text);
+        m_mistakes.append({place, reason + addition, true});
     }
+}
+
+/*! Names the preset where its value under a key clashes with one that stands elsewhere. */
+QString Linter::presetText(const QString &key, const QString &otherKey) const
+{
+    const auto holder = [this](const QString &each) {
+        const CataloguePlace place = m_places.value(each);
+        QString path = place.path;
+        path.chop(path.endsWith(each) ? each.size() : 0);
+        return place.source + path;
+    };
+    if (otherKey.isEmpty() || holder(key) == holder(otherKey)) {
+        return {};
+    }
+    return QStringLiteral(" (in the preset %1)")
+        .arg(m_preset.value(QStringLiteral("id")).toString());
 }
 
 } // namespace

@@ -40,7 +40,7 @@ void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
     new Tool(
         QStringLiteral("ffmpeg"), clipArguments(size, path),
         [path, parent, done](const ToolOutcome &made) {
-            if (!made.started || !made.exitedCleanly) {
+            if (!made.exitedCleanly) {
                 done({}, made.started ? made.firstError() : made.missingToolText());
                 return;
             }
@@ -60,6 +60,13 @@ PresetProof::PresetProof(const OutputSettings &settings, const ProofClip &clip, 
     connect(&m_conversion, &Conversion::finished, this, &PresetProof::measure);
 }
 
+PresetProof::~PresetProof()
+{
+    if (!m_converted.target.isEmpty()) {
+        QFile::remove(m_converted.target);
+    }
+}
+
 void PresetProof::measure(const ConversionOutcome &outcome)
 {
     if (outcome.result != ConversionOutcome::Converted) {
@@ -67,16 +74,23 @@ void PresetProof::measure(const ConversionOutcome &outcome)
                          outcome.error});
         return;
     }
+    m_converted = outcome;
     new Tool(
         QStringLiteral("ffprobe"), packetListArguments(outcome.target),
-        [this, outcome](const ToolOutcome &packets) {
-            QFile::remove(outcome.target);
-            WrittenFile file;
-            file.facts = outcome.facts;
-            file.readPackets(packets.output);
-            const QStringList deviations = file.deviations(m_settings, m_clip.facts);
-            Q_EMIT finished({deviations.isEmpty() ? ProofOutcome::Passed : ProofOutcome::Failed,
-                             deviations.join(QStringLiteral("; "))});
-        },
-        this);
+        [this](const ToolOutcome &packets) { compare(packets); }, this);
+}
+
+void PresetProof::compare(const ToolOutcome &packets)
+{
+    if (!packets.exitedCleanly) {
+        Q_EMIT finished({ProofOutcome::Failed,
+                         packets.started ? packets.firstError() : packets.missingToolText()});
+        return;
+    }
+    WrittenFile file;
+    file.facts = m_converted.facts;
+    file.readPackets(packets.output);
+    const QStringList deviations = file.deviations(m_settings, m_clip.facts);
+    Q_EMIT finished({deviations.isEmpty() ? ProofOutcome::Passed : ProofOutcome::Failed,
+                     deviations.join(QStringLiteral("; "))});
 }

@@ -40,6 +40,7 @@ class PresetProof : public QObject
 
 public:
     PresetProof(const OutputSettings &settings, const ProofClip &clip, QObject *parent = nullptr);
+    ~PresetProof() override;
 
     void start() { m_conversion.start(); }
 
@@ -48,10 +49,12 @@ Q_SIGNALS:
 
 private:
     void measure(const ConversionOutcome &outcome);
+    void compare(const ToolOutcome &packets);
 
     const OutputSettings m_settings;
     const ProofClip m_clip;
     Conversion m_conversion;
+    ConversionOutcome m_converted;
 };
 
 #endif

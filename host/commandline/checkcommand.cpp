@@ -33,35 +33,54 @@ struct Candidate
     QString format;
     QString tag;
     QString id;
-    OutputSettings settings;
+    OutputSettings settings = {};
+    bool isShown = false; //!< the library has it
     ProofOutcome outcome = {};
 
-    /*! The size of the clip: it must fill the box. */
+    /*! The size of the clip: it fills the box, unless that is larger still. */
     [[nodiscard]] QSize clipSize() const
     {
         const QSize &box = settings.box;
-        const bool isLarge = std::max(box.width(), box.height()) > usualSize.width() ||
-                             std::min(box.width(), box.height()) > usualSize.height();
-        return isLarge ? largeSize : usualSize;
+        const bool isUpright = box.height() > box.width();
+        const QSize lying = isUpright ? box.transposed() : box;
+        const bool isLarge =
+            lying.width() > usualSize.width() || lying.height() > usualSize.height();
+        const QSize size = isLarge ? largeSize : usualSize;
+        return isUpright ? size.transposed() : size;
     }
 };
 
 using Candidates = QVector<Candidate>;
 
-/*! The presets that are served, or of each format only the last, which is a small one as a rule. */
-Candidates candidates(bool isQuick)
+Candidate candidate(const FormatListModel &formats, const QVariantMap &group, const QString &id)
+{
+    const QString title = group.value(QStringLiteral("name")).toString();
+    Candidate made{title, group.value(QStringLiteral("category")).toString().toLower(), id};
+    const FormatDetailModel *presets = formats.formatDetailModel(title);
+    FormatDetailModelData record;
+    made.isShown = presets != nullptr && presets->getModelInfoById(id, record);
+    if (made.isShown) {
+        made.settings = OutputSettings::fromPreset(record.toVarMap());
+    } else {
+        made.outcome.reason = CommandLine::tr("the library shows no such preset in this format");
+    }
+    return made;
+}
+
+/*! All presets, or of each format only the last, which is a small one as a rule. */
+Candidates candidates(const ExportCatalogue &catalogue, bool isQuick)
 {
     FormatsProxy formats;
     formats.init(QString());
-    const FormatListModel &list = *formats.formatListModel();
     Candidates all;
-    for (int row = 0; row < list.rowCount(); ++row) {
-        const QModelIndex index = list.index(row);
-        QQueue<FormatDetailModelData> records;
-        list.formatDetailModel(list.getTitle(row))->getModelInfo(records);
-        for (int i = isQuick ? records.size() - 1 : 0; i < records.size(); ++i) {
-            all.append({list.getTitle(row), index.data(FormatListModel::TagRole).toString(),
-                        records.at(i).id, OutputSettings::fromPreset(records.at(i).toVarMap())});
+    for (const QVariant &category : catalogue.categories) {
+        for (const QVariant &group : catalogue.groups.value(category.toString())) {
+            const QString name = group.toMap().value(QStringLiteral("name")).toString();
+            const QVariantList presets = catalogue.presets.value({category.toString(), name});
+            for (const QVariant &preset : isQuick ? presets.mid(presets.size() - 1) : presets) {
+                all.append(candidate(*formats.formatListModel(), group.toMap(),
+                                     preset.toMap().value(QStringLiteral("id")).toString()));
+            }
         }
     }
     return all;
@@ -86,6 +105,7 @@ private:
 
     Candidates &m_candidates;
     const bool m_showsProgress;
+    Interrupt m_interrupt; // still caught while the rest is taken down
     QTemporaryDir m_folder;
     QEventLoop m_loop;
     QString m_error;
@@ -105,14 +125,15 @@ QString ProofRun::run()
     if (!m_folder.isValid()) {
         return CommandLine::tr("no temporary folder: %1").arg(m_folder.errorString());
     }
-    Interrupt interrupt;
-    QObject::connect(&interrupt, &Interrupt::caught, &m_loop, [this] {
+    QObject::connect(&m_interrupt, &Interrupt::caught, &m_loop, [this] {
         m_error = CommandLine::tr("interrupted");
         m_loop.quit();
     });
-    for (const QSize &size : {usualSize, largeSize}) {
+    for (const QSize &size :
+         {usualSize, usualSize.transposed(), largeSize, largeSize.transposed()}) {
         for (Candidate &candidate : m_candidates) {
-            if (candidate.clipSize() == size && &firstLike(candidate) == &candidate) {
+            if (candidate.isShown && candidate.clipSize() == size &&
+                &firstLike(candidate) == &candidate) {
                 m_waiting.enqueue(&candidate);
             }
         }
@@ -121,7 +142,9 @@ QString ProofRun::run()
         }
     }
     for (Candidate &candidate : m_candidates) {
-        candidate.outcome = firstLike(candidate).outcome;
+        if (candidate.isShown) {
+            candidate.outcome = firstLike(candidate).outcome;
+        }
     }
     if (m_showsProgress) {
         Console::overwriteLine(QString());
@@ -131,9 +154,10 @@ QString ProofRun::run()
 
 Candidate &ProofRun::firstLike(const Candidate &candidate)
 {
-    return *std::find_if(
-        m_candidates.begin(), m_candidates.end(),
-        [&candidate](const Candidate &other) { return other.settings == candidate.settings; });
+    return *std::find_if(m_candidates.begin(), m_candidates.end(),
+                         [&candidate](const Candidate &other) {
+                             return other.isShown && other.settings == candidate.settings;
+                         });
 }
 
 void ProofRun::proveWithClipOf(const QSize &size)
@@ -267,12 +291,14 @@ void printProofs(const Candidates &candidates)
             .arg(count(ProofOutcome::Failed)));
 }
 
-void printAsJson(const QVector<CatalogueMistake> &mistakes, const Candidates &candidates)
+/*! With an error, which is why the presets aren't proven, they are left out. */
+void printAsJson(const QVector<CatalogueMistake> &mistakes, const Candidates &candidates,
+                 const QString &error)
 {
     QVariantList mistakeMaps;
     for (const CatalogueMistake &mistake : mistakes) {
         mistakeMaps << QVariantMap{{QStringLiteral("file"), mistake.place.source},
-                                   {QStringLiteral("position"), mistake.position},
+                                   {QStringLiteral("position"), mistake.place.position},
                                    {QStringLiteral("path"), mistake.place.path},
                                    {QStringLiteral("reason"), mistake.reason},
                                    {QStringLiteral("leftOut"), !mistake.isServed}};
@@ -285,8 +311,13 @@ void printAsJson(const QVector<CatalogueMistake> &mistakes, const Candidates &ca
                                   {QStringLiteral("result"), resultText(candidate.outcome.result)},
                                   {QStringLiteral("reason"), candidate.outcome.reason}};
     }
-    Console::printJson(QVariantMap{{QStringLiteral("mistakes"), mistakeMaps},
-                                   {QStringLiteral("presets"), presetMaps}});
+    QVariantMap json{{QStringLiteral("mistakes"), mistakeMaps},
+                     {QStringLiteral("presets"), presetMaps}};
+    if (!error.isEmpty()) {
+        json.remove(QStringLiteral("presets"));
+        json.insert(QStringLiteral("error"), error);
+    }
+    Console::printJson(json);
 }
 
 ExitCode runCheck(const Call &call)
@@ -303,18 +334,19 @@ ExitCode runCheck(const Call &call)
         printMistakes(mistakes);
     }
     Candidates proven;
+    QString problem;
     // Without a preset of its own the built-in catalogue is served, which isn't what is checked.
     if (!catalogue.presetPlaces.isEmpty()) {
-        proven = candidates(call.options.isSet(quickFlag));
-        const QString problem = ProofRun(proven, !asJson && Console::isTerminal()).run();
-        if (!problem.isEmpty()) {
-            return failure(problem);
-        }
+        proven = candidates(catalogue.catalogue, call.options.isSet(quickFlag));
+        problem = ProofRun(proven, !asJson && Console::isTerminal()).run();
     }
     if (asJson) {
-        printAsJson(mistakes, proven);
-    } else if (!proven.isEmpty()) {
+        printAsJson(mistakes, proven, problem);
+    } else if (!proven.isEmpty() && problem.isEmpty()) {
         printProofs(proven);
+    }
+    if (!problem.isEmpty()) {
+        return failure(problem);
     }
     const bool isSound =
         mistakes.isEmpty() && countOf(proven.begin(), proven.end(), ProofOutcome::Failed) == 0;
@@ -330,12 +362,11 @@ QVector<Subcommand> checkCommands()
          CommandLine::tr("[--quick] [--json]"),
          CommandLine::tr("Check the catalogue's files and convert a clip with every preset."),
          CommandLine::tr(
-             "\nNames the mistakes in the files, then converts a clip of one second with every "
-             "preset\nand "
-             "holds the result against it. The catalogue is the built-in one, or what the "
-             "variable\nVEX_EXPORT_CATALOGUE names. The exit code is 1 where anything is wrong; an "
-             "encoder "
-             "that this\nffmpeg lacks isn't.\n"),
+             "\nNames the mistakes in the files, then converts a clip of one second with every\n"
+             "preset and holds the result against it; presets that ask for the same share a\n"
+             "conversion. The catalogue is the built-in one, or what VEX_EXPORT_CATALOGUE names.\n"
+             "The exit code is 1 where anything is wrong; an encoder that this ffmpeg lacks "
+             "isn't.\n"),
          {{quickFlag, CommandLine::tr("Convert with one preset of each format only.")},
           jsonOption()},
          runCheck},

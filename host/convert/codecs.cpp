@@ -49,7 +49,7 @@ const QVector<AudioCodec> &audioCodecs()
 {
     static const QVector<AudioCodec> table = {
         // name, {encoders}, channels, sample rates, kbps a channel, quality, takes a bitrate,
-        // bitrates, bits a sample
+        // bitrates, bits a sample (at most, at least, at least unless stereo), is only copied
         {"aac", {"aac"}, 8,
             "8000 11025 12000 16000 22050 24000 32000 44100 48000 64000 88200 96000",
             96, "", true, "", 6},
@@ -70,6 +70,8 @@ const QVector<AudioCodec> &audioCodecs()
             "4.75 5.15 5.9 6.7 7.4 7.95 10.2 12.2"},
         {"amr_wb", {"libvo_amrwbenc"}, 1, "16000", 0, "b=23.85k", true,
             "6.6 8.85 12.65 14.25 15.85 18.25 19.85 23.05 23.85"},
+        {"dts", {}, 8, "", 0, "", false, "", 32, 0, 0, true},
+        {"truehd", {}, 8, "", 0, "", false, "", 32, 0, 0, true},
     };
     return table;
 }

@@ -53,6 +53,7 @@ struct AudioCodec
     double maxBitsPerSample = 32;
     double minBitsPerSample = 0;
     double minBitsUnlessStereo = 0; //!< more than that for sound of other than two channels
+    bool isOnlyCopied = false;      //!< ffmpeg has no encoder for it that is fit for use
 };
 
 /*! The codec of this name as ffprobe prints it. One that needs no more than ffmpeg's encoder of the

@@ -87,8 +87,7 @@ void Conversion::convertWith(const ToolOutcome &encoderListing)
         replaced.isEmpty() ? freeName(folder(), baseName(), m_job.settings.extension) : replaced;
     const FfmpegArguments planned = plan(target);
     if (!planned.error.isEmpty()) {
-        m_lacksEncoder = planned.lacksEncoder;
-        endWith(planned.error);
+        endWith(planned.error, planned.lacksEncoder);
         return;
     }
     if (m_job.planOnly) {
@@ -172,12 +171,12 @@ QString Conversion::fileToReplace() const
     return m_job.overwrite && QFileInfo(path).isFile() && !isKept ? path : QString();
 }
 
-void Conversion::endWith(const QString &error)
+void Conversion::endWith(const QString &error, bool lacksEncoder)
 {
     m_pending.discard();
     ConversionOutcome outcome;
     outcome.result = m_isCancelled ? ConversionOutcome::Cancelled : ConversionOutcome::Failed;
     outcome.error = m_isCancelled ? QString() : error;
-    outcome.lacksEncoder = m_lacksEncoder;
+    outcome.lacksEncoder = lacksEncoder;
     Q_EMIT finished(outcome);
 }

@@ -71,7 +71,7 @@ private:
     QString baseName() const;
     /*! The existing file that the result is to replace; empty when it takes a free name. */
     QString fileToReplace() const;
-    void endWith(const QString &error);
+    void endWith(const QString &error, bool lacksEncoder = false);
 
     const ConversionJob m_job;
     MediaFacts m_source;
@@ -79,7 +79,6 @@ private:
     ProgressReader m_progress;
     QPointer<Tool> m_tool;
     bool m_isCancelled = false;
-    bool m_lacksEncoder = false;
 };
 
 #endif

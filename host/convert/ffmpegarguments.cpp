@@ -74,6 +74,9 @@ QStringList namesOf(const VideoCodec &codec, const QString &name)
 QStringList namesOf(const AudioCodec &codec, const QString &name)
 {
     QStringList names;
+    if (codec.isOnlyCopied) {
+        return names;
+    }
     for (const char *encoder : codec.encoders) {
         names << QLatin1String(encoder);
     }
@@ -403,7 +406,7 @@ QString Former::availableEncoder(const QStringList &names, const QString &codec)
     m_lacksEncoder = true;
     m_error = Arguments::tr("needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset "
                             "with another encoder or install an ffmpeg that has it")
-                  .arg(names.join(Arguments::tr(" or ")), codec);
+                  .arg(names.isEmpty() ? codec : names.join(Arguments::tr(" or ")), codec);
     return {};
 }
 

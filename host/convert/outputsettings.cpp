@@ -29,10 +29,9 @@ double videoKbpsOf(const QVariantMap &preset)
     return (kbps.isValid() ? kbps : video.value(QStringLiteral("bitrateMid"))).toDouble();
 }
 
-/*! All values, to compare them. */
 auto valuesOf(const OutputSettings &settings)
 {
-    return std::make_tuple(settings.extension, settings.hasPicture, settings.videoCodec,
+    return std::tie(settings.extension, settings.hasPicture, settings.videoCodec,
                            settings.frameRate, settings.box, settings.videoKbps,
                            settings.audioCodec, settings.sampleRate, settings.channels,
                            settings.audioKbps, settings.allAudioTracks, settings.start,

@@ -167,8 +167,7 @@ QString MediaFacts::summary() const
 {
     QStringList parts;
     if (const VideoTrack *video = picture()) {
-        const QSize size = video->displaySize();
-        QString line = tr("%1 %2x%3").arg(video->codec).arg(size.width()).arg(size.height());
+        QString line = video->codec + QLatin1Char(' ') + sizeText(video->displaySize());
         if (video->frameRate.isValid()) {
             line += tr(" %1 fps").arg(QString::number(video->frameRate.value(), 'g', 4));
         }
@@ -189,6 +188,11 @@ QString MediaFacts::summary() const
     }
     parts << QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
     return parts.join(QStringLiteral(", "));
+}
+
+QString sizeText(const QSize &size)
+{
+    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
 }
 
 QString clockText(double seconds)

@@ -62,6 +62,9 @@ public:
     [[nodiscard]] QString summary() const;
 };
 
+/*! "1280x720". */
+[[nodiscard]] QString sizeText(const QSize &size);
+
 /*! "0:09", "12:30" or "1:02:03" for a number of seconds. */
 [[nodiscard]] QString clockText(double seconds);
 

@@ -65,17 +65,19 @@ bool MediaClips::hasEncoder(const QString &name)
     return encoders.contains(name);
 }
 
-bool MediaClips::makeStandIn(const QString &folder, const QString &script)
+bool MediaClips::makeStandIn(const QString &folder, const QString &script, const QString &lacking,
+                             const QString &tool)
 {
-    QFile file(folder + QStringLiteral("/ffmpeg"));
+    QFile file(folder + QLatin1Char('/') + tool);
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    const QString text = QStringLiteral("#!/bin/sh\n"
-                                        "REAL=%1\n"
-                                        "case \"$*\" in *-encoders*) exec $REAL \"$@\";; esac\n"
-                                        "%2\n")
-                             .arg(ffmpegPath(), script);
+    const QString text =
+        QStringLiteral("#!/bin/sh\n"
+                       "REAL=%1\n"
+                       "case \"$*\" in *-encoders*) $REAL \"$@\" | grep -v -w -e %2; exit;; esac\n"
+                       "%3\n")
+            .arg(QStandardPaths::findExecutable(tool), lacking, script);
     file.write(text.toUtf8());
     return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }

@@ -21,10 +21,13 @@ MediaFacts factsOf(const QString &path);
 bool hasEncoder(const QString &name);
 
 /*!
- * Puts a shell script in \a folder in the place of ffmpeg, for the PATH. In it $REAL is ffmpeg
- * itself, and questions for the encoders are answered by it already.
+ * Puts a shell script in \a folder in the place of \a tool, for the PATH. In it $REAL is the tool
+ * itself, and questions for the encoders are answered by it already: all of ffmpeg's but \a
+ * lacking.
  */
-bool makeStandIn(const QString &folder, const QString &script);
+bool makeStandIn(const QString &folder, const QString &script,
+                 const QString &lacking = QStringLiteral("nothing"),
+                 const QString &tool = QStringLiteral("ffmpeg"));
 
 /*! The PATH with \a folder in front. */
 QByteArray pathWith(const QString &folder);

@@ -14,7 +14,7 @@ const QByteArray right = R"({
       "encoderList": ["0", "mpeg2video"],
       "resolutionList": ["0", "1280x720"],
       "frameRateList": "rates",
-      "bitrateKbpsList": [0, 4000],
+      "bitrateKbpsList": [0, 1000, 2000, 4000],
       "levelList": [4000, 2000, 1000]
     },
     "videoParam": { "encoder": "mpeg2video", "resolution": "1280x720", "frameRate": 0,
@@ -70,6 +70,8 @@ private Q_SLOTS:
     void aRightCatalogueHasNoMistake();
     void whatCannotBeHadIsNamed_data();
     void whatCannotBeHadIsNamed();
+    void thePresetIsNamedWhereItsOwnValueClashes();
+    void aCategoryIsOfLetters();
     void aMistakeOfSeveralPresetsIsNamedOnce();
     void aGroupNameIsUniqueInAllCategories();
     void mistakesKeepNothingFromBeingServed();
@@ -110,7 +112,7 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
         "videoOptions.resolutionList offers");
     row("a frame rate that isn't offered", {R"("frameRate": 0)", R"("frameRate": 24)"},
         "groups[0].videoParam.frameRate: 24 is none of the values that "
-        "videoOptions.frameRateList offers");
+        "videoOptions.frameRateList offers (in the preset Video_MPEG2_001)");
     row("a video bitrate that isn't offered", {R"("bitrateKbps": 4000)", R"("bitrateKbps": 3000)"},
         "groups[0].videoParam.bitrateKbps: 3000 is none of the values that "
         "videoOptions.bitrateKbpsList offers");
@@ -130,28 +132,82 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
     row("a size that is none", {R"(["0", "1280x720"])", R"(["0", "1280x720", "720p"])"},
         "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", "
         "not 720p");
+    row("too many frames", {"[0, 25, 30]", "[0, 301]"},
+        "lists.rates[1]: must be frames a second from 0 to 300, not 301");
     row("negative channels", {"[0, 1, 2]", "[-1, 0, 1, 2]"},
-        "groups[0].audioOptions.channelList[0]: must not be negative, but is -1");
+        "groups[0].audioOptions.channelList[0]: must be a whole number from 0 on, not -1");
+    row("half a channel", {"[0, 1, 2]", "[0, 1, 2, 2.5]"},
+        "groups[0].audioOptions.channelList[3]: must be a whole number from 0 on, not 2.5");
+    row("a huge number", {"[0, 192]", "[0, 192, 1e300]"},
+        "groups[0].audioOptions.bitrateKbpsList[2]: must be a whole number from 0 on, not 1e+300");
+    row("an option twice", {"[0, 1, 2]", "[0, 1, 2, 1]"},
+        "groups[0].audioOptions.channelList[3]: 1 stands there twice");
+    row("a level that isn't offered", {"[4000, 2000, 1000]", "[4000, 3000, 1000]"},
+        "groups[0].videoOptions.levelList[1]: 3000 is none of the values that "
+        "videoOptions.bitrateKbpsList offers");
+    for (const char *levels :
+         {"[1000, 2000, 4000]", "[2000, 4000, 1000]", "[4000, 1000, 2000]", "[1000, 0, 2000]"}) {
+        row(levels, {"[4000, 2000, 1000]", levels},
+            "groups[0].videoOptions.levelList: must descend from the high to the low bitrate; only "
+            "the middle one may be 0 all the same");
+    }
+    row("the middle level is the source's", {"[4000, 2000, 1000]", "[4000, 0, 1000]"}, "");
 
     row("a kind of file that can't be written", {R"("mpg")", R"("mpx")"},
         "groups[0].extension: files of the kind \".mpx\" can't be written");
     row("a video encoder that the container doesn't hold",
         {R"(["0", "mpeg2video"])", R"(["0", "mpeg2video", "h264"])"},
-        "groups[0].videoOptions.encoderList[2]: a .mpg file can't hold h264, only mpeg2video, "
+        "groups[0].videoOptions.encoderList[2]: a .mpg file can't have h264, only mpeg2video, "
         "mpeg1video");
     row("an audio encoder that the container doesn't hold", {R"(["mp2"])", R"(["mp2", "aac"])"},
-        "groups[0].audioOptions.encoderList[1]: a .mpg file can't hold aac, only mp2, ac3, mp3");
-    row("video in a sound file",
-        {R"(["0", "mpeg2video"])", R"(["mpeg2video"])", R"("mpg")", R"("mp2")"},
-        "groups[0].videoOptions.encoderList[0]: a .mp2 file can't hold mpeg2video");
+        "groups[0].audioOptions.encoderList[1]: a .mpg file can't have aac, only mp2, ac3, mp3");
+    row("video in a sound file", {R"("mpg")", R"("mp2")"},
+        "groups[0].videoOptions.encoderList: a .mp2 file holds no picture");
+    row("sound in a file without any",
+        {R"("mpg")", R"("gif")", R"(["0", "mpeg2video"])", R"(["gif"])",
+         R"("encoder": "mpeg2video")", R"("encoder": "gif")", "[0, 25, 30]", "[0, 25]",
+         "[0, 1000, 2000, 4000]", "[0]", "[4000, 2000, 1000]", "[0, 0, 0]",
+         R"("bitrateKbps": 4000)", R"("bitrateKbps": 0)", R"(["mp2"])", R"(["0"])",
+         R"("encoder": "mp2")", R"("encoder": "0")"},
+        "groups[0].audioOptions.encoderList: a .gif file holds no sound");
+    row("a codec that is only copied",
+        {R"("mpg")", R"("mkv")", R"(["mp2"])", R"(["dts"])", R"("encoder": "mp2")",
+         R"("encoder": "dts")", "[0, 192]", "[0]", R"("bitrateKbps": 192)", R"("bitrateKbps": 0)"},
+        "groups[0].audioOptions.encoderList: dts can only be copied from a source");
+    row("a bitrate that only nearly is an encoder's",
+        {R"("mpg")",
+         R"("3gp")",
+         R"(["0", "mpeg2video"])",
+         R"(["mpeg4"])",
+         R"("encoder": "mpeg2video")",
+         R"("encoder": "mpeg4")",
+         R"(["mp2"])",
+         R"(["amr_nb"])",
+         R"("encoder": "mp2")",
+         R"("encoder": "amr_nb")",
+         "[0, 1, 2]",
+         "[1]",
+         R"("channel": 2)",
+         R"("channel": 1)",
+         "[0, 44100, 48000]",
+         "[8000]",
+         R"("sampleRate": 48000)",
+         R"("sampleRate": 8000)",
+         "[0, 192]",
+         "[12, 13]",
+         R"("bitrateKbps": 192)",
+         R"("bitrateKbps": 12)"},
+        "groups[0].audioOptions.bitrateKbpsList[1]: amr_nb can't have 13 kbps, only 5, 6, 7, 8, "
+        "10, "
+        "12");
     row("a frame rate that an encoder doesn't have", {"[0, 25, 30]", "[0, 15]"},
-        "groups[0].videoOptions.frameRateList[1]: mpeg2video can't have 15 frames a second, only "
-        "24000/1001, 24, 25, 30000/1001, 30, 50, 60000/1001, 60");
+        "lists.rates[1]: mpeg2video can't have 15 frames a second, only 24000/1001, 24, 25, "
+        "30000/1001, 30, 50, 60000/1001, 60 (in the preset Video_MPEG2_001)");
     row("a sample rate that an encoder doesn't have", {"[0, 44100, 48000]", "[0, 22050, 48000]"},
         "groups[0].audioOptions.sampleRateList[1]: mp2 can't have 22050 Hz, only 32000, 44100, "
         "48000");
     row("more channels than an encoder has", {"[0, 1, 2]", "[0, 2, 6]"},
-        "groups[0].audioOptions.channelList[2]: mp2 can't have 6-channel sound, at most 2");
+        "groups[0].audioOptions.channelList[2]: mp2 can't have 6-channel sound, only 1, 2");
     row("a bitrate that an encoder doesn't have", {"[0, 192]", "[0, 192, 200]"},
         "groups[0].audioOptions.bitrateKbpsList[2]: mp2 can't have 200 kbps, only 32, 48, 56, 64, "
         "80, 96, 112, 128, 160, 192, 224, 256, 320, 384");
@@ -165,8 +221,10 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
                                   R"(["720x576"])",
                                   R"("resolution": "1280x720")",
                                   R"("resolution": "720x576")",
-                                  "[0, 4000]",
+                                  "[0, 1000, 2000, 4000]",
                                   "[0]",
+                                  "[4000, 2000, 1000]",
+                                  "[0, 0, 0]",
                                   R"("bitrateKbps": 4000)",
                                   R"("bitrateKbps": 0)",
                                   R"(["mp2"])",
@@ -215,18 +273,43 @@ void TestCatalogueLint::whatCannotBeHadIsNamed()
     QCOMPARE(mistakesIn({json}), expected);
 }
 
+void TestCatalogueLint::thePresetIsNamedWhereItsOwnValueClashes()
+{
+    const QByteArray json = changed({R"("title": "T" }])", R"("title": "T" },
+        { "id": "Video_MPEG2_002", "title": "T", "audioOptions": { "channelList": [0, 1] } },
+        { "id": "Video_MPEG2_003", "title": "T", "extension": "vob" }])",
+                                     R"(["mp2"])", R"(["mp2", "mp3"])"});
+    QCOMPARE(
+        mistakesIn({json}),
+        QStringList({QStringLiteral("file1.json: groups[0].audioParam.channel: 2 is none of "
+                                    "the values that audioOptions.channelList offers (in the "
+                                    "preset Video_MPEG2_002)"),
+                     QStringLiteral("file1.json: groups[0].audioOptions.encoderList[1]: a .vob "
+                                    "file can't have mp3, only ac3, mp2 (in the preset "
+                                    "Video_MPEG2_003)")}));
+}
+
+void TestCatalogueLint::aCategoryIsOfLetters()
+{
+    const QByteArray json = changed({R"("Video",)", R"("My Video",)", "Video_", "My Video_"});
+    QCOMPARE(mistakesIn({json}),
+             QStringList({QStringLiteral("file1.json: category: must be of the letters A to Z, as "
+                                         "ids begin with it")}));
+}
+
 void TestCatalogueLint::aMistakeOfSeveralPresetsIsNamedOnce()
 {
     const QByteArray json = changed({R"("title": "T" }])", R"("title": "T" },
         { "id": "Video_MPEG2_002", "title": "T",
           "videoParam": { "encoder": "0" }, "audioParam": { "channel": 6 } }])",
                                      R"(["mp2"])", R"(["mp2", "aac"])"});
-    QCOMPARE(
-        mistakesIn({json}),
-        QStringList({QStringLiteral("file1.json: groups[0].audioOptions.encoderList[1]: a .mpg "
-                                    "file can't hold aac, only mp2, ac3, mp3"),
-                     QStringLiteral("file1.json: groups[0].presets[1].audioParam.channel: 6 is "
-                                    "none of the values that audioOptions.channelList offers")}));
+    QCOMPARE(mistakesIn({json}),
+             QStringList(
+                 {QStringLiteral("file1.json: groups[0].audioOptions.encoderList[1]: a .mpg "
+                                 "file can't have aac, only mp2, ac3, mp3"),
+                  QStringLiteral("file1.json: groups[0].presets[1].audioParam.channel: 6 is "
+                                 "none of the values that audioOptions.channelList offers (in the "
+                                 "preset Video_MPEG2_002)")}));
 }
 
 void TestCatalogueLint::aGroupNameIsUniqueInAllCategories()
@@ -246,7 +329,6 @@ void TestCatalogueLint::mistakesKeepNothingFromBeingServed()
         lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")});
     QCOMPARE(mistakes.size(), 1);
     QVERIFY(mistakes.constFirst().isServed);
-    QVERIFY(!catalogue.presetPlaces.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestCatalogueLint)

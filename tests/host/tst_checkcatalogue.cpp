@@ -19,7 +19,7 @@ const char catalogue[] = R"({
       "name": "AVI", "icon": "fmt_avi", "extension": "avi",
       "videoOptions": {
         "encoderList": ["0", "mpeg4"], "resolutionList": ["0", "160x90"],
-        "frameRateList": [0, 25], "bitrateKbpsList": [0, 500], "levelList": [500, 400, 300]
+        "frameRateList": [0, 25], "bitrateKbpsList": [0, 300, 400, 500], "levelList": [500, 400, 300]
       },
       "videoParam": { "encoder": "mpeg4", "resolution": "160x90", "frameRate": 25,
                       "bitrateKbps": 0 },
@@ -53,14 +53,16 @@ class TestCheckCatalogue : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
 
     void everyPresetIsConverted();
+    void presetsThatAskForTheSameShareAConversion();
     void quickTakesTheLastPresetOfEachFormat();
     void whatFailsIsNamedWithItsReason_data();
     void whatFailsIsNamedWithItsReason();
+    void aResultThatCannotBeMeasuredFails();
+    void aFormatThatIsNeverShownFails();
     void mistakesAreNamedAndTheRestIsConverted();
     void withoutASoundPresetNothingIsConverted();
     void itComesAsJson();
@@ -82,11 +84,11 @@ private:
         QVERIFY(json.contains(before));
         writeCatalogue(json.replace(before, after));
     }
-    void putInPlaceOfFfmpeg(const QString &script)
+    /*! The catalogue has a preset for an encoder that this ffmpeg never has. */
+    void putInPlaceOfFfmpeg(const QString &script) const
     {
-        QVERIFY(MediaClips::makeStandIn(m_folder->path(), script));
-        m_environment.insert(QStringLiteral("PATH"),
-                             QString::fromLocal8Bit(MediaClips::pathWith(m_folder->path())));
+        QVERIFY(
+            MediaClips::makeStandIn(m_folder->path(), script, QStringLiteral("libopencore_amrnb")));
     }
     void start(QProcess &process, const QStringList &options) const
     {
@@ -109,13 +111,6 @@ private:
     std::optional<QTemporaryDir> m_folder;
 };
 
-void TestCheckCatalogue::initTestCase()
-{
-    if (MediaClips::hasEncoder(QStringLiteral("libopencore_amrnb"))) {
-        QSKIP("the catalogue needs an encoder that isn't there");
-    }
-}
-
 void TestCheckCatalogue::init()
 {
     m_folder.emplace();
@@ -123,7 +118,10 @@ void TestCheckCatalogue::init()
     m_environment = QProcessEnvironment::systemEnvironment();
     m_environment.insert(QStringLiteral("TMPDIR"), path(QStringLiteral("tmp")));
     m_environment.insert(QStringLiteral("VEX_EXPORT_CATALOGUE"), path(QStringLiteral("own.json")));
+    m_environment.insert(QStringLiteral("PATH"),
+                         QString::fromLocal8Bit(MediaClips::pathWith(m_folder->path())));
     writeCatalogue(catalogue);
+    putInPlaceOfFfmpeg(QStringLiteral("exec $REAL \"$@\""));
 }
 
 void TestCheckCatalogue::cleanup()
@@ -150,6 +148,23 @@ void TestCheckCatalogue::everyPresetIsConverted()
                  "failed.\n"));
     QCOMPARE(told.err, QString());
     QCOMPARE(told.exitCode, 0);
+}
+
+void TestCheckCatalogue::presetsThatAskForTheSameShareAConversion()
+{
+    const QString conversions = path(QStringLiteral("conversions"));
+    putInPlaceOfFfmpeg(QStringLiteral("case \"$*\" in *libmp3lame*) echo x >> %1;; esac\n"
+                                      "exec $REAL \"$@\"")
+                           .arg(conversions));
+    const auto conversionsOf = [this, &conversions](const QByteArray &ofSecond) {
+        QFile::remove(conversions);
+        writeCatalogue(R"("title": "Second" })", R"("title": "Second")" + ofSecond + " }");
+        run();
+        QFile file(conversions);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count('x') : 0;
+    };
+    QCOMPARE(conversionsOf(""), 1);
+    QCOMPARE(conversionsOf(R"(, "audioParam": { "channel": 2 })"), 2);
 }
 
 void TestCheckCatalogue::quickTakesTheLastPresetOfEachFormat()
@@ -199,6 +214,28 @@ void TestCheckCatalogue::whatFailsIsNamedWithItsReason()
     QVERIFY(told.out.endsWith(QStringLiteral(
         "\n0 of 2 presets convert as they say, 1 need an encoder that this ffmpeg lacks, 1 "
         "failed.\n")));
+}
+
+void TestCheckCatalogue::aResultThatCannotBeMeasuredFails()
+{
+    QVERIFY(MediaClips::makeStandIn(
+        m_folder->path(),
+        QStringLiteral("case \"$*\" in *packet*) echo 'no luck' >&2; exit 1;; esac\n"
+                       "exec $REAL \"$@\""),
+        QStringLiteral("nothing"), QStringLiteral("ffprobe")));
+    const CommandRun told = run({QStringLiteral("--quick")});
+    QCOMPARE(told.exitCode, 1);
+    QVERIFY2(told.out.contains(QStringLiteral("\nVideo_AVI_002  no luck\n")), qPrintable(told.out));
+}
+
+void TestCheckCatalogue::aFormatThatIsNeverShownFails()
+{
+    writeCatalogue(R"("name": "AMR")", R"("name": "优酷")");
+    const CommandRun told = run({QStringLiteral("--quick")});
+    QCOMPARE(told.exitCode, 1);
+    QVERIFY2(told.out.contains(QStringLiteral(
+                 "\nVideo_AMR_001  the library shows no such preset in this format\n")),
+             qPrintable(told.out));
 }
 
 void TestCheckCatalogue::mistakesAreNamedAndTheRestIsConverted()
@@ -282,12 +319,16 @@ void TestCheckCatalogue::interruptingLeavesNothing()
 
 void TestCheckCatalogue::withoutFfmpegItSaysWhatToInstall()
 {
-    m_environment.insert(QStringLiteral("PATH"), m_folder->path());
+    m_environment.insert(QStringLiteral("PATH"), path(QStringLiteral("tmp")));
     const CommandRun told = run();
     QCOMPARE(told.exitCode, 1);
     QCOMPARE(told.err, QStringLiteral("vexconvert: no clip to convert: ffmpeg is not on the PATH; "
                                       "install ffmpeg (Debian: apt-get install ffmpeg) and try "
                                       "again\n"));
+    const QJsonObject json =
+        QJsonDocument::fromJson(run({QStringLiteral("--json")}).out.toUtf8()).object();
+    QVERIFY(json[QStringLiteral("error")].toString().startsWith(
+        QStringLiteral("no clip to convert: ffmpeg is not on the PATH")));
 }
 
 QTEST_GUILESS_MAIN(TestCheckCatalogue)

@@ -15,7 +15,7 @@ QSet<QString> usualEncoders()
         QStringLiteral("libx264 libx265 libvpx libvpx-vp9 libsvtav1 libaom-av1 mpeg4 mpeg2video "
                        "mpeg1video wmv2 flv libtheora prores dnxhd gif dvvideo msmpeg4 aac "
                        "libmp3lame mp2 ac3 flac alac libvorbis libopus wmav2 pcm_s16le pcm_s24le "
-                       "tta")
+                       "tta truehd")
             .split(QLatin1Char(' '));
     for (const QString &name : names) {
         encoders.insert(name);
@@ -310,6 +310,11 @@ void TestFfmpegArguments::aPresetBecomesACommand_data()
     row("kept codec, other rate of samples",
         settings(audio("flac"), [](OutputSettings &s) { s.sampleRate = 44100; }),
         song(QStringLiteral("flac"), 96000), "-map 0:0 -c:a:0 flac -ar:a:0 44100 -f flac");
+    row("copied sound of a codec that isn't written", audio("mka"), song(QStringLiteral("truehd")),
+        "-map 0:0 -c:a:0 copy -f matroska");
+    row("another codec than one that isn't written",
+        settings(audio("mka"), [](OutputSettings &s) { s.channels = 1; }),
+        song(QStringLiteral("truehd")), "-map 0:0 -c:a:0 aac -ac:a:0 1 -b:a:0 96k -f matroska");
     row("the nearest rate that the codec has", audio("opus", "opus"), song(QStringLiteral("mp3")),
         "-map 0:0 -c:a:0 libopus -ar:a:0 48000 -b:a:0 128k -f opus");
     row("the container's only rate", video("mxf", "mpeg2video", "pcm_s16le"),
@@ -393,6 +398,10 @@ void TestFfmpegArguments::whatCannotBeDoneIsSaid_data()
     QTest::newRow("no video encoder")
         << video("flv", "flv2") << film()
         << QStringLiteral("needs the encoder flv2 for flv2, which this ffmpeg lacks; choose a "
+                          "preset with another encoder or install an ffmpeg that has it");
+    QTest::newRow("a codec that isn't written")
+        << audio("mka", "truehd") << film()
+        << QStringLiteral("needs the encoder truehd for truehd, which this ffmpeg lacks; choose a "
                           "preset with another encoder or install an ffmpeg that has it");
     QTest::newRow("no audio encoder")
         << audio("amr", "amr_nb") << film()

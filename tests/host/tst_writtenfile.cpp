@@ -64,6 +64,17 @@ MediaFacts sourceFacts()
     return source;
 }
 
+/*! Nothing is asked, and the file is as the source. */
+void keepAll(OutputSettings &asked, WrittenFile &file, MediaFacts &)
+{
+    const QString extension = asked.extension;
+    asked = OutputSettings();
+    asked.extension = extension;
+    asked.hasPicture = true;
+    file.facts.videoTracks[0].storedSize = QSize(1920, 1080);
+    file.facts.audioTracks[0].sampleRate = 44100;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
@@ -109,17 +120,40 @@ void TestWrittenFile::deviationsAreNamed_data()
     };
 
     settings("as asked", "", [](OutputSettings &) {});
-    settings("nothing asked", "", [](OutputSettings &asked) {
-        const OutputSettings none;
-        asked.videoCodec = none.videoCodec;
-        asked.box = none.box;
-        asked.frameRate = none.frameRate;
-        asked.videoKbps = none.videoKbps;
-        asked.audioCodec = none.audioCodec;
-        asked.channels = none.channels;
-        asked.sampleRate = none.sampleRate;
-        asked.audioKbps = none.audioKbps;
-    });
+    row("nothing asked, and kept as in the source", "", keepAll);
+    row("the usual codecs where nothing is asked", "hevc, not h264; mp3, not aac",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
+            keepAll(asked, file, source);
+            file.facts.videoTracks[0].codec = QStringLiteral("hevc");
+            file.facts.audioTracks[0].codec = QStringLiteral("mp3");
+        });
+    row("the source's codecs where the container holds them", "h264, not hevc; aac, not mp3",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
+            keepAll(asked, file, source);
+            source.videoTracks[0].codec = QStringLiteral("hevc");
+            source.audioTracks[0].codec = QStringLiteral("mp3");
+        });
+    row("nothing asked, and all changed",
+        "1280x720, not 1920x1080; 25 frames a second, not 29.97; 48000 Hz, not 44100; 1 channels, "
+        "not 2",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
+            keepAll(asked, file, source);
+            file.facts.videoTracks[0].storedSize = QSize(1280, 720);
+            file.facts.videoTracks[0].frameRate = {25, 1};
+            file.facts.audioTracks[0].sampleRate = 48000;
+            file.facts.audioTracks[0].channels = 1;
+        });
+    row("nothing asked, and bound by codec and container", "",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
+            keepAll(asked, file, source);
+            asked.extension = QStringLiteral("mpg");
+            file.facts.container = QStringLiteral("mpeg");
+            file.facts.videoTracks[0].codec = QStringLiteral("mpeg2video");
+            file.facts.audioTracks[0].codec = QStringLiteral("mp2");
+            source.videoTracks[0].frameRate = {15, 1};
+            source.audioTracks[0].sampleRate = 22050;
+            source.audioTracks[0].channels = 6;
+        });
     settings("unknown container", "no container has the extension .xyz",
              [](OutputSettings &asked) { asked.extension = QStringLiteral("xyz"); });
     row("another container", "the file is avi, not mp4",
@@ -138,16 +172,12 @@ void TestWrittenFile::deviationsAreNamed_data()
 
     row("no picture", "there is no picture",
         [](OutputSettings &, WrittenFile &file, MediaFacts &) { file.facts.videoTracks.clear(); });
+    row("a source without a picture", "there is a picture",
+        [](OutputSettings &, WrittenFile &, MediaFacts &source) { source.videoTracks.clear(); });
     settings("a picture in an audio file", "there is a picture",
              [](OutputSettings &asked) { asked.hasPicture = false; });
     video("another video codec", "mpeg4, not h264",
           [](VideoTrack &track) { track.codec = QStringLiteral("mpeg4"); });
-    row("a codec that the container doesn't hold where any is asked",
-        "flv1, not h264 or hevc or av1 or vp9 or mpeg4 or mpeg2video or mpeg1video or mjpeg",
-        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
-            asked.videoCodec.clear();
-            file.facts.videoTracks[0].codec = QStringLiteral("flv1");
-        });
     video("larger than the box", "1280x722 isn't fitted into 1280x720",
           [](VideoTrack &track) { track.storedSize = QSize(1280, 722); });
     video("smaller than the box", "1278x718 isn't fitted into 1280x720",

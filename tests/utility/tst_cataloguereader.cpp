@@ -120,6 +120,7 @@ private slots:
     void numbersStayNumbersAndTextsTexts();
     void categoriesComeInOrderOfAppearance();
     void oneGroupNameMayStandInTwoCategories();
+    void unreadableSourcesAreMistakesInTheirPlace();
     void noSourcesMakeAnEmptyCatalogue();
     void whatIsWrongIsNamedWithItsPlace_data();
     void whatIsWrongIsNamedWithItsPlace();
@@ -397,6 +398,17 @@ void tst_CatalogueReader::oneGroupNameMayStandInTwoCategories()
              QVariant(QStringLiteral("2")));
 }
 
+void tst_CatalogueReader::unreadableSourcesAreMistakesInTheirPlace()
+{
+    const QVector<CatalogueSource> three{
+        {QStringLiteral("1"), ""}, {QStringLiteral("2"), {}, QStringLiteral("why")},
+        {QStringLiteral("3"), "[]"}};
+    QCOMPARE(mistakesIn(readCatalogue(three)),
+             QStringLiteral("1:1:1: the file is empty\n"
+                            "2: why\n"
+                            "3: the file must hold an object but holds a list"));
+}
+
 void tst_CatalogueReader::noSourcesMakeAnEmptyCatalogue()
 {
     const CatalogueResult result = readCatalogue({});
@@ -622,9 +634,17 @@ void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed_data()
         1, "MP3: 2");
     row("a category", file("", {right}), 1, "");
     row("an icon that is no text",
-        R"({ "category": "Audio", "groups": [{ "name": "MP3", "icon": 1, "extension": "x",)" +
-            audioBlocks + R"(, "presets": [)" + preset("1") + "] }] }",
-        1, "MP3: 1");
+        R"({ "category": "Audio", "groups": [{ "name": "AAC", "icon": 1, "extension": "x",)" +
+            audioBlocks + R"(, "presets": [)" + preset("3") + "] }, " + right + "] }",
+        1, "MP3: 1 2");
+    row("the id of a preset that is left out is free",
+        file("Audio", {group("MP3", {audioBlocks}, {preset("1", wrong), preset("1")})}), 1,
+        "MP3: 1");
+    row("a list of levels that is none",
+        file("Video", {group("MP4", {videoBlocks, audioBlocks},
+                             {preset("1", R"("videoOptions": { "levelList": 5 })"),
+                              preset("2")})}),
+        1, "MP4: 2");
 }
 
 void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed()
@@ -679,7 +699,7 @@ void tst_CatalogueReader::itIsKnownWhereAValueStands_data()
     row("of the group", "audioParam.encoder", "file2.json groups[0].audioParam.encoder");
     row("a text", "id", "file2.json groups[0].presets[0].id");
     row("a list with a name", "audioOptions.channelList",
-        "file2.json groups[0].presets[0].audioOptions.channelList");
+        "file1.json lists.l");
     row("nowhere", "videoParam.encoder", " ");
 }
 

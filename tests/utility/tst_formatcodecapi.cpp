@@ -317,6 +317,9 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
         << Files{{own, R"({ "category": "Video", "groups": [{}] })"}}
         << QStringLiteral("@/own.json")
         << QStringLiteral("@/own.json: groups[0].name: must be a text but is missing (and 1 more)");
+    QTest::newRow("no group") << Files{{own, R"({ "category": "Video", "groups": [] })"}}
+                              << QStringLiteral("@/own.json")
+                              << QStringLiteral("@/own.json: holds no preset");
     QTest::newRow("all files of a folder")
         << Files{{QStringLiteral("1.json"), "{}"}, {QStringLiteral("2.json"), "[]"}}
         << QStringLiteral("@")

@@ -33,7 +33,7 @@ private:
 
 namespace {
 
-const QLatin1String infoLine("info: getSupportAudioLisrfromType reverse tempList");
+constexpr QLatin1String infoLine("info: getSupportAudioLisrfromType reverse tempList");
 
 } // namespace
 

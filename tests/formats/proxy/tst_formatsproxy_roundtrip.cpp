@@ -46,7 +46,7 @@ private:
 
 namespace {
 
-const QLatin1String writeFiles("--write-files");
+constexpr QLatin1String writeFiles("--write-files");
 
 // A preset of the user's with a value in every field and texts that JSON has to escape.
 FormatDetailModelData fullPreset()

@@ -16,7 +16,7 @@ private Q_SLOTS:
 
 namespace {
 
-const QLatin1String useAndExit("--use-and-exit");
+constexpr QLatin1String useAndExit("--use-and-exit");
 
 // A host that never calls uninit().
 int useInstance(const QString &folder)

@@ -138,7 +138,7 @@ private Q_SLOTS:
     void aFailedDeletionKeepsTheRecentlyUsed();
 
 private:
-    static const QLatin1String mp4Class{"MP4"};
+    static constexpr QLatin1String mp4Class{"MP4"};
 
     QString add(const QString &id = QStringLiteral("base"), const QVariantMap &param = userValues(),
                 const QString &className = mp4Class)
