@@ -1,0 +1,66 @@
+#ifndef CHECK_CATALOGUEPROOF_H
+#define CHECK_CATALOGUEPROOF_H
+
+#include "host/check/presetproof.h"
+#include "utility/cataloguereader.h"
+
+#include <QQueue>
+#include <QTemporaryDir>
+#include <QVector>
+
+/*! A preset of the catalogue, and how it did. */
+struct ProvenPreset
+{
+    QString format;
+    QString tag;
+    QString id;
+    OutputSettings settings = {};
+    bool isShown = false; //!< the library has it
+    ProofOutcome outcome = {};
+
+    /*! The size of the clip: it fills the box, unless that is larger than 4K. */
+    [[nodiscard]] QSize clipSize() const;
+};
+
+/*! The presets that the library makes of the catalogue, unproven; with \a isQuick only the last of
+ *  each format, which is a small one as a rule. */
+[[nodiscard]] QVector<ProvenPreset> presetsToProve(const ExportCatalogue &catalogue, bool isQuick);
+
+/*!
+ * Proves presets without waiting, as many at a time as the machine has processors; those that ask
+ * for the same share a conversion. Destroying it stops the conversions and leaves no file.
+ */
+class CatalogueProof : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(CatalogueProof)
+
+public:
+    explicit CatalogueProof(const QVector<ProvenPreset> &presets, QObject *parent = nullptr);
+
+    void start();
+    [[nodiscard]] QVector<ProvenPreset> presets() const { return m_presets; }
+
+Q_SIGNALS:
+    void progressed(const QString &id, int conversionsLeft);
+    /*! With why not all are proven, or an empty text. */
+    void finished(const QString &error);
+
+private:
+    /*! The first preset that asks for the same, which may be this one. */
+    ProvenPreset &firstLike(const ProvenPreset &preset);
+    void proveNextSize();
+    void proveWaitingWith(const ProofClip &clip);
+    void proveNext();
+    void note(ProvenPreset &preset, const ProofOutcome &outcome);
+
+    QVector<ProvenPreset> m_presets;
+    QTemporaryDir m_folder;
+    QQueue<QSize> m_sizes; //!< of the clips still to come
+    ProofClip m_clip;
+    QQueue<ProvenPreset *> m_waiting;
+    QObject m_running; //!< the parent of what runs: it goes before the folder
+    int m_runningCount = 0;
+};
+
+#endif
