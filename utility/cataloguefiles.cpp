@@ -9,13 +9,32 @@ namespace {
 QStringList catalogueFilesIn(const QDir &folder)
 {
     QStringList files;
-    const QStringList names = folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    const QStringList names =
+        folder.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::System, QDir::Name);
     for (const QString &name : names) {
         if (!name.endsWith(QLatin1String(".schema.json"))) {
             files.append(folder.filePath(name));
         }
     }
     return files;
+}
+
+CatalogueSource readSource(const QString &name)
+{
+    CatalogueSource source{name, {}};
+    if (QFileInfo::exists(name) && !QFileInfo(name).isFile()) {
+        // Opening a pipe would wait for its other end.
+        source.unreadable = QStringLiteral("is neither a file nor a folder");
+        return source;
+    }
+    QFile file(name);
+    if (file.open(QIODevice::ReadOnly)) {
+        source.json = file.readAll();
+    }
+    if (file.error() != QFileDevice::NoError) {
+        source.unreadable = QStringLiteral("cannot be read: %1").arg(file.errorString());
+    }
+    return source;
 }
 
 } // namespace
@@ -36,15 +55,7 @@ CatalogueResult readCatalogueAt(const QString &path)
     const QStringList files =
         QFileInfo(path).isDir() ? catalogueFilesIn(QDir(path)) : QStringList{path};
     for (const QString &name : files) {
-        QFile file(name);
-        CatalogueSource source{name, {}};
-        if (file.open(QIODevice::ReadOnly)) {
-            source.json = file.readAll();
-        }
-        if (file.error() != QFileDevice::NoError) {
-            source.unreadable = QStringLiteral("cannot be read: %1").arg(file.errorString());
-        }
-        sources.append(source);
+        sources.append(readSource(name));
     }
     CatalogueResult result = readCatalogue(sources);
     if (files.isEmpty()) {

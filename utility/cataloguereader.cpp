@@ -550,7 +550,12 @@ QString CatalogueMistake::text() const
     if (!place.path.isEmpty()) {
         line += place.path + QStringLiteral(": ");
     }
-    return line + reason;
+    line += reason;
+    // Names and keys may hold line breaks and what moves a terminal's cursor.
+    for (QChar &character : line) {
+        character = character.category() == QChar::Other_Control ? QLatin1Char(' ') : character;
+    }
+    return line;
 }
 
 CatalogueResult readCatalogue(const QVector<CatalogueSource> &sources)

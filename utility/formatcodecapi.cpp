@@ -8,10 +8,8 @@ namespace {
 
 void complain(const QString &complaint)
 {
-    QString line = QStringLiteral("VEX_EXPORT_CATALOGUE: ") + complaint;
-    line.replace(QLatin1Char('\n'), QLatin1Char(' ')); // names may hold line breaks
     // Not qWarning(): where no terminal is attached, Qt may log to the system's journal instead.
-    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+    std::fprintf(stderr, "VEX_EXPORT_CATALOGUE: %s\n", complaint.toLocal8Bit().constData());
 }
 
 /*! The first mistake for which something is left out, and how many follow; empty without one. */

@@ -62,14 +62,17 @@ QString idPart(const QString &groupName)
 
 bool hasForm(const QString &value, ChosenValue::Form form)
 {
-    static const QRegularExpression size(QStringLiteral("^[1-9][0-9]*x[1-9][0-9]*$"));
-    static const QRegularExpression wholeNumber(QStringLiteral("^[0-9]+$"));
+    static const QRegularExpression size(
+        QRegularExpression::anchoredPattern(QStringLiteral("[1-9][0-9]{0,4}x[1-9][0-9]{0,4}")));
+    static const QRegularExpression wholeNumber(
+        QRegularExpression::anchoredPattern(QStringLiteral("[0-9]{1,7}")));
+    constexpr double slowest = 1;
     constexpr double fastest = 300;
     switch (form) {
     case ChosenValue::Size:
         return value == keepsSource || size.match(value).hasMatch();
     case ChosenValue::FrameRate:
-        return value.toDouble() >= 0 && value.toDouble() <= fastest;
+        return value == keepsSource || (value.toDouble() >= slowest && value.toDouble() <= fastest);
     case ChosenValue::WholeNumber:
         return wholeNumber.match(value).hasMatch();
     case ChosenValue::Text:
@@ -84,9 +87,9 @@ QString formText(ChosenValue::Form form)
     case ChosenValue::Size:
         return QStringLiteral("\"0\" or a size like \"1920x1080\"");
     case ChosenValue::FrameRate:
-        return QStringLiteral("frames a second from 0 to 300");
+        return QStringLiteral("0 or frames a second from 1 to 300");
     case ChosenValue::WholeNumber:
-        return QStringLiteral("a whole number from 0 on");
+        return QStringLiteral("a whole number from 0 to 9999999");
     case ChosenValue::Text:
         break;
     }
@@ -127,9 +130,10 @@ QStringList channelsUpTo(int count)
 class Linter
 {
 public:
-    Linter(const CatalogueResult &catalogue, const QStringList &pictures)
+    Linter(const CatalogueResult &catalogue, const QStringList &pictures, const QStringList &tags)
         : m_catalogue(catalogue)
         , m_pictures(pictures)
+        , m_tags(tags)
     {}
 
     QVector<CatalogueMistake> mistakes();
@@ -160,6 +164,7 @@ private:
 
     const CatalogueResult &m_catalogue;
     const QStringList &m_pictures;
+    const QStringList &m_tags;
     QVector<CatalogueMistake> m_mistakes;
     QSet<QString> m_noted;
     QSet<QString> m_groupNames;
@@ -180,7 +185,6 @@ QVector<CatalogueMistake> Linter::mistakes()
 
 void Linter::lintGroup(const QVariantMap &group)
 {
-    static const QRegularExpression letters(QStringLiteral("^[A-Za-z]+$"));
     const QString category = group.value(QStringLiteral("category")).toString();
     const QString name = group.value(QStringLiteral("name")).toString();
     const CataloguePlace place = m_catalogue.groupPlaces.value({category, name});
@@ -188,9 +192,10 @@ void Linter::lintGroup(const QVariantMap &group)
         return CataloguePlace{place.source, place.path + QLatin1Char('.') + QLatin1String(key)};
     };
 
-    if (!letters.match(category).hasMatch()) {
+    if (!m_tags.contains(category.toLower())) {
         noteAt({place.source, QStringLiteral("category")},
-               QStringLiteral("must be of the letters A to Z, as ids begin with it"));
+               QStringLiteral("must be one of %1, in whatever case, to be shown")
+                   .arg(m_tags.join(QStringLiteral(", "))));
     }
     if (m_groupNames.contains(name)) {
         noteAt(member("name"),
@@ -199,6 +204,12 @@ void Linter::lintGroup(const QVariantMap &group)
                    .arg(name));
     }
     m_groupNames.insert(name);
+    const bool isLookedUp =
+        QStringList{QStringLiteral("video"), QStringLiteral("audio")}.contains(category.toLower());
+    if (isLookedUp && name != name.toUpper()) {
+        noteAt(member("name"), QStringLiteral("must be in upper case, as video and audio formats "
+                                              "are looked up so"));
+    }
 
     const QString icon = group.value(QStringLiteral("icon")).toString();
     if (!m_pictures.contains(icon)) {
@@ -207,7 +218,11 @@ void Linter::lintGroup(const QVariantMap &group)
                    ? QStringLiteral("is missing; the format has no picture")
                    : QStringLiteral("there is no picture \"%1\" in formats/qml/image").arg(icon));
     }
-    for (const QVariant &preset : m_catalogue.catalogue.presets.value({category, name})) {
+    const QVariantList presets = m_catalogue.catalogue.presets.value({category, name});
+    if (presets.isEmpty()) {
+        noteAt(member("presets"), QStringLiteral("holds no preset"));
+    }
+    for (const QVariant &preset : presets) {
         m_preset = preset.toMap();
         m_places = m_catalogue.presetPlaces.value(m_preset.value(QStringLiteral("id")).toString());
         lintPreset(group);
@@ -226,6 +241,12 @@ void Linter::lintPreset(const QVariantMap &group)
     if (const Container *container = Container::find(extension)) {
         lintVideo(*container);
         lintAudio(*container);
+        if (*container->audioCodecs != '\0' && valueAt(m_preset, audioEncoder.param).isNull()) {
+            note(
+                extensionKey,
+                QStringLiteral("%1 holds sound, but there are no audio settings (in the preset %2)")
+                    .arg(fileText(), m_preset.value(QStringLiteral("id")).toString()));
+        }
     } else {
         note(extensionKey,
              QStringLiteral("files of the kind \".%1\" can't be written").arg(extension));
@@ -236,8 +257,8 @@ void Linter::lintId(const QVariantMap &group)
 {
     const QString start = group.value(QStringLiteral("category")).toString() + QLatin1Char('_') +
                           idPart(group.value(QStringLiteral("name")).toString()) + QLatin1Char('_');
-    const QRegularExpression form(
-        QStringLiteral("^%1[0-9]{3}$").arg(QRegularExpression::escape(start)));
+    const QRegularExpression form(QRegularExpression::anchoredPattern(
+        QRegularExpression::escape(start) + QStringLiteral("[0-9]{3}")));
     if (!form.match(m_preset.value(QStringLiteral("id")).toString()).hasMatch()) {
         note(QStringLiteral("id"), QStringLiteral("must be \"%1\" and three digits").arg(start));
     }
@@ -417,7 +438,7 @@ QString Linter::presetText(const QString &key, const QString &otherKey) const
 } // namespace
 
 QVector<CatalogueMistake> lintCatalogue(const CatalogueResult &catalogue,
-                                        const QStringList &pictures)
+                                        const QStringList &pictures, const QStringList &tags)
 {
-    return Linter(catalogue, pictures).mistakes();
+    return Linter(catalogue, pictures, tags).mistakes();
 }

@@ -58,6 +58,8 @@ PresetProof::PresetProof(const OutputSettings &settings, const ProofClip &clip, 
     , m_conversion(jobOf(settings, clip))
 {
     connect(&m_conversion, &Conversion::finished, this, &PresetProof::measure);
+    m_limit.setSingleShot(true);
+    connect(&m_limit, &QTimer::timeout, &m_conversion, &Conversion::cancel);
 }
 
 PresetProof::~PresetProof()
@@ -67,8 +69,20 @@ PresetProof::~PresetProof()
     }
 }
 
+void PresetProof::start(int limit)
+{
+    m_limit.start(limit);
+    m_conversion.start();
+}
+
 void PresetProof::measure(const ConversionOutcome &outcome)
 {
+    m_limit.stop();
+    if (outcome.result == ConversionOutcome::Cancelled) {
+        Q_EMIT finished(
+            {ProofOutcome::Failed, tr("not done after %1 s").arg(m_limit.interval() / 1000.0)});
+        return;
+    }
     if (outcome.result != ConversionOutcome::Converted) {
         Q_EMIT finished({outcome.lacksEncoder ? ProofOutcome::LacksEncoder : ProofOutcome::Failed,
                          outcome.error});

@@ -4,6 +4,8 @@
 #include "host/check/writtenfile.h"
 #include "host/convert/conversion.h"
 
+#include <QTimer>
+
 #include <functional>
 
 /*! The clip that presets are proven on: one second of picture and stereo sound. */
@@ -42,7 +44,8 @@ public:
     PresetProof(const OutputSettings &settings, const ProofClip &clip, QObject *parent = nullptr);
     ~PresetProof() override;
 
-    void start() { m_conversion.start(); }
+    /*! A conversion that isn't done after so many milliseconds fails. */
+    void start(int limit = 300000);
 
 Q_SIGNALS:
     void finished(const ProofOutcome &outcome);
@@ -55,6 +58,7 @@ private:
     const ProofClip m_clip;
     Conversion m_conversion;
     ConversionOutcome m_converted;
+    QTimer m_limit;
 };
 
 #endif

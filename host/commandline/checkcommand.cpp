@@ -2,6 +2,7 @@
 #include "host/commandline/console.h"
 #include "host/commandline/interrupt.h"
 
+#include "formats/proxy/formatsproxy.h"
 #include "host/check/cataloguelint.h"
 #include "host/check/catalogueproof.h"
 #include "utility/cataloguefiles.h"
@@ -22,6 +23,16 @@ QStringList pictures()
     QStringList names =
         QDir(QStringLiteral(":/formats/image")).entryList({QStringLiteral("*.svg")});
     names.replaceInStrings(QStringLiteral(".svg"), QString());
+    return names;
+}
+
+/*! The tags of the library under which formats are shown. */
+QStringList tags()
+{
+    FormatsProxy formats;
+    formats.init(QString());
+    QStringList names = QVariant(formats.formatTags()).toStringList();
+    names.removeAll(QStringLiteral("recently"));
     return names;
 }
 
@@ -170,7 +181,7 @@ ExitCode runCheck(const Call &call)
     const QString own = ownCataloguePath();
     const CatalogueResult catalogue = readCatalogueAt(own.isEmpty() ? builtInCataloguePath() : own);
     const QVector<CatalogueMistake> mistakes =
-        catalogue.mistakes + lintCatalogue(catalogue, pictures());
+        catalogue.mistakes + lintCatalogue(catalogue, pictures(), tags());
     if (!asJson) {
         printMistakes(mistakes);
     }

@@ -164,7 +164,8 @@ ExitCode CommandLine::run(const QStringList &arguments)
         return wrongUsage(tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
                               .arg(rest.constFirst()));
     }
-    return runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
+    const ExitCode exitCode = runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
+    return Console::hasFailed() ? failure(tr("the output couldn't be written")) : exitCode;
 }
 
 ExitCode wrongUsage(const QString &line)

@@ -19,6 +19,15 @@ QTextStream &output()
     return stream;
 }
 
+/*! Titles may hold line breaks and what moves the terminal's cursor. */
+QString withoutControls(QString text)
+{
+    for (QChar &character : text) {
+        character = character.category() == QChar::Other_Control ? QLatin1Char(' ') : character;
+    }
+    return text;
+}
+
 int terminalWidth()
 {
     constexpr int usual = 80;
@@ -57,7 +66,7 @@ void Console::printTable(const QVector<QStringList> &rows)
     for (const QStringList &row : rows) {
         QString line;
         for (int column = 0; column < row.size(); ++column) {
-            line += row.at(column).leftJustified(widths.at(column) + 2);
+            line += withoutControls(row.at(column)).leftJustified(widths.at(column) + 2);
         }
         while (line.endsWith(QLatin1Char(' '))) {
             line.chop(1);
@@ -69,6 +78,11 @@ void Console::printTable(const QVector<QStringList> &rows)
 void Console::printError(const QString &line)
 {
     QTextStream(stderr) << "vexconvert: " << line << '\n';
+}
+
+bool Console::hasFailed()
+{
+    return std::ferror(stdout) != 0;
 }
 
 bool Console::isTerminal()

@@ -16,6 +16,9 @@ void printTable(const QVector<QStringList> &rows);
 /*! One line on standard error, begun with the command's name. */
 void printError(const QString &line);
 
+/*! Whether something of standard output got lost, as on a full disk. */
+[[nodiscard]] bool hasFailed();
+
 /*! Whether a person watches standard output, so that a line may be written over. */
 [[nodiscard]] bool isTerminal();
 /*! Writes over the current line of the terminal; an empty text clears it. */

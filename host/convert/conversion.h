@@ -32,7 +32,7 @@ struct ConversionOutcome
     QString target;            //!< Converted: the new file; Planned: its name as things stand
     MediaFacts facts;          //!< Converted: what the new file holds
     QStringList arguments;     //!< Planned: those of ffmpeg, with the target's name
-    bool lacksEncoder = false; //!< Failed: another ffmpeg may have the encoder
+    bool lacksEncoder = false; //!< Failed: the encoder exists, but this ffmpeg lacks it
 };
 Q_DECLARE_METATYPE(ConversionOutcome)
 

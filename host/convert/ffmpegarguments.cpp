@@ -403,7 +403,8 @@ QString Former::availableEncoder(const QStringList &names, const QString &codec)
             return name;
         }
     }
-    m_lacksEncoder = true;
+    m_lacksEncoder = !names.isEmpty() && (holds(m_container.videoCodecs, codec) ||
+                                          holds(m_container.audioCodecs, codec));
     m_error = Arguments::tr("needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset "
                             "with another encoder or install an ffmpeg that has it")
                   .arg(names.isEmpty() ? codec : names.join(Arguments::tr(" or ")), codec);

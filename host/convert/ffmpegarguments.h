@@ -16,7 +16,7 @@ struct FfmpegArguments
 public:
     QStringList arguments;
     QString error;
-    bool lacksEncoder = false; //!< why: another ffmpeg may have the encoder
+    bool lacksEncoder = false; //!< why: the encoder exists, but this ffmpeg lacks it
 
     /*!
      * Forms the run that writes \a source with \a settings. \a encoders are the names of the

@@ -23,12 +23,20 @@ Presets::Presets(PresetStore &store, QObject *parent)
 
 QString Presets::usable(const QString &id, const QString &standIn) const
 {
-    for (const QString &candidate : {id, standIn}) {
+    for (const QString &candidate : {id, standIn, Settings::defaultPreset()}) {
         if (!find(candidate).map.isEmpty()) {
             return candidate;
         }
     }
-    return Settings::defaultPreset();
+    // In a catalogue of one's own the default preset may be missing.
+    const FormatListModel &formats = *m_store.formats().formatListModel();
+    FormatDetailModelData first;
+    for (int row = 0; row < formats.rowCount(); ++row) {
+        if (formats.formatDetailModel(formats.getTitle(row))->getModelInfoByIndex(0, first)) {
+            break;
+        }
+    }
+    return first.id;
 }
 
 QString Presets::caption(const QString &id) const

@@ -18,7 +18,8 @@ public:
     explicit Presets(PresetStore &store, QObject *parent = nullptr);
 
     [[nodiscard]] FoundPreset find(const QString &id) const { return m_store.find(id); }
-    /*! The first of these that there is: \a id, \a standIn, the default preset. */
+    /*! The first of these that there is: \a id, \a standIn, the default preset, the catalogue's
+     *  first; empty when there is none. */
     [[nodiscard]] QString usable(const QString &id, const QString &standIn) const;
     /*! The preset's format and translated title; empty for an unknown id. */
     [[nodiscard]] QString caption(const QString &id) const;

@@ -39,7 +39,8 @@ QStringList mistakesIn(const QList<QByteArray> &files)
     const CatalogueResult catalogue = readCatalogue(sources);
     QStringList lines;
     for (const CatalogueMistake &mistake :
-         catalogue.mistakes + lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")})) {
+         catalogue.mistakes + lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")},
+                                            {QStringLiteral("video"), QStringLiteral("device")})) {
         lines << mistake.text();
     }
     return lines;
@@ -71,7 +72,8 @@ private Q_SLOTS:
     void whatCannotBeHadIsNamed_data();
     void whatCannotBeHadIsNamed();
     void thePresetIsNamedWhereItsOwnValueClashes();
-    void aCategoryIsOfLetters();
+    void onlyAContainerWithoutSoundDoesWithoutSettings();
+    void aCategoryIsATag();
     void aMistakeOfSeveralPresetsIsNamedOnce();
     void aGroupNameIsUniqueInAllCategories();
     void mistakesKeepNothingFromBeingServed();
@@ -99,6 +101,10 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
         "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
     row("a picture that isn't there", {"fmt_mp4", "fmt_none"},
         "groups[0].icon: there is no picture \"fmt_none\" in formats/qml/image");
+    row("a video format in small letters", {"MPEG-2", "mpeg-2"},
+        "groups[0].name: must be in upper case, as video and audio formats are looked up so");
+    row("no presets", {R"({ "id": "Video_MPEG2_001", "title": "T" })", ""},
+        "groups[0].presets: holds no preset");
     row("no picture", {R"("icon": "fmt_mp4", )", ""},
         "groups[0].icon: is missing; the format has no picture");
 
@@ -132,14 +138,22 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
     row("a size that is none", {R"(["0", "1280x720"])", R"(["0", "1280x720", "720p"])"},
         "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", "
         "not 720p");
+    row("an id with a line break", {R"("Video_MPEG2_001")", R"("Video_MPEG2_001\n")"},
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+    row("a size with a line break", {R"(["0", "1280x720"])", R"(["0", "1280x720", "640x360\n"])"},
+        "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", "
+        "not 640x360 ");
     row("too many frames", {"[0, 25, 30]", "[0, 301]"},
-        "lists.rates[1]: must be frames a second from 0 to 300, not 301");
+        "lists.rates[1]: must be 0 or frames a second from 1 to 300, not 301");
+    row("too few frames", {"[0, 25, 30]", "[0, 0.5]"},
+        "lists.rates[1]: must be 0 or frames a second from 1 to 300, not 0.5");
     row("negative channels", {"[0, 1, 2]", "[-1, 0, 1, 2]"},
-        "groups[0].audioOptions.channelList[0]: must be a whole number from 0 on, not -1");
+        "groups[0].audioOptions.channelList[0]: must be a whole number from 0 to 9999999, not -1");
     row("half a channel", {"[0, 1, 2]", "[0, 1, 2, 2.5]"},
-        "groups[0].audioOptions.channelList[3]: must be a whole number from 0 on, not 2.5");
+        "groups[0].audioOptions.channelList[3]: must be a whole number from 0 to 9999999, not 2.5");
     row("a huge number", {"[0, 192]", "[0, 192, 1e300]"},
-        "groups[0].audioOptions.bitrateKbpsList[2]: must be a whole number from 0 on, not 1e+300");
+        "groups[0].audioOptions.bitrateKbpsList[2]: must be a whole number from 0 to 9999999, not "
+        "1e+300");
     row("an option twice", {"[0, 1, 2]", "[0, 1, 2, 1]"},
         "groups[0].audioOptions.channelList[3]: 1 stands there twice");
     row("a level that isn't offered", {"[4000, 2000, 1000]", "[4000, 3000, 1000]"},
@@ -289,12 +303,20 @@ void TestCatalogueLint::thePresetIsNamedWhereItsOwnValueClashes()
                                     "Video_MPEG2_003)")}));
 }
 
-void TestCatalogueLint::aCategoryIsOfLetters()
+void TestCatalogueLint::onlyAContainerWithoutSoundDoesWithoutSettings()
 {
-    const QByteArray json = changed({R"("Video",)", R"("My Video",)", "Video_", "My Video_"});
+    const QByteArray json = changed({R"("audioOptions")", R"("a")", R"("audioParam")", R"("b")"});
+    QCOMPARE(mistakesIn({json}).constLast(),
+             QStringLiteral("file1.json: groups[0].extension: a .mpg file holds sound, but there "
+                            "are no audio settings (in the preset Video_MPEG2_001)"));
+}
+
+void TestCatalogueLint::aCategoryIsATag()
+{
+    const QByteArray json = changed({R"("Video",)", R"("Image",)", "Video_", "Image_"});
     QCOMPARE(mistakesIn({json}),
-             QStringList({QStringLiteral("file1.json: category: must be of the letters A to Z, as "
-                                         "ids begin with it")}));
+             QStringList({QStringLiteral("file1.json: category: must be one of video, device, in "
+                                         "whatever case, to be shown")}));
 }
 
 void TestCatalogueLint::aMistakeOfSeveralPresetsIsNamedOnce()
@@ -326,7 +348,8 @@ void TestCatalogueLint::mistakesKeepNothingFromBeingServed()
     const CatalogueResult catalogue =
         readCatalogue({{QStringLiteral("f"), changed({"fmt_mp4", "fmt_none"})}});
     const QVector<CatalogueMistake> mistakes =
-        lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")});
+        lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")},
+                      {QStringLiteral("video"), QStringLiteral("device")});
     QCOMPARE(mistakes.size(), 1);
     QVERIFY(mistakes.constFirst().isServed);
 }

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void aWrongCallIsExplained();
 
     void formatsAreListedInColumns();
+    void outputThatGetsLostIsSaid();
     void formatsAreListedByTag();
     void formatsAreFoundByTheirTitle();
     void presetsAreListedInColumns_data();
@@ -310,6 +311,16 @@ void TestCommandLine::formatsAreListedInColumns()
                                       "MKV     video  1\n"
                                       "MP3     audio  2\n"));
     QCOMPARE(told.err, QString());
+}
+
+void TestCommandLine::outputThatGetsLostIsSaid()
+{
+    QProcess process;
+    process.setStandardOutputFile(QStringLiteral("/dev/full"));
+    start(process, words("formats"));
+    const CommandRun told = CommandRun::of(process);
+    QCOMPARE(told.exitCode, 1);
+    QCOMPARE(told.err, QStringLiteral("vexconvert: the output couldn't be written\n"));
 }
 
 void TestCommandLine::formatsAreListedByTag()

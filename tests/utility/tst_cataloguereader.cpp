@@ -400,9 +400,9 @@ void tst_CatalogueReader::oneGroupNameMayStandInTwoCategories()
 
 void tst_CatalogueReader::unreadableSourcesAreMistakesInTheirPlace()
 {
-    const QVector<CatalogueSource> three{
-        {QStringLiteral("1"), ""}, {QStringLiteral("2"), {}, QStringLiteral("why")},
-        {QStringLiteral("3"), "[]"}};
+    const QVector<CatalogueSource> three{{QStringLiteral("1"), ""},
+                                         {QStringLiteral("2"), {}, QStringLiteral("why")},
+                                         {QStringLiteral("3"), "[]"}};
     QCOMPARE(mistakesIn(readCatalogue(three)),
              QStringLiteral("1:1:1: the file is empty\n"
                             "2: why\n"
@@ -642,8 +642,7 @@ void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed_data()
         "MP3: 1");
     row("a list of levels that is none",
         file("Video", {group("MP4", {videoBlocks, audioBlocks},
-                             {preset("1", R"("videoOptions": { "levelList": 5 })"),
-                              preset("2")})}),
+                             {preset("1", R"("videoOptions": { "levelList": 5 })"), preset("2")})}),
         1, "MP4: 2");
 }
 
@@ -698,8 +697,7 @@ void tst_CatalogueReader::itIsKnownWhereAValueStands_data()
         "file1.json templates.t.audioParam.sampleRate");
     row("of the group", "audioParam.encoder", "file2.json groups[0].audioParam.encoder");
     row("a text", "id", "file2.json groups[0].presets[0].id");
-    row("a list with a name", "audioOptions.channelList",
-        "file1.json lists.l");
+    row("a list with a name", "audioOptions.channelList", "file1.json lists.l");
     row("nowhere", "videoParam.encoder", " ");
 }
 

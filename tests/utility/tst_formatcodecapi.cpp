@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+#include <sys/stat.h>
+
 namespace {
 
 using Files = QMap<QString, QByteArray>;
@@ -112,6 +114,8 @@ private slots:
     void whatCannotBeServedIsReportedInOneLine();
     void whatIsSoundIsServedBesideMistakes_data();
     void whatIsSoundIsServedBesideMistakes();
+    void whatIsNoFileIsReported_data();
+    void whatIsNoFileIsReported();
     void whatMayNotBeReadIsReported_data();
     void whatMayNotBeReadIsReported();
 };
@@ -389,6 +393,35 @@ void tst_FormatCodecApi::whatIsSoundIsServedBesideMistakes()
     QCOMPARE(served.catalogue, QByteArray("Video MP4 1\n"));
     QCOMPARE(QString::fromUtf8(served.standardError),
              report.isEmpty() ? report : QStringLiteral("VEX_EXPORT_CATALOGUE: ") + report);
+}
+
+void tst_FormatCodecApi::whatIsNoFileIsReported_data()
+{
+    QTest::addColumn<bool>("isPipe");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("a pipe") << true << QStringLiteral("is neither a file nor a folder");
+    QTest::newRow("a link to nothing")
+        << false << QStringLiteral("cannot be read: No such file or directory");
+}
+
+void tst_FormatCodecApi::whatIsNoFileIsReported()
+{
+    QFETCH(bool, isPipe);
+    QFETCH(QString, reason);
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("own.json"));
+    if (isPipe) {
+        QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+    } else {
+        QVERIFY(QFile::link(QStringLiteral("/gone"), path));
+    }
+    for (const QString &named : {path, folder.path()}) {
+        const Served served = servedWith(named);
+        QCOMPARE(QString::fromUtf8(served.standardError),
+                 QStringLiteral("VEX_EXPORT_CATALOGUE: %1: %2; the built-in catalogue is used\n")
+                     .arg(path, reason));
+    }
 }
 
 void tst_FormatCodecApi::whatMayNotBeReadIsReported_data()

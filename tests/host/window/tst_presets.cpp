@@ -51,6 +51,7 @@ private Q_SLOTS:
     void aFolderHasOneUserAtATime();
     void theLockOfAProgramThatDiedIsNoLock();
     void settingsSurviveARestart();
+    void withoutTheDefaultPresetTheFirstOneStandsIn();
 
 private:
     QString recently() const { return m_folder.filePath(QStringLiteral("recently.json")); }
@@ -243,6 +244,18 @@ void TestPresets::settingsSurviveARestart()
     QCOMPARE(settings.editorGlobalId(), QStringLiteral("Video_MP4_001"));
     QCOMPARE(settings.folder(PageKind::Converter), QString());
     QCOMPARE(settings.folder(PageKind::Editor), QStringLiteral("/films"));
+}
+
+// The last one: it takes a format away.
+void TestPresets::withoutTheDefaultPresetTheFirstOneStandsIn()
+{
+    const QString gone = QStringLiteral("4711");
+    FormatListModel &formats = *m_store->formats().formatListModel();
+    QCOMPARE(formats.getTitle(0), QStringLiteral("MP4"));
+    QVERIFY(formats.delModeInfo(0));
+    QCOMPARE(m_presets->usable(gone, gone), QStringLiteral("Video_HEVCMP4_001"));
+    formats.clearModeInfo();
+    QCOMPARE(m_presets->usable(gone, gone), QString());
 }
 
 QTEST_GUILESS_MAIN(TestPresets)
