@@ -9,6 +9,7 @@ TestCase {
     property var catalogue: Catalogue.sample()
     property RecordingHost host: null
     property var screen: null
+    readonly property QtObject theme: root.host ? root.host.themeManager.curTheme : null
 
     function init() {
         mouseMove(root, 1, 1)
@@ -118,6 +119,14 @@ TestCase {
                 return String(child).startsWith(start)
             })
         })
+    }
+
+    function rectangles(item) {
+        return root.all("QQuickRectangle", item)
+    }
+
+    function images(item) {
+        return root.all("QQuickImage", item)
     }
 
     function shown(item, matches) {

@@ -4,8 +4,6 @@ import QtTest 1.15
 ScreenTest {
     id: root
 
-    readonly property QtObject theme: host ? host.themeManager.curTheme : null
-
     function at(item) {
         return place(item, screen)
     }
