@@ -241,12 +241,6 @@ void Linter::lintPreset(const QVariantMap &group)
     if (const Container *container = Container::find(extension)) {
         lintVideo(*container);
         lintAudio(*container);
-        if (*container->audioCodecs != '\0' && valueAt(m_preset, audioEncoder.param).isNull()) {
-            note(
-                extensionKey,
-                QStringLiteral("%1 holds sound, but there are no audio settings (in the preset %2)")
-                    .arg(fileText(), m_preset.value(QStringLiteral("id")).toString()));
-        }
     } else {
         note(extensionKey,
              QStringLiteral("files of the kind \".%1\" can't be written").arg(extension));
@@ -349,6 +343,11 @@ void Linter::lintAudio(const Container &container)
     const QString channelUnit = QStringLiteral("%1-channel sound");
     const QString sampleRateUnit = QStringLiteral("%1 Hz");
     const QString &owner = audioEncoder.options;
+    if (*container.audioCodecs != '\0' && valueAt(m_preset, audioEncoder.param).isNull()) {
+        note(extensionKey,
+             QStringLiteral("%1 holds sound, but there are no audio settings (in the preset %2)")
+                 .arg(fileText(), m_preset.value(QStringLiteral("id")).toString()));
+    }
     const QStringList names =
         lintEncoders(audioEncoder, container.audioCodecs, QStringLiteral("sound"));
     bool takesBitrates = names.isEmpty();
