@@ -147,7 +147,7 @@ void Comparison::compareCodec(const QString &codec, const QString &asked, const 
 
 void Comparison::compareBitrate(const QString &what, int stream, double asked, double tolerance)
 {
-    const double kbps = m_file.streamBytes.value(stream) * 8 / 1000.0 / m_source.duration;
+    const double kbps = double(m_file.streamBytes.value(stream)) * 8 / 1000 / m_source.duration;
     expect(asked == 0 || (kbps > asked / tolerance && kbps < asked * tolerance),
            QStringLiteral("%1 has %2 kbps, not %3").arg(what).arg(kbps, 0, 'f', 0).arg(asked));
 }
