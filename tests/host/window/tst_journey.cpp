@@ -21,7 +21,10 @@ QStringList unexpected; // the engine's and the program's warnings
 
 void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    if (type != QtDebugMsg && type != QtInfoMsg) {
+    // Qt goes on counting a row that a list gave up while it was made ahead, as when a search
+    // changes the list on a slow machine.
+    const bool isMiscount = text.contains(QStringLiteral("in the process of being created"));
+    if (type != QtDebugMsg && type != QtInfoMsg && !isMiscount) {
         unexpected << text;
     }
 }
@@ -195,9 +198,16 @@ void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
             return itemsNamed(dialog->contentItem(), QStringLiteral("Title")).size() == 2;
         }));
         QQuickItem *field = itemsNamed(dialog->contentItem(), QStringLiteral("Title")).at(1);
-        QTest::mouseClick(dialog, Qt::LeftButton, {}, middleOf(field));
+        // The dialog may still take its size, and the place of the field with it.
+        QVERIFY(QTest::qWaitFor([dialog, field] {
+            if (!field->hasActiveFocus()) {
+                QTest::mouseClick(dialog, Qt::LeftButton, {}, middleOf(field));
+            }
+            return field->hasActiveFocus();
+        }));
         QTest::keyClick(dialog, Qt::Key_A, Qt::ControlModifier);
         type(dialog, title);
+        QCOMPARE(field->property("text").toString(), title);
         QVERIFY(click(dialog, QStringLiteral("Create")));
         QTRY_VERIFY(main.dialog() == nullptr);
         QVERIFY(picker->property("visible").toBool());
@@ -247,7 +257,7 @@ void TestJourney::everythingIsThereAfterARestart()
     QTRY_VERIFY(picker->property("opened").toBool());
     QTRY_COMPARE(picker->property("selectTag").toString(), QStringLiteral("recently"));
     QTRY_VERIFY(!itemsNamed(window->contentItem(), QStringLiteral("MP3- Mine")).isEmpty());
-    QVERIFY(!itemsNamed(window->contentItem(), QStringLiteral("MP3- High quality")).isEmpty());
+    QTRY_VERIFY(!itemsNamed(window->contentItem(), QStringLiteral("MP3- High quality")).isEmpty());
     QVERIFY(itemsNamed(window->contentItem(), QStringLiteral("MP3- Passing")).isEmpty());
     QVERIFY(click(window, QStringLiteral("Audio")));
     QTRY_VERIFY(!itemsNamed(window->contentItem(), QStringLiteral("Mine")).isEmpty());
