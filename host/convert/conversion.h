@@ -2,8 +2,8 @@
 #define CONVERT_CONVERSION_H
 
 #include "host/convert/outputsettings.h"
-#include "host/convert/pendingfile.h"
 #include "host/convert/progress.h"
+#include "host/files/pendingfile.h"
 #include "host/media/mediafacts.h"
 #include "host/media/mediaprobe.h"
 

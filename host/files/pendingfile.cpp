@@ -1,4 +1,4 @@
-#include "host/convert/pendingfile.h"
+#include "host/files/pendingfile.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
-#ifndef CONVERT_PENDINGFILE_H
-#define CONVERT_PENDINGFILE_H
+#ifndef FILES_PENDINGFILE_H
+#define FILES_PENDINGFILE_H
 
 #include <QCoreApplication>
 #include <QString>
