@@ -1,46 +1,10 @@
 #include "host/files/filelock.h"
 
+#include "tests/host/forkedprocess.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
-
-namespace {
-
-/*! A process that holds the lock until it is killed; 0 when it couldn't get it. */
-pid_t lockInAnotherProcess(const QString &path)
-{
-    int ready[2] = {};
-    if (pipe(ready) != 0) {
-        return 0;
-    }
-    const pid_t child = fork();
-    if (child == 0) {
-        FileLock lock;
-        const char answer = lock.tryLock(path) == FileLock::Locked ? 'y' : 'n';
-        const ssize_t told = write(ready[1], &answer, 1);
-        while (told == 1) {
-            pause();
-        }
-        _exit(1);
-    }
-    char answer = 'n';
-    const ssize_t heard = read(ready[0], &answer, 1);
-    close(ready[0]);
-    close(ready[1]);
-    return heard == 1 && answer == 'y' ? child : 0;
-}
-
-void endWithoutGoodbye(pid_t process)
-{
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
-}
-
-} // namespace
 
 class TestFileLock : public QObject
 {
@@ -101,11 +65,16 @@ void TestFileLock::theContentMeansNothing()
 
 void TestFileLock::aProcessThatIsKilledHoldsNothing()
 {
-    const pid_t holder = lockInAnotherProcess(m_file);
-    QVERIFY(holder != 0);
+    ForkedProcess holder([this](const auto &tell) {
+        FileLock lock;
+        if (lock.tryLock(m_file) == FileLock::Locked) {
+            tell(QStringLiteral("locked"));
+        }
+    });
+    QCOMPARE(holder.told(), QStringLiteral("locked"));
     FileLock lock;
     QCOMPARE(lock.tryLock(m_file), FileLock::HeldByAnother);
-    endWithoutGoodbye(holder);
+    holder.endWithoutGoodbye();
     QCOMPARE(lock.tryLock(m_file), FileLock::Locked);
 }
 

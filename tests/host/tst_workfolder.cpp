@@ -1,0 +1,201 @@
+#include "host/files/workfolder.h"
+
+#include "tests/host/forkedprocess.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <atomic>
+#include <optional>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+class TestWorkFolder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_place.emplace();
+        QVERIFY(m_place->isValid());
+    }
+
+    void itIsHiddenAndForTheUserAlone();
+    void itGoesWithAllThatIsInIt();
+    void itIsMadeInTheTemporaryPlaceOfTheSystem();
+    void whatADeadProcessLeftIsSwept();
+    void whatALivingProcessUsesStays();
+    void linksAreNeverFollowed();
+    void whatIsNotOursStays_data();
+    void whatIsNotOursStays();
+    void whatAnotherUserLeftStays();
+    void foldersMadeAtTheSameTimeAllStay();
+    void whyItCannotBeMadeIsSaid();
+
+private:
+    QStringList everything() const
+    {
+        return QDir(m_place->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+    void write(const QString &path) const
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    /*! The path of a folder that a dead process left, with a file in a folder in it. */
+    QString leftover() const
+    {
+        ForkedProcess process([this](const auto &tell) {
+            const WorkFolder folder(m_place->path());
+            QDir(folder.path()).mkdir(QStringLiteral("inner"));
+            QFile file(folder.filePath(QStringLiteral("inner/file")));
+            file.open(QIODevice::WriteOnly);
+            tell(folder.path());
+        });
+        return process.told();
+    }
+
+    std::optional<QTemporaryDir> m_place;
+};
+
+void TestWorkFolder::itIsHiddenAndForTheUserAlone()
+{
+    const WorkFolder folder(m_place->path());
+    QVERIFY(folder.isValid());
+    QCOMPARE(everything().size(), 1);
+    QVERIFY(everything().constFirst().startsWith(QLatin1Char('.')));
+    QCOMPARE(folder.path(), m_place->filePath(everything().constFirst()));
+    struct stat found = {};
+    QCOMPARE(stat(QFile::encodeName(folder.path()).constData(), &found), 0);
+    QCOMPARE(found.st_mode & 07777U, unsigned(S_IRWXU));
+}
+
+void TestWorkFolder::itGoesWithAllThatIsInIt()
+{
+    {
+        const WorkFolder folder(m_place->path());
+        write(folder.filePath(QStringLiteral("file")));
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("inner")));
+        write(folder.filePath(QStringLiteral("inner/file")));
+    }
+    QCOMPARE(everything(), QStringList());
+}
+
+void TestWorkFolder::itIsMadeInTheTemporaryPlaceOfTheSystem()
+{
+    const WorkFolder folder;
+    QCOMPARE(QFileInfo(folder.path()).path(), QDir::tempPath());
+}
+
+void TestWorkFolder::whatADeadProcessLeftIsSwept()
+{
+    const QString left = leftover();
+    QVERIFY(QFile::exists(left + QStringLiteral("/inner/file")));
+    const WorkFolder next(m_place->path());
+    QVERIFY(!QFile::exists(left));
+    QVERIFY(QFile::exists(next.path()));
+}
+
+void TestWorkFolder::whatALivingProcessUsesStays()
+{
+    const WorkFolder own(m_place->path());
+    ForkedProcess other([this](const auto &tell) {
+        const WorkFolder folder(m_place->path());
+        tell(folder.path());
+    });
+    const WorkFolder next(m_place->path());
+    QVERIFY(QFile::exists(own.path()));
+    QVERIFY(QFile::exists(other.told()));
+    QVERIFY(QFile::exists(next.path()));
+    QCOMPARE(everything().size(), 3);
+}
+
+void TestWorkFolder::linksAreNeverFollowed()
+{
+    const QTemporaryDir elsewhere;
+    const QString kept = elsewhere.filePath(QStringLiteral("kept"));
+    write(kept);
+    const QString link = leftover();
+    QVERIFY(QDir(link).removeRecursively());
+    QVERIFY(QFile::link(elsewhere.path(), link));
+    const QString left = leftover();
+    QVERIFY(QFile::link(elsewhere.path(), left + QStringLiteral("/link")));
+
+    WorkFolder::sweep(m_place->path());
+    QVERIFY(!QFile::exists(left));
+    QVERIFY(QFileInfo(link).isSymLink());
+    QVERIFY(QFile::exists(kept));
+}
+
+void TestWorkFolder::whatIsNotOursStays_data()
+{
+    QTest::addColumn<int>("changed");
+    QTest::addColumn<QString>("by");
+    const int machine = QStringLiteral(".vexconvert-").size();
+    QTest::newRow("of another machine") << machine << QStringLiteral("x");
+    QTest::newRow("with other letters") << machine + 10 << QStringLiteral("x");
+    QTest::newRow("with a shorter name") << machine + 10 << QString();
+    QTest::newRow("with a longer name") << machine + 10 << QStringLiteral("ab");
+}
+
+void TestWorkFolder::whatIsNotOursStays()
+{
+    QFETCH(int, changed);
+    QFETCH(QString, by);
+    const QString left = leftover();
+    QString name = QFileInfo(left).fileName();
+    name.replace(changed, 1, by);
+    QVERIFY(QDir(m_place->path()).rename(QFileInfo(left).fileName(), name));
+    WorkFolder::sweep(m_place->path());
+    QCOMPARE(everything(), QStringList{name});
+}
+
+void TestWorkFolder::whatAnotherUserLeftStays()
+{
+    const QString left = leftover();
+    constexpr uid_t another = 65534;
+    if (chown(QFile::encodeName(left).constData(), another, gid_t(-1)) != 0) {
+        QSKIP("only root can give a folder away");
+    }
+    WorkFolder::sweep(m_place->path());
+    QVERIFY(QFile::exists(left));
+}
+
+void TestWorkFolder::foldersMadeAtTheSameTimeAllStay()
+{
+    constexpr int makers = 8;
+    constexpr int foldersEach = 50;
+    std::atomic_int lost(0);
+    std::vector<std::thread> threads;
+    for (int i = 0; i < makers; ++i) {
+        threads.emplace_back([this, &lost] {
+            for (int j = 0; j < foldersEach; ++j) {
+                const WorkFolder folder(m_place->path());
+                QFile file(folder.filePath(QStringLiteral("file")));
+                if (!file.open(QIODevice::WriteOnly) || !file.exists()) {
+                    ++lost;
+                }
+            }
+        });
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    QCOMPARE(lost.load(), 0);
+    QCOMPARE(everything(), QStringList());
+}
+
+void TestWorkFolder::whyItCannotBeMadeIsSaid()
+{
+    const WorkFolder folder(m_place->filePath(QStringLiteral("missing")));
+    QVERIFY(!folder.isValid());
+    QCOMPARE(folder.errorText(), qt_error_string(ENOENT));
+    QCOMPARE(folder.path(), QString());
+}
+
+QTEST_GUILESS_MAIN(TestWorkFolder)
+#include "tst_workfolder.moc"
