@@ -30,6 +30,10 @@ int main(int argc, char **argv)
     // A reader that goes away mustn't end a conversion with its half-written file in place.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
+#ifdef SIGXFSZ
+    // Writing more than a file may hold is an error to tell, like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
 
     QCoreApplication::setApplicationName(QStringLiteral("vexconvert"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VEX_VERSION));

@@ -119,6 +119,17 @@ ExitCode runSubcommand(const Subcommand &subcommand, const QStringList &argument
         {parser, parser.positionalArguments(), own.isEmpty() ? configFolder : own});
 }
 
+bool tell(const PresetStore::Opening &opening)
+{
+    for (const QString &note : opening.notes) {
+        Console::printError(note);
+    }
+    if (!opening.error.isEmpty()) {
+        Console::printError(opening.error);
+    }
+    return opening.error.isEmpty();
+}
+
 } // namespace
 
 std::optional<WindowOptions> CommandLine::windowOptions(const QStringList &arguments)
@@ -180,12 +191,20 @@ ExitCode failure(const QString &line)
     return Failure;
 }
 
-void openToRead(PresetStore &store)
+bool openToRead(PresetStore &store)
 {
-    const QString problem = store.open(PresetStore::ReadOnly);
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
+    return tell(store.open(PresetStore::ReadOnly));
+}
+
+bool openToWrite(PresetStore &store)
+{
+    constexpr int patience = 10000; // ms
+    const QString refusal = store.lock(patience, Console::printError);
+    if (!refusal.isEmpty()) {
+        Console::printError(refusal);
+        return false;
     }
+    return tell(store.open(PresetStore::ReadWrite));
 }
 
 ExitCode unknownPreset(const QString &id)

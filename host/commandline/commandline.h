@@ -65,8 +65,11 @@ ExitCode wrongUsage(const QString &line);
 /*! Prints what went wrong and returns Failure. */
 ExitCode failure(const QString &line);
 
-/*! Opens the store; files of the user's that can't be read are complained about and left out. */
-void openToRead(PresetStore &store);
+/*! Opens the store and prints what it has to tell; false when files of the user's can't be used,
+ *  which are left out. */
+bool openToRead(PresetStore &store);
+/*! The same, for saving; waits for a process that is writing the presets, and says so. */
+[[nodiscard]] bool openToWrite(PresetStore &store);
 /*! Prints that no preset has this id and returns WrongUsage. */
 ExitCode unknownPreset(const QString &id);
 

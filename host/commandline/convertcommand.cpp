@@ -141,7 +141,20 @@ void Batch::tell(const QString &file, const ConversionOutcome &outcome)
     }
 }
 
-/*! Notes the preset as the most recently used one; a failure is told and hurts nothing else. */
+/*! Opens the store for noting what is used. A conversion waits for no other process: where one is
+ *  writing the presets, they are only read. Returns why nothing can be noted, or an empty text. */
+QString openToNote(PresetStore &store)
+{
+    const QString refusal = store.lock(0);
+    const PresetStore::Opening opening =
+        store.open(refusal.isEmpty() ? PresetStore::ReadWrite : PresetStore::ReadOnly);
+    for (const QString &note : opening.notes) {
+        Console::printError(note);
+    }
+    return refusal.isEmpty() ? opening.error : refusal;
+}
+
+/*! Makes the preset the most recently used one; a failure is told and hurts nothing else. */
 void noteAsUsed(PresetStore &store, const FoundPreset &preset, const QString &problem)
 {
     QString unsaved = problem;
@@ -154,6 +167,16 @@ void noteAsUsed(PresetStore &store, const FoundPreset &preset, const QString &pr
         Console::printError(
             CommandLine::tr("the preset isn't noted as recently used: %1").arg(unsaved));
     }
+}
+
+/*! The preset with this id; without one, that is told and \a exitCode set. */
+FoundPreset presetOrComplaint(const PresetStore &store, const QString &id, ExitCode &exitCode)
+{
+    const FoundPreset preset = store.find(id);
+    if (preset.map.isEmpty()) {
+        exitCode = unknownPreset(id);
+    }
+    return preset;
 }
 
 /*! The preset that the options name or describe; without one, why is told and \a exitCode set. */
@@ -172,12 +195,13 @@ FoundPreset chosenPreset(const Call &call, ExitCode &exitCode)
         return fitting.isEmpty() ? FoundPreset()
                                  : store.find(fitting.value(QStringLiteral("id")).toString());
     }
-    const bool isDryRun = call.options.isSet(dryRunFlag);
-    const QString problem = store.open(isDryRun ? PresetStore::ReadOnly : PresetStore::ReadWrite);
-    FoundPreset preset = store.find(id);
-    if (preset.map.isEmpty()) {
-        exitCode = unknownPreset(id);
-    } else if (!isDryRun) {
+    if (call.options.isSet(dryRunFlag)) {
+        openToRead(store);
+        return presetOrComplaint(store, id, exitCode);
+    }
+    const QString problem = openToNote(store);
+    const FoundPreset preset = presetOrComplaint(store, id, exitCode);
+    if (!preset.map.isEmpty()) {
         noteAsUsed(store, preset, problem);
     }
     return preset;

@@ -44,7 +44,9 @@ ExitCode saveAndTell(PresetStore &store, const QString &done)
 ExitCode listRecent(const Call &call)
 {
     PresetStore store(call.configFolder);
-    openToRead(store);
+    if (!openToRead(store)) {
+        return Failure;
+    }
     QQueue<FormatDetailModelData> records;
     store.formats().recentlyFormatsModel()->getModelInfo(records);
     QVector<QVariantMap> presets;
@@ -58,9 +60,8 @@ ExitCode listRecent(const Call &call)
 ExitCode deleteRecent(const Call &call, const QString &id)
 {
     PresetStore store(call.configFolder);
-    const QString problem = store.open(PresetStore::ReadWrite);
-    if (!problem.isEmpty()) {
-        return failure(problem);
+    if (!openToWrite(store)) {
+        return Failure;
     }
     if (!store.formats().delFromRecently(id)) {
         return wrongUsage(CommandLine::tr("\"%1\" is not among the recently used presets; "
@@ -85,7 +86,9 @@ ExitCode runRecent(const Call &call)
 ExitCode listUser(const Call &call)
 {
     PresetStore store(call.configFolder);
-    openToRead(store);
+    if (!openToRead(store)) {
+        return Failure;
+    }
     const FormatListModel &formats = *store.formats().formatListModel();
     QVector<QVariantMap> presets;
     for (int row = 0; row < formats.rowCount(); ++row) {
@@ -200,9 +203,8 @@ ExitCode runUser(const Call &call)
         }
         const QString id = call.arguments.at(1);
         PresetStore store(call.configFolder);
-        const QString problem = store.open(PresetStore::ReadWrite);
-        if (!problem.isEmpty()) {
-            return failure(problem);
+        if (!openToWrite(store)) {
+            return Failure;
         }
         const FoundPreset preset = store.find(id);
         if (preset.map.isEmpty()) {

@@ -8,133 +8,161 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
+#include <QProcess>
 #include <QStandardPaths>
-#include <QVector>
 
 namespace {
 
-QString recentlyFile()
+using Content = UserFile::Content;
+
+QString absoluteFolder(const QString &folder)
 {
-    return QStringLiteral("recently.json");
+    return folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
+                            : QDir(folder).absolutePath();
 }
 
-QString userPresetsFile()
-{
-    return QStringLiteral("formatCache.json");
-}
-
-QByteArray contentOf(const QString &path)
+QByteArray bytesOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-bool isList(const QByteArray &json)
+/*! False unless all of it can be read again: a full disk may take a part without an error. */
+bool write(const QString &path, const QByteArray &content)
 {
-    return QJsonDocument::fromJson(json).isArray();
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    file.write(content);
+    file.close();
+    return bytesOf(path) == content;
 }
 
-/*! Where a file's last good copy stands. */
-QString backupOf(const QString &path)
+QJsonArray listIn(const UserFile &file)
 {
-    return path + QStringLiteral(".bak");
+    return QJsonDocument::fromJson(file.content().json).array();
 }
 
-/*! False, with what was there before, when the copy can't be made. */
-bool copyOver(const QString &from, const QString &to)
+void add(PresetStore::Opening &opening, const UserFile::Recovery &recovery)
 {
-    QSaveFile file(to);
-    return file.open(QIODevice::WriteOnly) && file.write(contentOf(from)) >= 0 && file.commit();
+    if (!recovery.note.isEmpty()) {
+        opening.notes << recovery.note;
+    }
+    if (opening.error.isEmpty()) {
+        opening.error = recovery.error;
+    }
 }
 
 } // namespace
 
 PresetStore::PresetStore(const QString &folder)
-    : m_folder(folder.isEmpty()
-                   ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
-                   : QDir(folder).absolutePath())
+    : m_folder(absoluteFolder(folder))
+    , m_userPresets(filePath(QStringLiteral("formatCache.json")))
+    , m_recently(filePath(QStringLiteral("recently.json")))
 {}
 
-QString PresetStore::lock(int patience)
+QString PresetStore::lock(int patience, const FolderLock::Tell &tellWaiting)
 {
-    QDir().mkpath(m_folder);
-    m_lock = std::make_unique<QLockFile>(filePath(QStringLiteral("vexconvert.lock")));
-    // A program that runs keeps its lock however long it runs; one that died has none.
-    m_lock->setStaleLockTime(0);
-    if (m_lock->tryLock(patience)) {
+    return m_lock.lock(m_folder, patience, tellWaiting);
+}
+
+PresetStore::Opening PresetStore::open(Access access, UserFile::Hopeless hopeless)
+{
+    const Opening opening = access == ReadWrite ? openToWrite(hopeless) : openToRead();
+    m_refusal = opening.error;
+    // Without a folder of its own the library reads the user's, unless that holds what it mustn't.
+    const bool isReadable = m_userPresets.content().state != Content::Refused &&
+                            m_recently.content().state != Content::Refused;
+    const QString nothing = QProcess::nullDevice();
+    formats().init(m_work != nullptr ? m_work->path() : isReadable ? m_folder : nothing);
+    return opening;
+}
+
+PresetStore::Opening PresetStore::openToRead() const
+{
+    Opening opening;
+    for (const UserFile *file : {&m_userPresets, &m_recently}) {
+        add(opening, {{}, file->complaint()});
+    }
+    FolderLock lock;
+    if (opening.error.isEmpty() || !lock.lock(m_folder, 0).isEmpty()) {
+        return opening;
+    }
+    return putRight(UserFile::StaysInPlace);
+}
+
+PresetStore::Opening PresetStore::openToWrite(UserFile::Hopeless hopeless)
+{
+    const QString unlocked = m_lock.isLocked() ? QString() : lock(0);
+    if (!unlocked.isEmpty()) {
+        return {{}, unlocked};
+    }
+    Opening opening = putRight(hopeless);
+    add(opening, m_userPresets.keepUnusable(unusableFormats(listIn(m_userPresets))));
+    add(opening, m_recently.keepUnusable(unusablePresets(listIn(m_recently))));
+    if (opening.error.isEmpty()) {
+        opening.error = copyIntoWorkFolder();
+    }
+    return opening;
+}
+
+PresetStore::Opening PresetStore::putRight(UserFile::Hopeless hopeless) const
+{
+    Opening opening;
+    for (const UserFile *file : {&m_userPresets, &m_recently}) {
+        add(opening, file->recover(hopeless));
+    }
+    return opening;
+}
+
+QString PresetStore::copyIntoWorkFolder()
+{
+    m_work = std::make_unique<WorkFolder>(m_folder);
+    bool isCopied = m_work->isValid();
+    for (const UserFile *file : {&m_userPresets, &m_recently}) {
+        const Content content = file->content();
+        isCopied =
+            isCopied && (content.state != Content::Good || write(workPath(*file), content.json));
+    }
+    if (isCopied) {
         return {};
     }
-    const QString error = m_lock->error() == QLockFile::LockFailedError
-                              ? tr("another program is writing the presets in %1; try again when "
-                                   "it is done")
-                              : tr("can't write into the configuration folder %1; name another "
-                                   "one");
-    m_lock.reset();
-    return error.arg(QDir::toNativeSeparators(m_folder));
+    m_work.reset();
+    return tr("can't write into the configuration folder %1; check its disk and its permissions")
+        .arg(QDir::toNativeSeparators(m_folder));
 }
 
-QStringList PresetStore::repair()
+QString PresetStore::workPath(const UserFile &file) const
 {
-    QStringList lines;
-    for (const QString &name : {recentlyFile(), userPresetsFile()}) {
-        const QString path = filePath(name);
-        if (!QFile::exists(path) || isList(contentOf(path))) {
-            continue;
-        }
-        const QString damaged = path + QStringLiteral(".damaged");
-        QFile::remove(damaged);
-        QFile::rename(path, damaged);
-        const bool hasGoodCopy = isList(contentOf(backupOf(path)));
-        if (hasGoodCopy) {
-            copyOver(backupOf(path), path);
-        }
-        lines << (hasGoodCopy ? tr("%1 was damaged; its last good copy is in its place, and the "
-                                   "damaged file beside it as %2")
-                              : tr("%1 was damaged and there is no good copy of it; it is kept as "
-                                   "%2"))
-                     .arg(QDir::toNativeSeparators(path), QFileInfo(damaged).fileName());
-    }
-    return lines;
-}
-
-QString PresetStore::open(Access access)
-{
-    constexpr int patience = 5000;
-    const QString error = access == ReadWrite && m_lock == nullptr ? lock(patience) : QString();
-    formats().init(m_folder);
-    return error.isEmpty() ? damage() : error;
+    return m_work->filePath(QFileInfo(file.path()).fileName());
 }
 
 QString PresetStore::save()
 {
+    if (m_work == nullptr) {
+        return m_refusal;
+    }
     struct Part
     {
-        QString path;
-        QVariantList content;
+        const UserFile &file;
+        QVariantList list;
     };
-    const QVector<Part> parts = {
-        {filePath(recentlyFile()), formats().recentlyFormatsModel()->toVariantListForSave()},
-        {filePath(userPresetsFile()), formats().formatListModel()->toVariantListForSave()},
+    const Part parts[] = {
+        {m_userPresets, formats().formatListModel()->toVariantListForSave()},
+        {m_recently, formats().recentlyFormatsModel()->toVariantListForSave()},
     };
-    const QString unreadable = damage();
-    if (!unreadable.isEmpty()) {
-        return unreadable;
-    }
-    for (const Part &part : parts) {
-        if (isList(contentOf(part.path)) && !copyOver(part.path, backupOf(part.path))) {
-            return tr("can't keep a copy of %1; free some space on its disk").arg(part.path);
-        }
-    }
     formats().uninit();
     for (const Part &part : parts) {
-        const QByteArray expected = QJsonDocument::fromVariant(part.content).toJson();
-        if (contentOf(part.path) != expected) {
-            copyOver(backupOf(part.path), part.path);
-            return tr("can't write %1, which is as before; check its disk and its permissions")
-                .arg(part.path);
+        const QByteArray written = bytesOf(workPath(part.file));
+        const bool isWhole = written == QJsonDocument::fromVariant(part.list).toJson();
+        const QString problem =
+            isWhole ? part.file.replace(written)
+                    : tr("can't write %1, which is as before; check its disk and its permissions")
+                          .arg(QDir::toNativeSeparators(part.file.path()));
+        if (!problem.isEmpty()) {
+            return problem;
         }
     }
     return {};
@@ -167,21 +195,4 @@ FoundPreset PresetStore::find(const QString &id) const
 QString PresetStore::filePath(const QString &name) const
 {
     return QDir(m_folder).absoluteFilePath(name);
-}
-
-QString PresetStore::damage() const
-{
-    for (const QString &name : {recentlyFile(), userPresetsFile()}) {
-        QFile file(filePath(name));
-        if (!file.exists()) {
-            continue;
-        }
-        const bool isOpen = file.open(QIODevice::ReadOnly);
-        const QByteArray content = file.readAll();
-        if (!isOpen || (!content.isEmpty() && !isList(content))) {
-            return tr("%1 is damaged and can't be read; mend it or move it away")
-                .arg(file.fileName());
-        }
-    }
-    return {};
 }

@@ -1,9 +1,13 @@
 #ifndef PRESETS_PRESETSTORE_H
 #define PRESETS_PRESETSTORE_H
 
+#include "host/files/workfolder.h"
+#include "host/presets/folderlock.h"
+#include "host/presets/userfile.h"
+
 #include <QCoreApplication>
-#include <QLockFile>
 #include <QString>
+#include <QStringList>
 #include <QVariantMap>
 
 #include <memory>
@@ -23,6 +27,10 @@ struct FoundPreset
 /*!
  * The library of presets, opened on the user's configuration folder and saved there so that the
  * user's files survive whatever goes wrong.
+ *
+ * The library writes over its files, where a crash or a full disk would leave half of them. So it
+ * works on copies in a folder of its own, and only what it wrote whole takes the place of the
+ * user's file, in one step.
  */
 class PresetStore
 {
@@ -32,28 +40,30 @@ class PresetStore
 public:
     enum Access { ReadOnly, ReadWrite };
 
+    /*! What open() has to tell. */
+    struct Opening
+    {
+        QStringList notes; //!< a line for each thing that was put right
+        QString error;     //!< why the user's files can't be used, or an empty text
+    };
+
     /*! An empty \a folder is the platform's configuration folder of this program. */
     explicit PresetStore(const QString &folder);
 
     /*!
-     * Makes the folder where it is missing and keeps other programs from writing there as long as
-     * this store lives; waits up to \a patience ms for one that does. Returns why that can't be, or
-     * an empty text. open() does it where it is needed and hasn't been done.
+     * Makes the folder where it is missing and keeps other processes from writing there as long as
+     * this store lives; see FolderLock::lock(). open() does it for ReadWrite, without waiting,
+     * where it hasn't been done.
      */
-    [[nodiscard]] QString lock(int patience);
+    [[nodiscard]] QString lock(int patience, const FolderLock::Tell &tellWaiting = {});
     /*!
-     * Before open(): puts the last good copy in the place of each of the user's files that is
-     * truncated or no JSON, and keeps the damaged one beside it. Returns a line for each.
+     * Loads the catalogue and the user's files, after putting right what a crash left of them. A
+     * file that is damaged without a good copy is an error, or \a hopeless puts it aside. The
+     * catalogue is loaded in any case. To be called once in a process.
      */
-    [[nodiscard]] QStringList repair();
-    /*!
-     * Loads the catalogue and the user's files; for ReadWrite makes the folder where it is missing
-     * and keeps other programs from writing there. Returns why that can't be, or an empty text;
-     * the catalogue is loaded in any case. To be called once in a process.
-     */
-    [[nodiscard]] QString open(Access access);
-    /*! Writes the user's files. Returns why that failed, or an empty text; then they are as before.
-     */
+    [[nodiscard]] Opening open(Access access, UserFile::Hopeless hopeless = UserFile::StaysInPlace);
+    /*! Writes the user's files. Returns why that failed, or an empty text; a file that it names is
+     *  as before. */
     [[nodiscard]] QString save();
 
     /*! The path of a file in the configuration folder. */
@@ -63,11 +73,19 @@ public:
     [[nodiscard]] FoundPreset find(const QString &id) const;
 
 private:
-    /*! One line about files that exist and can't be read; empty when all is well. */
-    QString damage() const;
+    Opening openToRead() const;
+    Opening openToWrite(UserFile::Hopeless hopeless);
+    Opening putRight(UserFile::Hopeless hopeless) const;
+    QString copyIntoWorkFolder();
+    QString workPath(const UserFile &file) const;
 
     const QString m_folder;
-    std::unique_ptr<QLockFile> m_lock;
+    const UserFile m_userPresets;
+    const UserFile m_recently;
+    FolderLock m_lock;
+    std::unique_ptr<WorkFolder>
+        m_work;        //!< what the library reads and writes; null: nothing to save
+    QString m_refusal; //!< why nothing is saved
 };
 
 #endif

@@ -875,32 +875,12 @@
 <context>
     <name>PresetStore</name>
     <message>
-        <source>another program is writing the presets in %1; try again when it is done</source>
-        <translation>ein anderes Programm arbeitet mit den Formaten in %1; versuchen Sie es danach noch einmal</translation>
-    </message>
-    <message>
-        <source>can&apos;t write into the configuration folder %1; name another one</source>
-        <translation>in den Konfigurationsordner %1 kann nicht geschrieben werden; nennen Sie einen anderen</translation>
-    </message>
-    <message>
-        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
-        <translation>%1 war beschädigt; an ihrer Stelle steht jetzt die letzte gute Kopie, daneben die beschädigte Datei als %2</translation>
-    </message>
-    <message>
-        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
-        <translation>%1 war beschädigt und es gibt keine gute Kopie; die Datei ist als %2 aufgehoben</translation>
-    </message>
-    <message>
-        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
-        <translation>von %1 lässt sich keine Kopie anlegen; schaffen Sie Platz auf dem Datenträger</translation>
+        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
+        <translation>in den Konfigurationsordner %1 kann nicht geschrieben werden; prüfen Sie Datenträger und Rechte</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
         <translation>%1 kann nicht geschrieben werden und ist wie zuvor; prüfen Sie Datenträger und Rechte</translation>
-    </message>
-    <message>
-        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
-        <translation>%1 ist beschädigt und nicht lesbar; reparieren Sie die Datei oder entfernen Sie sie</translation>
     </message>
 </context>
 <context>
@@ -912,6 +892,92 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 ist nicht im PATH; installieren Sie ffmpeg (Debian: apt-get install ffmpeg) und versuchen Sie es noch einmal</translation>
+    </message>
+</context>
+<context>
+    <name>FolderLock</name>
+    <message>
+        <source>another program</source>
+        <translation>ein anderes Programm</translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation>%1 (Prozess %2 auf %3)</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1 (%2); name another one</source>
+        <translation>in den Konfigurationsordner %1 kann nicht geschrieben werden (%2); nennen Sie einen anderen</translation>
+    </message>
+    <message>
+        <source>%1 is using the presets in %2; close it, or try again when it is done</source>
+        <translation>%1 arbeitet mit den Formaten in %2; schließen Sie es oder versuchen Sie es danach noch einmal</translation>
+    </message>
+    <message>
+        <source>waiting for %1, which is using the presets in %2</source>
+        <translation>%1 arbeitet mit den Formaten in %2; es wird gewartet</translation>
+    </message>
+</context>
+<context>
+    <name>UserFile</name>
+    <message>
+        <source>%1 is no file; move it away</source>
+        <translation>%1 ist keine Datei; entfernen Sie es von dort</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read; move it away to start anew</source>
+        <translation>%1 hat %2, gelesen werden höchstens %3; entfernen Sie die Datei, um neu zu beginnen</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>%1 ist nicht lesbar (%2); prüfen Sie die Rechte</translation>
+    </message>
+    <message>
+        <source>%1 is missing; put its last good copy, %2, in its place</source>
+        <translation>%1 fehlt; setzen Sie die letzte gute Kopie, %2, an ihre Stelle</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; put its last good copy, %2, in its place</source>
+        <translation>%1 ist beschädigt; setzen Sie die letzte gute Kopie, %2, an ihre Stelle</translation>
+    </message>
+    <message>
+        <source>%1 is empty and there is no good copy of it; remove it to start anew</source>
+        <translation>%1 ist leer und es gibt keine gute Kopie; löschen Sie die Datei, um neu zu beginnen</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and there is no good copy of it; fix it, or move it away to start anew</source>
+        <translation>%1 ist beschädigt und es gibt keine gute Kopie; reparieren Sie die Datei oder entfernen Sie sie, um neu zu beginnen</translation>
+    </message>
+    <message>
+        <source>%1 was empty and there is no good copy of it</source>
+        <translation>%1 war leer und es gibt keine gute Kopie</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 war beschädigt und es gibt keine gute Kopie; die Datei ist als %2 aufgehoben</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy, %2, is in its place, and the damaged file is kept as %3</source>
+        <translation>%1 war beschädigt; an ihrer Stelle steht jetzt die letzte gute Kopie, %2, und die beschädigte Datei ist als %3 aufgehoben</translation>
+    </message>
+    <message>
+        <source>%1 was missing; its last good copy, %2, is in its place</source>
+        <translation>%1 fehlte; an ihrer Stelle steht jetzt die letzte gute Kopie, %2</translation>
+    </message>
+    <message>
+        <source>%1 was empty; its last good copy, %2, is in its place</source>
+        <translation>%1 war leer; an ihrer Stelle steht jetzt die letzte gute Kopie, %2</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1 (%2), which is as before; check its disk and its permissions</source>
+        <translation>%1 kann nicht geschrieben werden (%2) und ist wie zuvor; prüfen Sie Datenträger und Rechte</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
+        <translation>die unbrauchbaren Formate aus %1 lassen sich nicht in %2 aufheben (%3); prüfen Sie Datenträger und Rechte</translation>
+    </message>
+    <message>
+        <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
+        <translation>%1 enthält Formate ohne Einstellungen (&quot;outPutNode&quot;), die unbrauchbar sind; sie sind in %2 aufgehoben</translation>
     </message>
 </context>
 </TS>

@@ -875,32 +875,12 @@
 <context>
     <name>PresetStore</name>
     <message>
-        <source>another program is writing the presets in %1; try again when it is done</source>
-        <translation>otro programa está usando los formatos de %1; inténtalo cuando termine</translation>
-    </message>
-    <message>
-        <source>can&apos;t write into the configuration folder %1; name another one</source>
-        <translation>no se puede escribir en la carpeta de configuración %1; indica otra</translation>
-    </message>
-    <message>
-        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
-        <translation>%1 estaba dañado; en su lugar está la última copia buena y el archivo dañado se guarda como %2</translation>
-    </message>
-    <message>
-        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
-        <translation>%1 estaba dañado y no hay copia buena; se guarda como %2</translation>
-    </message>
-    <message>
-        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
-        <translation>no se puede guardar una copia de %1; libera espacio en el disco</translation>
+        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
+        <translation>no se puede escribir en la carpeta de configuración %1; revisa el disco y los permisos</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
         <translation>no se puede escribir %1, que queda como antes; revisa el disco y los permisos</translation>
-    </message>
-    <message>
-        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
-        <translation>%1 está dañado y no se puede leer; repáralo o retíralo</translation>
     </message>
 </context>
 <context>
@@ -912,6 +892,92 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 no está en el PATH; instala ffmpeg (Debian: apt-get install ffmpeg) e inténtalo de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>FolderLock</name>
+    <message>
+        <source>another program</source>
+        <translation>otro programa</translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation>%1 (proceso %2 en %3)</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1 (%2); name another one</source>
+        <translation>no se puede escribir en la carpeta de configuración %1 (%2); indica otra</translation>
+    </message>
+    <message>
+        <source>%1 is using the presets in %2; close it, or try again when it is done</source>
+        <translation>%1 está usando los formatos de %2; ciérralo o inténtalo cuando termine</translation>
+    </message>
+    <message>
+        <source>waiting for %1, which is using the presets in %2</source>
+        <translation>esperando a %1, que está usando los formatos de %2</translation>
+    </message>
+</context>
+<context>
+    <name>UserFile</name>
+    <message>
+        <source>%1 is no file; move it away</source>
+        <translation>%1 no es un archivo; retíralo</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read; move it away to start anew</source>
+        <translation>%1 ocupa %2 y solo se leen hasta %3; retíralo para empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>no se puede leer %1 (%2); revisa los permisos</translation>
+    </message>
+    <message>
+        <source>%1 is missing; put its last good copy, %2, in its place</source>
+        <translation>falta %1; pon en su lugar su última copia buena, %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; put its last good copy, %2, in its place</source>
+        <translation>%1 está dañado; pon en su lugar su última copia buena, %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty and there is no good copy of it; remove it to start anew</source>
+        <translation>%1 está vacío y no hay copia buena; elimínalo para empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and there is no good copy of it; fix it, or move it away to start anew</source>
+        <translation>%1 está dañado y no hay copia buena; repáralo o retíralo para empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 was empty and there is no good copy of it</source>
+        <translation>%1 estaba vacío y no hay copia buena</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 estaba dañado y no hay copia buena; se guarda como %2</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy, %2, is in its place, and the damaged file is kept as %3</source>
+        <translation>%1 estaba dañado; en su lugar está su última copia buena, %2, y el archivo dañado se guarda como %3</translation>
+    </message>
+    <message>
+        <source>%1 was missing; its last good copy, %2, is in its place</source>
+        <translation>faltaba %1; en su lugar está su última copia buena, %2</translation>
+    </message>
+    <message>
+        <source>%1 was empty; its last good copy, %2, is in its place</source>
+        <translation>%1 estaba vacío; en su lugar está su última copia buena, %2</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1 (%2), which is as before; check its disk and its permissions</source>
+        <translation>no se puede escribir %1 (%2), que queda como antes; revisa el disco y los permisos</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
+        <translation>no se pueden guardar en %2 los formatos inservibles de %1 (%3); revisa el disco y los permisos</translation>
+    </message>
+    <message>
+        <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
+        <translation>%1 contiene formatos sin ajustes (&quot;outPutNode&quot;), que no se pueden usar; se guardan en %2</translation>
     </message>
 </context>
 </TS>

@@ -875,32 +875,12 @@
 <context>
     <name>PresetStore</name>
     <message>
-        <source>another program is writing the presets in %1; try again when it is done</source>
-        <translation>un autre programme utilise les formats de %1 ; réessayez quand il aura fini</translation>
-    </message>
-    <message>
-        <source>can&apos;t write into the configuration folder %1; name another one</source>
-        <translation>impossible d’écrire dans le dossier de configuration %1 ; indiquez-en un autre</translation>
-    </message>
-    <message>
-        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
-        <translation>%1 était endommagé ; sa dernière bonne copie l’a remplacé et le fichier endommagé est gardé sous %2</translation>
-    </message>
-    <message>
-        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
-        <translation>%1 était endommagé et il n’en existe pas de bonne copie ; il est gardé sous %2</translation>
-    </message>
-    <message>
-        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
-        <translation>impossible de garder une copie de %1 ; libérez de l’espace sur le disque</translation>
+        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
+        <translation>impossible d’écrire dans le dossier de configuration %1 ; vérifiez le disque et les droits</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
         <translation>impossible d’écrire %1, qui est resté inchangé ; vérifiez le disque et les droits</translation>
-    </message>
-    <message>
-        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
-        <translation>%1 est endommagé et illisible ; réparez-le ou déplacez-le</translation>
     </message>
 </context>
 <context>
@@ -912,6 +892,92 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 n’est pas dans le PATH ; installez ffmpeg (Debian : apt-get install ffmpeg) et réessayez</translation>
+    </message>
+</context>
+<context>
+    <name>FolderLock</name>
+    <message>
+        <source>another program</source>
+        <translation>un autre programme</translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation>%1 (processus %2 sur %3)</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1 (%2); name another one</source>
+        <translation>impossible d’écrire dans le dossier de configuration %1 (%2) ; indiquez-en un autre</translation>
+    </message>
+    <message>
+        <source>%1 is using the presets in %2; close it, or try again when it is done</source>
+        <translation>%1 utilise les formats de %2 ; fermez-le ou réessayez quand il aura fini</translation>
+    </message>
+    <message>
+        <source>waiting for %1, which is using the presets in %2</source>
+        <translation>en attente de %1, qui utilise les formats de %2</translation>
+    </message>
+</context>
+<context>
+    <name>UserFile</name>
+    <message>
+        <source>%1 is no file; move it away</source>
+        <translation>%1 n’est pas un fichier ; déplacez-le</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read; move it away to start anew</source>
+        <translation>%1 fait %2 et on lit au plus %3 ; déplacez-le pour repartir de zéro</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>impossible de lire %1 (%2) ; vérifiez les droits</translation>
+    </message>
+    <message>
+        <source>%1 is missing; put its last good copy, %2, in its place</source>
+        <translation>%1 manque ; remettez à sa place sa dernière bonne copie, %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; put its last good copy, %2, in its place</source>
+        <translation>%1 est endommagé ; remettez à sa place sa dernière bonne copie, %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty and there is no good copy of it; remove it to start anew</source>
+        <translation>%1 est vide et il n’en existe pas de bonne copie ; supprimez-le pour repartir de zéro</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and there is no good copy of it; fix it, or move it away to start anew</source>
+        <translation>%1 est endommagé et il n’en existe pas de bonne copie ; réparez-le ou déplacez-le pour repartir de zéro</translation>
+    </message>
+    <message>
+        <source>%1 was empty and there is no good copy of it</source>
+        <translation>%1 était vide et il n’en existe pas de bonne copie</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 était endommagé et il n’en existe pas de bonne copie ; il est gardé sous %2</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy, %2, is in its place, and the damaged file is kept as %3</source>
+        <translation>%1 était endommagé ; sa dernière bonne copie, %2, l’a remplacé et le fichier endommagé est gardé sous %3</translation>
+    </message>
+    <message>
+        <source>%1 was missing; its last good copy, %2, is in its place</source>
+        <translation>%1 manquait ; sa dernière bonne copie, %2, l’a remplacé</translation>
+    </message>
+    <message>
+        <source>%1 was empty; its last good copy, %2, is in its place</source>
+        <translation>%1 était vide ; sa dernière bonne copie, %2, l’a remplacé</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1 (%2), which is as before; check its disk and its permissions</source>
+        <translation>impossible d’écrire %1 (%2), qui est resté inchangé ; vérifiez le disque et les droits</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
+        <translation>impossible de garder dans %2 les formats inutilisables de %1 (%3) ; vérifiez le disque et les droits</translation>
+    </message>
+    <message>
+        <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
+        <translation>%1 contient des formats sans réglages (&quot;outPutNode&quot;), inutilisables ; ils sont gardés dans %2</translation>
     </message>
 </context>
 </TS>

@@ -875,32 +875,12 @@
 <context>
     <name>PresetStore</name>
     <message>
-        <source>another program is writing the presets in %1; try again when it is done</source>
-        <translation>別のプログラムが %1 の設定を使っています。終わってからやり直してください</translation>
-    </message>
-    <message>
-        <source>can&apos;t write into the configuration folder %1; name another one</source>
-        <translation>設定フォルダー %1 に書き込めません。別のフォルダーを指定してください</translation>
-    </message>
-    <message>
-        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
-        <translation>%1 が壊れていたため、最後の正常なコピーに戻しました。壊れたファイルは %2 として残しています</translation>
-    </message>
-    <message>
-        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
-        <translation>%1 が壊れていて正常なコピーもありません。%2 として残しています</translation>
-    </message>
-    <message>
-        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
-        <translation>%1 のコピーを保存できません。ディスクの空きを作ってください</translation>
+        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
+        <translation>設定フォルダー %1 に書き込めません。ディスクと権限を確認してください</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
         <translation>%1 に書き込めず、元のままです。ディスクと権限を確認してください</translation>
-    </message>
-    <message>
-        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
-        <translation>%1 が壊れていて読めません。修復するか別の場所に移してください</translation>
     </message>
 </context>
 <context>
@@ -912,6 +892,92 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 が PATH にありません。ffmpeg をインストール（Debian: apt-get install ffmpeg）してやり直してください</translation>
+    </message>
+</context>
+<context>
+    <name>FolderLock</name>
+    <message>
+        <source>another program</source>
+        <translation>別のプログラム</translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation>%1（%3 のプロセス %2）</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1 (%2); name another one</source>
+        <translation>設定フォルダー %1 に書き込めません（%2）。別のフォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>%1 is using the presets in %2; close it, or try again when it is done</source>
+        <translation>%1 が %2 の設定を使っています。閉じるか、終わってからやり直してください</translation>
+    </message>
+    <message>
+        <source>waiting for %1, which is using the presets in %2</source>
+        <translation>%1 が %2 の設定を使い終わるのを待っています</translation>
+    </message>
+</context>
+<context>
+    <name>UserFile</name>
+    <message>
+        <source>%1 is no file; move it away</source>
+        <translation>%1 はファイルではありません。別の場所に移してください</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read; move it away to start anew</source>
+        <translation>%1 は %2 あり、%3 までしか読み込めません。別の場所に移すと新しく始められます</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>%1 を読めません（%2）。権限を確認してください</translation>
+    </message>
+    <message>
+        <source>%1 is missing; put its last good copy, %2, in its place</source>
+        <translation>%1 がありません。最後の正常なコピー %2 に戻してください</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; put its last good copy, %2, in its place</source>
+        <translation>%1 が壊れています。最後の正常なコピー %2 に戻してください</translation>
+    </message>
+    <message>
+        <source>%1 is empty and there is no good copy of it; remove it to start anew</source>
+        <translation>%1 が空で、正常なコピーもありません。削除すると新しく始められます</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and there is no good copy of it; fix it, or move it away to start anew</source>
+        <translation>%1 が壊れていて、正常なコピーもありません。修復するか、別の場所に移して新しく始めてください</translation>
+    </message>
+    <message>
+        <source>%1 was empty and there is no good copy of it</source>
+        <translation>%1 が空で、正常なコピーもありません</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 が壊れていて正常なコピーもありません。%2 として残しています</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy, %2, is in its place, and the damaged file is kept as %3</source>
+        <translation>%1 が壊れていたため、最後の正常なコピー %2 に戻しました。壊れたファイルは %3 として残しています</translation>
+    </message>
+    <message>
+        <source>%1 was missing; its last good copy, %2, is in its place</source>
+        <translation>%1 がなかったため、最後の正常なコピー %2 に戻しました</translation>
+    </message>
+    <message>
+        <source>%1 was empty; its last good copy, %2, is in its place</source>
+        <translation>%1 が空だったため、最後の正常なコピー %2 に戻しました</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1 (%2), which is as before; check its disk and its permissions</source>
+        <translation>%1 に書き込めず（%2）、元のままです。ディスクと権限を確認してください</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
+        <translation>%1 の使えない設定を %2 に残せません（%3）。ディスクと権限を確認してください</translation>
+    </message>
+    <message>
+        <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
+        <translation>%1 に設定内容（&quot;outPutNode&quot;）のない、使えない設定があります。%2 に残しています</translation>
     </message>
 </context>
 </TS>

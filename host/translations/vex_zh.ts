@@ -875,32 +875,12 @@
 <context>
     <name>PresetStore</name>
     <message>
-        <source>another program is writing the presets in %1; try again when it is done</source>
-        <translation>另一个程序正在使用 %1 中的预设；请在它结束后重试</translation>
-    </message>
-    <message>
-        <source>can&apos;t write into the configuration folder %1; name another one</source>
-        <translation>无法写入配置文件夹 %1；请指定其他文件夹</translation>
-    </message>
-    <message>
-        <source>%1 was damaged; its last good copy is in its place, and the damaged file beside it as %2</source>
-        <translation>%1 已损坏；已恢复其最近的完好副本，损坏的文件保存为 %2</translation>
-    </message>
-    <message>
-        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
-        <translation>%1 已损坏且没有完好的副本；它保存为 %2</translation>
-    </message>
-    <message>
-        <source>can&apos;t keep a copy of %1; free some space on its disk</source>
-        <translation>无法保存 %1 的副本；请释放磁盘空间</translation>
+        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
+        <translation>无法写入配置文件夹 %1；请检查磁盘和权限</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
         <translation>无法写入 %1，文件保持原样；请检查磁盘和权限</translation>
-    </message>
-    <message>
-        <source>%1 is damaged and can&apos;t be read; mend it or move it away</source>
-        <translation>%1 已损坏，无法读取；请修复或移走它</translation>
     </message>
 </context>
 <context>
@@ -912,6 +892,92 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>PATH 中没有 %1；请安装 ffmpeg（Debian：apt-get install ffmpeg）后重试</translation>
+    </message>
+</context>
+<context>
+    <name>FolderLock</name>
+    <message>
+        <source>another program</source>
+        <translation>另一个程序</translation>
+    </message>
+    <message>
+        <source>%1 (process %2 on %3)</source>
+        <translation>%1（%3 上的进程 %2）</translation>
+    </message>
+    <message>
+        <source>can&apos;t write into the configuration folder %1 (%2); name another one</source>
+        <translation>无法写入配置文件夹 %1（%2）；请指定其他文件夹</translation>
+    </message>
+    <message>
+        <source>%1 is using the presets in %2; close it, or try again when it is done</source>
+        <translation>%1 正在使用 %2 中的预设；请关闭它或在它结束后重试</translation>
+    </message>
+    <message>
+        <source>waiting for %1, which is using the presets in %2</source>
+        <translation>正在等待 %1，它正在使用 %2 中的预设</translation>
+    </message>
+</context>
+<context>
+    <name>UserFile</name>
+    <message>
+        <source>%1 is no file; move it away</source>
+        <translation>%1 不是文件；请移走它</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read; move it away to start anew</source>
+        <translation>%1 有 %2，最多只读取 %3；移走它即可重新开始</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>无法读取 %1（%2）；请检查权限</translation>
+    </message>
+    <message>
+        <source>%1 is missing; put its last good copy, %2, in its place</source>
+        <translation>缺少 %1；请用其最近的完好副本 %2 替换</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; put its last good copy, %2, in its place</source>
+        <translation>%1 已损坏；请用其最近的完好副本 %2 替换</translation>
+    </message>
+    <message>
+        <source>%1 is empty and there is no good copy of it; remove it to start anew</source>
+        <translation>%1 是空的且没有完好的副本；删除它即可重新开始</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and there is no good copy of it; fix it, or move it away to start anew</source>
+        <translation>%1 已损坏且没有完好的副本；请修复它，或移走它以重新开始</translation>
+    </message>
+    <message>
+        <source>%1 was empty and there is no good copy of it</source>
+        <translation>%1 是空的且没有完好的副本</translation>
+    </message>
+    <message>
+        <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
+        <translation>%1 已损坏且没有完好的副本；它保存为 %2</translation>
+    </message>
+    <message>
+        <source>%1 was damaged; its last good copy, %2, is in its place, and the damaged file is kept as %3</source>
+        <translation>%1 已损坏；已恢复其最近的完好副本 %2，损坏的文件保存为 %3</translation>
+    </message>
+    <message>
+        <source>%1 was missing; its last good copy, %2, is in its place</source>
+        <translation>缺少 %1；已恢复其最近的完好副本 %2</translation>
+    </message>
+    <message>
+        <source>%1 was empty; its last good copy, %2, is in its place</source>
+        <translation>%1 是空的；已恢复其最近的完好副本 %2</translation>
+    </message>
+    <message>
+        <source>can&apos;t write %1 (%2), which is as before; check its disk and its permissions</source>
+        <translation>无法写入 %1（%2），文件保持原样；请检查磁盘和权限</translation>
+    </message>
+    <message>
+        <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
+        <translation>无法将 %1 中不可用的预设保存到 %2（%3）；请检查磁盘和权限</translation>
+    </message>
+    <message>
+        <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
+        <translation>%1 含有缺少设置（&quot;outPutNode&quot;）而无法使用的预设；它们保存在 %2 中</translation>
     </message>
 </context>
 </TS>

@@ -38,13 +38,12 @@ QString MainWindow::open()
     if (!refusal.isEmpty()) {
         return refusal;
     }
-    const QStringList repairs = m_store.repair();
-    const QString problem = m_store.open(PresetStore::ReadWrite);
-    for (const QString &line : repairs) {
+    const PresetStore::Opening presets = m_store.open(PresetStore::ReadWrite, UserFile::IsPutAside);
+    for (const QString &line : presets.notes) {
         m_notices.add(line);
     }
-    if (!problem.isEmpty()) {
-        m_notices.add(problem);
+    if (!presets.error.isEmpty()) {
+        m_notices.add(presets.error);
     }
     m_settings = std::make_unique<Settings>(m_store.filePath(QStringLiteral("vexconvert.ini")));
     m_presets = std::make_unique<Presets>(m_store);

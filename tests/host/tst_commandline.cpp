@@ -1,3 +1,4 @@
+#include "host/presets/folderlock.h"
 #include "tests/host/commandrun.h"
 #include "tests/host/mediaclips.h"
 
@@ -121,7 +122,9 @@ private Q_SLOTS:
     void readingWritesNothing();
     void aDamagedFileIsNeverWrittenOver_data();
     void aDamagedFileIsNeverWrittenOver();
-    void thePreviousVersionOfAFileIsKept();
+    void theGoodCopyOfADamagedFileIsUsedAndSaid();
+    void presetsThatCannotBeUsedAreKeptBeside();
+    void aConversionDoesNotWaitForThePresets();
     void aConfigFolderThatCannotBeIsSaid();
     void theUsualConfigFolderIsThePlatforms();
 
@@ -688,15 +691,19 @@ void TestCommandLine::aDamagedFileIsNeverWrittenOver()
     QVERIFY(QDir().mkpath(config()));
     const QString damaged = config() + QLatin1Char('/') + file;
     write(damaged, content);
-    const QString complaint =
-        QStringLiteral("%1 is damaged and can't be read; mend it or move it away\n").arg(damaged);
+    const QString complaint = QStringLiteral("%1 is damaged and there is no good copy of it; fix "
+                                             "it, or move it away to start anew\n")
+                                  .arg(damaged);
 
-    const CommandRun add = run("user add V_MP4_1 --title x");
-    QCOMPARE(add.exitCode, 1);
-    QCOMPARE(add.err, QStringLiteral("vexconvert: ") + complaint);
-    const CommandRun list = run("formats");
-    QCOMPARE(list.exitCode, 0);
-    QCOMPARE(list.err, QStringLiteral("vexconvert: ") + complaint);
+    for (const char *line : {"user add V_MP4_1 --title x", "user list --json", "recent --json"}) {
+        const CommandRun refused = run(line);
+        QCOMPARE(refused.exitCode, 1);
+        QCOMPARE(refused.out, QString());
+        QCOMPARE(refused.err, QStringLiteral("vexconvert: ") + complaint);
+    }
+    const CommandRun formats = run("formats");
+    QCOMPARE(formats.exitCode, 0);
+    QCOMPARE(formats.err, QStringLiteral("vexconvert: ") + complaint);
     // A conversion needs no file of the user's.
     const CommandRun convert = run("convert film.mp4 --preset V_MKV_1");
     QCOMPARE(convert.exitCode, 0);
@@ -704,18 +711,54 @@ void TestCommandLine::aDamagedFileIsNeverWrittenOver()
              QStringLiteral("vexconvert: the preset isn't noted as recently used: ") + complaint);
 
     QCOMPARE(contentOf(damaged), content);
-    QCOMPARE(QDir(config()).entryList(QDir::Files), QStringList{file});
+    QCOMPARE(QDir(config()).entryList({QStringLiteral("*.json*")}, QDir::Files), QStringList{file});
 }
 
-void TestCommandLine::thePreviousVersionOfAFileIsKept()
+void TestCommandLine::theGoodCopyOfADamagedFileIsUsedAndSaid()
+{
+    QCOMPARE(run("user add V_MP4_1 --title x").exitCode, 0);
+    const QString file = config() + QStringLiteral("/formatCache.json");
+    write(file, {});
+    const CommandRun list = run("user list");
+    QCOMPARE(list.exitCode, 0);
+    QCOMPARE(list.err, QStringLiteral("vexconvert: %1 was empty; its last good copy, "
+                                      "formatCache.json.bak, is in its place\n")
+                           .arg(file));
+    QVERIFY(list.out.contains(QStringLiteral("\n1001  x")));
+    QCOMPARE(run("user list").err, QString());
+}
+
+void TestCommandLine::presetsThatCannotBeUsedAreKeptBeside()
 {
     QVERIFY(QDir().mkpath(config()));
     const QString file = config() + QStringLiteral("/formatCache.json");
-    const QByteArray previous = "[{\"title\": \"MP4\", \"group\": [{\"id\": \"lost\"}]}]";
-    write(file, previous);
-    QCOMPARE(run("user add V_MP4_1 --title x").exitCode, 0);
+    write(file, "[{\"title\": \"MP4\", \"group\": [{\"id\": \"unusable\"}]}]");
+    const CommandRun add = run("user add V_MP4_1 --title x");
+    QCOMPARE(add.exitCode, 0);
+    QCOMPARE(add.err, QStringLiteral("vexconvert: %1 holds presets without settings "
+                                     "(\"outPutNode\"), which can't be used; they are kept in "
+                                     "formatCache.json.unusable\n")
+                          .arg(file));
     QVERIFY(contentOf(file).contains("1001"));
-    QCOMPARE(contentOf(file + QStringLiteral(".bak")), previous);
+    QVERIFY(contentOf(file + QStringLiteral(".unusable")).contains("\"unusable\""));
+    QCOMPARE(run("user delete 1001").err, QString());
+}
+
+void TestCommandLine::aConversionDoesNotWaitForThePresets()
+{
+    FolderLock lock;
+    QCOMPARE(lock.lock(config(), 0), QString());
+    const QString holder = QStringLiteral("tst_commandline (process %1 on %2)")
+                               .arg(QCoreApplication::applicationPid())
+                               .arg(QSysInfo::machineHostName());
+    const CommandRun convert = run("convert film.mp4 --preset V_MKV_1");
+    QCOMPARE(convert.exitCode, 0);
+    QCOMPARE(convert.err,
+             QStringLiteral("vexconvert: the preset isn't noted as recently used: %1 is using the "
+                            "presets in %2; close it, or try again when it is done\n")
+                 .arg(holder, config()));
+    QVERIFY(QFile::exists(path(QStringLiteral("film.mkv"))));
+    QCOMPARE(run("user list").err, QString());
 }
 
 void TestCommandLine::aConfigFolderThatCannotBeIsSaid()
@@ -723,8 +766,8 @@ void TestCommandLine::aConfigFolderThatCannotBeIsSaid()
     write(config(), "a file");
     const CommandRun told = run("user add V_MP4_1 --title x");
     QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.err, QStringLiteral("vexconvert: can't write into the configuration folder %1; "
-                                      "name another one\n")
+    QCOMPARE(told.err, QStringLiteral("vexconvert: can't write into the configuration folder %1 "
+                                      "(Not a directory); name another one\n")
                            .arg(config()));
     QCOMPARE(contentOf(config()), QByteArray("a file"));
     QCOMPARE(run("convert film.mp4 --preset V_MKV_1").exitCode, 0);

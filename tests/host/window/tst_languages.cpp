@@ -52,7 +52,7 @@ QSet<QString> presetTitles()
 {
     QTemporaryDir folder;
     PresetStore store(folder.path());
-    if (!store.open(PresetStore::ReadOnly).isEmpty()) {
+    if (!store.open(PresetStore::ReadOnly).error.isEmpty()) {
         return {};
     }
     QSet<QString> titles;

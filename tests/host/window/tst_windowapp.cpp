@@ -117,8 +117,10 @@ void TestWindowApp::aFolderIsForOneWindow()
 
     const Run second = run(call);
     QCOMPARE(second.exitCode, 1);
-    QVERIFY2(second.err.startsWith(
-                 QStringLiteral("vexconvert: another program is writing the presets in ")),
+    QVERIFY2(second.err.startsWith(QStringLiteral("vexconvert: vexconvert (process %1 on %2) is "
+                                                  "using the presets in ")
+                                       .arg(first.processId())
+                                       .arg(QSysInfo::machineHostName())),
              qUtf8Printable(second.err));
     QCOMPARE(first.state(), QProcess::Running);
     first.kill();
@@ -164,8 +166,8 @@ void TestWindowApp::badOptionsAreRefused_data()
         << QStringList{QStringLiteral("--config"), QStringLiteral("/dev/null/x"),
                        QStringLiteral("--language"), QStringLiteral("en")}
         << 1
-        << QStringLiteral("vexconvert: can't write into the configuration folder /dev/null/x; "
-                          "name another one\n");
+        << QStringLiteral("vexconvert: can't write into the configuration folder /dev/null/x (Not "
+                          "a directory); name another one\n");
     QTest::newRow("pictures into a folder that can't be")
         << QStringList{QStringLiteral("--screenshots"), QStringLiteral("/dev/null/x")} << 1
         << QStringLiteral("vexconvert: can't make the folder /dev/null/x; name another one\n");

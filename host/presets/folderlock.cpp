@@ -1,0 +1,80 @@
+#include "host/presets/folderlock.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QStringList>
+#include <QSysInfo>
+#include <QThread>
+
+namespace {
+
+/*! "vexconvert (process 123 on desk)", as the holder wrote it into the file that it locks. */
+QString holderIn(const QString &path)
+{
+    QFile file(path);
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    const QStringList lines =
+        QString::fromUtf8(isOpen ? file.read(1024) : QByteArray()).split(QLatin1Char('\n'));
+    return lines.size() < 3
+               ? FolderLock::tr("another program")
+               : FolderLock::tr("%1 (process %2 on %3)").arg(lines.at(1), lines.at(0), lines.at(2));
+}
+
+/*! Only for people: the lock itself doesn't depend on it. */
+void writeHolder(const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(QStringLiteral("%1\n%2\n%3\n")
+                       .arg(QString::number(QCoreApplication::applicationPid()),
+                            QCoreApplication::applicationName(), QSysInfo::machineHostName())
+                       .toUtf8());
+    }
+}
+
+} // namespace
+
+QString FolderLock::lock(const QString &folder, int patience, const Tell &tellWaiting)
+{
+    constexpr int pause = 20;      // ms
+    constexpr int unnoticed = 300; // ms that a wait isn't worth a word
+    const QString shownFolder = QDir::toNativeSeparators(folder);
+    const QString path = QDir(folder).absoluteFilePath(QStringLiteral("vexconvert.lock"));
+    QDir().mkpath(folder);
+    // Made without touching what another process wrote into it.
+    QFile(path).open(QIODevice::ReadWrite);
+
+    QElapsedTimer total;
+    QElapsedTimer sinceChange;
+    total.start();
+    sinceChange.start();
+    QString holder;
+    bool isTold = false;
+    for (;;) {
+        const FileLock::Result result = m_lock.tryLock(path);
+        if (result == FileLock::Locked) {
+            writeHolder(path);
+            return {};
+        }
+        if (result == FileLock::Failed) {
+            return tr("can't write into the configuration folder %1 (%2); name another one")
+                .arg(shownFolder, m_lock.errorText());
+        }
+        const QString current = holderIn(path);
+        if (current != holder) {
+            holder = current;
+            sinceChange.restart();
+        }
+        if (sinceChange.elapsed() >= patience) {
+            return tr("%1 is using the presets in %2; close it, or try again when it is done")
+                .arg(holder, shownFolder);
+        }
+        if (tellWaiting && !isTold && total.elapsed() >= unnoticed) {
+            tellWaiting(
+                tr("waiting for %1, which is using the presets in %2").arg(holder, shownFolder));
+            isTold = true;
+        }
+        QThread::msleep(pause);
+    }
+}

@@ -1,0 +1,32 @@
+#ifndef PRESETS_FOLDERLOCK_H
+#define PRESETS_FOLDERLOCK_H
+
+#include "host/files/filelock.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <functional>
+
+/*! Makes one process at a time the writer of a configuration folder. */
+class FolderLock
+{
+    Q_DECLARE_TR_FUNCTIONS(FolderLock)
+
+public:
+    using Tell = std::function<void(const QString &line)>;
+
+    /*!
+     * Makes the folder where it is missing and locks it. Where another process has it, says so
+     * with \a tellWaiting and waits, but no longer than \a patience ms for one and the same.
+     * Returns why that failed, or an empty text.
+     */
+    [[nodiscard]] QString lock(const QString &folder, int patience, const Tell &tellWaiting = {});
+    void release() { m_lock.release(); }
+    [[nodiscard]] bool isLocked() const { return m_lock.isLocked(); }
+
+private:
+    FileLock m_lock;
+};
+
+#endif

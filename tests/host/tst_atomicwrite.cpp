@@ -1,0 +1,119 @@
+#include "host/files/atomicwrite.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <optional>
+#include <sys/stat.h>
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+}
+
+void make(const QString &path, const QByteArray &content = {})
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+} // namespace
+
+class TestAtomicWrite : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_folder.emplace(); }
+
+    void aFileIsReplacedNotWrittenOver();
+    void permissionsAreThoseOfTheModel();
+    void aSymbolicLinkStays_data();
+    void aSymbolicLinkStays();
+    void aFailureLeavesNothing();
+    void onlyWhatACrashLeftIsRemoved();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QStringList names() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+
+    std::optional<QTemporaryDir> m_folder;
+};
+
+void TestAtomicWrite::aFileIsReplacedNotWrittenOver()
+{
+    const QString file = path(QStringLiteral("file"));
+    make(file, "old");
+    QFile reader(file);
+    QVERIFY(reader.open(QIODevice::ReadOnly));
+    QCOMPARE(writeAtomically(file, "new", file), QString());
+    QCOMPARE(contentOf(file), QByteArray("new"));
+    QCOMPARE(reader.readAll(), QByteArray("old"));
+    QCOMPARE(names(), QStringList{QStringLiteral("file")});
+}
+
+void TestAtomicWrite::permissionsAreThoseOfTheModel()
+{
+    const QString model = path(QStringLiteral("model"));
+    const QString file = path(QStringLiteral("file"));
+    make(model);
+    const auto userOnly = QFile::ReadOwner | QFile::WriteOwner;
+    QVERIFY(QFile::setPermissions(model, userOnly));
+    QCOMPARE(writeAtomically(file, "new", model), QString());
+    struct stat made = {};
+    QCOMPARE(::stat(QFile::encodeName(file).constData(), &made), 0);
+    QCOMPARE(made.st_mode & 0777U, mode_t(0600));
+}
+
+void TestAtomicWrite::aSymbolicLinkStays_data()
+{
+    QTest::addColumn<bool>("leadsSomewhere");
+    QTest::newRow("to a file") << true;
+    QTest::newRow("to nothing yet") << false;
+}
+
+void TestAtomicWrite::aSymbolicLinkStays()
+{
+    QFETCH(bool, leadsSomewhere);
+    const QString target = path(QStringLiteral("elsewhere/target"));
+    const QString link = path(QStringLiteral("link"));
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("elsewhere")));
+    if (leadsSomewhere) {
+        make(target, "old");
+    }
+    QVERIFY(QFile::link(target, link));
+    QCOMPARE(writeAtomically(link, "new", link), QString());
+    QCOMPARE(QFile::symLinkTarget(link), target);
+    QCOMPARE(contentOf(target), QByteArray("new"));
+}
+
+void TestAtomicWrite::aFailureLeavesNothing()
+{
+    QVERIFY(!writeAtomically(path(QStringLiteral("missing/file")), "new", {}).isEmpty());
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
+    QVERIFY(!writeAtomically(path(QStringLiteral("folder")), "new", {}).isEmpty());
+    QCOMPARE(names(), QStringList());
+}
+
+void TestAtomicWrite::onlyWhatACrashLeftIsRemoved()
+{
+    const QStringList kept = {QStringLiteral("file"),          QStringLiteral("file.bak"),
+                              QStringLiteral("file.damaged"),  QStringLiteral("file.damaged-2"),
+                              QStringLiteral("file.unusable"), QStringLiteral("other.AbCdEf")};
+    for (const QString &name : kept) {
+        make(path(name));
+    }
+    make(path(QStringLiteral("file.AbCdEf")));
+    make(path(QStringLiteral("file.bak.uVwXyZ")));
+    removeUnfinishedWrites(path(QStringLiteral("file")));
+    QCOMPARE(names(), kept);
+}
+
+QTEST_GUILESS_MAIN(TestAtomicWrite)
+#include "tst_atomicwrite.moc"

@@ -1,0 +1,132 @@
+#include "host/presets/folderlock.h"
+#include "tests/host/forkedprocess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSysInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+#include <optional>
+
+namespace {
+
+const QString granted = QStringLiteral("granted");
+
+} // namespace
+
+class TestFolderLock : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_temporary.emplace(); }
+
+    void theFolderIsMade();
+    void theHolderIsNamed();
+    void whatTheFileSaysLocksNobodyOut_data();
+    void whatTheFileSaysLocksNobodyOut();
+    void aHolderThatIsKilledHoldsNothing();
+    void aWaitIsToldAndEndsWithTheHolder();
+    void aFolderThatCannotBeIsSaid();
+
+private:
+    QString folder() const { return m_temporary->filePath(QStringLiteral("config")); }
+    QString lockFile() const { return folder() + QStringLiteral("/vexconvert.lock"); }
+    std::unique_ptr<ForkedProcess> holder() const
+    {
+        return std::make_unique<ForkedProcess>([this](const auto &tell) {
+            FolderLock lock;
+            const QString refusal = lock.lock(folder(), 0);
+            tell(refusal.isEmpty() ? QString::number(QCoreApplication::applicationPid())
+                                   : QString());
+        });
+    }
+
+    std::optional<QTemporaryDir> m_temporary;
+};
+
+void TestFolderLock::theFolderIsMade()
+{
+    FolderLock lock;
+    QCOMPARE(lock.lock(folder(), 0), QString());
+    QVERIFY(lock.isLocked());
+    QVERIFY(QDir(folder()).exists());
+    lock.release();
+    QVERIFY(!lock.isLocked());
+}
+
+void TestFolderLock::theHolderIsNamed()
+{
+    const auto other = holder();
+    QVERIFY(!other->told().isEmpty());
+    FolderLock lock;
+    QCOMPARE(lock.lock(folder(), 0),
+             QStringLiteral("tst_folderlock (process %1 on %2) is using the presets in %3; close "
+                            "it, or try again when it is done")
+                 .arg(other->told(), QSysInfo::machineHostName(), folder()));
+    QVERIFY(!lock.isLocked());
+}
+
+void TestFolderLock::whatTheFileSaysLocksNobodyOut_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("garbage") << QByteArray("\0\xff\n\n\n", 5);
+    QTest::newRow("another machine") << QByteArray("1\nvexconvert\nanother-machine\n");
+    QTest::newRow("a process that lives")
+        << QByteArray("1\nvexconvert\n") + QSysInfo::machineHostName().toLocal8Bit() + '\n';
+}
+
+void TestFolderLock::whatTheFileSaysLocksNobodyOut()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(QDir().mkpath(folder()));
+    QFile file(lockFile());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+    file.close();
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    FolderLock lock;
+    QCOMPARE(lock.lock(folder(), 0), QString());
+}
+
+void TestFolderLock::aHolderThatIsKilledHoldsNothing()
+{
+    const auto other = holder();
+    QVERIFY(!other->told().isEmpty());
+    FolderLock lock;
+    QVERIFY(!lock.lock(folder(), 0).isEmpty());
+    other->endWithoutGoodbye();
+    QCOMPARE(lock.lock(folder(), 0), QString());
+}
+
+void TestFolderLock::aWaitIsToldAndEndsWithTheHolder()
+{
+    const auto other = holder();
+    QVERIFY(!other->told().isEmpty());
+    QStringList told;
+    FolderLock lock;
+    constexpr int patience = 60000;
+    QCOMPARE(lock.lock(folder(), patience,
+                       [&told, &other](const QString &line) {
+                           told << line;
+                           other->endWithoutGoodbye();
+                       }),
+             QString());
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told.constFirst().startsWith(QStringLiteral("waiting for tst_folderlock (process ")),
+             qUtf8Printable(told.constFirst()));
+}
+
+void TestFolderLock::aFolderThatCannotBeIsSaid()
+{
+    FolderLock lock;
+    QCOMPARE(lock.lock(QStringLiteral("/dev/null/config"), 0),
+             QStringLiteral("can't write into the configuration folder /dev/null/config (Not a "
+                            "directory); name another one"));
+}
+
+QTEST_GUILESS_MAIN(TestFolderLock)
+#include "tst_folderlock.moc"

@@ -1,0 +1,289 @@
+#include "host/presets/userfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <optional>
+
+namespace {
+
+const QByteArray good = "[ { \"id\": \"1001\" } ]";
+const QByteArray other = "[ { \"id\": \"1002\" } ]";
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+}
+
+void make(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+QJsonArray list(const QByteArray &json)
+{
+    return QJsonDocument::fromJson(json).array();
+}
+
+} // namespace
+
+class TestUserFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void aDamagedFileGivesWayToItsGoodCopy_data();
+    void aDamagedFileGivesWayToItsGoodCopy();
+    void withoutAGoodCopyItStaysAndIsSaid_data();
+    void withoutAGoodCopyItStaysAndIsSaid();
+    void withoutAGoodCopyItIsPutAsideOnDemand();
+    void whatWasPutAsideBeforeStays();
+    void goodAndMissingFilesNeedNothing();
+    void aFolderInItsPlaceIsRefused();
+
+    void aReplacedFileHasItsCopyBeside();
+    void whatAnotherProgramWroteIsKept_data();
+    void whatAnotherProgramWroteIsKept();
+    void permissionsAreKept();
+
+    void unusablePresetsAreKeptOnce();
+    void whatNoReaderTakesIsUnusable_data();
+    void whatNoReaderTakesIsUnusable();
+
+private:
+    QString aside(const QString &ending) const { return m_path + ending; }
+    QStringList names() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+
+    std::optional<QTemporaryDir> m_folder;
+    QString m_path;
+};
+
+void TestUserFile::init()
+{
+    m_folder.emplace();
+    m_path = m_folder->filePath(QStringLiteral("formatCache.json"));
+}
+
+void TestUserFile::aDamagedFileGivesWayToItsGoodCopy_data()
+{
+    QTest::addColumn<QByteArray>("damage");
+    QTest::addColumn<QString>("note");
+    const QString kept =
+        QStringLiteral(" was damaged; its last good copy, formatCache.json.bak, is "
+                       "in its place, and the damaged file is kept as "
+                       "formatCache.json.damaged");
+    QTest::newRow("cut") << QByteArray("[ { \"id\": \"10") << kept;
+    QTest::newRow("no JSON") << QByteArray("\0\0\0\0", 4) << kept;
+    QTest::newRow("no list") << QByteArray("{}") << kept;
+    QTest::newRow("empty")
+        << QByteArray()
+        << QStringLiteral(" was empty; its last good copy, formatCache.json.bak, is in its place");
+    QTest::newRow("missing") << QByteArray("missing")
+                             << QStringLiteral(" was missing; its last good copy, "
+                                               "formatCache.json.bak, is in its place");
+}
+
+void TestUserFile::aDamagedFileGivesWayToItsGoodCopy()
+{
+    QFETCH(QByteArray, damage);
+    QFETCH(QString, note);
+    const UserFile file(m_path);
+    make(file.copyPath(), good);
+    if (damage != "missing") {
+        make(m_path, damage);
+    }
+    QVERIFY(file.complaint().startsWith(m_path + QStringLiteral(" is ")));
+    QVERIFY(file.complaint().contains(QStringLiteral("its last good copy, formatCache.json.bak")));
+
+    const UserFile::Recovery recovery = file.recover(UserFile::StaysInPlace);
+    QCOMPARE(recovery.note, m_path + note);
+    QCOMPARE(recovery.error, QString());
+    QCOMPARE(contentOf(m_path), good);
+    QCOMPARE(contentOf(file.copyPath()), good);
+    const bool isKept = note.contains(QStringLiteral("is kept as"));
+    QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), isKept ? damage : "missing");
+    QCOMPARE(file.complaint(), QString());
+    QCOMPARE(file.recover(UserFile::StaysInPlace).note, QString());
+}
+
+void TestUserFile::withoutAGoodCopyItStaysAndIsSaid_data()
+{
+    QTest::addColumn<QByteArray>("damage");
+    QTest::addColumn<QString>("complaint");
+    QTest::newRow("cut") << QByteArray("[")
+                         << QStringLiteral(" is damaged and there is no good copy of it; fix it, "
+                                           "or move it away to start anew");
+    QTest::newRow("empty") << QByteArray()
+                           << QStringLiteral(" is empty and there is no good copy of it; remove "
+                                             "it to start anew");
+}
+
+void TestUserFile::withoutAGoodCopyItStaysAndIsSaid()
+{
+    QFETCH(QByteArray, damage);
+    QFETCH(QString, complaint);
+    const UserFile file(m_path);
+    make(m_path, damage);
+    make(file.copyPath(), "[");
+    QCOMPARE(file.complaint(), m_path + complaint);
+    QCOMPARE(file.recover(UserFile::StaysInPlace).error, m_path + complaint);
+    QCOMPARE(contentOf(m_path), damage);
+    QCOMPARE(names().size(), 2);
+}
+
+void TestUserFile::withoutAGoodCopyItIsPutAsideOnDemand()
+{
+    const UserFile file(m_path);
+    make(m_path, "[");
+    const UserFile::Recovery recovery = file.recover(UserFile::IsPutAside);
+    QCOMPARE(recovery.note, m_path + QStringLiteral(" was damaged and there is no good copy of "
+                                                    "it; it is kept as formatCache.json.damaged"));
+    QCOMPARE(recovery.error, QString());
+    QCOMPARE(names(), QStringList{QStringLiteral("formatCache.json.damaged")});
+    QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("["));
+}
+
+void TestUserFile::whatWasPutAsideBeforeStays()
+{
+    const UserFile file(m_path);
+    for (const QByteArray &damage : {QByteArray("[1"), QByteArray("[2"), QByteArray("[3")}) {
+        make(m_path, damage);
+        QCOMPARE(file.recover(UserFile::IsPutAside).error, QString());
+    }
+    QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("[1"));
+    QCOMPARE(contentOf(aside(QStringLiteral(".damaged-2"))), QByteArray("[2"));
+    QCOMPARE(contentOf(aside(QStringLiteral(".damaged-3"))), QByteArray("[3"));
+}
+
+void TestUserFile::goodAndMissingFilesNeedNothing()
+{
+    const UserFile file(m_path);
+    QCOMPARE(file.complaint(), QString());
+    QCOMPARE(file.recover(UserFile::StaysInPlace).note, QString());
+    QCOMPARE(names(), QStringList());
+
+    make(m_path, "[]");
+    make(file.copyPath(), good);
+    QCOMPARE(file.complaint(), QString());
+    QCOMPARE(file.recover(UserFile::StaysInPlace).note, QString());
+    QCOMPARE(contentOf(m_path), QByteArray("[]"));
+}
+
+void TestUserFile::aFolderInItsPlaceIsRefused()
+{
+    const UserFile file(m_path);
+    make(file.copyPath(), good);
+    QVERIFY(QDir().mkdir(m_path));
+    const QString refusal = m_path + QStringLiteral(" is no file; move it away");
+    QCOMPARE(file.complaint(), refusal);
+    QCOMPARE(file.recover(UserFile::IsPutAside).error, refusal);
+    QCOMPARE(file.replace(other), refusal);
+    QVERIFY(QFileInfo(m_path).isDir());
+}
+
+void TestUserFile::aReplacedFileHasItsCopyBeside()
+{
+    const UserFile file(m_path);
+    QCOMPARE(file.replace(good), QString());
+    QCOMPARE(contentOf(m_path), good);
+    QCOMPARE(contentOf(file.copyPath()), good);
+    QCOMPARE(file.replace(other), QString());
+    QCOMPARE(contentOf(m_path), other);
+    QCOMPARE(contentOf(file.copyPath()), other);
+    QCOMPARE(names().size(), 2);
+}
+
+void TestUserFile::whatAnotherProgramWroteIsKept_data()
+{
+    QTest::addColumn<QByteArray>("written");
+    QTest::addColumn<QString>("keptAs");
+    QTest::newRow("a list") << QByteArray("[ 4711 ]") << QStringLiteral(".changed");
+    QTest::newRow("no list") << QByteArray("[ 47") << QStringLiteral(".damaged");
+}
+
+void TestUserFile::whatAnotherProgramWroteIsKept()
+{
+    QFETCH(QByteArray, written);
+    QFETCH(QString, keptAs);
+    const UserFile file(m_path);
+    QCOMPARE(file.replace(good), QString());
+    make(m_path, written);
+    QCOMPARE(file.replace(other), QString());
+    QCOMPARE(contentOf(m_path), other);
+    QCOMPARE(contentOf(aside(keptAs)), written);
+}
+
+void TestUserFile::permissionsAreKept()
+{
+    const UserFile file(m_path);
+    make(m_path, good);
+    const auto userOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QVERIFY(QFile::setPermissions(m_path, userOnly));
+    QCOMPARE(file.recover(UserFile::StaysInPlace).error, QString());
+    QCOMPARE(file.replace(other), QString());
+    QCOMPARE(QFile::permissions(m_path), userOnly);
+    QCOMPARE(QFile::permissions(file.copyPath()), userOnly);
+}
+
+void TestUserFile::unusablePresetsAreKeptOnce()
+{
+    const UserFile file(m_path);
+    make(m_path, good);
+    QCOMPARE(file.keepUnusable({}).note, QString());
+    QCOMPARE(names().size(), 1);
+
+    const QString note = m_path + QStringLiteral(" holds presets without settings "
+                                                 "(\"outPutNode\"), which can't be used; they are "
+                                                 "kept in formatCache.json.unusable");
+    const QString beside = aside(QStringLiteral(".unusable"));
+    QCOMPARE(file.keepUnusable(list("[1, 2]")).note, note);
+    QCOMPARE(file.keepUnusable(list("[2]")).note, QString());
+    QCOMPARE(file.keepUnusable(list("[2, 3]")).note, note);
+    QCOMPARE(list(contentOf(beside)), list("[1, 2, 3]"));
+
+    make(beside, "damaged");
+    const UserFile::Recovery refused = file.keepUnusable(list("[4]"));
+    QCOMPARE(refused.note, QString());
+    QVERIFY(refused.error.startsWith(beside));
+    QCOMPARE(contentOf(beside), QByteArray("damaged"));
+}
+
+void TestUserFile::whatNoReaderTakesIsUnusable_data()
+{
+    QTest::addColumn<QByteArray>("formats");
+    QTest::addColumn<QByteArray>("unusable");
+    const auto row = [](const char *name, const char *formats, const char *unusable) {
+        QTest::newRow(name) << QByteArray(formats) << QByteArray(unusable);
+    };
+    row("a preset with settings", R"([{"title": "MP4", "group": [{"outPutNode": {"a": 1}}]}])",
+        "[]");
+    row("no settings", R"([{"title": "MP4", "group": [{"id": "1"}, {"outPutNode": {"a": 1}}]}])",
+        R"([{"title": "MP4", "group": [{"id": "1"}]}])");
+    row("empty settings", R"([{"group": [{"outPutNode": {}}]}])",
+        R"([{"group": [{"outPutNode": {}}]}])");
+    row("settings of a wrong type", R"([{"group": [{"outPutNode": "a"}]}])",
+        R"([{"group": [{"outPutNode": "a"}]}])");
+    row("no preset", R"([{"group": [7]}])", R"([{"group": [7]}])");
+    row("no format", R"([7])", R"([7])");
+    row("no group", R"([{"title": "MP4"}])", "[]");
+    row("group of a wrong type", R"([{"title": "MP4", "group": {"id": "1"}}])",
+        R"([{"title": "MP4", "group": {"id": "1"}}])");
+}
+
+void TestUserFile::whatNoReaderTakesIsUnusable()
+{
+    QFETCH(QByteArray, formats);
+    QFETCH(QByteArray, unusable);
+    QCOMPARE(unusableFormats(list(formats)), list(unusable));
+}
+
+QTEST_GUILESS_MAIN(TestUserFile)
+#include "tst_userfile.moc"
