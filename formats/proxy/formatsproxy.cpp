@@ -144,8 +144,12 @@ void FormatsProxy::uninit()
     if (d->configDir.isEmpty()) {
         return;
     }
-    d->save(recentlyFile, d->recentlyModel->toVariantListForSave());
-    d->save(userPresetsFile, d->formatListModel->toVariantListForSave());
+    if (d->recentlyModel) {
+        d->save(recentlyFile, d->recentlyModel->toVariantListForSave());
+    }
+    if (d->formatListModel) {
+        d->save(userPresetsFile, d->formatListModel->toVariantListForSave());
+    }
 }
 
 QList<QVariant> FormatsProxy::formatTags() const
@@ -184,6 +188,10 @@ FormatDetailModel *FormatsProxy::recentlyFormatsModel()
 
 bool FormatsProxy::add2Recently(const QString &tagName, const QString &className, const QString &id)
 {
+    FormatDetailModel *recently = d->recentlyModel;
+    if (!recently) {
+        return false;
+    }
     const FormatDetailModelData *source = d->find(tagName, className, id);
     if (!source) {
         return true;
@@ -191,7 +199,6 @@ bool FormatsProxy::add2Recently(const QString &tagName, const QString &className
     FormatDetailModelData preset = *source;
     // Only user-defined presets are saved, and the recently-used ones are to be.
     preset.userDefine = true;
-    FormatDetailModel *recently = d->recentlyModel;
     const bool moved = recently->delModelInfoByKey(preset.id);
     if (!moved && recently->rowCount() >= d->maxRecentlyCount) {
         recently->delModeInfo(recently->rowCount() - 1);
@@ -202,13 +209,13 @@ bool FormatsProxy::add2Recently(const QString &tagName, const QString &className
 
 bool FormatsProxy::delFromRecently(const QString &id)
 {
-    return d->recentlyModel->delModelInfoByKey(id);
+    return d->recentlyModel && d->recentlyModel->delModelInfoByKey(id);
 }
 
 QString FormatsProxy::addUserDefineFormat(const QString & /*tagName*/, const QString &className,
                                           const QString &id, const QVariantMap &param)
 {
-    FormatDetailModel *presets = d->formatListModel->formatDetailModel(className);
+    FormatDetailModel *presets = d->catalogue().formatDetailModel(className);
     FormatDetailModelData preset;
     if (!presets || !presets->getModelInfoById(id, preset)) {
         return QString();
@@ -227,7 +234,7 @@ QString FormatsProxy::addUserDefineFormat(const QString & /*tagName*/, const QSt
 bool FormatsProxy::changeUserDefineFormat(const QString &className, const QString &id,
                                           const QVariantMap &param)
 {
-    FormatDetailModel *presets = d->formatListModel->formatDetailModel(className);
+    FormatDetailModel *presets = d->catalogue().formatDetailModel(className);
     if (!presets) {
         return true;
     }
@@ -244,7 +251,7 @@ bool FormatsProxy::changeUserDefineFormat(const QString &className, const QStrin
 bool FormatsProxy::delUserDefineFormat(const QString & /*tagName*/, const QString &className,
                                        const QString &id)
 {
-    FormatDetailModel *presets = d->formatListModel->formatDetailModel(className);
+    FormatDetailModel *presets = d->catalogue().formatDetailModel(className);
     if (!presets || !presets->delModelInfoByKey(id)) {
         return false;
     }
@@ -291,13 +298,13 @@ bool FormatsProxy::isSupportMultiTrack(const QString &id) const
 
 QString FormatsProxy::getTagName(const QString &id) const
 {
-    return d->formatListModel->getTagName(id);
+    return d->catalogue().getTagName(id);
 }
 
 QVariantMap FormatsProxy::getTagAndClassById(const QString &id) const
 {
-    const QString tag = d->formatListModel->getTagName(id);
-    const QString className = d->formatListModel->getGetClass(id);
+    const QString tag = d->catalogue().getTagName(id);
+    const QString className = d->catalogue().getGetClass(id);
     if (tag.isEmpty() || className.isEmpty()) {
         return QVariantMap();
     }
@@ -306,7 +313,7 @@ QVariantMap FormatsProxy::getTagAndClassById(const QString &id) const
 
 QString FormatsProxy::getClassIconById(const QString &id) const
 {
-    return d->formatListModel->getIcon(id);
+    return d->catalogue().getIcon(id);
 }
 
 int FormatsProxy::getUserDefineCount(const QString &tagName, const QString &className) const
@@ -314,20 +321,20 @@ int FormatsProxy::getUserDefineCount(const QString &tagName, const QString &clas
     if (tagName.isEmpty() || className.isEmpty() || tagName == QLatin1String("recently")) {
         return -1;
     }
-    const FormatDetailModel *presets = d->formatListModel->formatDetailModel(className);
+    const FormatDetailModel *presets = d->catalogue().formatDetailModel(className);
     return presets ? presets->userDefineCount() : -1;
 }
 
 bool FormatsProxy::isFormatInRecently(const QString &id) const
 {
-    return d->recentlyModel->containId(id);
+    return d->recentlyModel && d->recentlyModel->containId(id);
 }
 
 QVariantList FormatsProxy::getSupportAudioLisrfromType(const QString &type) const
 {
     const QVariantList fallback{QStringLiteral("320"), QStringLiteral("256"),
                                 QStringLiteral("128")};
-    const FormatDetailModel *presets = d->formatListModel->formatDetailModel(type.toUpper());
+    const FormatDetailModel *presets = d->catalogue().formatDetailModel(type.toUpper());
     FormatDetailModelData first;
     if (!presets || !presets->getModelInfoByIndex(0, first) || first.userDefine) {
         return fallback;
@@ -344,13 +351,13 @@ QVariantList FormatsProxy::getSupportAudioLisrfromType(const QString &type) cons
 
 bool FormatsProxy::isVideoType(const QString &format) const
 {
-    return d->formatListModel->isVideoType(format);
+    return d->catalogue().isVideoType(format);
 }
 
 QMap<QString, QVariant> FormatsProxy::getFitAudioFormatByBitrate(const QString &formatTitle,
                                                                  const QString &bitrate) const
 {
-    const FormatDetailModel *presets = d->formatListModel->formatDetailModel(formatTitle);
+    const FormatDetailModel *presets = d->catalogue().formatDetailModel(formatTitle);
     ClosestPreset closest;
     FormatDetailModelData preset;
     for (int row = 0; presets && presets->getModelInfoByIndex(row, preset); ++row) {
@@ -363,7 +370,7 @@ QMap<QString, QVariant> FormatsProxy::getFitVideoFormatByName(const QString &for
                                                               const QString &presetTitle,
                                                               const QString &bitrateCap) const
 {
-    const FormatDetailModel *presets = d->formatListModel->formatDetailModel(formatTitle);
+    const FormatDetailModel *presets = d->catalogue().formatDetailModel(formatTitle);
     FormatDetailModelData preset;
     int row = 0;
     while (presets && presets->getModelInfoByIndex(row, preset) &&
@@ -391,7 +398,7 @@ QMap<QString, QVariant> FormatsProxy::getFitVideoFormatByName(const QString &for
 
 bool FormatsProxy::getSupportFormat(const QString &format) const
 {
-    return d->formatListModel->formatList().contains(format.toUpper());
+    return d->catalogue().formatList().contains(format.toUpper());
 }
 
 QMap<QString, QVariant> FormatsProxy::getConverterParameters(const QString &type,
@@ -410,7 +417,7 @@ QMap<QString, QVariant> FormatsProxy::getConverterParameters(const QString &type
     }
 
     const QString source = QStringLiteral("0");
-    const FormatDetailModel *presets = d->formatListModel->formatDetailModel(name.toUpper());
+    const FormatDetailModel *presets = d->catalogue().formatDetailModel(name.toUpper());
     ClosestPreset closest;
     FormatDetailModelData preset;
     for (int row = 0; presets && presets->getModelInfoByIndex(row, preset); ++row) {

@@ -39,12 +39,18 @@ void FormatsProxyPrivate::save(QLatin1String fileName, const QVariantList &list)
     write2Local(configPath(fileName), QString::fromUtf8(json));
 }
 
+const FormatListModel &FormatsProxyPrivate::catalogue() const
+{
+    static const FormatListModel empty;
+    return formatListModel ? *formatListModel : empty;
+}
+
 const FormatDetailModelData *
 FormatsProxyPrivate::find(const QString &tagName, const QString &className, const QString &id) const
 {
     const FormatDetailModel *presets = tagName == QLatin1String("recently")
                                            ? recentlyModel
-                                           : formatListModel->formatDetailModel(className);
+                                           : catalogue().formatDetailModel(className);
     return presets ? presets->find(id) : nullptr;
 }
 
@@ -58,7 +64,7 @@ const FormatDetailModelData *FormatsProxyPrivate::findInCatalogue(const QString 
     if (className) {
         *className = title;
     }
-    return formatListModel->formatDetailModel(title)->find(id);
+    return catalogue().formatDetailModel(title)->find(id);
 }
 
 void FormatsProxyPrivate::updateFormatDetailModelDataByAudioBitrate(FormatDetailModelData &preset,

@@ -15,7 +15,11 @@ class FormatListModelProxy;
 class FormatsProxy;
 class IFormatsParser;
 
-/*! What the facade keeps. Models and parser are children of the facade, which never lacks them. */
+/*!
+ * What the facade keeps. Models and parser are children of the facade. The format list and the
+ * recently-used list may be null: such a list counts as empty, add2Recently() fails without its
+ * list, and uninit() leaves the file of a missing list alone.
+ */
 class VEX_FORMATS_EXPORT FormatsProxyPrivate
 {
     Q_DISABLE_COPY(FormatsProxyPrivate)
@@ -41,6 +45,8 @@ private:
 
     Q_DECL_HIDDEN QString configPath(QLatin1String fileName) const;
     Q_DECL_HIDDEN void save(QLatin1String fileName, const QVariantList &list);
+    // The format list, and an empty one where there is none.
+    Q_DECL_HIDDEN const FormatListModel &catalogue() const;
     // Both null when there is no such preset, and valid until its list changes.
     Q_DECL_HIDDEN const FormatDetailModelData *
     find(const QString &tagName, const QString &className, const QString &id) const;
