@@ -9,6 +9,8 @@ TestCase {
     property var catalogue: Catalogue.sample()
     property RecordingHost host: null
     property var screen: null
+    /*! How long a state may take to come, in ms: a busy machine is slow. */
+    readonly property int patience: 60000
     readonly property QtObject theme: root.host ? root.host.themeManager.curTheme : null
 
     function init() {
@@ -30,12 +32,17 @@ TestCase {
     }
 
     function cleanup() {
+        root.letGo()
+        compare(bench.end(), [])
+    }
+
+    /*! The host lets the screen go, whatever the screen is doing. */
+    function letGo() {
         if (root.screen) {
             root.screen.destroy()
             root.screen = null
         }
         wait(0)
-        compare(bench.end(), [])
     }
 
     /*! A new picker, not yet opened. */
@@ -49,7 +56,7 @@ TestCase {
     function openPicker(properties) {
         const page = root.picker(properties)
         page.open()
-        tryCompare(page, "opened", true)
+        waitFor(page, "opened", true)
         compare(root.host.elapse(), [100])
         root.settle()
         return page
@@ -61,7 +68,7 @@ TestCase {
             "openTheWay": true, "fromPAGE": "Converter", "closeItem": null, "userDefine": false
         }, info)
         root.screen = root.create("DetailedParameterEditingMsgBox", {})
-        tryVerify(function () { return root.host.calls.length > 0 })
+        root.waitForCall()
         root.settle()
         return root.screen
     }
@@ -72,10 +79,28 @@ TestCase {
         return component.createObject(root, properties)
     }
 
+    function waitFor(object, property, value) {
+        tryCompare(object, property, value, root.patience)
+    }
+
+    function waitForCall() {
+        tryVerify(function () { return root.host.calls.length > 0 }, root.patience)
+    }
+
     /*! Lets the scene take up what changed. */
     function settle() {
         wait(0)
-        grabImage(root)
+        root.waitForRest()
+    }
+
+    /*! Whoever looks for an item or measures it waits here until all are built and laid out. */
+    function waitForRest() {
+        tryVerify(function () {
+            if (!bench.isAtRest(root)) {
+                grabImage(root)
+            }
+            return bench.isAtRest(root)
+        }, root.patience, "the scene comes to rest")
     }
 
     function formats() {
@@ -91,7 +116,7 @@ TestCase {
     }
 
     function shownTexts(item) {
-        return root.shown(item || root.contents(), function (child) {
+        return root.shown(item, function (child) {
             return child.text !== undefined && child.elide !== undefined
         })
     }
@@ -108,13 +133,14 @@ TestCase {
 
     /*! Where \a item lies in \a frame, as [x, y, width, height]. */
     function place(item, frame) {
+        root.waitForRest()
         const position = item.mapToItem(frame, 0, 0)
         return [position.x, position.y, item.width, item.height]
     }
 
     /*! The shown items of the type \a type in \a item, first to last. */
     function all(type, item) {
-        return root.shown(item || root.contents(), function (child) {
+        return root.shown(item, function (child) {
             return [type + "_QML", type + "("].some(function (start) {
                 return String(child).startsWith(start)
             })
@@ -129,14 +155,22 @@ TestCase {
         return root.all("QQuickImage", item)
     }
 
+    /*! The shown items in \a item, or in the screen, that \a matches is true of. */
     function shown(item, matches) {
-        let found = []
-        for (let index = 0; index < item.children.length; ++index) {
-            const child = item.children[index]
-            if (child.visible) {
-                found = found.concat(matches(child) ? [child] : [], root.shown(child, matches))
+        root.waitForRest()
+        const found = []
+        const collect = function (parent) {
+            for (let index = 0; index < parent.children.length; ++index) {
+                const child = parent.children[index]
+                if (child.visible) {
+                    if (matches(child)) {
+                        found.push(child)
+                    }
+                    collect(child)
+                }
             }
         }
+        collect(item || root.contents())
         return found
     }
 

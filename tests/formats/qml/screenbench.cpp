@@ -3,6 +3,11 @@
 #include "tests/formats/fakecatalogue.h"
 
 #include <QQmlContext>
+#include <QQmlIncubationController>
+#include <QQuickWindow>
+#include <QtQuickTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -15,6 +20,13 @@ QList<FakeCatalogue::Group> readGroups(const QVariantList &groups)
                        group.value(QStringLiteral("contents")).toList()});
     }
     return result;
+}
+
+bool awaitsPolish(QQuickItem *item)
+{
+    const QList<QQuickItem *> children = item->childItems();
+    return QQuickTest::qIsPolishScheduled(item) ||
+           std::any_of(children.cbegin(), children.cend(), awaitsPolish);
 }
 
 } // namespace
@@ -48,6 +60,13 @@ QStringList ScreenBench::end()
     m_log.reset();
     m_facade.reset();
     return messages;
+}
+
+bool ScreenBench::isAtRest(QQuickItem *item) const
+{
+    const QQmlIncubationController *builder = m_engine->incubationController();
+    return (!builder || builder->incubatingObjectCount() == 0) &&
+           !awaitsPolish(item->window()->contentItem());
 }
 
 void ScreenBench::publish(const QString &contextName, const QVariant &value)

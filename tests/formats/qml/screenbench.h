@@ -5,6 +5,7 @@
 #include "tests/support/messagelog.h"
 
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QVariant>
 
 #include <memory>
@@ -28,6 +29,8 @@ public:
     Q_INVOKABLE void begin(const QVariantList &catalogue);
     /*! Lets the facade go, and returns what was logged since begin(). */
     Q_INVOKABLE QStringList end();
+    /*! Whether the window of \a item has nothing left to build and to lay out. */
+    Q_INVOKABLE bool isAtRest(QQuickItem *item) const;
     Q_INVOKABLE void publish(const QString &contextName, const QVariant &value);
 
 private:

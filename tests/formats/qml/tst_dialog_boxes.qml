@@ -141,7 +141,7 @@ ScreenTest {
         compare(dialog.isChange, false)
         const box = boxes()[row.box]
         mouseClick(box)
-        tryCompare(box.popup, "opened", true)
+        waitFor(box.popup, "opened", true)
         const before = box.currentIndex
         press(Qt.Key_Up)
         press(Qt.Key_Return)
@@ -200,7 +200,7 @@ ScreenTest {
         compare(dialog.curQuality, "Default")
         host.elapse()
         mouseClick(boxes()[3])
-        tryCompare(boxes()[3].popup, "opened", true)
+        waitFor(boxes()[3].popup, "opened", true)
         press(Qt.Key_Up)
         press(Qt.Key_Return)
         compare(dialog.curQuality, "Default")

@@ -65,10 +65,10 @@ ScreenTest {
         host.takeCalls()
         dialog.width = 700
         dialog.height = 600
-        tryVerify(function () { return host.calls.length > 0 })
+        waitForCall()
         compare(host.takeCalls(), [["frame.resizeWinSize", 700, 600]])
         dialog.height = 610
-        tryVerify(function () { return host.calls.length > 0 })
+        waitForCall()
         compare(host.takeCalls(), [["frame.resizeWinSize", 700, 610]])
     }
 

@@ -60,7 +60,7 @@ ScreenTest {
             return preset.selected
         }))
         compare(calls(), [row.call])
-        tryCompare(page, "opened", false)
+        waitFor(page, "opened", false)
         // Recording it is the host's business.
         compare(recents().count, row.list === "RecentlyRow" ? 1 : 0)
     }
@@ -96,7 +96,7 @@ ScreenTest {
         compare(Object.keys(map).length, 8)
         verify(page.opened)
         presetRow.colseItem()
-        tryCompare(page, "opened", false)
+        waitFor(page, "opened", false)
     }
 
     function test_everyPresetHasAPencilAndTheUsersOwnABin() {

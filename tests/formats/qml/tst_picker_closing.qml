@@ -9,13 +9,13 @@ ScreenTest {
     function test_aPressOutsideCloses() {
         const page = openPicker({ openWay: true })
         mouseClick(root, 20, 20)
-        tryCompare(page, "opened", false)
+        waitFor(page, "opened", false)
     }
 
     function test_aPressInsideDoesNotClose() {
         const page = openPicker({ openWay: true })
         mouseClick(contents(), 500, 24)
-        wait(0)
+        settle()
         verify(page.opened)
     }
 
@@ -31,7 +31,7 @@ ScreenTest {
             keyClick(Qt.Key_Down)
         }
         keyClick(Qt.Key_Escape)
-        tryCompare(page, "opened", false)
+        waitFor(page, "opened", false)
     }
 
     function test_closingClearsTheSearchAndKeepsTheTag() {
@@ -41,7 +41,7 @@ ScreenTest {
         keyClick("a")
         compare(formats().searchKey, "a")
         keyClick(Qt.Key_Escape)
-        tryCompare(page, "opened", false)
+        waitFor(page, "opened", false)
         compare(formats().searchKey, "")
         compare(formats().filterKey, "audio")
 
@@ -53,11 +53,9 @@ ScreenTest {
 
     function test_aPickerThatGoesWhileOpenStaysSilent() {
         O_FormatsProxy.add2Recently("video", "MP4", "Video_MP4_002")
-        const page = openPicker({ openWay: true })
+        openPicker({ openWay: true })
         click(named("FormatTag", "~video"))
-        page.destroy()
-        screen = null
-        wait(0)
+        letGo()
         host.converter.signalCreateNewFormatMsgClose("1001")
     }
 }

@@ -4,12 +4,6 @@ import QtTest 1.15
 ScreenTest {
     id: root
 
-    function focused() {
-        return shown(contents(), function (item) {
-            return item.activeFocus && !String(item).startsWith("QQuickItem(")
-        })[0]
-    }
-
     function isShown(ring) {
         return ring.visible && ring.width > 0
     }
@@ -108,7 +102,7 @@ ScreenTest {
         press(Qt.Key_Down, 2)
         keyClick(row.key)
         compare(calls(), [["converter.setConverterGlobalFormat", "Video_MP4_003"]])
-        tryCompare(page, "opened", false)
+        waitFor(page, "opened", false)
     }
 
     function test_enterChoosesTheCurrentRecentlyUsedPreset() {

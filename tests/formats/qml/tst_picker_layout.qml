@@ -140,7 +140,7 @@ ScreenTest {
         verify(presetBar.visible)
         verify(presetBar.active)
         all("PickerList")[1].contentY = 30
-        wait(0)
+        settle()
         verify(presetBar.active)
         click(named("FormatTag", "~audio"))
         verify(!formatBar.visible)

@@ -197,12 +197,9 @@ ScreenTest {
     }
 
     function test_aPickerLetGoBeforeTheScrollStaysSilent() {
-        const page = picker({ openWay: true })
-        page.open()
+        picker({ openWay: true }).open()
         settle()
-        page.destroy()
-        screen = null
-        wait(0)
+        letGo()
         compare(host.elapse(), [100])
     }
 

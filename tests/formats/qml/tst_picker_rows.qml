@@ -37,7 +37,7 @@ ScreenTest {
         })
         check(row)
         row.destroy()
-        wait(0)
+        settle()
     }
 
     function iconOf(row) {
