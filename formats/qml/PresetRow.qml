@@ -15,7 +15,6 @@ PresetRowBase {
     readonly property var listID: root.page.listId
     readonly property var openTheWay: root.page.openWay
     readonly property var fromPAGE: root.page.fromPage
-    readonly property bool isAudio: root.page.selectTag === "audio"
 
     function colseItem() {
         root.page.close()
@@ -42,9 +41,10 @@ PresetRowBase {
 
     implicitHeight: 64
     title: root.shownTitle()
-    quality: root.isAudio ? root.shownSetting(root.model.audioBitrate, " kbps")
-                          : root.shownSetting(root.model.videoResolution, "")
-    encoder: root.shownEncoders(root.isAudio)
+    // The tag decides on the quality, the preset on its encoders.
+    quality: root.page.selectTag === "audio" ? root.shownSetting(root.model.audioBitrate, " kbps")
+                                             : root.shownSetting(root.model.videoResolution, "")
+    encoder: root.shownEncoders()
     icon: "./image/" + O_FormatsProxy.getClassIconById(root.presetId) + ".svg"
     titleWidth: 174
     valueWidth: 100

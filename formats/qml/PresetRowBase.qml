@@ -21,6 +21,8 @@ Rectangle {
 
     readonly property string presetId: root.model.id
     readonly property bool selected: root.page.curId === root.presetId
+    readonly property bool isVideo: root.model.videoResolutions !== undefined
+                                    && root.model.videoResolutions.length > 0
 
     function choose() {
         root.page.choose(root.presetId)
@@ -35,10 +37,10 @@ Rectangle {
         return value === "0" || value === 0 ? ToolFun.tr("Smart Fit") : value + unit
     }
 
-    function shownEncoders(isAudio) {
+    function shownEncoders() {
         const video = root.model.videoEncoder
         const audio = root.model.audioEncoder
-        if (isAudio || (video === "0" && audio === "0")) {
+        if (!root.isVideo || (video === "0" && audio === "0")) {
             return root.shownSetting(audio, "")
         }
         return root.shownSetting(video, "") + ", " + root.shownSetting(audio, "")

@@ -7,8 +7,6 @@ import "."
 PresetRowBase {
     id: root
 
-    readonly property bool isVideo: root.model.videoResolutions !== undefined
-                                    && root.model.videoResolutions.length > 0
     readonly property string formatIcon: O_FormatsProxy.getClassIconById(root.presetId)
 
     function remove() {
@@ -23,7 +21,7 @@ PresetRowBase {
     }
     quality: root.isVideo ? root.shownSetting(root.model.videoResolution, "")
                           : root.shownSetting(root.model.audioBitrate, " kbps")
-    encoder: root.shownEncoders(!root.isVideo)
+    encoder: root.shownEncoders()
     icon: root.formatIcon === "" ? "" : "./image/" + root.formatIcon + ".svg"
     titleWidth: 239
     valueWidth: 165

@@ -63,16 +63,33 @@ ScreenTest {
             { tag: "source's audio", category: "Audio",
               preset: audio({ "audioParam": { "encoder": "0", "bitrateKbps": 0 } }),
               texts: ["~Title", "~Smart Fit", "~Smart Fit"] },
-            // The tag decides, not the preset.
+            // The tag decides on the quality, the preset on its encoders.
             { tag: "audio elsewhere", category: "Device", preset: audio({}),
-              texts: ["~Title", "~Smart Fit", "h264, aac"] },
+              texts: ["~Title", "~Smart Fit", "aac"] },
+            { tag: "source's audio elsewhere", category: "Video",
+              preset: audio({ "audioParam": { "encoder": "0" } }),
+              texts: ["~Title", "~Smart Fit", "~Smart Fit"] },
             { tag: "video under audio", category: "Audio", preset: video({}),
-              texts: ["~Title", "128 kbps", "aac"] }
+              texts: ["~Title", "128 kbps", "h264, aac"] },
+            { tag: "without resolutions", category: "Video",
+              preset: video({ "videoOptions": { "resolutionList": [] } }),
+              texts: ["~Title", "1280x720", "aac"] }
         ]
     }
 
     function test_aPresetRowTellsTitleQualityAndEncoder(row) {
         compare(texts(presetRow(row.category, row.preset)), row.texts)
+    }
+
+    function test_thePresetsOfASearchKeepTheirEncoders() {
+        openPicker({ openWay: true })
+        for (const letter of "mp3") {
+            press(letter)
+        }
+        compare(all("PresetRow").map(function (preset) {
+            return texts(preset)
+        }), [["~Keep Orignal", "~Smart Fit", "~Smart Fit"],
+             ["~High Quality", "~Smart Fit", "mp3"]])
     }
 
     function test_aRecentlyUsedRowTellsFormatTitleQualityAndEncoder_data() {
