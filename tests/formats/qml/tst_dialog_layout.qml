@@ -42,10 +42,11 @@ ScreenTest {
                                      idIndex: "Device_Apple_001" }, height: 572 },
             { tag: "audio", info: { format: "audio", curclass: "MP3", idIndex: "Audio_MP3_001" },
               height: 320 },
-            { tag: "video preset under audio", info: { format: "audio" }, height: 320 },
-            { tag: "audio preset under video", info: { curclass: "MP3", idIndex: "Audio_MP3_001" },
-              height: 320 }
-        ]
+            { tag: "video preset under audio", info: { format: "audio" }, height: 320 }
+        ].concat(["video", "device", "socialvideo", "recently"].map(function (tag) {
+            return { tag: "audio preset under " + tag, height: 320,
+                     info: { format: tag, curclass: "MP3", idIndex: "Audio_MP3_001" } }
+        }))
     }
 
     function test_theSizeFollowsTheTag(row) {
@@ -197,19 +198,21 @@ ScreenTest {
     }
 
     function test_aLongLabelWrapsAndGetsSmaller_data() {
-        return [
-            { tag: "Frame Rate", cell: 1, room: 85 },
-            { tag: "Sample Rate", cell: 6, room: 100 }
-        ]
+        return ["Encoder", "Frame Rate", "Resolution", "Bitrate",
+                "Encoder", "Channel", "Sample Rate", "Bitrate"].map(function (label, cell) {
+            // The labels on the right have a box beside them.
+            return { tag: cell + ", " + label, label: label, cell: cell,
+                     room: cell % 2 === 1 ? 85 : 100 }
+        })
     }
 
     function test_aLongLabelWrapsAndGetsSmaller(row) {
         openDialog({})
-        metrics.text = row.tag
+        metrics.text = row.label
         host.mark = ""
         while (metrics.advanceWidth <= row.room) {
             host.mark += "i"
-            metrics.text = host.mark + row.tag
+            metrics.text = host.mark + row.label
         }
         settle()
         const label = shownTexts(all("SettingCell")[row.cell])[0]
@@ -218,6 +221,27 @@ ScreenTest {
         host.mark = host.mark.substring(1)
         settle()
         compare([label.font.pixelSize, label.wrapMode], [12, Text.NoWrap])
+    }
+
+    function test_noLabelReachesTheBoxBesideIt() {
+        openDialog({})
+        const boxes = all("VEXComboBox").map(at)
+        const labels = all("SettingCell").map(function (cell) {
+            return shownTexts(cell)[0]
+        })
+        for (const word of ["i ", "long "]) {
+            host.mark = ""
+            for (let count = 0; count < 30; ++count) {
+                host.mark += word
+                settle()
+                labels.forEach(function (label, cell) {
+                    // A text that is too wide for its label stands out on the left.
+                    const start = at(label)[0] + label.width - label.contentWidth
+                    const end = cell % 2 === 1 ? boxes[cell - 1][0] + boxes[cell - 1][2] : 0
+                    verify(start > end, label.text)
+                })
+            }
+        }
     }
 
     function test_theBottom() {
