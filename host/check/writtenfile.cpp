@@ -167,7 +167,11 @@ void WrittenFile::readPackets(const QByteArray &list)
     for (const QByteArray &line : list.split('\n')) {
         const QList<QByteArray> cells = line.trimmed().split(',');
         if (cells.size() > 1) {
-            streamBytes[cells.at(0).toInt()] += cells.at(1).toLongLong();
+            bool isStream = false;
+            const int stream = cells.at(0).toInt(&isStream);
+            if (isStream && stream >= 0) {
+                streamBytes[stream] += std::max(0, cells.at(1).toInt());
+            }
         }
     }
 }

@@ -1,5 +1,7 @@
 #include "host/convert/progress.h"
 
+#include "host/media/mediafacts.h"
+
 #include <algorithm>
 
 int Progress::percent() const
@@ -9,7 +11,11 @@ int Progress::percent() const
 
 double Progress::timeLeft() const
 {
-    return total > 0 && speed > 0 ? std::max(0.0, total - done) / speed : -1;
+    if (total <= 0 || speed <= 0) {
+        return -1;
+    }
+    const double left = std::max(0.0, total - done) / speed;
+    return left == plausibleSeconds(left) ? left : -1;
 }
 
 bool ProgressReader::feed(const QByteArray &bytes)
@@ -24,12 +30,12 @@ bool ProgressReader::feed(const QByteArray &bytes)
         QByteArray value = line.mid(equals + 1).trimmed();
         if (key == "out_time_us") {
             // ffmpeg writes "N/A" or a huge negative number before the first frame.
-            m_growing.done = std::max(0.0, value.toDouble() / 1e6);
+            m_growing.done = plausibleSeconds(value.toDouble() / 1e6);
         } else if (key == "speed") {
             if (value.endsWith('x')) {
                 value.chop(1);
             }
-            m_growing.speed = std::max(0.0, value.toDouble());
+            m_growing.speed = plausibleSeconds(value.toDouble());
         } else if (key == "progress") {
             m_progress.done = m_growing.done;
             m_progress.speed = m_growing.speed;

@@ -11,6 +11,21 @@
 
 namespace {
 
+// A file can say anything. What lies beyond these limits can't be true and counts as unknown.
+constexpr double longestSeconds = 10 * 366.0 * 24 * 3600;
+constexpr int largestSide = 65536;                // pixels
+constexpr double mostStretchedPixel = 100;        // one side to the other
+constexpr double fastestRate = 1000;              // frames a second
+constexpr int fastestSampling = 10 * 1000 * 1000; // Hz
+constexpr int mostChannels = 512;
+
+/*! \a number where it is one from 0 to \a most, else 0. */
+template <typename Number>
+Number plausible(Number number, Number most)
+{
+    return number >= 0 && number <= most ? number : 0;
+}
+
 QString text(const QJsonObject &object, QLatin1String key)
 {
     return object.value(key).toVariant().toString();
@@ -23,6 +38,9 @@ bool hasDisposition(const QJsonObject &stream, QLatin1String name)
 
 int quarterTurn(double degrees)
 {
+    if (!(std::abs(degrees) <= 360)) {
+        return 0;
+    }
     const int turn = int(std::lround(degrees / 90.0)) * 90 % 360;
     return turn < 0 ? turn + 360 : turn;
 }
@@ -40,28 +58,45 @@ int rotationOf(const QJsonObject &stream)
     return quarterTurn(text(tags, QLatin1String("rotate")).toDouble());
 }
 
+QSize sizeOf(const QJsonObject &stream)
+{
+    const QSize size(plausible(stream.value(QLatin1String("width")).toInt(), largestSide),
+                     plausible(stream.value(QLatin1String("height")).toInt(), largestSide));
+    return size.isEmpty() ? QSize(0, 0) : size;
+}
+
+Ratio pixelAspectOf(const QJsonObject &stream)
+{
+    const Ratio aspect = Ratio::fromText(text(stream, QLatin1String("sample_aspect_ratio")));
+    const double wide = aspect.value();
+    const bool isPlausible = wide >= 1 / mostStretchedPixel && wide <= mostStretchedPixel;
+    return isPlausible ? aspect : Ratio{1, 1};
+}
+
+Ratio frameRateOf(const QJsonObject &stream, QLatin1String key)
+{
+    const Ratio rate = Ratio::fromText(text(stream, key));
+    return rate.value() <= fastestRate ? rate : Ratio();
+}
+
 void readFrameRate(const QJsonObject &stream, VideoTrack &track)
 {
     // With a variable rate the nominal one may be the clock of the time stamps (say 90000).
     constexpr double fastestPlausible = 240;
-    track.frameRate = Ratio::fromText(text(stream, QLatin1String("r_frame_rate")));
+    track.frameRate = frameRateOf(stream, QLatin1String("r_frame_rate"));
     track.hasSteadyRate = track.frameRate.isValid() && track.frameRate.value() <= fastestPlausible;
     if (!track.hasSteadyRate) {
-        track.frameRate = Ratio::fromText(text(stream, QLatin1String("avg_frame_rate")));
+        track.frameRate = frameRateOf(stream, QLatin1String("avg_frame_rate"));
     }
 }
 
 VideoTrack videoTrack(const QJsonObject &stream)
 {
     VideoTrack track;
-    track.index = stream.value(QLatin1String("index")).toInt();
+    track.index = std::max(0, stream.value(QLatin1String("index")).toInt());
     track.codec = text(stream, QLatin1String("codec_name"));
-    track.storedSize = QSize(stream.value(QLatin1String("width")).toInt(),
-                             stream.value(QLatin1String("height")).toInt());
-    const Ratio aspect = Ratio::fromText(text(stream, QLatin1String("sample_aspect_ratio")));
-    if (aspect.isValid()) {
-        track.pixelAspect = aspect;
-    }
+    track.storedSize = sizeOf(stream);
+    track.pixelAspect = pixelAspectOf(stream);
     track.rotation = rotationOf(stream);
     readFrameRate(stream, track);
     track.isDefault = hasDisposition(stream, QLatin1String("default"));
@@ -72,10 +107,11 @@ VideoTrack videoTrack(const QJsonObject &stream)
 AudioTrack audioTrack(const QJsonObject &stream)
 {
     AudioTrack track;
-    track.index = stream.value(QLatin1String("index")).toInt();
+    track.index = std::max(0, stream.value(QLatin1String("index")).toInt());
     track.codec = text(stream, QLatin1String("codec_name"));
-    track.sampleRate = text(stream, QLatin1String("sample_rate")).toInt();
-    track.channels = stream.value(QLatin1String("channels")).toInt();
+    track.sampleRate =
+        plausible(text(stream, QLatin1String("sample_rate")).toInt(), fastestSampling);
+    track.channels = plausible(stream.value(QLatin1String("channels")).toInt(), mostChannels);
     track.hasLayout = stream.contains(QLatin1String("channel_layout"));
     track.isDefault = hasDisposition(stream, QLatin1String("default"));
     return track;
@@ -127,8 +163,8 @@ MediaFacts MediaFacts::fromProbe(const QByteArray &json)
     const QJsonObject probe = QJsonDocument::fromJson(json).object();
     const QJsonObject format = probe.value(QLatin1String("format")).toObject();
     facts.container = text(format, QLatin1String("format_name"));
-    facts.duration = std::max(0.0, text(format, QLatin1String("duration")).toDouble());
-    facts.bytes = text(format, QLatin1String("size")).toLongLong();
+    facts.duration = plausibleSeconds(text(format, QLatin1String("duration")).toDouble());
+    facts.bytes = std::max(0LL, text(format, QLatin1String("size")).toLongLong());
 
     const QJsonArray streams = probe.value(QLatin1String("streams")).toArray();
     for (const QJsonValue &value : streams) {
@@ -142,7 +178,7 @@ MediaFacts MediaFacts::fromProbe(const QByteArray &json)
             continue;
         }
         if (facts.duration == 0) {
-            facts.duration = std::max(0.0, text(stream, QLatin1String("duration")).toDouble());
+            facts.duration = plausibleSeconds(text(stream, QLatin1String("duration")).toDouble());
         }
     }
     return facts;
@@ -195,9 +231,14 @@ QString sizeText(const QSize &size)
     return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
 }
 
+double plausibleSeconds(double seconds)
+{
+    return plausible(seconds, longestSeconds);
+}
+
 QString clockText(double seconds)
 {
-    const qint64 whole = qint64(std::max(0.0, std::round(seconds)));
+    const qint64 whole = std::llround(plausibleSeconds(seconds));
     const QLatin1Char zero('0');
     const QString tail = QStringLiteral("%1:%2");
     const qint64 minutes = whole / 60;

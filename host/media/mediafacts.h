@@ -48,7 +48,8 @@ public:
     double duration = 0; //!< seconds, 0 when unknown
     qint64 bytes = 0;
 
-    /*! Reads ffprobe's JSON (-show_format -show_streams); what is no such JSON gives no tracks. */
+    /*! Reads ffprobe's JSON (-show_format -show_streams); what is no such JSON gives no tracks.
+     *  What a file says that can't be true is unknown. */
     [[nodiscard]] static MediaFacts fromProbe(const QByteArray &json);
 
     [[nodiscard]] bool isEmpty() const { return videoTracks.isEmpty() && audioTracks.isEmpty(); }
@@ -65,7 +66,10 @@ public:
 /*! "1280x720". */
 [[nodiscard]] QString sizeText(const QSize &size);
 
-/*! "0:09", "12:30" or "1:02:03" for a number of seconds. */
+/*! \a seconds where a file may last that long, else 0: unknown. */
+[[nodiscard]] double plausibleSeconds(double seconds);
+
+/*! "0:09", "12:30" or "1:02:03"; "0:00" for seconds that aren't plausible. */
 [[nodiscard]] QString clockText(double seconds);
 
 #endif

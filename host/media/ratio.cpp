@@ -24,7 +24,7 @@ Ratio Ratio::fromFrameRate(const QString &text)
     constexpr double ntscSlowdown = 1.001;
     constexpr double roundingOfTwoDecimals = 0.006;
     const double nominal = std::round(rate * ntscSlowdown);
-    if (rate != std::round(rate) &&
+    if (nominal > 0 && rate != std::round(rate) &&
         std::abs(rate - nominal / ntscSlowdown) < roundingOfTwoDecimals) {
         return {int(nominal) * 1000, 1001};
     }

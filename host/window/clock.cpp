@@ -1,5 +1,7 @@
 #include "host/window/clock.h"
 
+#include "host/media/mediafacts.h"
+
 #include <QRegularExpression>
 
 #include <cmath>
@@ -20,7 +22,7 @@ double Clock::secondsOf(const QString &text)
 
 QString Clock::textOf(double seconds)
 {
-    const qint64 hundredths = std::llround(seconds * 100);
+    const qint64 hundredths = std::llround(plausibleSeconds(seconds) * 100);
     const qint64 whole = hundredths / 100;
     const QLatin1Char zero('0');
     const QString hours = whole < 3600 ? QString() : QStringLiteral("%1:").arg(whole / 3600);

@@ -62,6 +62,10 @@ void TestProgress::whatIsNotKnownYetIsZero_data()
     QTest::newRow("N/A") << QByteArray("out_time_us=N/A\nspeed=N/A\nprogress=continue\n");
     QTest::newRow("before the start")
         << QByteArray("out_time_us=-9223372036854775808\nspeed=N/A\nprogress=continue\n");
+    QTest::newRow("beyond numbers")
+        << QByteArray("out_time_us=1e300\nspeed=1e300x\nprogress=continue\n");
+    QTest::newRow("infinite") << QByteArray("out_time_us=inf\nspeed=infx\nprogress=continue\n");
+    QTest::newRow("no number") << QByteArray("out_time_us=nan\nspeed=nanx\nprogress=continue\n");
     QTest::newRow("nothing said") << QByteArray("progress=continue\n");
     QTest::newRow("no pairs") << QByteArray("\nhello\n=\nprogress=continue\n");
 }
@@ -105,6 +109,7 @@ void TestProgress::theTimeLeftFollowsFromTheSpeed_data()
     QTest::newRow("twice as fast") << 4.0 << 10.0 << 2.0 << 3.0;
     QTest::newRow("past the end") << 11.0 << 10.0 << 2.0 << 0.0;
     QTest::newRow("speed unknown") << 4.0 << 10.0 << 0.0 << -1.0;
+    QTest::newRow("at a standstill") << 4.0 << 10.0 << 1e-300 << -1.0;
     QTest::newRow("length unknown") << 4.0 << 0.0 << 2.0 << -1.0;
 }
 

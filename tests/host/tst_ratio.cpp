@@ -30,6 +30,9 @@ void TestRatio::aFractionIsReadAsItStands_data()
     QTest::newRow("empty") << QString() << QString();
     QTest::newRow("word") << QStringLiteral("N/A") << QString();
     QTest::newRow("negative") << QStringLiteral("-25/1") << QString();
+    QTest::newRow("largest") << QStringLiteral("2147483647/2147483646")
+                             << QStringLiteral("2147483647/2147483646");
+    QTest::newRow("too fine") << QStringLiteral("1/2147483648") << QString();
     QTest::newRow("too large") << QStringLiteral("99999999999/1") << QString();
 }
 
@@ -63,6 +66,9 @@ void TestRatio::aFrameRateIsReadAsPeopleWriteIt_data()
     QTest::newRow("empty") << QString() << Ratio();
     QTest::newRow("negative") << QStringLiteral("-24") << Ratio();
     QTest::newRow("not a number") << QStringLiteral("nan") << Ratio();
+    QTest::newRow("infinite") << QStringLiteral("inf") << Ratio();
+    QTest::newRow("huge") << QStringLiteral("1e300") << Ratio();
+    QTest::newRow("tiny") << QStringLiteral("1e-300") << Ratio();
 }
 
 void TestRatio::aFrameRateIsReadAsPeopleWriteIt()

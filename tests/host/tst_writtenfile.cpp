@@ -89,6 +89,7 @@ private Q_SLOTS:
     void deviationsAreNamed();
     void allDeviationsAreNamed();
     void packetsAreCountedByStream();
+    void packetsThatCannotBeDoNotCount();
 };
 
 void TestWrittenFile::deviationsAreNamed_data()
@@ -273,6 +274,13 @@ void TestWrittenFile::packetsAreCountedByStream()
     WrittenFile file;
     file.readPackets("0,1000\n1,20\n0,234,more\r\n\n1,\n2,7");
     QCOMPARE(file.streamBytes, (QHash<int, qint64>{{0, 1234}, {1, 20}, {2, 7}}));
+}
+
+void TestWrittenFile::packetsThatCannotBeDoNotCount()
+{
+    WrittenFile file;
+    file.readPackets("0,9223372036854775807\n0,9223372036854775807\n0,-5\n-1,5\nN/A,5\n0,8");
+    QCOMPARE(file.streamBytes, (QHash<int, qint64>{{0, 8}}));
 }
 
 QTEST_GUILESS_MAIN(TestWrittenFile)

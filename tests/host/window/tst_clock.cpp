@@ -57,6 +57,9 @@ void TestClock::secondsAreWrittenShort_data()
     row(59.999, "1:00");
     row(61.05, "1:01.05");
     row(3723, "1:02:03");
+    row(-1, "0:00");
+    row(1e300, "0:00");
+    row(qQNaN(), "0:00");
 }
 
 void TestClock::secondsAreWrittenShort()
