@@ -1,10 +1,14 @@
-# Sourced by ./run and ./test: installs what the machine lacks and builds a CMake preset.
+# Sourced by ./run, ./test and tools/fuzz.sh: installs what the machine lacks and builds a CMake preset.
 # Everything said here goes to stderr: stdout belongs to the program.
+
+missing_packages() {
+    comm -13 <(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null |
+        sed -n 's/^ii *//p' | sort) <(printf '%s\n' "$@" | sort)
+}
 
 install_missing() {
     local missing
-    missing=$(comm -13 <(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null |
-        sed -n 's/^ii *//p' | sort) <(printf '%s\n' "$@" | sort))
+    missing=$(missing_packages "$@")
     [ -z "$missing" ] && return
     # shellcheck disable=SC2086 # one word a package
     {
@@ -37,3 +41,4 @@ run_packages=(
     qml-module-qtgraphicaleffects qttranslations5-l10n
 )
 test_packages=(qml-module-qttest xvfb xauth libgl1-mesa-dri python3 python3-jsonschema)
+fuzz_packages=(clang libclang-rt-dev)

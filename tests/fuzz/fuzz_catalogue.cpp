@@ -1,16 +1,13 @@
 #include "host/check/cataloguelint.h"
-
-#include <cstdlib>
+#include "tests/fuzz/fuzzing.h"
 
 /*! A catalogue of one's own, read and checked. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QByteArray json(reinterpret_cast<const char *>(data), int(size));
-    const CatalogueResult catalogue = readCatalogue({{QStringLiteral("own.json"), json}});
+    const CatalogueResult catalogue =
+        readCatalogue({{QStringLiteral("own.json"), inputBytes(data, size)}});
     for (const CatalogueMistake &mistake : catalogue.mistakes + lintCatalogue(catalogue, {}, {})) {
-        if (mistake.text().isEmpty()) {
-            std::abort();
-        }
+        require(!mistake.text().isEmpty());
     }
     return 0;
 }

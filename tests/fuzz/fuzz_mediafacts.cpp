@@ -1,14 +1,20 @@
 #include "host/media/mediafacts.h"
-
-#include <cstdlib>
+#include "tests/fuzz/fuzzing.h"
 
 /*! What ffprobe prints about a file that anyone may have made. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const MediaFacts facts =
-        MediaFacts::fromProbe(QByteArray(reinterpret_cast<const char *>(data), int(size)));
-    if (facts.summary().isEmpty()) {
-        std::abort();
+    const MediaFacts facts = MediaFacts::fromProbe(inputBytes(data, size));
+    require(!facts.summary().isEmpty());
+    require(facts.duration == plausibleSeconds(facts.duration) && facts.bytes >= 0);
+    for (const VideoTrack &track : facts.videoTracks) {
+        const QSize shown = track.displaySize();
+        require(track.index >= 0 && shown.width() >= 0 && shown.height() >= 0);
+        require(track.pixelAspect.isValid());
+        require(track.rotation >= 0 && track.rotation < 360 && track.rotation % 90 == 0);
+    }
+    for (const AudioTrack &track : facts.audioTracks) {
+        require(track.index >= 0 && track.sampleRate >= 0 && track.channels >= 0);
     }
     return 0;
 }

@@ -2,23 +2,22 @@
 #include "formats/models/formatlistmodel.h"
 #include "formats/parsers/noformatidparser.h"
 #include "formats/parsers/widthformatidparser.h"
+#include "tests/fuzz/fuzzing.h"
 
-#include <QFile>
 #include <QLoggingCategory>
-#include <QTemporaryFile>
 
-#include <cstdlib>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace {
 
-QString pathOf(const QByteArray &bytes)
+/*! The path of a file that is never on a disk and holds the bytes until the next call. */
+QString pathTo(const QByteArray &bytes)
 {
-    static QTemporaryFile file;
-    if (!file.open() || !file.resize(0) || file.write(bytes) != bytes.size()) {
-        std::abort();
-    }
-    file.close();
-    return file.fileName();
+    static const int file = memfd_create("presets", MFD_CLOEXEC);
+    require(ftruncate(file, bytes.size()) == 0);
+    require(pwrite(file, bytes.constData(), size_t(bytes.size()), 0) == bytes.size());
+    return QStringLiteral("/proc/self/fd/%1").arg(file);
 }
 
 void parseWith(IFormatsParser &parser, const QString &path)
@@ -35,11 +34,16 @@ void parseWith(IFormatsParser &parser, const QString &path)
 
 } // namespace
 
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    return 0;
+}
+
 /*! The user's files, by both parsers, and what is saved of them. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
-    const QString path = pathOf(QByteArray(reinterpret_cast<const char *>(data), int(size)));
+    const QString path = pathTo(inputBytes(data, size));
     WidthFormatIdParser withIds;
     parseWith(withIds, path);
     NoFormatIdParser withoutIds;
