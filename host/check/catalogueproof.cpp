@@ -75,7 +75,7 @@ void CatalogueProof::start()
     if (m_folder.isValid()) {
         proveNextSize();
     } else {
-        Q_EMIT finished(tr("no temporary folder: %1").arg(m_folder.errorString()));
+        Q_EMIT finished(tr("no temporary folder: %1").arg(m_folder.errorText()));
     }
 }
 

@@ -2,10 +2,10 @@
 #define CHECK_CATALOGUEPROOF_H
 
 #include "host/check/presetproof.h"
+#include "host/files/workfolder.h"
 #include "utility/cataloguereader.h"
 
 #include <QQueue>
-#include <QTemporaryDir>
 #include <QVector>
 
 /*! A preset of the catalogue, and how it did. */
@@ -55,7 +55,7 @@ private:
     void note(ProvenPreset &preset, const ProofOutcome &outcome);
 
     QVector<ProvenPreset> m_presets;
-    QTemporaryDir m_folder;
+    WorkFolder m_folder;
     QQueue<QSize> m_sizes; //!< of the clips still to come
     ProofClip m_clip;
     QQueue<ProvenPreset *> m_waiting;

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QUuid>
 
 #include <filesystem>
 #include <system_error>
@@ -38,44 +37,38 @@ QString numberedName(QString baseName, int number, const QString &extension)
 
 } // namespace
 
-void PendingFile::discard()
-{
-    if (!m_path.isEmpty()) {
-        QFile::remove(m_path);
-        m_path.clear();
-    }
-}
-
 QString PendingFile::create(const QString &folder)
 {
-    const QFileInfo place(folder);
-    if (!place.isDir()) {
+    if (!QFileInfo(folder).isDir()) {
         return tr("the folder %1 doesn't exist; make it or choose another one")
             .arg(QDir::toNativeSeparators(folder));
     }
-    const QString name =
-        QStringLiteral(".vexconvert-%1.part").arg(QUuid::createUuid().toString(QUuid::Id128));
-    QFile file(QDir(folder).absoluteFilePath(name));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+    m_work = std::make_unique<WorkFolder>(folder);
+    if (!m_work->isValid()) {
         return tr("can't write into the folder %1 (%2); choose another one")
-            .arg(QDir::toNativeSeparators(folder), file.errorString());
+            .arg(QDir::toNativeSeparators(folder), m_work->errorText());
     }
-    m_path = file.fileName();
     return {};
+}
+
+QString PendingFile::path() const
+{
+    return m_work == nullptr || !m_work->isValid() ? QString()
+                                                   : m_work->filePath(QStringLiteral("part"));
 }
 
 bool PendingFile::publishOver(const QString &path)
 {
-    if (!moveOver(m_path, path)) {
+    if (!moveOver(this->path(), path)) {
         return false;
     }
-    m_path.clear();
+    discard();
     return true;
 }
 
 QString PendingFile::publish(const QString &baseName, const QString &extension)
 {
-    const QString folder = QFileInfo(m_path).absolutePath();
+    const QString folder = QFileInfo(m_work->path()).absolutePath();
     for (;;) {
         const QString path = freeName(folder, baseName, extension);
         // Making the file claims the name; the move then replaces only what was made here.

@@ -1,10 +1,17 @@
 #ifndef FILES_PENDINGFILE_H
 #define FILES_PENDINGFILE_H
 
+#include "host/files/workfolder.h"
+
 #include <QCoreApplication>
 #include <QString>
 
-/*! A file that has a hidden name until it is complete. */
+#include <memory>
+
+/*!
+ * A file that is hidden until it is complete: it is written in a folder of its own. That folder is
+ * what is locked against sweeping, as some network shares refuse writing to a locked file.
+ */
 class PendingFile
 {
     Q_DECLARE_TR_FUNCTIONS(PendingFile)
@@ -12,13 +19,13 @@ class PendingFile
 
 public:
     PendingFile() = default;
-    ~PendingFile() { discard(); }
 
-    /*! Makes the empty file in \a folder. Returns why that can't be, or an empty text. */
+    /*! Makes the place for it in \a folder. Returns why that can't be, or an empty text. */
     [[nodiscard]] QString create(const QString &folder);
-    [[nodiscard]] QString path() const { return m_path; }
+    /*! Where the file is to be written; empty when there is no place for it. */
+    [[nodiscard]] QString path() const;
     /*! Removes the file, so that nothing half-written stays; so does the destructor. */
-    void discard();
+    void discard() { m_work.reset(); }
 
     /*! Takes the place of \a path, whatever is there. False leaves all as it was. */
     [[nodiscard]] bool publishOver(const QString &path);
@@ -29,7 +36,7 @@ public:
     [[nodiscard]] QString publish(const QString &baseName, const QString &extension);
 
 private:
-    QString m_path;
+    std::unique_ptr<WorkFolder> m_work;
 };
 
 /*! "name.ext" in \a folder where that is free, else "name (2).ext", "name (3).ext" and so on. */

@@ -3,6 +3,12 @@
 #include <QFile>
 #include <QUrl>
 
+Inspector::~Inspector()
+{
+    // ffmpeg stops before the folder that it writes into is removed.
+    delete m_tool;
+}
+
 void Inspector::inspect(int id, const QString &path)
 {
     m_questions.enqueue({id, path});

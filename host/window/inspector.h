@@ -1,12 +1,12 @@
 #ifndef WINDOW_INSPECTOR_H
 #define WINDOW_INSPECTOR_H
 
+#include "host/files/workfolder.h"
 #include "host/media/mediaprobe.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QQueue>
-#include <QTemporaryDir>
 
 /*!
  * Looks into files, one after another and without ever waiting: what they hold, and a picture of
@@ -18,6 +18,7 @@ class Inspector : public QObject
 
 public:
     using QObject::QObject;
+    ~Inspector() override;
 
     /*! \a id names the file in the signals. */
     void inspect(int id, const QString &path);
@@ -41,7 +42,7 @@ private:
 
     QQueue<Question> m_questions;
     QPointer<Tool> m_tool; // works on the first question
-    QTemporaryDir m_pictures;
+    WorkFolder m_pictures;
 };
 
 #endif

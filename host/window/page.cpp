@@ -52,6 +52,9 @@ Page::Page(PageKind kind, Settings &settings, Presets &presets, QObject *parent)
     });
     connect(&m_tasks, &TaskList::countChanged, this, &Page::queueChanged);
     connect(&m_presets, &Presets::changed, this, &Page::followPresets);
+    if (!folder().isEmpty()) {
+        WorkFolder::sweep(folder());
+    }
 }
 
 QString Page::globalCaption() const

@@ -1,11 +1,11 @@
 #ifndef WINDOW_SCREENSHOTS_H
 #define WINDOW_SCREENSHOTS_H
 
+#include "host/files/workfolder.h"
 #include "host/window/mainwindow.h"
 
 #include <QDir>
 #include <QString>
-#include <QTemporaryDir>
 
 #include <functional>
 
@@ -39,7 +39,7 @@ private:
     void take(const QString &name, QQuickWindow *window = nullptr);
 
     const QDir m_folder;
-    QTemporaryDir m_work;
+    WorkFolder m_work;
     MainWindow m_window;
     QString m_problem;
 };

@@ -104,7 +104,8 @@ private:
     }
     QStringList temporaryFiles() const
     {
-        return QDir(path(QStringLiteral("tmp"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+        return QDir(path(QStringLiteral("tmp")))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
 
     QProcessEnvironment m_environment;

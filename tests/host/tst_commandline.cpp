@@ -146,9 +146,13 @@ private:
         QFile opened(file);
         return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("unreadable");
     }
+    /*! The names of all files in the test's folder, and of what is hidden there. */
     QStringList everything() const
     {
-        return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+        const QDir folder(m_folder->path());
+        return folder.entryList({QStringLiteral(".*")},
+                                QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot) +
+               folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
     void start(QProcess &process, const QStringList &arguments) const
     {

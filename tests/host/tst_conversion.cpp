@@ -110,11 +110,13 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    /*! The names of all files in the test's folder, hidden ones too. */
+    /*! The names of all files in the test's folder, and of what is hidden there. */
     QStringList everything() const
     {
-        return QDir(m_folder->path())
-            .entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+        const QDir folder(m_folder->path());
+        return folder.entryList({QStringLiteral(".*")},
+                                QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot) +
+               folder.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
     }
     QString copyOf(const QString &clip, const QString &name) const
     {

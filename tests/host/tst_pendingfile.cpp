@@ -1,5 +1,7 @@
 #include "host/files/pendingfile.h"
 
+#include "tests/host/forkedprocess.h"
+
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -19,7 +21,8 @@ private Q_SLOTS:
     }
     void cleanup() { m_folder.reset(); }
 
-    void aPendingFileHasAHiddenName();
+    void aPendingFileIsHidden();
+    void whatADeadProcessWroteIsSwept();
     void droppingItLeavesNothing();
     void discardingItLeavesNothing();
     void publishedItHasItsName();
@@ -34,7 +37,7 @@ private Q_SLOTS:
     void anOverlongNameIsShortened();
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QString path(const QString &name) const { return QDir(m_folder->path()).filePath(name); }
     QStringList everything() const
     {
         return QDir(m_folder->path())
@@ -56,13 +59,34 @@ private:
     std::optional<QTemporaryDir> m_folder;
 };
 
-void TestPendingFile::aPendingFileHasAHiddenName()
+void TestPendingFile::aPendingFileIsHidden()
 {
     PendingFile pending;
+    QCOMPARE(pending.path(), QString());
     QCOMPARE(pending.create(m_folder->path()), QString());
+    write(pending.path(), "half");
     QCOMPARE(everything().size(), 1);
     QVERIFY(everything().constFirst().startsWith(QLatin1Char('.')));
-    QCOMPARE(path(everything().constFirst()), pending.path());
+    QCOMPARE(QFileInfo(pending.path()).path(), path(everything().constFirst()));
+}
+
+void TestPendingFile::whatADeadProcessWroteIsSwept()
+{
+    ForkedProcess process([this](const auto &tell) {
+        PendingFile pending;
+        if (pending.create(m_folder->path()).isEmpty()) {
+            write(pending.path(), "half");
+            tell(pending.path());
+        }
+    });
+    PendingFile first;
+    QCOMPARE(first.create(m_folder->path()), QString());
+    QCOMPARE(content(process.told()), QByteArray("half"));
+    process.endWithoutGoodbye();
+    PendingFile second;
+    QCOMPARE(second.create(m_folder->path()), QString());
+    QCOMPARE(everything().size(), 2);
+    QVERIFY(!QFile::exists(process.told()));
 }
 
 void TestPendingFile::droppingItLeavesNothing()
@@ -79,6 +103,7 @@ void TestPendingFile::discardingItLeavesNothing()
 {
     PendingFile pending;
     QCOMPARE(pending.create(m_folder->path()), QString());
+    write(pending.path(), "half");
     pending.discard();
     QCOMPARE(everything(), QStringList());
     QCOMPARE(pending.path(), QString());
@@ -101,6 +126,7 @@ void TestPendingFile::aTakenNameIsNumbered()
     write(path(QStringLiteral("clip (2).mp4")), "second");
     PendingFile pending;
     QCOMPARE(pending.create(m_folder->path()), QString());
+    write(pending.path(), "whole");
     QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip (3).mp4")));
     QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("first"));
@@ -119,6 +145,7 @@ void TestPendingFile::aFolderTakesTheNameToo()
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("clip.mp4")));
     PendingFile pending;
     QCOMPARE(pending.create(m_folder->path()), QString());
+    write(pending.path(), "whole");
     QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip (2).mp4")));
 }
@@ -133,6 +160,7 @@ void TestPendingFile::filesPublishedAtTheSameTimeGetNamesOfTheirOwn()
             for (int j = 0; j < filesEach; ++j) {
                 PendingFile pending;
                 if (pending.create(m_folder->path()).isEmpty()) {
+                    write(pending.path(), "whole");
                     (void)pending.publish(QStringLiteral("clip"), QStringLiteral("mp4"));
                 }
             }
@@ -161,6 +189,7 @@ void TestPendingFile::publishOverAFolderLeavesAllAsItWas()
     {
         PendingFile pending;
         QCOMPARE(pending.create(m_folder->path()), QString());
+        write(pending.path(), "whole");
         QVERIFY(!pending.publishOver(path(QStringLiteral("clip.mp4"))));
     }
     QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
