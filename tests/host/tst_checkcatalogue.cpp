@@ -67,6 +67,7 @@ private Q_SLOTS:
     void withoutASoundPresetNothingIsConverted();
     void itComesAsJson();
     void interruptingLeavesNothing();
+    void whatAKilledCheckLeftGoesWithTheNext();
     void withoutFfmpegItSaysWhatToInstall();
 
 private:
@@ -102,6 +103,7 @@ private:
         start(process, options);
         return CommandRun::of(process);
     }
+    void startEndless(QProcess &process) const;
     QStringList temporaryFiles() const
     {
         return QDir(path(QStringLiteral("tmp")))
@@ -302,16 +304,33 @@ void TestCheckCatalogue::itComesAsJson()
     QCOMPARE(presets.at(1)[QStringLiteral("result")].toString(), QStringLiteral("encoder missing"));
 }
 
-void TestCheckCatalogue::interruptingLeavesNothing()
+/*! Starts a check that stays in the middle of a conversion. */
+void TestCheckCatalogue::startEndless(QProcess &process) const
 {
     putInPlaceOfFfmpeg(
         QStringLiteral("case \"$*\" in *mpeg4*) touch \"$0.runs\"; exec sleep 60;; esac\n"
                        "exec $REAL \"$@\""));
-    GroupProcess process;
     start(process, {});
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(QStringLiteral("ffmpeg.runs"))),
                              CommandRun::patience);
     QVERIFY(!temporaryFiles().isEmpty());
+}
+
+void TestCheckCatalogue::whatAKilledCheckLeftGoesWithTheNext()
+{
+    QProcess process;
+    startEndless(process);
+    process.kill();
+    QVERIFY(process.waitForFinished());
+    QVERIFY(!temporaryFiles().isEmpty());
+    putInPlaceOfFfmpeg(QStringLiteral("exec $REAL \"$@\""));
+    QCOMPARE(run({QStringLiteral("--quick")}).exitCode, 0);
+}
+
+void TestCheckCatalogue::interruptingLeavesNothing()
+{
+    GroupProcess process;
+    startEndless(process);
     QCOMPARE(::kill(-pid_t(process.processId()), SIGINT), 0);
     const CommandRun ended = CommandRun::of(process);
     QCOMPARE(ended.exitCode, 1);

@@ -1,10 +1,16 @@
 #include "host/commandline/commandline.h"
+#include "host/files/workfolder.h"
+
+#include "tests/host/forkedprocess.h"
 
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
+
+constexpr int patience = 60000;
 
 struct Run
 {
@@ -29,7 +35,6 @@ Run run(const QStringList &arguments, const QString &platform = QStringLiteral("
     QProcess program;
     prepare(program, arguments, platform);
     program.start();
-    constexpr int patience = 60000;
     Run result;
     if (program.waitForFinished(patience) && program.exitStatus() == QProcess::NormalExit) {
         result.exitCode = program.exitCode();
@@ -53,6 +58,7 @@ private Q_SLOTS:
     void subcommandsNeedNoDisplay();
     void aFolderIsForOneWindow();
     void aDamagedFileIsToldInTheLog();
+    void whatAKilledProgramLeftGoesWithTheNextWindow();
     void badOptionsAreRefused_data();
     void badOptionsAreRefused();
     void theHelpTellsOfTheWindow();
@@ -144,6 +150,34 @@ void TestWindowApp::aDamagedFileIsToldInTheLog()
     QByteArray log;
     QTRY_VERIFY((log += window.readAllStandardError()).endsWith('\n'));
     QVERIFY2(log.contains("recently.json was damaged"), log.constData());
+    window.kill();
+    window.waitForFinished();
+}
+
+void TestWindowApp::whatAKilledProgramLeftGoesWithTheNextWindow()
+{
+    const QTemporaryDir folder;
+    const QStringList places = {QStringLiteral("tmp"), QStringLiteral("results")};
+    QStringList left;
+    for (const QString &place : places) {
+        const QString path = folder.filePath(place);
+        QVERIFY(QDir().mkdir(path));
+        left << ForkedProcess([&path](const auto &tell) { tell(WorkFolder(path).path()); }).told();
+        QVERIFY(QFile::exists(left.constLast()));
+    }
+    QSettings settings(folder.filePath(QStringLiteral("vexconvert.ini")), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("editor/folder"), folder.filePath(places.at(1)));
+    settings.sync();
+
+    QProcess window;
+    prepare(window, {QStringLiteral("--config"), folder.path()}, QStringLiteral("offscreen"));
+    QProcessEnvironment environment = window.processEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), folder.filePath(places.at(0)));
+    window.setProcessEnvironment(environment);
+    window.start();
+    for (const QString &path : left) {
+        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(path), patience);
+    }
     window.kill();
     window.waitForFinished();
 }
