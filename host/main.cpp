@@ -1,9 +1,9 @@
 #include "host/commandline/commandline.h"
+#include "host/files/filenames.h"
 #include "host/window/windowapp.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
-#include <QTextCodec>
 
 #include <csignal>
 
@@ -22,8 +22,7 @@ QStringList argumentsOf(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    // File names are UTF-8 also where no locale is set, as in containers.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    keepBytesOfFileNames();
     // The library's notes, such as a file missing at the first start, are for developers.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
 #ifdef SIGPIPE

@@ -1,5 +1,6 @@
 #include "host/media/tool.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
@@ -15,7 +16,7 @@
 QString ToolOutcome::firstError() const
 {
     static const QRegularExpression source(QStringLiteral("^\\[[^\\]]* @ [^\\]]*\\] *"));
-    const QStringList lines = QString::fromUtf8(errors).split(QLatin1Char('\n'));
+    const QStringList lines = QFile::decodeName(errors).split(QLatin1Char('\n'));
     for (const QString &line : lines) {
         QString words = line.trimmed();
         words.remove(source);

@@ -1,12 +1,15 @@
 #include "host/window/notices.h"
 
+#include "host/files/visibletext.h"
+
 void Notices::add(const QString &line)
 {
-    if (m_lines.contains(line)) {
+    const QString shown = visibleText(line);
+    if (m_lines.contains(shown)) {
         return;
     }
-    qWarning("%s", qUtf8Printable(line));
-    m_lines.append(line);
+    qWarning("%s", qUtf8Printable(shown));
+    m_lines.append(shown);
     Q_EMIT textChanged();
 }
 

@@ -1,5 +1,7 @@
 #include "host/window/page.h"
 
+#include "host/files/filenames.h"
+#include "host/files/visibletext.h"
 #include "host/window/presets.h"
 
 #include <QDesktopServices>
@@ -67,6 +69,11 @@ QString Page::globalIcon() const
     return m_presets.icon(m_presets.usable(m_settings.globalId(m_kind), {}));
 }
 
+QString Page::folderText() const
+{
+    return visibleText(folder());
+}
+
 void Page::setFolder(const QString &folder)
 {
     m_settings.setFolder(m_kind, folder);
@@ -90,7 +97,7 @@ void Page::addFiles(const QList<QUrl> &urls)
         if (!url.isLocalFile()) {
             continue;
         }
-        const QString path = url.toLocalFile();
+        const QString path = fileOfUrl(url);
         const QStringList files = QFileInfo(path).isDir() ? mediaFilesIn(path) : QStringList{path};
         for (const QString &file : files) {
             addFile(file);
@@ -163,7 +170,7 @@ void Page::showInFolder(int taskId)
 {
     if (const Task *task = m_tasks.find(taskId)) {
         const QFileInfo file(task->target.isEmpty() ? task->source : task->target);
-        QDesktopServices::openUrl(QUrl::fromLocalFile(file.absolutePath()));
+        QDesktopServices::openUrl(urlOfFile(file.absolutePath()));
     }
 }
 

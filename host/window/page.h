@@ -22,7 +22,7 @@ class Page : public QObject
     Q_PROPERTY(TaskList *tasks READ tasks CONSTANT)
     Q_PROPERTY(QString globalCaption READ globalCaption NOTIFY globalFormatChanged)
     Q_PROPERTY(QString globalIcon READ globalIcon NOTIFY globalFormatChanged)
-    Q_PROPERTY(QString folder READ folder WRITE setFolder NOTIFY folderChanged)
+    Q_PROPERTY(QString folder READ folderText WRITE setFolder NOTIFY folderChanged)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY queueChanged)
     Q_PROPERTY(bool canConvert READ canConvert NOTIFY queueChanged)
 
@@ -34,6 +34,8 @@ public:
     QString globalIcon() const;
     /*! Where results go; empty: beside their sources. */
     QString folder() const { return m_settings.folder(m_kind); }
+    /*! The same to show. */
+    QString folderText() const;
     void setFolder(const QString &folder);
     /*! Whether any task is converted or waits for its turn. */
     bool isBusy() const;

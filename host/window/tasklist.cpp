@@ -1,5 +1,7 @@
 #include "host/window/tasklist.h"
 
+#include "host/files/visibletext.h"
+
 #include <QFileInfo>
 #include <QLocale>
 
@@ -64,9 +66,9 @@ QVariant TaskList::data(const QModelIndex &index, int role) const
         return task.id;
     case Qt::DisplayRole:
     case NameRole:
-        return QFileInfo(task.source).fileName();
+        return visibleText(QFileInfo(task.source).fileName());
     case SourceRole:
-        return task.source;
+        return visibleText(task.source);
     case DetailsRole:
         return detailsOf(task.facts);
     case CodecsRole:
@@ -90,9 +92,9 @@ QVariant TaskList::data(const QModelIndex &index, int role) const
     case TimeLeftRole:
         return task.progress.timeLeft() < 0 ? QString() : clockText(task.progress.timeLeft());
     case ErrorRole:
-        return task.error;
+        return visibleText(task.error);
     case TargetRole:
-        return task.target;
+        return visibleText(task.target);
     case StartRole:
         return task.start;
     case EndRole:
