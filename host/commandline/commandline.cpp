@@ -107,7 +107,7 @@ ExitCode runSubcommand(const Subcommand &subcommand, const QStringList &argument
     // The parser takes the first argument for the program's name.
     const bool isParsed = parser.parse(arguments);
     if (parser.isSet(QStringLiteral("help"))) {
-        Console::print(helpText(subcommand, parser));
+        Console::printLines(helpText(subcommand, parser));
         return Success;
     }
     if (!isParsed) {
@@ -154,7 +154,7 @@ ExitCode CommandLine::run(const QStringList &arguments)
         return Success;
     }
     if (parser.isSet(QStringLiteral("help")) || (isParsed && rest.isEmpty())) {
-        Console::print(overviewText(parser));
+        Console::printLines(overviewText(parser));
         return Success;
     }
     if (!isParsed) {

@@ -1,9 +1,11 @@
 #include "host/commandline/console.h"
 
+#include "host/files/visibletext.h"
+
 #include <QJsonDocument>
-#include <QTextStream>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 
 #ifdef Q_OS_UNIX
@@ -13,17 +15,37 @@
 
 namespace {
 
-QTextStream &output()
+bool isOutputLost = false;
+
+/*! To standard output, at once. */
+void write(const QString &text)
 {
-    static QTextStream stream(stdout);
-    return stream;
+    const QByteArray bytes = text.toUtf8();
+    const size_t size = size_t(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0) {
+        isOutputLost = isOutputLost || errno != EPIPE;
+    }
 }
 
-/*! Titles may hold line breaks and what moves the terminal's cursor. */
-QString withoutControls(QString text)
+/*! JSON text of Qt's, in which halves of characters are escaped and most controls are not. */
+QString visibleJson(const QString &json)
 {
-    for (QChar &character : text) {
-        character = character.category() == QChar::Other_Control ? QLatin1Char(' ') : character;
+    const QLatin1Char backslash('\\');
+    QString text;
+    for (int i = 0; i < json.size(); ++i) {
+        const QChar character = json.at(i);
+        if (character == backslash) {
+            const int length = json.at(i + 1) == QLatin1Char('u') ? 6 : 2;
+            const QStringRef escape = json.midRef(i, length);
+            const bool isHalf =
+                length == 6 && QChar::isSurrogate(escape.mid(2).toUInt(nullptr, 16));
+            text += isHalf ? QString(QChar::ReplacementCharacter) : escape.toString();
+            i += length - 1;
+        } else if (character == QLatin1Char('\n') || isVisible(json, i)) {
+            text += character;
+        } else {
+            text += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        }
     }
     return text;
 }
@@ -44,14 +66,20 @@ int terminalWidth()
 
 void Console::print(const QString &line)
 {
-    output() << line << '\n';
-    output().flush();
+    write(visibleText(line) + QLatin1Char('\n'));
+}
+
+void Console::printLines(const QString &lines)
+{
+    const QStringList all = lines.split(QLatin1Char('\n'));
+    for (const QString &line : all) {
+        print(line);
+    }
 }
 
 void Console::printJson(const QVariant &value)
 {
-    output() << QString::fromUtf8(QJsonDocument::fromVariant(value).toJson());
-    output().flush();
+    write(visibleJson(QString::fromUtf8(QJsonDocument::fromVariant(value).toJson())));
 }
 
 void Console::printTable(const QVector<QStringList> &rows)
@@ -66,7 +94,7 @@ void Console::printTable(const QVector<QStringList> &rows)
     for (const QStringList &row : rows) {
         QString line;
         for (int column = 0; column < row.size(); ++column) {
-            line += withoutControls(row.at(column)).leftJustified(widths.at(column) + 2);
+            line += row.at(column).leftJustified(widths.at(column) + 2);
         }
         while (line.endsWith(QLatin1Char(' '))) {
             line.chop(1);
@@ -77,12 +105,13 @@ void Console::printTable(const QVector<QStringList> &rows)
 
 void Console::printError(const QString &line)
 {
-    QTextStream(stderr) << "vexconvert: " << line << '\n';
+    const QByteArray bytes = visibleText(line).toUtf8();
+    std::fprintf(stderr, "vexconvert: %s\n", bytes.constData());
 }
 
 bool Console::hasFailed()
 {
-    return std::ferror(stdout) != 0;
+    return isOutputLost;
 }
 
 bool Console::isTerminal()
@@ -96,6 +125,5 @@ bool Console::isTerminal()
 
 void Console::overwriteLine(const QString &line)
 {
-    output() << "\r\x1b[K" << line.left(terminalWidth() - 1);
-    output().flush();
+    write(QStringLiteral("\r\x1b[K") + visibleText(line.left(terminalWidth() - 1)));
 }

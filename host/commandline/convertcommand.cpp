@@ -4,11 +4,13 @@
 #include "host/commandline/interrupt.h"
 #include "host/commandline/progresstext.h"
 #include "host/convert/conversion.h"
+#include "host/files/visibletext.h"
 
 #include "formats/proxy/formatsproxy.h"
 #include "host/presets/presetstore.h"
 
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -19,17 +21,46 @@ const QLatin1String folderOption("to");
 const QLatin1String overwriteFlag("overwrite");
 const QLatin1String dryRunFlag("dry-run");
 
-/*! A command as a person would type it into a shell. */
+/*! In the shell's quotes that take the code of a byte, for what can't be typed. */
+QString quotedByCodes(const QString &word)
+{
+    QString quoted;
+    for (int i = 0; i < word.size(); ++i) {
+        const QChar character = word.at(i);
+        if (character == QLatin1Char('\'') || character == QLatin1Char('\\')) {
+            quoted += QLatin1Char('\\');
+        }
+        if (isVisible(word, i)) {
+            quoted += character;
+            continue;
+        }
+        const QByteArray bytes = QFile::encodeName(QString(character));
+        for (const char byte : bytes) {
+            quoted += QStringLiteral("\\x%1").arg(uchar(byte), 2, 16, QLatin1Char('0'));
+        }
+    }
+    return QStringLiteral("$'%1'").arg(quoted);
+}
+
+/*! As a person would type it into a shell. */
+QString shellWord(QString word)
+{
+    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_@%+=:,./-]+\\z"));
+    if (plain.match(word).hasMatch()) {
+        return word;
+    }
+    if (visibleText(word) != word) {
+        return quotedByCodes(word);
+    }
+    word.replace(QLatin1Char('\''), QStringLiteral("'\\''"));
+    return QLatin1Char('\'') + word + QLatin1Char('\'');
+}
+
 QString shellCommand(const QString &program, const QStringList &arguments)
 {
-    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_@%+=:,./-]+$"));
     QStringList words = {program};
-    for (QString word : arguments) {
-        if (!plain.match(word).hasMatch()) {
-            word.replace(QLatin1Char('\''), QStringLiteral("'\\''"));
-            word = QLatin1Char('\'') + word + QLatin1Char('\'');
-        }
-        words << word;
+    for (const QString &argument : arguments) {
+        words << shellWord(argument);
     }
     return words.join(QLatin1Char(' '));
 }

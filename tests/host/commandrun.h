@@ -33,4 +33,18 @@ protected:
     void setupChildProcess() override { setpgid(0, 0); }
 };
 
+/*! A process whose reader has gone before it prints anything. */
+class ProcessWithoutReader : public QProcess
+{
+protected:
+    void setupChildProcess() override
+    {
+        int ends[2] = {};
+        if (::pipe(ends) == 0) {
+            ::close(ends[0]);
+            ::dup2(ends[1], STDOUT_FILENO);
+        }
+    }
+};
+
 #endif

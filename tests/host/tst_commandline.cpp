@@ -93,6 +93,8 @@ private Q_SLOTS:
 
     void formatsAreListedInColumns();
     void outputThatGetsLostIsSaid();
+    void aReaderThatWantsNoMoreIsNoError_data();
+    void aReaderThatWantsNoMoreIsNoError();
     void formatsAreListedByTag();
     void formatsAreFoundByTheirTitle();
     void presetsAreListedInColumns_data();
@@ -328,6 +330,35 @@ void TestCommandLine::outputThatGetsLostIsSaid()
     const CommandRun told = CommandRun::of(process);
     QCOMPARE(told.exitCode, 1);
     QCOMPARE(told.err, QStringLiteral("vexconvert: the output couldn't be written\n"));
+}
+
+void TestCommandLine::aReaderThatWantsNoMoreIsNoError_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("result");
+    const QString film = QStringLiteral("film.mp4");
+    QTest::newRow("list") << QStringLiteral("presets MP4") << 0 << film;
+    QTest::newRow("conversion") << QStringLiteral("convert film.mp4 --preset V_MKV_1") << 0
+                                << QStringLiteral("film.mkv|film.mp4");
+    QTest::newRow("other mistake")
+        << QStringLiteral("convert film.mp4 missing.mp4 --preset V_MKV_1") << 1
+        << QStringLiteral("film.mkv|film.mp4");
+}
+
+void TestCommandLine::aReaderThatWantsNoMoreIsNoError()
+{
+    QFETCH(QString, line);
+    QFETCH(int, exitCode);
+    QFETCH(QString, result);
+    ProcessWithoutReader process;
+    start(process,
+          QStringList{QStringLiteral("--config"), config()} + line.split(QLatin1Char(' ')));
+    const CommandRun told = CommandRun::of(process);
+    QCOMPARE(told.exitCode, exitCode);
+    QVERIFY2(!told.err.contains(QStringLiteral("the output")), qPrintable(told.err));
+    QCOMPARE(told.err.count(QLatin1Char('\n')), exitCode);
+    QCOMPARE(everything(), result.split(QLatin1Char('|')));
 }
 
 void TestCommandLine::formatsAreListedByTag()

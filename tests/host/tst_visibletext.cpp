@@ -1,0 +1,51 @@
+#include "host/files/visibletext.h"
+
+#include <QtTest>
+
+class TestVisibleText : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatCannotBeShownIsReplaced_data();
+    void whatCannotBeShownIsReplaced();
+};
+
+void TestVisibleText::whatCannotBeShownIsReplaced_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](const char *name, const QString &text, const QString &shown) {
+        QTest::newRow(name) << text << shown;
+    };
+    row("nothing", QString(), QString());
+    row("plain text", QStringLiteral("it's é 日本 \U0001F600.mp4"),
+        QStringLiteral("it's é 日本 \U0001F600.mp4"));
+    row("joined characters", QStringLiteral("\U0001F468\u200D\U0001F469"),
+        QStringLiteral("\U0001F468\u200D\U0001F469"));
+    row("escape sequence", QStringLiteral("a\x1b[31mb"), QStringLiteral("a\uFFFD[31mb"));
+    row("line break", QStringLiteral("a\r\nb"), QStringLiteral("a\uFFFD\uFFFDb"));
+    row("tabulator", QStringLiteral("a\tb"), QStringLiteral("a\uFFFDb"));
+    row("delete", QStringLiteral("a\x7f"), QStringLiteral("a\uFFFD"));
+    row("8-bit control", QString(QChar(0x9B)), QStringLiteral("\uFFFD"));
+    row("line separators", QStringLiteral("\u2028\u2029"), QStringLiteral("\uFFFD\uFFFD"));
+    for (const ushort code :
+         {0x202A, 0x202B, 0x202C, 0x202D, 0x202E, 0x2066, 0x2067, 0x2068, 0x2069}) {
+        row(qPrintable(QString::number(code, 16)), QString(QChar(code)), QStringLiteral("\uFFFD"));
+    }
+    row("byte that is no UTF-8", QString(QChar(0xDCE9)), QStringLiteral("\uFFFD"));
+    row("byte behind a pair", QStringLiteral("\U0001F600") + QChar(0xDC80),
+        QStringLiteral("\U0001F600\uFFFD"));
+    row("half in front of a pair", QChar(0xD83D) + QStringLiteral("\U0001F600"),
+        QStringLiteral("\uFFFD\U0001F600"));
+}
+
+void TestVisibleText::whatCannotBeShownIsReplaced()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, shown);
+    QCOMPARE(visibleText(text), shown);
+}
+
+QTEST_APPLESS_MAIN(TestVisibleText)
+#include "tst_visibletext.moc"
