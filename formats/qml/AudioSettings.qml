@@ -20,45 +20,45 @@ Grid {
     SettingCell {
         id: audioinfo1
 
+        dialog: root.dialog
         label: ToolFun.tr("Encoder")
         options: root.dialog.m_audioEncoders
         chosen: root.dialog.m_audioEncoder
         strict: true
         smartFit: ["0"]
-        onActivated: root.dialog.editedChange()
     }
 
     SettingCell {
         id: audioinfo2
 
+        dialog: root.dialog
         label: ToolFun.tr("Channel")
         labelRoom: 85
         options: root.dialog.m_audioChannels
         chosen: root.dialog.m_audioChannel
         smartFit: [0]
-        onActivated: root.dialog.editedChange()
     }
 
     SettingCell {
         id: audioinfo3
 
+        dialog: root.dialog
         label: ToolFun.tr("Sample Rate")
         options: root.dialog.m_audioSampleRates
         chosen: root.dialog.m_audioSampleRate
         smartFit: [0]
         unit: " Hz"
-        onActivated: root.dialog.editedChange()
     }
 
     SettingCell {
         id: audioinfo4
 
+        dialog: root.dialog
         label: ToolFun.tr("Bitrate")
         labelRoom: 85
         options: root.dialog.m_audioBitrates
         chosen: root.dialog.m_audioBitrate
         smartFit: [0]
         unit: " kbps"
-        onActivated: root.dialog.editedChange()
     }
 }

@@ -72,19 +72,14 @@ VEXContent {
             + O_FormatsProxy.getUserDefineCount(root.info.format, root.info.curclass, "1002")
     }
 
-    function selectQuality(quality) {
-        root.editedChange()
-        root.curQuality = quality
-        if (quality === "High Quality") {
-            video.selectLastBitrate()
-        } else if (quality === "Low Quality") {
-            video.selectBitrate(root.m_videoBitrateLow)
-        } else {
-            video.selectBitrate(root.m_videoBitrate)
-        }
+    /*! As a click on OK: the focus leaves the title first, which is refilled where it is empty. */
+    function submit() {
+        root.forceActiveFocus()
+        root.okFunc()
     }
 
     function okFunc() {
+        const video = videoSection.settings
         root.param = {
             "title": titleRow.text,
             "videoEncoder": video.encoder,
@@ -122,8 +117,8 @@ VEXContent {
     focus: true
     Accessible.role: Accessible.Dialog
     Accessible.name: titleBar.text
-    Keys.onReturnPressed: root.okFunc()
-    Keys.onEnterPressed: root.okFunc()
+    Keys.onReturnPressed: root.submit()
+    Keys.onEnterPressed: root.submit()
     Keys.onEscapePressed: root.cancelFunc()
     onWidthChanged: resize.restart()
     onHeightChanged: resize.restart()
@@ -189,30 +184,11 @@ VEXContent {
             onFoundEmpty: titleRow.text = root.newTitle()
         }
 
-        SectionHeading {
-            visible: root.hasVideo
-            text: ToolFun.tr("Quality")
-        }
-
-        Row {
-            visible: root.hasVideo
-            leftPadding: 70
-
-            QualityBar {
-                selected: root.curQuality
-                onChosen: root.selectQuality(quality)
-            }
-        }
-
-        SectionHeading {
-            visible: root.hasVideo
-            text: ToolFun.tr("Video")
-        }
-
-        VideoSettings {
-            id: video
+        VideoSection {
+            id: videoSection
 
             visible: root.hasVideo
+            spacing: parent.spacing
             dialog: root
         }
 

@@ -6,6 +6,7 @@ import "."
 Item {
     id: root
 
+    required property var dialog
     required property string label
     required property var options
     required property var chosen
@@ -22,8 +23,6 @@ Item {
     readonly property int chosenIndex: Math.max(0, root.options.findIndex(function (option) {
         return root.strict ? option === root.chosen : option == root.chosen
     }))
-
-    signal activated()
 
     function find(text) {
         return box.find(text)
@@ -71,8 +70,10 @@ Item {
         model: root.options
         Accessible.role: Accessible.ComboBox
         Accessible.name: root.label
+        // A closed box would keep Return to itself, without a use for it.
+        Keys.forwardTo: box.popup && box.popup.visible ? [] : [root.dialog]
         // A new list puts the box back to its first entry.
         onModelChanged: root.select(root.chosenIndex)
-        onActivated: root.activated()
+        onActivated: root.dialog.editedChange()
     }
 }

@@ -28,46 +28,46 @@ Grid {
     SettingCell {
         id: videoinfo1
 
+        dialog: root.dialog
         label: ToolFun.tr("Encoder")
         options: root.dialog.m_videoEncoders
         chosen: root.dialog.m_videoEncoder
         strict: true
         smartFit: ["0"]
-        onActivated: root.dialog.editedChange()
     }
 
     SettingCell {
         id: videoinfo2
 
+        dialog: root.dialog
         label: ToolFun.tr("Frame Rate")
         labelRoom: 85
         options: root.dialog.m_videoFrameRates
         chosen: root.dialog.m_videoFrameRate
         smartFit: [0]
         unit: " fps"
-        onActivated: root.dialog.editedChange()
     }
 
     SettingCell {
         id: videoinfo3
 
+        dialog: root.dialog
         label: ToolFun.tr("Resolution")
         options: root.dialog.m_videoResolutions
         chosen: root.dialog.m_videoResolution
         strict: true
         smartFit: ["0"]
-        onActivated: root.dialog.editedChange()
     }
 
     SettingCell {
         id: videoinfo4
 
+        dialog: root.dialog
         label: ToolFun.tr("Bitrate")
         labelRoom: 85
         options: root.dialog.m_videoBitrates
         chosen: root.dialog.m_videoBitrate
         smartFit: [0, "0"]
         unit: " kbps"
-        onActivated: root.dialog.editedChange()
     }
 }

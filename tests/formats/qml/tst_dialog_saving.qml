@@ -169,15 +169,65 @@ ScreenTest {
         compare(presets("MP4").count, 9)
     }
 
-    function test_enterIsOkAndEscapeIsCancel() {
+    /*! Where the keyboard can be, as so many steps with Tab. */
+    function stops() {
+        return [{ tag: "at once", tabs: 0 }, { tag: "in the title", tabs: 1 },
+                { tag: "on a quality", tabs: 2 }, { tag: "on a box", tabs: 3 },
+                { tag: "on the OK button", tabs: 12 }]
+    }
+
+    function test_returnIsAClickOnOk_data() {
+        return stops().concat([{ tag: "Enter", tabs: 1, key: Qt.Key_Enter }])
+    }
+
+    function test_returnIsAClickOnOk(row) {
         openDialog({})
-        mouseClick(all("VEXTextInput")[0])
+        press(Qt.Key_Tab, row.tabs)
+        press(row.key || Qt.Key_Return)
+        compare(calls(), [["converter.setConverterGlobalFormat", "1001"],
+                          ["frame.cancelClicked", "1001"]])
+    }
+
+    function test_returnRefillsAnEmptyTitleFirst_data() {
+        return [{ tag: "Return", key: Qt.Key_Return }, { tag: "Enter", key: Qt.Key_Enter }]
+    }
+
+    function test_returnRefillsAnEmptyTitleFirst(row) {
+        openDialog({})
+        press(Qt.Key_Tab)
+        keyClick(Qt.Key_A, Qt.ControlModifier)
+        press(Qt.Key_Delete)
+        compare(all("VEXTextInput")[0].text, "")
+        press(row.key)
+        compare(O_FormatsProxy.getFormat("1001").title, "4K-~custom0")
+        verify(!all("VEXTextInput")[0].activeFocus)
+    }
+
+    function test_escapeIsCancel_data() {
+        return stops()
+    }
+
+    function test_escapeIsCancel(row) {
+        openDialog({})
+        press(Qt.Key_Tab, row.tabs)
         press(Qt.Key_Escape)
         compare(calls(), [["frame.cancelClicked"]])
+        compare(presets("MP4").count, 8)
+    }
+
+    function test_anOpenBoxKeepsItsKeys() {
+        openDialog({})
+        const box = all("VEXComboBox")[0]
+        mouseClick(box)
+        waitFor(box.popup, "opened", true)
+        press(Qt.Key_Down)
+        press(Qt.Key_Escape)
+        waitFor(box.popup, "visible", false)
+        compare(box.currentIndex, 1)
+        choose(box, 2)
+        compare(calls(), [])
         press(Qt.Key_Return)
-        compare(calls()[1], ["frame.cancelClicked", "1001"])
-        press(Qt.Key_Enter)
-        compare(calls()[1], ["frame.cancelClicked", "1002"])
+        compare(O_FormatsProxy.getFormat("1001").video.encoder, "hevc")
     }
 
     function test_tabVisitsTitleQualityBoxesAndButtons() {
