@@ -8,6 +8,7 @@ Rectangle {
 
     required property string selectedTag
     required property bool searchable
+    readonly property bool searching: searchBox.text !== ""
 
     signal tagChosen(string tag)
     signal searched(string text)
@@ -30,6 +31,12 @@ Rectangle {
 
     implicitHeight: 48
     color: VexThemeMgr.curTheme.basics_gradeTone7
+    // No search goes on that nobody sees.
+    onSearchableChanged: {
+        if (!root.searchable) {
+            root.clearSearch()
+        }
+    }
 
     MouseArea {
         anchors.fill: parent

@@ -94,7 +94,7 @@ Popup {
     }
 
     function search(text) {
-        const shown = root.curTagModel
+        const shown = text === "" ? root.curTagModel : O_FormatsProxy.formatListModelProxy()
         root.curTagModel = null
         O_FormatsProxy.formatListModelProxy().searchKey = text
         root.curTagModel = shown
@@ -124,9 +124,10 @@ Popup {
         }
     }
 
-    function startSearch(text) {
-        if (root.recentlyShown) {
-            root.showTag(root.curTag ?? "video")
+    function type(text) {
+        if (!tagBar.searching) {
+            const known = ![undefined, "", root.recently].includes(root.curTag)
+            root.showTag(known ? root.curTag : "video")
         }
         tagBar.type(text)
     }
@@ -154,20 +155,7 @@ Popup {
     onClosed: tagBar.clearSearch()
     onOpenSelect: catalogue.showSelected()
 
-    background: Rectangle {
-        color: VexThemeMgr.curTheme.basics_gradeTone1
-        border.width: 1
-        border.color: ScreenStyle.frame
-
-        Image {
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: -8
-            z: -1
-            width: 794
-            height: 460
-            source: "qrc:/formats/image/format_back.png"
-        }
-    }
+    background: PickerFrame {}
 
     contentItem: Item {
         id: content
@@ -180,7 +168,7 @@ Popup {
             const isShortcut = event.modifiers & (Qt.ControlModifier | Qt.AltModifier
                                                   | Qt.MetaModifier)
             if (isText && !isShortcut) {
-                root.startSearch(event.text)
+                root.type(event.text)
             } else if ([Qt.Key_Down, Qt.Key_Up, Qt.Key_Return, Qt.Key_Enter].includes(event.key)) {
                 (root.recentlyShown ? recentlyPanel : catalogue).focusPresets()
             } else {

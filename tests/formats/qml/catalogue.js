@@ -84,3 +84,10 @@ function sample() {
         }
     ]
 }
+
+/*! The same with a preset "Own_001" whose format carries the tag of the recently-used list. */
+function sampleWithTagRecently() {
+    return sample().concat([{
+        "category": "Recently", "groups": [group("Own", "fmt_mp4", [video("Own_001", "Own")])]
+    }])
+}

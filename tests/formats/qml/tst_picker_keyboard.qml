@@ -137,26 +137,6 @@ ScreenTest {
         verify(all("VEXTextField")[0].activeFocus)
     }
 
-    function test_typingOverTheRecentlyUsedPresetsSearchesTheCatalogue() {
-        O_FormatsProxy.add2Recently("audio", "MP3", "Audio_MP3_002")
-        const page = openPicker({ listFormatId: "Audio_MP3_002" })
-        compare(page.selectTag, "recently")
-        press("a")
-        press("v")
-        compare(page.selectTag, "audio")
-        compare(formats().searchKey, "av")
-        verify(page.curTagModel === formats())
-        compare(page.selectClass, "AVI")
-    }
-
-    function test_typingOverAnUnknownPresetsListSearchesTheVideoFormats() {
-        const page = openPicker({ listFormatId: "Gone_001" })
-        click(named("FormatTag", "~recently"))
-        press("a")
-        compare(page.selectTag, "video")
-        compare(formats().searchKey, "a")
-    }
-
     function test_shortcutsAreNoSearch() {
         openPicker({ openWay: true })
         keyClick("a", Qt.ControlModifier)

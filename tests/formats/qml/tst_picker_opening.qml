@@ -7,10 +7,7 @@ ScreenTest {
 
     /*! A preset of a catalogue format that carries the tag of the recently-used list. */
     function beginWithGlobalUnderRecently() {
-        restart(Catalogue.sample().concat([{
-            "category": "Recently",
-            "groups": [Catalogue.group("Own", "fmt_mp4", [Catalogue.video("Own_001", "Own")])]
-        }]))
+        restart(Catalogue.sampleWithTagRecently())
         host.settings.converterGlobalId = "Own_001"
         host.settings.editorGlobalId = "Own_001"
     }
@@ -146,14 +143,6 @@ ScreenTest {
         compare(page.selectClass, "Own")
         verify(page.curTagModel === formats())
         compare(formats().filterKey, "recently")
-    }
-
-    function test_searchingTheRecentlyUsedModelLeavesTheClass() {
-        beginWithGlobalUnderRecently()
-        const page = openPicker({ listFormatId: "Video_MP4_003" })
-        keyClick("a")
-        compare(formats().searchKey, "a")
-        compare(page.selectClass, "MP4")
     }
 
     function test_thePresetsFollowTheSelectedClass() {

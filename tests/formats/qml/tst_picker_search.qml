@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtTest 1.15
+import "catalogue.js" as Catalogue
 
 ScreenTest {
     id: root
@@ -28,6 +29,24 @@ ScreenTest {
     function search(text) {
         click(searchBox())
         type(text)
+    }
+
+    /*! A picker for a task with the preset \a id, over a global preset of the tag "recently". */
+    function pickerOverTagRecently(id) {
+        restart(Catalogue.sampleWithTagRecently())
+        host.settings.converterGlobalId = "Own_001"
+        return openPicker({ listFormatId: id })
+    }
+
+    function checkThatAviIsFound(page, tag) {
+        compare(formats().searchKey, "av")
+        verify(field().activeFocus)
+        compare(field().text, "av")
+        verify(page.curTagModel === formats())
+        compare(titles(), ["AVI"])
+        compare(page.selectClass, "AVI")
+        compare(page.selectTag, tag)
+        verify(named("FormatTag", "~" + tag).selected)
     }
 
     name: "PickerSearch"
@@ -96,6 +115,73 @@ ScreenTest {
         settle()
         click(named("FormatTag", "~empty"))
         compare(all("EmptyNotice").length, 1)
+    }
+
+    function test_typingOutsideTheFieldSearchesUnderTheTagOfThePresetInUse_data() {
+        return [
+            { tag: "its tag", id: "Audio_MP3_002", found: "audio" },
+            { tag: "another tag", id: "Audio_MP3_002", clicked: "~video", found: "audio" },
+            { tag: "recently used", id: "Audio_MP3_002", clicked: "~recently", found: "audio" },
+            { tag: "unknown", id: "Gone_001", found: "video" },
+            { tag: "unknown, recently used", id: "Gone_001", clicked: "~recently",
+              found: "video" },
+            { tag: "none", id: null, found: "video" }
+        ]
+    }
+
+    function test_typingOutsideTheFieldSearchesUnderTheTagOfThePresetInUse(row) {
+        const page = openPicker({ listFormatId: row.id })
+        if (row.clicked) {
+            click(named("FormatTag", row.clicked))
+        }
+        type("av")
+        checkThatAviIsFound(page, row.found)
+    }
+
+    function test_typingOverAPresetThatWasUsedSearchesTheCatalogue() {
+        O_FormatsProxy.add2Recently("audio", "MP3", "Audio_MP3_002")
+        const page = openPicker({ listFormatId: "Audio_MP3_002" })
+        compare(page.selectTag, "recently")
+        type("av")
+        checkThatAviIsFound(page, "audio")
+    }
+
+    function test_noSearchGoesToTheTagRecently_data() {
+        return [{ tag: "preset of that tag", id: "Own_001" },
+                { tag: "global preset of that tag", id: "Video_MP4_003" }]
+    }
+
+    function test_noSearchGoesToTheTagRecently(row) {
+        const page = pickerOverTagRecently(row.id)
+        type("av")
+        checkThatAviIsFound(page, "video")
+    }
+
+    function test_typingGoesOnWithASearchUnderItsTag() {
+        const page = openPicker({ openWay: true })
+        click(named("FormatTag", "~audio"))
+        search("a")
+        press(Qt.Key_Down)
+        type("v")
+        checkThatAviIsFound(page, "audio")
+    }
+
+    function test_theFieldShowsWhatItFindsWhereTheRecentlyUsedPresetsStood() {
+        const page = pickerOverTagRecently("Video_MP4_003")
+        verify(page.curTagModel === recents())
+        search("av")
+        checkThatAviIsFound(page, "video")
+    }
+
+    function test_aSearchEndsWithTheFieldThatShowsIt() {
+        const page = openPicker({ openWay: true })
+        search("mp")
+        page.selectTag = "recently"
+        compare(formats().searchKey, "")
+        keyClick("x")
+        compare(page.selectTag, "video")
+        compare(field().text, "x")
+        compare(formats().searchKey, "x")
     }
 
     function test_theFieldTakes15Characters() {
