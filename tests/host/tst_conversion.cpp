@@ -3,6 +3,7 @@
 #include "host/convert/textlist.h"
 #include "tests/host/mediaclips.h"
 #include "tests/support/messagelog.h"
+#include "tests/support/patience.h"
 
 #include <QEventLoop>
 #include <QSignalSpy>
@@ -13,8 +14,6 @@
 #include <optional>
 
 namespace {
-
-constexpr int patience = 60000; // for a conversion of a second, on a busy machine
 
 ConversionOutcome outcomeOf(Conversion &conversion)
 {

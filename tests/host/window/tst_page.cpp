@@ -3,6 +3,7 @@
 
 #include "formats/proxy/formatsproxy.h"
 #include "tests/host/mediaclips.h"
+#include "tests/support/patience.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -92,7 +93,7 @@ int TestPage::addReady(Page &page, const QUrl &url)
 {
     page.addFiles({url});
     const int id = page.tasks()->tasks().constLast().id;
-    [&] { QTRY_COMPARE(task(page, id).state, Task::Ready); }();
+    [&] { QTRY_COMPARE_WITH_TIMEOUT(task(page, id).state, Task::Ready); }(, patience);
     return id;
 }
 
@@ -103,9 +104,9 @@ void TestPage::aFileIsReadAndPictured()
     m_converter->addFiles({QUrl::fromLocalFile(path)});
     const int id = m_converter->tasks()->tasks().constFirst().id;
     QCOMPARE(task(*m_converter, id).state, Task::Reading);
-    QTRY_COMPARE(task(*m_converter, id).state, Task::Ready);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Ready, patience);
     QCOMPARE(task(*m_converter, id).facts.picture()->codec, QStringLiteral("h264"));
-    QTRY_VERIFY(!task(*m_converter, id).thumbnail.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!task(*m_converter, id).thumbnail.isEmpty(), patience);
     const QImage picture(QUrl(task(*m_converter, id).thumbnail).toLocalFile());
     QCOMPARE(picture.size(), QSize(256, 192));
     QCOMPARE(task(*m_converter, id).formatCaption, QStringLiteral("MP3 - Middle Quality"));
@@ -136,10 +137,10 @@ void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()
     m_converter->addFiles({QUrl::fromLocalFile(path), song()});
     const int first = m_converter->tasks()->tasks().at(0).id;
     const int second = m_converter->tasks()->tasks().at(1).id;
-    QTRY_COMPARE(task(*m_converter, first).state, Task::Failed);
-    QTRY_COMPARE(task(*m_converter, second).state, Task::Ready);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, first).state, Task::Failed, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, second).state, Task::Ready, patience);
     m_converter->convertAll();
-    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
     QCOMPARE(task(*m_converter, first).state, Task::Failed);
     QVERIFY(task(*m_converter, first).error.startsWith(QStringLiteral("cannot be read as media")));
     QCOMPARE(task(*m_converter, second).state, Task::Converted);
@@ -171,7 +172,7 @@ void TestPage::tasksRunOneAfterAnother()
     m_converter->convert(tasks.at(1).id);
     QVERIFY(m_converter->isBusy());
     QVERIFY(!m_converter->canConvert());
-    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
     QVERIFY(!m_converter->canConvert());
     QCOMPARE(most, 1);
     QCOMPARE(order, QVector<int>({tasks.at(0).id, tasks.at(1).id}));
@@ -183,11 +184,11 @@ void TestPage::aStoppedTaskCanBeTriedAgain()
     const int second = addReady(*m_converter, song(QStringLiteral("b.wav")));
     m_converter->convertAll();
     m_converter->cancelAll();
-    QTRY_VERIFY(!m_converter->isBusy());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
     QCOMPARE(task(*m_converter, first).state, Task::Cancelled);
     QCOMPARE(task(*m_converter, second).state, Task::Cancelled);
     m_converter->convert(second);
-    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, second).state, Task::Converted, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, second).state, Task::Converted, patience);
     QCOMPARE(task(*m_converter, first).state, Task::Cancelled);
     QVERIFY(!QFile::exists(m_files->filePath(QStringLiteral("a.mp3"))));
 }
@@ -201,7 +202,7 @@ void TestPage::removingTheRunningTaskLetsTheNextOneRun()
     m_converter->remove(first);
     QCOMPARE(m_converter->tasks()->count(), 1);
     QCOMPARE(task(*m_converter, second).state, Task::Running);
-    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, second).state, Task::Converted, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, second).state, Task::Converted, patience);
     QVERIFY(!QFile::exists(m_files->filePath(QStringLiteral("a.mp3"))));
 }
 
@@ -258,9 +259,9 @@ void TestPage::aPresetIsUsedWhileItsTaskIsQueued()
     QVERIFY(m_converter->checkFormatUsed(flac));
     QVERIFY(!m_converter->checkFormatUsed(mkv));
     QVERIFY(!m_editor->checkFormatUsed(mp3));
-    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, first).state, Task::Converted, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, first).state, Task::Converted, patience);
     QVERIFY(!m_converter->checkFormatUsed(mp3));
-    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
     QVERIFY(!m_converter->checkFormatUsed(flac));
 }
 
@@ -275,7 +276,7 @@ void TestPage::aTaskWhosePresetIsGoneTakesTheGlobalOne()
     m_settings->setEditorGlobalId(own);
 
     m_store->formats().delUserDefineFormat(QStringLiteral("audio"), QStringLiteral("MP3"), own);
-    QTRY_COMPARE(task(*m_converter, id).format, mp3);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).format, mp3, patience);
     QCOMPARE(task(*m_converter, id).formatCaption, QStringLiteral("MP3 - Middle Quality"));
     QCOMPARE(m_editor->globalCaption(), QStringLiteral("MP4 - Keep Orignal"));
     QCOMPARE(task(*m_editor, addReady(*m_editor, song())).format, QStringLiteral("Video_MP4_001"));
@@ -285,7 +286,7 @@ void TestPage::aNewFormatMakesAConvertedTaskReady()
 {
     const int id = addReady(*m_converter, song());
     m_converter->convertAll();
-    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, patience);
     m_converter->setConvertingListTaskFormat(id, flac);
     QCOMPARE(task(*m_converter, id).state, Task::Ready);
     QCOMPARE(task(*m_converter, id).target, QString());
@@ -298,7 +299,7 @@ void TestPage::resultsGoIntoTheChosenFolder()
     m_converter->setFolder(folder.path());
     const int id = addReady(*m_converter, song());
     m_converter->convertAll();
-    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, patience);
     QVERIFY(QFile::exists(folder.filePath(QStringLiteral("song.mp3"))));
 }
 
@@ -310,7 +311,7 @@ void TestPage::theEditorCutsItsFiles()
     const int id = addReady(*m_editor, QUrl::fromLocalFile(path));
     m_editor->cut(id, 1, 3.5);
     m_editor->convertAll();
-    QTRY_COMPARE_WITH_TIMEOUT(task(*m_editor, id).state, Task::Converted, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_editor, id).state, Task::Converted, patience);
     const double seconds = MediaClips::factsOf(task(*m_editor, id).target).duration;
     QVERIFY2(std::abs(seconds - 2.5) < 0.15, qPrintable(QString::number(seconds)));
     // Another part of a file that is through makes it ready again.

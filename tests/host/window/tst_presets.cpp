@@ -3,6 +3,7 @@
 #include "host/window/settings.h"
 
 #include "formats/proxy/formatsproxy.h"
+#include "tests/support/patience.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -67,19 +68,19 @@ void TestPresets::everyChangeIsSavedAsItHappens()
 {
     QSignalSpy changes(m_presets.get(), &Presets::changed);
     m_presets->noteUse(QStringLiteral("Audio_MP3_002"));
-    QTRY_COMPARE(changes.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 1, patience);
     QCOMPARE(firstIdIn(recently()), QStringLiteral("Audio_MP3_002"));
 
     FormatsProxy &formats = m_store->formats();
     const QString id = formats.addUserDefineFormat(
         QStringLiteral("audio"), QStringLiteral("MP3"), QStringLiteral("Audio_MP3_002"),
         {{QStringLiteral("title"), QStringLiteral("Mine")}});
-    QTRY_COMPARE(changes.count(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 2, patience);
     QVERIFY(contentOf(userPresets()).contains("\"Mine\""));
 
     formats.changeUserDefineFormat(QStringLiteral("MP3"), id,
                                    {{QStringLiteral("title"), QStringLiteral("Yours")}});
-    QTRY_COMPARE(changes.count(), 3);
+    QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 3, patience);
     QVERIFY(contentOf(userPresets()).contains("\"Yours\""));
 
     formats.delUserDefineFormat(QStringLiteral("audio"), QStringLiteral("MP3"), id);
@@ -99,7 +100,7 @@ void TestPresets::aSaveThatFailsIsTold()
     QVERIFY(QDir().mkdir(recently()));
     QSignalSpy failures(m_presets.get(), &Presets::saveFailed);
     m_presets->noteUse(QStringLiteral("Audio_MP3_002"));
-    QTRY_COMPARE(failures.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(failures.count(), 1, patience);
     QVERIFY(failures.at(0).at(0).toString().contains(recently()));
     QVERIFY(QDir().rmdir(recently()));
     write(recently(), before);
