@@ -43,10 +43,11 @@ double nearestAllowed(double wanted, const char *allowed)
     return nearest == 0 ? wanted : nearest;
 }
 
+/*! The same of rates; one that isn't valid is left to ffmpeg. */
 Ratio nearestRate(const Ratio &wanted, const char *allowed)
 {
     Ratio nearest;
-    const QStringList values = words(allowed);
+    const QStringList values = wanted.isValid() ? words(allowed) : QStringList();
     for (const QString &text : values) {
         const Ratio rate = Ratio::fromText(text);
         if (!nearest.isValid() ||

@@ -242,6 +242,14 @@ void TestFfmpegArguments::aPresetBecomesACommand_data()
               }),
         "-map 0:0 -map 0:1 -c:v:0 mpeg4 -r:v:0 30000/1001 -pix_fmt:v:0 yuv420p -q:v:0 4 "
         "-c:a:0 copy -f avi");
+    row("an unknown rate is left to ffmpeg", video("mpg", "mpeg2video"),
+        facts(film(),
+              [](MediaFacts &f) {
+                  f.videoTracks[0].frameRate = Ratio();
+                  f.videoTracks[0].hasSteadyRate = false;
+                  f.audioTracks.clear();
+              }),
+        "-map 0:0 -c:v:0 mpeg2video -pix_fmt:v:0 yuv420p -q:v:0 4 -f mpeg");
 
     // Encoders and bitrates.
     row("hevc", video("mp4", "hevc", "aac"), film(),
