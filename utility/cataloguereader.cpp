@@ -551,9 +551,12 @@ QString CatalogueMistake::text() const
         line += place.path + QStringLiteral(": ");
     }
     line += reason;
-    // Names and keys may hold line breaks and what moves a terminal's cursor.
+    // Names and keys may hold line breaks, what moves a terminal's cursor and what turns its text.
+    static const QVector<QChar::Category> invisible = {QChar::Other_Control, QChar::Other_Format,
+                                                       QChar::Separator_Line,
+                                                       QChar::Separator_Paragraph};
     for (QChar &character : line) {
-        character = character.category() == QChar::Other_Control ? QLatin1Char(' ') : character;
+        character = invisible.contains(character.category()) ? QLatin1Char(' ') : character;
     }
     return line;
 }

@@ -6,15 +6,8 @@
 
 namespace {
 
-void complain(QString complaint)
+void complain(const QString &complaint)
 {
-    // What the files hold may move a terminal's cursor or look like a line of its own.
-    for (QChar &character : complaint) {
-        if (character.category() == QChar::Other_Control ||
-            character.category() == QChar::Other_Format) {
-            character = QChar::ReplacementCharacter;
-        }
-    }
     // Not qWarning(): where no terminal is attached, Qt may log to the system's journal instead.
     std::fprintf(stderr, "VEX_EXPORT_CATALOGUE: %s\n", complaint.toUtf8().constData());
 }

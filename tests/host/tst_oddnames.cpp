@@ -235,11 +235,20 @@ void TestOddNames::aTitleIsSafeInTablesAndJson()
 
 void TestOddNames::aMistakeInACatalogueIsSafeToo()
 {
-    m_environment.insert(QStringLiteral("VEX_EXPORT_CATALOGUE"), path("no\x1b[2J\n\xe9.json"));
+    m_environment.insert(QStringLiteral("VEX_EXPORT_CATALOGUE"),
+                         path("no\x1b[2J\n\xe2\x80\xae\xe9.json"));
     const CommandRun told = run({QStringLiteral("formats")});
     QCOMPARE(told.exitCode, 0);
     QCOMPARE(told.err.count(QLatin1Char('\n')), 1);
     verifyVisible(told.err);
+
+    const CommandRun json = run({QStringLiteral("check-catalogue"), QStringLiteral("--json")});
+    verifyVisible(json.out);
+    QVERIFY(!json.out.contains(QStringLiteral("\\ud")));
+    const QJsonArray mistakes =
+        QJsonDocument::fromJson(json.out.toUtf8()).object()[QStringLiteral("mistakes")].toArray();
+    QVERIFY(mistakes.at(0)[QStringLiteral("file")].toString().endsWith(
+        QString::fromUtf8("no\x1b[2J\n\u202e\uFFFD.json")));
 }
 
 QTEST_GUILESS_MAIN(TestOddNames)

@@ -1,3 +1,4 @@
+#include "host/files/filenames.h"
 #include "host/window/languages.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
@@ -127,6 +128,7 @@ private Q_SLOTS:
     void convertsTwoFilesWithPresetsOfTheUsersOwn();
     void everythingIsThereAfterARestart();
     void keysDoWhatTheMouseDoes();
+    void aNameThatIsNoUtf8IsConverted();
 
 private:
     QString configFolder() const;
@@ -136,6 +138,7 @@ private:
 
 void TestJourney::initTestCase()
 {
+    keepBytesOfFileNames();
     Languages::install(QStringLiteral("en"));
     qInstallMessageHandler(collectWarnings);
 }
@@ -318,6 +321,42 @@ void TestJourney::keysDoWhatTheMouseDoes()
     QTest::keyClick(window, Qt::Key_Right);
     QCOMPARE(window->property("currentPage").toInt(), 1);
     QCOMPARE(namelessControls(window->contentItem()), QStringList());
+}
+
+void TestJourney::aNameThatIsNoUtf8IsConverted()
+{
+    // A file manager names it by a URL, the folder that holds it by another.
+    const QTemporaryDir work;
+    const QString folder = QDir(work.path()).filePath(QFile::decodeName("m\xfcsik"));
+    const QString song = QDir(folder).filePath(QFile::decodeName("caf\xe9\n.wav"));
+    QVERIFY(QDir().mkdir(folder));
+    const QString made = work.filePath(QStringLiteral("song.wav"));
+    QVERIFY(MediaClips::makeSong(made));
+    QVERIFY(QFile::rename(made, song));
+    MainWindow main(work.filePath(QStringLiteral("config")));
+    QCOMPARE(main.open(), QString());
+    QQuickWindow *window = main.window();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    ConverterProxy &page = main.converter();
+    page.setFolder(folder);
+
+    const QByteArray url = "file://" + QFile::encodeName(work.path()) + "/m%FCsik";
+    drop(window, {QUrl::fromEncoded(url + "/caf%E9%0A.wav"), QUrl::fromEncoded(url)});
+    const QVector<Task> &tasks = page.tasks()->tasks();
+    QTRY_COMPARE(tasks.size(), 2);
+    for (const Task &task : tasks) {
+        QCOMPARE(task.source, song);
+    }
+    QTRY_VERIFY(tasks.at(0).state == Task::Ready && tasks.at(1).state == Task::Ready);
+    QTRY_COMPARE(itemsNamed(window->contentItem(), QStringLiteral("caf\uFFFD\uFFFD.wav")).isEmpty(),
+                 false);
+    page.setConverterGlobalFormat(QStringLiteral("Audio_MP3_002"));
+    page.convertAll();
+    QTRY_VERIFY_WITH_TIMEOUT(!page.isBusy(), 60000);
+    QCOMPARE(QFile::encodeName(tasks.at(0).target), QFile::encodeName(folder) + "/caf\xe9\n.mp3");
+    QCOMPARE(QFile::encodeName(tasks.at(1).target),
+             QFile::encodeName(folder) + "/caf\xe9\n (2).mp3");
+    QVERIFY(QFile::exists(tasks.at(1).target));
 }
 
 QTEST_MAIN(TestJourney)
