@@ -1,7 +1,7 @@
 #include "host/check/presetproof.h"
 
 #include "host/media/mediaprobe.h"
-#include "host/media/tool.h"
+#include "host/tools/tool.h"
 
 #include <QDir>
 #include <QFile>

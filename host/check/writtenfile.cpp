@@ -3,7 +3,7 @@
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
 #include "host/convert/textlist.h"
-#include "host/media/tool.h"
+#include "host/tools/tool.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,7 +4,7 @@
 #include "host/convert/containers.h"
 #include "host/convert/picturefit.h"
 #include "host/convert/textlist.h"
-#include "host/media/tool.h"
+#include "host/tools/tool.h"
 
 #include <algorithm>
 #include <cmath>

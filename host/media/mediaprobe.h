@@ -2,7 +2,7 @@
 #define MEDIA_MEDIAPROBE_H
 
 #include "host/media/mediafacts.h"
-#include "host/media/tool.h"
+#include "host/tools/tool.h"
 
 /*! Facts about a media file, or one line that says why there are none and how to mend it. */
 struct ProbeOutcome

@@ -1,7 +1,7 @@
 #include "host/window/screenshots.h"
 
 #include "host/commandline/commandline.h"
-#include "host/media/tool.h"
+#include "host/tools/tool.h"
 #include "host/window/pageproxies.h"
 
 #include "formats/proxy/formatsproxy.h"

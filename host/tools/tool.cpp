@@ -1,4 +1,4 @@
-#include "host/media/tool.h"
+#include "host/tools/tool.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,5 +1,5 @@
-#ifndef MEDIA_TOOL_H
-#define MEDIA_TOOL_H
+#ifndef TOOLS_TOOL_H
+#define TOOLS_TOOL_H
 
 #include <QByteArray>
 #include <QCoreApplication>
