@@ -23,16 +23,25 @@ bool moveOver(const QString &from, const QString &to)
     return !error;
 }
 
+/*! The longest beginning of \a text that takes no more than \a bytes in a file's name. */
+QString beginningOf(const QString &text, int bytes)
+{
+    QString beginning = text.left(bytes);
+    while (QFile::encodeName(beginning).size() > bytes ||
+           (!beginning.isEmpty() && qAsConst(beginning).back().isHighSurrogate())) {
+        beginning.chop(1);
+    }
+    return beginning;
+}
+
 /*! The base shortened where needed, since file systems take names of 255 bytes. */
-QString numberedName(QString baseName, int number, const QString &extension)
+QString numberedName(const QString &baseName, int number, const QString &extension)
 {
     constexpr int longestName = 255;
-    const QString tail =
-        (number > 1 ? QStringLiteral(" (%1).").arg(number) : QStringLiteral(".")) + extension;
-    while (QFile::encodeName(baseName + tail).size() > longestName) {
-        baseName.chop(1);
-    }
-    return baseName + tail;
+    const QString tail = beginningOf(
+        (number > 1 ? QStringLiteral(" (%1).").arg(number) : QStringLiteral(".")) + extension,
+        longestName);
+    return beginningOf(baseName, longestName - QFile::encodeName(tail).size()) + tail;
 }
 
 } // namespace
