@@ -2,6 +2,7 @@
 
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
+#include "host/convert/outputsettings.h"
 #include "host/convert/textlist.h"
 #include "host/media/mediafacts.h"
 
@@ -66,8 +67,8 @@ bool hasForm(const QString &value, ChosenValue::Form form)
         QRegularExpression::anchoredPattern(QStringLiteral("[1-9][0-9]{0,4}x[1-9][0-9]{0,4}")));
     static const QRegularExpression wholeNumber(
         QRegularExpression::anchoredPattern(QStringLiteral("[0-9]{1,7}")));
-    constexpr double slowest = 1;
-    constexpr double fastest = 300;
+    constexpr double slowest = OutputSettings::slowestFrameRate;
+    constexpr double fastest = OutputSettings::fastestFrameRate;
     switch (form) {
     case ChosenValue::Size:
         return value == keepsSource || size.match(value).hasMatch();

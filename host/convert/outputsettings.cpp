@@ -1,8 +1,13 @@
 #include "host/convert/outputsettings.h"
 
+#include "host/convert/containers.h"
+#include "host/media/mediafacts.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <tuple>
 
 namespace {
@@ -13,11 +18,46 @@ QString chosenText(const QVariantMap &map, const QString &key)
     return text == QLatin1String("0") ? QString() : text;
 }
 
+// Values that no preset means: they stand for what can't be read.
+constexpr Ratio unreadableRate{-1, 1};
+constexpr QSize unreadableSize(0, 0);
+constexpr int unreadableCount = -1;
+constexpr double unreadableKbps = std::numeric_limits<double>::quiet_NaN();
+
+double numberFromText(const QString &text, double unreadable)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return text.isEmpty() ? 0 : isNumber ? number : unreadable;
+}
+
+int countFromText(const QString &text)
+{
+    constexpr double largest = std::numeric_limits<int>::max();
+    const double count = numberFromText(text, unreadableCount);
+    const bool isCount = count >= 0 && (count > largest || count == std::floor(count));
+    return isCount ? int(std::min(count, largest)) : unreadableCount;
+}
+
+Ratio rateFromText(const QString &text)
+{
+    if (numberFromText(text, unreadableKbps) == 0) {
+        return {};
+    }
+    const Ratio rate = Ratio::fromFrameRate(text);
+    return rate.isValid() ? rate : unreadableRate;
+}
+
 QSize sizeFromText(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\d+)x(\\d+)$"));
+    static const QRegularExpression form(QStringLiteral("^(\\d+)x(\\d+)\\z"));
     const QRegularExpressionMatch match = form.match(text);
-    return QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    if (text.isEmpty()) {
+        return {};
+    }
+    return match.hasMatch()
+               ? QSize(countFromText(match.captured(1)), countFromText(match.captured(2)))
+               : unreadableSize;
 }
 
 double videoKbpsOf(const QVariantMap &preset)
@@ -26,16 +66,56 @@ double videoKbpsOf(const QVariantMap &preset)
     const QVariant kbps =
         node.value(QStringLiteral("videoParam")).toMap().value(QStringLiteral("bitrateKbps"));
     const QVariantMap video = preset.value(QStringLiteral("video")).toMap();
-    return (kbps.isValid() ? kbps : video.value(QStringLiteral("bitrateMid"))).toDouble();
+    return numberFromText(
+        (kbps.isValid() ? kbps : video.value(QStringLiteral("bitrateMid"))).toString(),
+        unreadableKbps);
 }
+
+/*! Text of a file that may hold anything, fit for a line of a message. */
+QString shortened(QString text)
+{
+    constexpr int longest = 40;
+    if (text.size() > longest) {
+        text = text.left(longest) + QStringLiteral("...");
+    }
+    std::replace_if(
+        text.begin(), text.end(), [](QChar letter) { return !letter.isPrint(); }, QLatin1Char('?'));
+    return text;
+}
+
+/*! Names of encoders and codecs, as ffmpeg has them. */
+bool isName(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^[A-Za-z0-9._-]{0,64}\\z"));
+    return form.match(text).hasMatch();
+}
+
+/*! A number that a preset chooses; 0 keeps the source's own. */
+struct ChosenNumber
+{
+    const char *field;
+    double value;
+    double least;
+    double most;
+    const char *unit;
+    QString text = QString::number(value, 'g', 10);
+
+    [[nodiscard]] bool isPossible() const
+    {
+        return value == 0 || (value >= least && value <= most);
+    }
+    [[nodiscard]] QString allowed() const
+    {
+        return QStringLiteral("%1-%2%3").arg(least).arg(most, 0, 'f', 0).arg(QLatin1String(unit));
+    }
+};
 
 auto valuesOf(const OutputSettings &settings)
 {
     return std::tie(settings.extension, settings.hasPicture, settings.videoCodec,
-                           settings.frameRate, settings.box, settings.videoKbps,
-                           settings.audioCodec, settings.sampleRate, settings.channels,
-                           settings.audioKbps, settings.allAudioTracks, settings.start,
-                           settings.end);
+                    settings.frameRate, settings.box, settings.videoKbps, settings.audioCodec,
+                    settings.sampleRate, settings.channels, settings.audioKbps,
+                    settings.allAudioTracks, settings.start, settings.end);
 }
 
 } // namespace
@@ -51,17 +131,57 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
     if (settings.hasPicture) {
         const QVariantMap video = preset.value(QStringLiteral("video")).toMap();
         settings.videoCodec = chosenText(video, QStringLiteral("encoder"));
-        settings.frameRate = Ratio::fromFrameRate(chosenText(video, QStringLiteral("frameRate")));
+        settings.frameRate = rateFromText(chosenText(video, QStringLiteral("frameRate")));
         settings.box = sizeFromText(chosenText(video, QStringLiteral("resolution")));
         settings.videoKbps = videoKbpsOf(preset);
     }
 
     const QVariantMap audio = preset.value(QStringLiteral("audio")).toMap();
     settings.audioCodec = chosenText(audio, QStringLiteral("encoder"));
-    settings.sampleRate = audio.value(QStringLiteral("sampleRate")).toInt();
-    settings.channels = audio.value(QStringLiteral("channel")).toInt();
-    settings.audioKbps = audio.value(QStringLiteral("bitrate")).toDouble();
+    settings.sampleRate = countFromText(chosenText(audio, QStringLiteral("sampleRate")));
+    settings.channels = countFromText(chosenText(audio, QStringLiteral("channel")));
+    settings.audioKbps =
+        numberFromText(chosenText(audio, QStringLiteral("bitrate")), unreadableKbps);
     return settings;
+}
+
+QString OutputSettings::problem() const
+{
+    if (Container::find(extension) == nullptr) {
+        return tr("files of the kind \".%1\" can't be written; choose another preset")
+            .arg(shortened(extension));
+    }
+    for (const QString &codec : {videoCodec, audioCodec}) {
+        if (!isName(codec)) {
+            return tr("no encoder has a name like \"%1\"; choose another preset")
+                .arg(shortened(codec));
+        }
+    }
+    const double rate = frameRate == Ratio() ? 0 : frameRate.isValid() ? frameRate.value() : -1;
+    const int side = !box.isValid() ? 0 : box.isEmpty() ? -1 : std::max(box.width(), box.height());
+    const ChosenNumber numbers[] = {
+        {"video.frameRate", rate, slowestFrameRate, fastestFrameRate, " fps"},
+        {"video.resolution", double(side), 1, 16384, " px", sizeText(box)},
+        {"video.bitrate", videoKbps, 1, 1000000, " kbps"},
+        {"audio.sampleRate", double(sampleRate), 1000, 768000, " Hz"},
+        {"audio.channel", double(channels), 1, 64, ""},
+        {"audio.bitrate", audioKbps, 1, 100000, " kbps"},
+    };
+    for (const ChosenNumber &number : numbers) {
+        if (!number.isPossible()) {
+            const bool isReadable = number.value > 0;
+            return tr("the preset's %1 is %2; it must be 0 or %3; choose another preset")
+                .arg(QLatin1String(number.field),
+                     isReadable ? number.text : tr("not a valid number"), number.allowed());
+        }
+    }
+    // A file of 30 years, so that ffmpeg can count its microseconds.
+    constexpr double longestSeconds = 1e9;
+    const bool isCutPossible = start >= 0 && start <= longestSeconds &&
+                               (end == 0 || (end > start && end <= longestSeconds));
+    return isCutPossible ? QString()
+                         : tr("the part to keep must begin at 0 or later and end after that; "
+                              "choose another part");
 }
 
 bool OutputSettings::operator==(const OutputSettings &other) const

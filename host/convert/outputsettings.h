@@ -3,6 +3,7 @@
 
 #include "host/media/ratio.h"
 
+#include <QCoreApplication>
 #include <QSize>
 #include <QString>
 #include <QVariantMap>
@@ -13,6 +14,11 @@
  */
 struct OutputSettings
 {
+    Q_DECLARE_TR_FUNCTIONS(OutputSettings)
+public:
+    static constexpr double slowestFrameRate = 1;
+    static constexpr double fastestFrameRate = 300;
+
     QString extension;
     bool hasPicture = false;
     QString videoCodec; //!< as ffprobe names it
@@ -27,8 +33,17 @@ struct OutputSettings
     double start = 0;            //!< seconds; what lies before is left out
     double end = 0;              //!< seconds; what lies behind is left out, 0: nothing
 
-    /*! Reads a preset map, as FormatDetailModelData::toVarMap() makes it. */
+    /*!
+     * Reads a preset map, as FormatDetailModelData::toVarMap() makes it. A value that can't be
+     * read is kept as one that problem() names.
+     */
     [[nodiscard]] static OutputSettings fromPreset(const QVariantMap &preset);
+
+    /*!
+     * One line that says which value no file can be written with, and what is allowed; empty when
+     * all can be. What only a source or this machine's ffmpeg can't do comes later.
+     */
+    [[nodiscard]] QString problem() const;
 
     bool operator==(const OutputSettings &other) const;
 

@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include <functional>
+#include <limits>
 
 using Change = std::function<void(OutputSettings &)>;
 Q_DECLARE_METATYPE(Change)
@@ -20,6 +21,12 @@ private Q_SLOTS:
     void theVideoBitrateIsTheConvertersOwn();
     void aTextThatIsNoSizeIsNoBox_data();
     void aTextThatIsNoSizeIsNoBox();
+    void whatNoFileCanHaveIsNamed_data();
+    void whatNoFileCanHaveIsNamed();
+    void whatFilesCanHaveIsNoProblem_data();
+    void whatFilesCanHaveIsNoProblem();
+    void aCutMustHoldSomething_data();
+    void aCutMustHoldSomething();
     void settingsAreTheSameWhenAllValuesAre_data();
     void settingsAreTheSameWhenAllValuesAre();
     void aCutIsAsLongAsWhatIsKept_data();
@@ -151,6 +158,158 @@ void TestOutputSettings::aTextThatIsNoSizeIsNoBox()
     QVERIFY(OutputSettings::fromPreset(
                 with(QStringLiteral("video"), QStringLiteral("resolution"), text))
                 .box.isEmpty());
+}
+
+void TestOutputSettings::whatNoFileCanHaveIsNamed_data()
+{
+    QTest::addColumn<QVariantMap>("map");
+    QTest::addColumn<QString>("problem");
+
+    const auto extension = [](const char *name, const QString &text, const QString &told) {
+        QVariantMap map = preset();
+        map.insert(QStringLiteral("extension"), text);
+        QTest::newRow(name) << map
+                            << QStringLiteral("files of the kind \".%1\" can't be written; choose "
+                                              "another preset")
+                                   .arg(told);
+    };
+    extension("unknown extension", QStringLiteral("xyz"), QStringLiteral("xyz"));
+    extension("no extension", QString(), QString());
+    extension("two extensions", QStringLiteral("mp4 mkv"), QStringLiteral("mp4 mkv"));
+    extension("a path", QStringLiteral("../../x/mp4"), QStringLiteral("../../x/mp4"));
+    extension("control characters", QStringLiteral("mp4\n\x1b[2J"), QStringLiteral("mp4??[2j"));
+    extension("a long extension", QString(300, QLatin1Char('a')),
+              QString(40, QLatin1Char('a')) + QStringLiteral("..."));
+
+    const auto row = [](const char *group, const char *key, const QVariant &value,
+                        const QString &problem) {
+        QTest::addRow("%s.%s %s", group, key, qPrintable(value.toString().left(20)))
+            << with(QLatin1String(group), QLatin1String(key), value) << problem;
+    };
+    const QString encoder = QStringLiteral("no encoder has a name like \"%1\"; choose another "
+                                           "preset");
+    row("video", "encoder", QStringLiteral("h264 -y /x"),
+        encoder.arg(QStringLiteral("h264 -y /x")));
+    row("audio", "encoder", QStringLiteral("aac\n"), encoder.arg(QStringLiteral("aac?")));
+    row("audio", "encoder", QString(500, QLatin1Char('x')),
+        encoder.arg(QString(40, QLatin1Char('x')) + QStringLiteral("...")));
+
+    const auto number = [&row](const char *group, const char *key, const QVariant &value,
+                               const char *told, const char *allowed) {
+        row(group, key, value,
+            QStringLiteral("the preset's %1.%2 is %3; it must be 0 or %4; choose another preset")
+                .arg(QLatin1String(group), QLatin1String(key), QLatin1String(told),
+                     QLatin1String(allowed)));
+    };
+    const char invalid[] = "not a valid number";
+    const char rates[] = "1-300 fps";
+    number("video", "frameRate", 1000000, "1000000", rates);
+    number("video", "frameRate", QStringLiteral("300.5"), "300.5", rates);
+    number("video", "frameRate", QStringLiteral("0.5"), "0.5", rates);
+    for (const char *text : {"-25", "1e9", "nan", "fast", "0.0000001", "9999999999999", "1/0"}) {
+        number("video", "frameRate", QString::fromLatin1(text), invalid, rates);
+    }
+    const char sides[] = "1-16384 px";
+    number("video", "resolution", QStringLiteral("16385x2"), "16385x2", sides);
+    number("video", "resolution", QStringLiteral("2x99999999999999"), "2x2147483647", sides);
+    for (const char *text : {"1920x0", "0x0", "HD", "1920x", "-2x-2", "1920x1080\n"}) {
+        number("video", "resolution", QString::fromLatin1(text), invalid, sides);
+    }
+    const char frequencies[] = "1000-768000 Hz";
+    number("audio", "sampleRate", 999, "999", frequencies);
+    number("audio", "sampleRate", 768001, "768001", frequencies);
+    number("audio", "sampleRate", QStringLiteral("1e300"), "2147483647", frequencies);
+    number("audio", "sampleRate", QStringLiteral("44100.5"), invalid, frequencies);
+    number("audio", "sampleRate", -44100, invalid, frequencies);
+    number("audio", "sampleRate", QStringLiteral("nan"), invalid, frequencies);
+    number("audio", "channel", 65, "65", "1-64");
+    number("audio", "channel", QStringLiteral("5.1"), invalid, "1-64");
+    const char audioKbps[] = "1-100000 kbps";
+    number("audio", "bitrate", 100001, "100001", audioKbps);
+    number("audio", "bitrate", QStringLiteral("0.001"), "0.001", audioKbps);
+    number("audio", "bitrate", QStringLiteral("inf"), "inf", audioKbps);
+    number("audio", "bitrate", QStringLiteral("nan"), invalid, audioKbps);
+    number("audio", "bitrate", -1, invalid, audioKbps);
+
+    QVariantMap map = preset();
+    map.insert(QStringLiteral("outPutNode"),
+               QVariantMap{{QStringLiteral("videoParam"),
+                            QVariantMap{{QStringLiteral("bitrateKbps"), 1e12}}}});
+    QTest::newRow("video.bitrate")
+        << map
+        << QStringLiteral("the preset's video.bitrate is 1e+12; it must be 0 or 1-1000000 kbps; "
+                          "choose another preset");
+}
+
+void TestOutputSettings::whatNoFileCanHaveIsNamed()
+{
+    QFETCH(QVariantMap, map);
+    QTEST(OutputSettings::fromPreset(map).problem(), "problem");
+}
+
+void TestOutputSettings::whatFilesCanHaveIsNoProblem_data()
+{
+    QTest::addColumn<QVariantMap>("map");
+    const auto row = [](const char *group, const char *key, const QVariant &value) {
+        QTest::addRow("%s.%s %s", group, key, qPrintable(value.toString()))
+            << with(QLatin1String(group), QLatin1String(key), value);
+    };
+    QTest::newRow("usual") << preset();
+    row("video", "encoder", QStringLiteral("libvpx-vp9"));
+    for (const char *rate : {"0", "0.0", "1", "23.976", "30000/1001", "300"}) {
+        row("video", "frameRate", QString::fromLatin1(rate));
+    }
+    for (const char *size : {"0", "1x1", "16384x16384"}) {
+        row("video", "resolution", QString::fromLatin1(size));
+    }
+    row("audio", "sampleRate", 1000);
+    row("audio", "sampleRate", 768000.0);
+    row("audio", "channel", 64);
+    row("audio", "bitrate", 4.75);
+    row("audio", "bitrate", 100000);
+    QVariantMap sound = preset();
+    sound.remove(QStringLiteral("video"));
+    QTest::newRow("no video") << sound;
+}
+
+void TestOutputSettings::whatFilesCanHaveIsNoProblem()
+{
+    QFETCH(QVariantMap, map);
+    QCOMPARE(OutputSettings::fromPreset(map).problem(), QString());
+}
+
+void TestOutputSettings::aCutMustHoldSomething_data()
+{
+    QTest::addColumn<double>("start");
+    QTest::addColumn<double>("end");
+    QTest::addColumn<bool>("isPossible");
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    QTest::newRow("all") << 0.0 << 0.0 << true;
+    QTest::newRow("from a start") << 4.0 << 0.0 << true;
+    QTest::newRow("both") << 4.0 << 4.1 << true;
+    QTest::newRow("nothing") << 4.0 << 4.0 << false;
+    QTest::newRow("the wrong way round") << 4.0 << 3.0 << false;
+    QTest::newRow("before the beginning") << -1.0 << 3.0 << false;
+    QTest::newRow("an end before the beginning") << 0.0 << -3.0 << false;
+    QTest::newRow("start nan") << nan << 3.0 << false;
+    QTest::newRow("end nan") << 0.0 << nan << false;
+    QTest::newRow("start infinite") << infinity << 0.0 << false;
+    QTest::newRow("end infinite") << 0.0 << infinity << false;
+}
+
+void TestOutputSettings::aCutMustHoldSomething()
+{
+    QFETCH(double, start);
+    QFETCH(double, end);
+    QFETCH(bool, isPossible);
+    OutputSettings settings = OutputSettings::fromPreset(preset());
+    settings.start = start;
+    settings.end = end;
+    QCOMPARE(settings.problem(), isPossible
+                                     ? QString()
+                                     : QStringLiteral("the part to keep must begin at 0 or later "
+                                                      "and end after that; choose another part"));
 }
 
 void TestOutputSettings::settingsAreTheSameWhenAllValuesAre_data()
