@@ -42,5 +42,10 @@ bool ProgressReader::feed(const QByteArray &bytes)
             isNew = true;
         }
     }
+    // A line of ffmpeg's is short; what never ends isn't one.
+    constexpr int longestLine = 64 * 1024;
+    if (m_line.size() > longestLine) {
+        m_line.clear();
+    }
     return isNew;
 }

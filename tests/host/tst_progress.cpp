@@ -10,6 +10,7 @@ class TestProgress : public QObject
 private Q_SLOTS:
     void aReportIsReadWhole();
     void piecesMayBeCutAnywhere();
+    void aLineWithoutEndIsForgotten();
     void whatIsNotKnownYetIsZero_data();
     void whatIsNotKnownYetIsZero();
     void thePercentageStaysInBounds_data();
@@ -54,6 +55,14 @@ void TestProgress::piecesMayBeCutAnywhere()
         QCOMPARE(reader.progress().done, 4.0);
         QCOMPARE(reader.progress().speed, 1.25);
     }
+}
+
+void TestProgress::aLineWithoutEndIsForgotten()
+{
+    ProgressReader reader(10);
+    QVERIFY(!reader.feed(QByteArray(1000000, 'x')));
+    QVERIFY(reader.feed("out_time_us=4000000\nspeed=2x\nprogress=continue\n"));
+    QCOMPARE(reader.progress().done, 4.0);
 }
 
 void TestProgress::whatIsNotKnownYetIsZero_data()
