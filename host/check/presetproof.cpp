@@ -41,7 +41,7 @@ void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
         QStringLiteral("ffmpeg"), clipArguments(size, path),
         [path, parent, done](const ToolOutcome &made) {
             if (!made.exitedCleanly) {
-                done({}, made.started ? made.firstError() : made.missingToolText());
+                done({}, made.started ? made.firstError() : made.notStartedText());
                 return;
             }
             probeMedia(path, parent, [path, done](const ProbeOutcome &probed) {
@@ -98,7 +98,7 @@ void PresetProof::compare(const ToolOutcome &packets)
 {
     if (!packets.exitedCleanly) {
         Q_EMIT finished({ProofOutcome::Failed,
-                         packets.started ? packets.firstError() : packets.missingToolText()});
+                         packets.started ? packets.firstError() : packets.notStartedText()});
         return;
     }
     WrittenFile file;

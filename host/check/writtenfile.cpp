@@ -3,7 +3,7 @@
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
 #include "host/convert/textlist.h"
-#include "host/tools/tool.h"
+#include "host/media/mediainput.h"
 
 #include <algorithm>
 #include <cmath>
@@ -192,11 +192,11 @@ QStringList WrittenFile::deviations(const OutputSettings &asked, const MediaFact
 
 QStringList packetListArguments(const QString &path)
 {
-    return {QStringLiteral("-v"),
-            QStringLiteral("error"),
-            QStringLiteral("-show_entries"),
-            QStringLiteral("packet=stream_index,size"),
-            QStringLiteral("-of"),
-            QStringLiteral("csv=print_section=0"),
-            fileArgument(path)};
+    return QStringList{QStringLiteral("-v"),
+                       QStringLiteral("error"),
+                       QStringLiteral("-show_entries"),
+                       QStringLiteral("packet=stream_index,size"),
+                       QStringLiteral("-of"),
+                       QStringLiteral("csv=print_section=0")} +
+           inputArguments(path, demuxersFor(path));
 }

@@ -45,6 +45,12 @@ Conversion::~Conversion()
 void Conversion::start()
 {
     m_isCancelled = false;
+    const QString problem = m_job.settings.problem();
+    if (!problem.isEmpty()) {
+        QMetaObject::invokeMethod(
+            this, [this, problem] { endWith(problem); }, Qt::QueuedConnection);
+        return;
+    }
     m_tool =
         probeMedia(m_job.source, this, [this](const ProbeOutcome &source) { planWith(source); });
 }
@@ -53,7 +59,7 @@ void Conversion::cancel()
 {
     m_isCancelled = true;
     if (m_tool != nullptr) {
-        m_tool->kill();
+        m_tool->stop();
     }
 }
 
@@ -74,7 +80,7 @@ void Conversion::planWith(const ProbeOutcome &source)
 void Conversion::convertWith(const ToolOutcome &encoderListing)
 {
     if (m_isCancelled || !encoderListing.started) {
-        endWith(encoderListing.missingToolText());
+        endWith(encoderListing.notStartedText());
         return;
     }
     const QSet<QString> encoders = encodersInListing(encoderListing.output);

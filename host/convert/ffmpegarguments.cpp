@@ -4,7 +4,10 @@
 #include "host/convert/containers.h"
 #include "host/convert/picturefit.h"
 #include "host/convert/textlist.h"
+#include "host/media/mediainput.h"
 #include "host/tools/tool.h"
+
+#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -25,7 +28,8 @@ void appendOptions(QStringList &arguments, const char *cell, const QString &stre
 
 QString kbpsText(double kbps)
 {
-    return QString::number(kbps) + QLatin1Char('k');
+    // Never as "1e+06", which ffmpeg reads as something else.
+    return QString::number(kbps, 'f', QLocale::FloatingPointShortest) + QLatin1Char('k');
 }
 
 /*! The allowed value closest to the wanted one, the higher of two; the wanted one without a list.
@@ -419,13 +423,11 @@ FfmpegArguments FfmpegArguments::form(const OutputSettings &settings, const Medi
                                       const QString &targetPath)
 {
     FfmpegArguments result;
-    const Container *container = Container::find(settings.extension);
-    if (container == nullptr) {
-        result.error = tr("files of the kind \".%1\" can't be written; choose another preset")
-                           .arg(settings.extension);
+    result.error = settings.problem();
+    if (!result.error.isEmpty()) {
         return result;
     }
-    Former former(settings, source, encoders, *container);
+    Former former(settings, source, encoders, *Container::find(settings.extension));
     const QStringList output = former.outputArguments();
     result.error = former.error();
     result.lacksEncoder = former.lacksEncoder();
@@ -434,9 +436,8 @@ FfmpegArguments FfmpegArguments::form(const OutputSettings &settings, const Medi
                                        QStringLiteral("-v"),        QStringLiteral("error"),
                                        QStringLiteral("-progress"), QStringLiteral("pipe:1"),
                                        QStringLiteral("-y")} +
-                           cutArguments(settings) +
-                           QStringList{QStringLiteral("-i"), fileArgument(sourcePath)} + output +
-                           QStringList{fileArgument(targetPath)};
+                           cutArguments(settings) + inputArguments(sourcePath, source.container) +
+                           output + QStringList{fileArgument(targetPath)};
     }
     return result;
 }

@@ -11,11 +11,15 @@ struct ProbeOutcome
     QString error;
 };
 
+/*! What a look into a file may take: any file that can be read takes far less. */
+constexpr ToolLimits probeLimits{32 * 1024 * 1024, 30000};
+
 /*!
  * Asks ffprobe what the file holds, without waiting. \a done is called once from the event loop;
  * destroying the returned tool, a child of \a parent, gives the question up.
  */
 Tool *probeMedia(const QString &path, QObject *parent,
-                 const std::function<void(const ProbeOutcome &)> &done);
+                 const std::function<void(const ProbeOutcome &)> &done,
+                 const ToolLimits &limits = probeLimits);
 
 #endif

@@ -818,10 +818,6 @@
         <source> or </source>
         <translation> oder </translation>
     </message>
-    <message>
-        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
-        <translation>Dateien der Art „.%1“ können nicht geschrieben werden; wählen Sie ein anderes Format</translation>
-    </message>
 </context>
 <context>
     <name>Conversion</name>
@@ -843,6 +839,21 @@
     </message>
 </context>
 <context>
+    <name>MediaInput</name>
+    <message>
+        <source>is a playlist; choose the files that it lists</source>
+        <translation>ist eine Wiedergabeliste; wählen Sie die Dateien, die darin stehen</translation>
+    </message>
+    <message>
+        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>steht für eine Reihe von Bildern; benennen Sie Datei und Ordner ohne % * ? [ ] { }</translation>
+    </message>
+    <message>
+        <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
+        <translation>ist von einer Art, die nicht umgewandelt wird (%1); wählen Sie eine Video- oder Audiodatei</translation>
+    </message>
+</context>
+<context>
     <name>MediaProbe</name>
     <message>
         <source>no such file; check its name</source>
@@ -859,6 +870,37 @@
     <message>
         <source>holds neither video nor audio; choose a video or audio file</source>
         <translation>enthält weder Video noch Audio; wählen Sie eine Video- oder Audiodatei</translation>
+    </message>
+    <message>
+        <source>takes too long to read; check the disk or network that it is on</source>
+        <translation>braucht zu lange zum Lesen; prüfen Sie den Datenträger oder das Netzwerk, wo sie liegt</translation>
+    </message>
+    <message>
+        <source>describes itself without end; check that it is a complete video or audio file</source>
+        <translation>beschreibt sich ohne Ende; prüfen Sie, ob es eine vollständige Video- oder Audiodatei ist</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSettings</name>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>Dateien der Art „.%1“ können nicht geschrieben werden; wählen Sie ein anderes Format</translation>
+    </message>
+    <message>
+        <source>no encoder has a name like &quot;%1&quot;; choose another preset</source>
+        <translation>kein Encoder heißt so wie „%1“; wählen Sie ein anderes Format</translation>
+    </message>
+    <message>
+        <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
+        <translation>%1 ist im Format %2; erlaubt sind 0 oder %3; wählen Sie ein anderes Format</translation>
+    </message>
+    <message>
+        <source>not a valid number</source>
+        <translation>keine gültige Zahl</translation>
+    </message>
+    <message>
+        <source>the part to keep must begin at 0 or later and end after that; choose another part</source>
+        <translation>der Ausschnitt muss bei 0 oder später beginnen und danach enden; wählen Sie einen anderen</translation>
     </message>
 </context>
 <context>
@@ -892,6 +934,18 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 ist nicht im PATH; installieren Sie ffmpeg (Debian: apt-get install ffmpeg) und versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>%1 took too long</source>
+        <translation>%1 hat zu lange gebraucht</translation>
+    </message>
+    <message>
+        <source>%1 printed too much</source>
+        <translation>%1 hat zu viel ausgegeben</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>%1 konnte nicht gestartet werden (%2); schließen Sie andere Programme oder erhöhen Sie die Grenzen für offene Dateien und Prozesse (ulimit -n, ulimit -u) und versuchen Sie es noch einmal</translation>
     </message>
 </context>
 <context>

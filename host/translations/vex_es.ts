@@ -818,10 +818,6 @@
         <source> or </source>
         <translation> o </translation>
     </message>
-    <message>
-        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
-        <translation>no se pueden escribir archivos de tipo «.%1»; elige otro formato</translation>
-    </message>
 </context>
 <context>
     <name>Conversion</name>
@@ -843,6 +839,21 @@
     </message>
 </context>
 <context>
+    <name>MediaInput</name>
+    <message>
+        <source>is a playlist; choose the files that it lists</source>
+        <translation>es una lista de reproducción; elija los archivos que contiene</translation>
+    </message>
+    <message>
+        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>representa una serie de imágenes; cambie el nombre del archivo y sus carpetas para que no tenga % * ? [ ] { }</translation>
+    </message>
+    <message>
+        <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
+        <translation>es de un tipo que no se convierte (%1); elija un archivo de vídeo o audio</translation>
+    </message>
+</context>
+<context>
     <name>MediaProbe</name>
     <message>
         <source>no such file; check its name</source>
@@ -859,6 +870,37 @@
     <message>
         <source>holds neither video nor audio; choose a video or audio file</source>
         <translation>no contiene vídeo ni audio; elige un archivo de vídeo o audio</translation>
+    </message>
+    <message>
+        <source>takes too long to read; check the disk or network that it is on</source>
+        <translation>tarda demasiado en leerse; compruebe el disco o la red donde está</translation>
+    </message>
+    <message>
+        <source>describes itself without end; check that it is a complete video or audio file</source>
+        <translation>contiene una descripción interminable; compruebe que es un archivo de vídeo o audio completo</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSettings</name>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>no se pueden escribir archivos de tipo «.%1»; elige otro formato</translation>
+    </message>
+    <message>
+        <source>no encoder has a name like &quot;%1&quot;; choose another preset</source>
+        <translation>ningún codificador se llama «%1»; elija otro formato</translation>
+    </message>
+    <message>
+        <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
+        <translation>%1 del formato es %2; debe ser 0 o %3; elija otro formato</translation>
+    </message>
+    <message>
+        <source>not a valid number</source>
+        <translation>un número no válido</translation>
+    </message>
+    <message>
+        <source>the part to keep must begin at 0 or later and end after that; choose another part</source>
+        <translation>el fragmento debe empezar en 0 o después y terminar más tarde; elija otro fragmento</translation>
     </message>
 </context>
 <context>
@@ -892,6 +934,18 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 no está en el PATH; instala ffmpeg (Debian: apt-get install ffmpeg) e inténtalo de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 took too long</source>
+        <translation>%1 ha tardado demasiado</translation>
+    </message>
+    <message>
+        <source>%1 printed too much</source>
+        <translation>%1 ha generado demasiada salida</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>no se ha podido iniciar %1 (%2); cierre otros programas o aumente los límites de archivos abiertos y procesos (ulimit -n, ulimit -u) e inténtelo de nuevo</translation>
     </message>
 </context>
 <context>

@@ -818,10 +818,6 @@
         <source> or </source>
         <translation> ou </translation>
     </message>
-    <message>
-        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
-        <translation>les fichiers de type « .%1 » ne peuvent pas être écrits ; choisissez un autre format</translation>
-    </message>
 </context>
 <context>
     <name>Conversion</name>
@@ -843,6 +839,21 @@
     </message>
 </context>
 <context>
+    <name>MediaInput</name>
+    <message>
+        <source>is a playlist; choose the files that it lists</source>
+        <translation>est une liste de lecture ; choisissez les fichiers qu’elle contient</translation>
+    </message>
+    <message>
+        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>désigne une série d’images ; renommez le fichier et ses dossiers sans % * ? [ ] { }</translation>
+    </message>
+    <message>
+        <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
+        <translation>est d’un type qui n’est pas converti (%1) ; choisissez un fichier vidéo ou audio</translation>
+    </message>
+</context>
+<context>
     <name>MediaProbe</name>
     <message>
         <source>no such file; check its name</source>
@@ -859,6 +870,37 @@
     <message>
         <source>holds neither video nor audio; choose a video or audio file</source>
         <translation>ne contient ni vidéo ni audio ; choisissez un fichier vidéo ou audio</translation>
+    </message>
+    <message>
+        <source>takes too long to read; check the disk or network that it is on</source>
+        <translation>est trop long à lire ; vérifiez le disque ou le réseau où il se trouve</translation>
+    </message>
+    <message>
+        <source>describes itself without end; check that it is a complete video or audio file</source>
+        <translation>contient une description sans fin ; vérifiez que c’est un fichier vidéo ou audio complet</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSettings</name>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>les fichiers de type « .%1 » ne peuvent pas être écrits ; choisissez un autre format</translation>
+    </message>
+    <message>
+        <source>no encoder has a name like &quot;%1&quot;; choose another preset</source>
+        <translation>aucun encodeur ne s’appelle « %1 » ; choisissez un autre format</translation>
+    </message>
+    <message>
+        <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
+        <translation>%1 du format est %2 ; il faut 0 ou %3 ; choisissez un autre format</translation>
+    </message>
+    <message>
+        <source>not a valid number</source>
+        <translation>un nombre non valide</translation>
+    </message>
+    <message>
+        <source>the part to keep must begin at 0 or later and end after that; choose another part</source>
+        <translation>l’extrait doit commencer à 0 ou plus tard et finir après ; choisissez un autre extrait</translation>
     </message>
 </context>
 <context>
@@ -892,6 +934,18 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 n’est pas dans le PATH ; installez ffmpeg (Debian : apt-get install ffmpeg) et réessayez</translation>
+    </message>
+    <message>
+        <source>%1 took too long</source>
+        <translation>%1 a pris trop de temps</translation>
+    </message>
+    <message>
+        <source>%1 printed too much</source>
+        <translation>%1 a produit trop de texte</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>%1 n’a pas pu démarrer (%2) ; fermez d’autres programmes ou relevez les limites de fichiers ouverts et de processus (ulimit -n, ulimit -u), puis réessayez</translation>
     </message>
 </context>
 <context>

@@ -818,10 +818,6 @@
         <source> or </source>
         <translation> または </translation>
     </message>
-    <message>
-        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
-        <translation>「.%1」のファイルは書き出せません。別の形式を選んでください</translation>
-    </message>
 </context>
 <context>
     <name>Conversion</name>
@@ -843,6 +839,21 @@
     </message>
 </context>
 <context>
+    <name>MediaInput</name>
+    <message>
+        <source>is a playlist; choose the files that it lists</source>
+        <translation>プレイリストです。その中のファイルを選んでください</translation>
+    </message>
+    <message>
+        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>連番画像を表す名前です。ファイル名とフォルダー名から % * ? [ ] { } を取り除いてください</translation>
+    </message>
+    <message>
+        <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
+        <translation>変換できない種類のファイルです（%1）。動画または音声ファイルを選んでください</translation>
+    </message>
+</context>
+<context>
     <name>MediaProbe</name>
     <message>
         <source>no such file; check its name</source>
@@ -859,6 +870,37 @@
     <message>
         <source>holds neither video nor audio; choose a video or audio file</source>
         <translation>動画も音声もありません。動画か音声のファイルを選んでください</translation>
+    </message>
+    <message>
+        <source>takes too long to read; check the disk or network that it is on</source>
+        <translation>読み取りに時間がかかりすぎています。保存先のディスクまたはネットワークを確認してください</translation>
+    </message>
+    <message>
+        <source>describes itself without end; check that it is a complete video or audio file</source>
+        <translation>ファイルの情報が際限なく続きます。完全な動画または音声ファイルか確認してください</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSettings</name>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>「.%1」のファイルは書き出せません。別の形式を選んでください</translation>
+    </message>
+    <message>
+        <source>no encoder has a name like &quot;%1&quot;; choose another preset</source>
+        <translation>「%1」という名前のエンコーダーはありません。別の形式を選んでください</translation>
+    </message>
+    <message>
+        <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
+        <translation>形式の %1 が %2 です。0 または %3 でなければなりません。別の形式を選んでください</translation>
+    </message>
+    <message>
+        <source>not a valid number</source>
+        <translation>無効な数値</translation>
+    </message>
+    <message>
+        <source>the part to keep must begin at 0 or later and end after that; choose another part</source>
+        <translation>残す部分は 0 以降に始まり、その後に終わらなければなりません。別の部分を選んでください</translation>
     </message>
 </context>
 <context>
@@ -892,6 +934,18 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 が PATH にありません。ffmpeg をインストール（Debian: apt-get install ffmpeg）してやり直してください</translation>
+    </message>
+    <message>
+        <source>%1 took too long</source>
+        <translation>%1 の処理に時間がかかりすぎました</translation>
+    </message>
+    <message>
+        <source>%1 printed too much</source>
+        <translation>%1 の出力が多すぎます</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>%1 を起動できませんでした（%2）。他のプログラムを閉じるか、開けるファイル数とプロセス数の上限（ulimit -n、ulimit -u）を上げて、もう一度お試しください</translation>
     </message>
 </context>
 <context>

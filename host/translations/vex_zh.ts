@@ -818,10 +818,6 @@
         <source> or </source>
         <translation> 或 </translation>
     </message>
-    <message>
-        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
-        <translation>无法写入“.%1”类型的文件；请选择其他预设</translation>
-    </message>
 </context>
 <context>
     <name>Conversion</name>
@@ -843,6 +839,21 @@
     </message>
 </context>
 <context>
+    <name>MediaInput</name>
+    <message>
+        <source>is a playlist; choose the files that it lists</source>
+        <translation>是播放列表；请选择其中列出的文件</translation>
+    </message>
+    <message>
+        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>表示一组图片序列；请重命名文件及其文件夹，不要包含 % * ? [ ] { }</translation>
+    </message>
+    <message>
+        <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
+        <translation>属于不支持转换的类型（%1）；请选择视频或音频文件</translation>
+    </message>
+</context>
+<context>
     <name>MediaProbe</name>
     <message>
         <source>no such file; check its name</source>
@@ -859,6 +870,37 @@
     <message>
         <source>holds neither video nor audio; choose a video or audio file</source>
         <translation>既没有视频也没有音频；请选择视频或音频文件</translation>
+    </message>
+    <message>
+        <source>takes too long to read; check the disk or network that it is on</source>
+        <translation>读取时间过长；请检查其所在的磁盘或网络</translation>
+    </message>
+    <message>
+        <source>describes itself without end; check that it is a complete video or audio file</source>
+        <translation>文件的描述信息没有尽头；请检查它是否是完整的视频或音频文件</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSettings</name>
+    <message>
+        <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
+        <translation>无法写入“.%1”类型的文件；请选择其他预设</translation>
+    </message>
+    <message>
+        <source>no encoder has a name like &quot;%1&quot;; choose another preset</source>
+        <translation>没有名为“%1”的编码器；请选择其他预设</translation>
+    </message>
+    <message>
+        <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
+        <translation>预设的 %1 为 %2；必须为 0 或 %3；请选择其他预设</translation>
+    </message>
+    <message>
+        <source>not a valid number</source>
+        <translation>无效的数字</translation>
+    </message>
+    <message>
+        <source>the part to keep must begin at 0 or later and end after that; choose another part</source>
+        <translation>保留的片段必须从 0 或之后开始，并在其后结束；请选择其他片段</translation>
     </message>
 </context>
 <context>
@@ -892,6 +934,18 @@
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>PATH 中没有 %1；请安装 ffmpeg（Debian：apt-get install ffmpeg）后重试</translation>
+    </message>
+    <message>
+        <source>%1 took too long</source>
+        <translation>%1 耗时过长</translation>
+    </message>
+    <message>
+        <source>%1 printed too much</source>
+        <translation>%1 的输出过多</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>无法启动 %1（%2）；请关闭其他程序，或提高打开文件数和进程数的限制（ulimit -n、ulimit -u），然后重试</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "host/window/inspector.h"
 
+#include "host/media/mediainput.h"
+
 #include <QFile>
 #include <QUrl>
 
@@ -58,16 +60,16 @@ void Inspector::picture(const MediaFacts &facts)
     const VideoTrack *track = facts.picture() == nullptr ? facts.cover() : facts.picture();
     const Question question = m_questions.head();
     const QString file = m_pictures.filePath(QStringLiteral("%1.png").arg(question.id));
-    const QStringList arguments = {
-        QStringLiteral("-nostdin"),  QStringLiteral("-v"),
-        QStringLiteral("error"),     QStringLiteral("-y"),
-        QStringLiteral("-ss"),       QString::number(moment, 'f', 3),
-        QStringLiteral("-i"),        fileArgument(question.path),
-        QStringLiteral("-map"),      QStringLiteral("0:%1").arg(track->index),
-        QStringLiteral("-frames:v"), QStringLiteral("1"),
-        QStringLiteral("-vf"),       QStringLiteral("scale=256:-2"),
-        fileArgument(file),
-    };
+    const QStringList arguments =
+        QStringList{QStringLiteral("-nostdin"), QStringLiteral("-v"),
+                    QStringLiteral("error"),    QStringLiteral("-y"),
+                    QStringLiteral("-ss"),      QString::number(moment, 'f', 3)} +
+        inputArguments(question.path, facts.container) +
+        QStringList{QStringLiteral("-map"),      QStringLiteral("0:%1").arg(track->index),
+                    QStringLiteral("-frames:v"), QStringLiteral("1"),
+                    QStringLiteral("-vf"),       QStringLiteral("scale=256:-2"),
+                    QStringLiteral("-update"), // else "%d" in the path is a number
+                    QStringLiteral("1"),         fileArgument(file)};
     m_tool = new Tool(
         QStringLiteral("ffmpeg"), arguments,
         [this, file](const ToolOutcome &) {
@@ -77,5 +79,5 @@ void Inspector::picture(const MediaFacts &facts)
             }
             askNext();
         },
-        this);
+        this, probeLimits);
 }

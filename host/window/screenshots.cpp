@@ -170,7 +170,7 @@ QUrl Screenshots::clip(const QString &name, const QString &arguments)
         [this, &isMade](const ToolOutcome &outcome) {
             isMade = true;
             if (!outcome.started) {
-                m_problem = outcome.missingToolText();
+                m_problem = outcome.notStartedText();
             }
         },
         &m_window);

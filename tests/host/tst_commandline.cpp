@@ -1,6 +1,7 @@
 #include "host/presets/folderlock.h"
 #include "tests/host/commandrun.h"
 #include "tests/host/mediaclips.h"
+#include "tests/host/runningprocess.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -114,7 +115,12 @@ private Q_SLOTS:
     void aNameInUseIsNumberedUnlessOverwriting();
     void interruptingLeavesNothing_data();
     void interruptingLeavesNothing();
+    void killedItLeavesNoToolRunning();
     void withoutFfmpegItSaysWhatToInstall();
+    void shortOfFileDescriptorsItSaysSo();
+    void aPlaylistIsRefused();
+    void aDamagedPresetIsRefused_data();
+    void aDamagedPresetIsRefused();
 
     void usedPresetsAreListedLatestFirst();
     void aUsedPresetIsForgotten();
@@ -545,11 +551,14 @@ void TestCommandLine::aDryRunOnlyPrintsTheCommand()
         run({QStringLiteral("convert"), QStringLiteral("it's.mp4"), QStringLiteral("--preset"),
              QStringLiteral("V_MP4_1"), QStringLiteral("--dry-run")});
     QCOMPARE(told.exitCode, 0);
-    QCOMPARE(told.out, QStringLiteral("ffmpeg -nostdin -hide_banner -v error -progress pipe:1 -y "
-                                      "-i 'file:%1/it'\\''s.mp4' -map 0:0 -map 0:1 -c:v:0 copy "
-                                      "-c:a:0 copy -movflags +faststart -f mp4 'file:%1/it'\\''s "
-                                      "(2).mp4'\n")
-                           .arg(m_folder->path()));
+    QCOMPARE(told.out,
+             QStringLiteral(
+                 "ffmpeg -nostdin -hide_banner -v error -progress pipe:1 -y "
+                 "-protocol_whitelist file -format_whitelist "
+                 "mov,mp4,m4a,3gp,3g2,mj2 -i 'file:%1/it'\\''s.mp4' -map 0:0 -map 0:1 -c:v:0 copy "
+                 "-c:a:0 copy -movflags +faststart -f mp4 'file:%1/it'\\''s "
+                 "(2).mp4'\n")
+                 .arg(m_folder->path()));
     QCOMPARE(everything(), QStringList{QStringLiteral("it's.mp4")});
     QVERIFY(!QFile::exists(config()));
 }
@@ -601,6 +610,30 @@ void TestCommandLine::interruptingLeavesNothing()
     QCOMPARE(contentOf(path(QStringLiteral("long.mp4"))), before);
 }
 
+void TestCommandLine::killedItLeavesNoToolRunning()
+{
+    const QTemporaryDir tools;
+    QVERIFY(QFile::copy(m_clips->filePath(QStringLiteral("long.mp4")),
+                        path(QStringLiteral("long.mp4"))));
+    QVERIFY(MediaClips::makeStandIn(
+        tools.path(), QStringLiteral("$REAL -re \"$@\" & echo $! > \"${0%/*}/worker\"; wait $!")));
+    m_environment.insert(QStringLiteral("PATH"),
+                         QString::fromLocal8Bit(MediaClips::pathWith(tools.path())));
+    QProcess process;
+    start(process, QStringList{QStringLiteral("--config"), config()} +
+                       words("convert long.mp4 --preset V_MKV_1"));
+    QByteArray told;
+    while (!told.contains("long.mp4: ") && process.waitForReadyRead(CommandRun::patience)) {
+        told += process.readAllStandardOutput();
+    }
+    const qint64 worker =
+        contentOf(tools.filePath(QStringLiteral("worker"))).trimmed().toLongLong();
+    QVERIFY(isRunning(worker));
+    process.kill();
+    QVERIFY(process.waitForFinished(CommandRun::patience));
+    QTRY_VERIFY_WITH_TIMEOUT(!isRunning(worker), 10000);
+}
+
 void TestCommandLine::withoutFfmpegItSaysWhatToInstall()
 {
     m_environment.insert(QStringLiteral("PATH"), m_folder->path());
@@ -609,6 +642,70 @@ void TestCommandLine::withoutFfmpegItSaysWhatToInstall()
     QCOMPARE(told.err, QStringLiteral("vexconvert: film.mp4: ffprobe is not on the PATH; install "
                                       "ffmpeg (Debian: apt-get install ffmpeg) and try again\n"));
     QCOMPARE(run("formats").exitCode, 0);
+}
+
+void TestCommandLine::shortOfFileDescriptorsItSaysSo()
+{
+    const QString reason = QStringLiteral("vexconvert: film.mp4: ffprobe couldn't be started (");
+    bool isSaid = false;
+    for (int limit = 6; limit <= 18; ++limit) {
+        QProcess process;
+        process.setProcessEnvironment(m_environment);
+        process.setWorkingDirectory(m_folder->path());
+        process.start(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"), QStringLiteral("ulimit -n %1; exec \"$0\" \"$@\"").arg(limit),
+             QStringLiteral(VEXCONVERT), QStringLiteral("--config"), config(),
+             QStringLiteral("convert"), QStringLiteral("film.mp4"), QStringLiteral("--preset"),
+             QStringLiteral("V_MKV_1"), QStringLiteral("--dry-run")});
+        const CommandRun told = CommandRun::of(process);
+        QVERIFY2(!told.err.contains(QStringLiteral("PATH")), qPrintable(told.err));
+        QVERIFY2(told.err.count(QStringLiteral("film.mp4: ")) <= 1, qPrintable(told.err));
+        isSaid = isSaid || (told.exitCode == 1 && told.err.contains(reason));
+    }
+    QVERIFY(isSaid);
+}
+
+void TestCommandLine::aPlaylistIsRefused()
+{
+    write(path(QStringLiteral("holiday.mp4")), "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n"
+                                               "film.mp4\n#EXT-X-ENDLIST\n");
+    const CommandRun told = run("convert holiday.mp4 --preset V_MKV_1");
+    QCOMPARE(told.exitCode, 1);
+    QCOMPARE(told.err, QStringLiteral("vexconvert: holiday.mp4: is a playlist; choose the files "
+                                      "that it lists\n"));
+    QCOMPARE(everything(), words("film.mp4 holiday.mp4"));
+}
+
+void TestCommandLine::aDamagedPresetIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("good");
+    QTest::addColumn<QByteArray>("bad");
+    QTest::newRow("extension") << QByteArray("\"mkv\"") << '"' + QByteArray(300, 'x') + '"';
+    QTest::newRow("path") << QByteArray("\"mkv\"") << QByteArray("\"../mkv\"");
+    QTest::newRow("encoder") << QByteArray("\"mpeg4\"") << QByteArray("\"mpeg4 -y\"");
+}
+
+void TestCommandLine::aDamagedPresetIsRefused()
+{
+    QFETCH(QByteArray, good);
+    QFETCH(QByteArray, bad);
+    QCOMPARE(run({QStringLiteral("user"), QStringLiteral("add"), QStringLiteral("V_MKV_1"),
+                  QStringLiteral("--title"), QStringLiteral("Mine")})
+                 .exitCode,
+             0);
+    const QString file = config() + QStringLiteral("/formatCache.json");
+    QByteArray presets = contentOf(file);
+    QVERIFY2(presets.contains(good), presets.constData());
+    write(file, presets.replace(good, bad));
+    const QString id =
+        run("user list").out.section(QLatin1Char('\n'), 1).section(QLatin1Char(' '), 0, 0);
+    const CommandRun told = run(
+        {QStringLiteral("convert"), QStringLiteral("film.mp4"), QStringLiteral("--preset"), id});
+    QCOMPARE(told.exitCode, 1);
+    QVERIFY2(told.err.endsWith(QStringLiteral("; choose another preset\n")), qPrintable(told.err));
+    QCOMPARE(told.err.count(QLatin1Char('\n')), 1);
+    QCOMPARE(everything(), words("film.mp4"));
 }
 
 void TestCommandLine::usedPresetsAreListedLatestFirst()

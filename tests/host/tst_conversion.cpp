@@ -1,5 +1,6 @@
 #include "host/convert/containers.h"
 #include "host/convert/conversion.h"
+#include "host/convert/ffmpegarguments.h"
 #include "host/convert/textlist.h"
 #include "tests/host/mediaclips.h"
 #include "tests/support/messagelog.h"
@@ -54,6 +55,8 @@ OutputSettings audio(const QString &extension)
 
 } // namespace
 
+Q_DECLARE_METATYPE(OutputSettings)
+
 class TestConversion : public QObject
 {
     Q_OBJECT
@@ -97,6 +100,9 @@ private Q_SLOTS:
     void destroyingARunningConversionLeavesNothing();
     void aSourceThatIsNoMediaIsRefused_data();
     void aSourceThatIsNoMediaIsRefused();
+    void aPlaylistIsNotFollowed();
+    void settingsThatNoFileCanHaveAreRefused_data();
+    void settingsThatNoFileCanHaveAreRefused();
     void aFolderThatCannotBeWrittenIsRefused_data();
     void aFolderThatCannotBeWrittenIsRefused();
     void aFullDiskLeavesNothing_data();
@@ -688,6 +694,60 @@ void TestConversion::aSourceThatIsNoMediaIsRefused()
     QCOMPARE(outcome.result, ConversionOutcome::Failed);
     QVERIFY2(outcome.error.startsWith(error), qPrintable(outcome.error));
     QVERIFY2(!outcome.error.contains(m_folder->path()), qPrintable(outcome.error));
+    QCOMPARE(everything(), names("clip.mp4"));
+}
+
+void TestConversion::aPlaylistIsNotFollowed()
+{
+    QVERIFY(!copyOf(QStringLiteral("film.mp4"), QStringLiteral("other.mp4")).isEmpty());
+    QFile list(path(QStringLiteral("holiday.mp4")));
+    QVERIFY(list.open(QIODevice::WriteOnly));
+    QVERIFY(list.write("ffconcat version 1.0\nfile other.mp4\n") > 0);
+    list.close();
+    const ConversionOutcome outcome = convert(job(list.fileName(), video(QStringLiteral("mkv"))));
+    QCOMPARE(outcome.result, ConversionOutcome::Failed);
+    QCOMPARE(outcome.error, QStringLiteral("is a playlist; choose the files that it lists"));
+
+    // Nor is one that takes the film's place after the look into it.
+    const FfmpegArguments formed = FfmpegArguments::form(
+        video(QStringLiteral("mkv")), MediaClips::factsOf(path(QStringLiteral("other.mp4"))),
+        {QStringLiteral("libx264"), QStringLiteral("aac")}, list.fileName(),
+        path(QStringLiteral("out.mkv")));
+    QCOMPARE(formed.error, QString());
+    QVERIFY(QProcess::execute(QStringLiteral("ffmpeg"), formed.arguments) != 0);
+    QCOMPARE(everything(), names("holiday.mp4|other.mp4"));
+}
+
+void TestConversion::settingsThatNoFileCanHaveAreRefused_data()
+{
+    QTest::addColumn<OutputSettings>("settings");
+    QTest::addColumn<QString>("error");
+    const QString unknown =
+        QStringLiteral("files of the kind \".%1\" can't be written; choose another preset");
+    const QString longText(300, QLatin1Char('x'));
+    QTest::newRow("long extension")
+        << video(longText) << unknown.arg(longText.left(40) + QStringLiteral("..."));
+    QTest::newRow("an extension that leaves the folder")
+        << video(QStringLiteral("/../../mkv")) << unknown.arg(QStringLiteral("/../../mkv"));
+    QTest::newRow("no extension") << video(QString()) << unknown.arg(QString());
+    OutputSettings fast = video(QStringLiteral("mkv"));
+    fast.frameRate = {1000000, 1};
+    QTest::newRow("frame rate") << fast
+                                << QStringLiteral("the preset's video.frameRate is 1000000; it "
+                                                  "must be 0 or 1-300 fps; choose another preset");
+}
+
+void TestConversion::settingsThatNoFileCanHaveAreRefused()
+{
+    QFETCH(OutputSettings, settings);
+    QFETCH(QString, error);
+    const QString source = copyOf(QStringLiteral("film.mp4"), QStringLiteral("clip.mp4"));
+    Conversion conversion(job(source, settings));
+    QSignalSpy finished(&conversion, &Conversion::finished);
+    const ConversionOutcome outcome = outcomeOf(conversion);
+    QCOMPARE(outcome.result, ConversionOutcome::Failed);
+    QCOMPARE(outcome.error, error);
+    QCOMPARE(finished.count(), 1);
     QCOMPARE(everything(), names("clip.mp4"));
 }
 

@@ -6,7 +6,8 @@
 
 namespace {
 
-const char frame[] = "-nostdin -hide_banner -v error -progress pipe:1 -y -i file:/in %1 file:/out";
+const char input[] = "-protocol_whitelist file -format_whitelist mov,mp4 -i file:/in ";
+const char frame[] = "-nostdin -hide_banner -v error -progress pipe:1 -y %1%2 file:/out";
 
 QSet<QString> usualEncoders()
 {
@@ -48,6 +49,7 @@ AudioTrack sound(const QString &codec, int index = 1, int sampleRate = 48000, in
 MediaFacts film()
 {
     MediaFacts facts;
+    facts.container = QStringLiteral("mov,mp4");
     facts.videoTracks = {picture(QStringLiteral("h264"), QSize(1920, 1080))};
     facts.audioTracks = {sound(QStringLiteral("aac"))};
     return facts;
@@ -56,6 +58,7 @@ MediaFacts film()
 MediaFacts song(const QString &codec, int sampleRate = 44100, int channels = 2)
 {
     MediaFacts facts;
+    facts.container = QStringLiteral("mov,mp4");
     facts.audioTracks = {sound(codec, 0, sampleRate, channels)};
     return facts;
 }
@@ -377,7 +380,8 @@ void TestFfmpegArguments::aPresetBecomesACommand()
     const FfmpegArguments formed = FfmpegArguments::form(
         settings, source, usualEncoders(), QStringLiteral("/in"), QStringLiteral("/out"));
     QCOMPARE(formed.error, QString());
-    QCOMPARE(formed.arguments.join(QLatin1Char(' ')), QString::fromLatin1(frame).arg(output));
+    QCOMPARE(formed.arguments.join(QLatin1Char(' ')),
+             QString::fromLatin1(frame).arg(QLatin1String(input), output));
 }
 
 void TestFfmpegArguments::whatCannotBeDoneIsSaid_data()
@@ -482,7 +486,7 @@ void TestFfmpegArguments::aCutIsReadFromTheSource()
     const QString line = FfmpegArguments::form(settings, film(), usualEncoders(),
                                                QStringLiteral("/in"), QStringLiteral("/out"))
                              .arguments.join(QLatin1Char(' '));
-    QVERIFY2(line.contains(QStringLiteral(" -y ") + options + QStringLiteral("-i file:/in")),
+    QVERIFY2(line.contains(QStringLiteral(" -y ") + options + QLatin1String(input)),
              qUtf8Printable(line));
     QCOMPARE(line.contains(QStringLiteral("-c:v:0 copy")), isCopied);
     QCOMPARE(line.contains(QStringLiteral("-c:a:0 copy")), isCopied);

@@ -1,0 +1,53 @@
+#include "host/tools/processgroup.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <unistd.h>
+
+void ProcessGroup::lead()
+{
+    setpgid(0, 0);
+}
+
+void ProcessGroup::watch(qint64 leader)
+{
+    m_leader = leader;
+    // The child does the same, and who comes first is open: after this the group is there.
+    setpgid(pid_t(leader), pid_t(leader));
+    m_guard.join(leader);
+}
+
+void ProcessGroup::end()
+{
+    // Without its guard the number may be a stranger's by now.
+    if (m_guard.isIn(m_leader)) {
+        ::kill(-pid_t(m_leader), SIGKILL);
+    }
+    m_guard.kill();
+    m_guard.waitForFinished();
+}
+
+void ProcessGroup::Guard::join(qint64 leader)
+{
+    m_leader = leader;
+    setStandardOutputFile(QProcess::nullDevice());
+    setStandardErrorFile(QProcess::nullDevice());
+    start(QStringLiteral("/bin/sh"),
+          {QStringLiteral("-c"), QStringLiteral("read -r line; kill -KILL 0")});
+    if (processId() != 0) {
+        setpgid(pid_t(processId()), pid_t(leader));
+    }
+}
+
+bool ProcessGroup::Guard::isIn(qint64 leader) const
+{
+    return processId() != 0 && getpgid(pid_t(processId())) == pid_t(leader);
+}
+
+void ProcessGroup::Guard::setupChildProcess()
+{
+    // Anywhere else it would end the wrong group.
+    if (setpgid(0, pid_t(m_leader)) != 0) {
+        _exit(EXIT_FAILURE);
+    }
+}

@@ -1,0 +1,222 @@
+#include "host/media/mediaprobe.h"
+#include "tests/host/mediaclips.h"
+#include "tests/support/messagelog.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+#include <optional>
+
+/*! Files that ffprobe itself would follow to others, and answers that never come. */
+class TestMediaProbe : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { m_log.emplace(); }
+    void cleanup();
+
+    void whatOnlyNamesOtherFilesIsRefused_data();
+    void whatOnlyNamesOtherFilesIsRefused();
+    void whatHoldsItsMediaIsRead_data();
+    void whatHoldsItsMediaIsRead();
+    void anAnswerThatNeverComesIsGivenUp();
+    void anAnswerWithoutEndIsGivenUp();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), qint64(content.size()));
+    }
+    ProbeOutcome probe(const QString &name, const ToolLimits &limits = probeLimits) const
+    {
+        QObject owner;
+        QEventLoop loop;
+        ProbeOutcome outcome;
+        probeMedia(
+            path(name), &owner,
+            [&outcome, &loop](const ProbeOutcome &probed) {
+                outcome = probed;
+                loop.quit();
+            },
+            limits);
+        loop.exec();
+        return outcome;
+    }
+
+    QByteArray m_path;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<MessageLog> m_log;
+};
+
+void TestMediaProbe::initTestCase()
+{
+    m_path = qgetenv("PATH");
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    QVERIFY(MediaClips::makeFilm(path(QStringLiteral("film.mp4"))));
+    QVERIFY(
+        MediaClips::make(path(QStringLiteral("part0.ts")),
+                         QStringLiteral("-i %1 -c copy").arg(path(QStringLiteral("film.mp4")))));
+    QVERIFY(MediaClips::make(path(QStringLiteral("other1.png")),
+                             QStringLiteral("-f lavfi -i testsrc2=size=64x64 -frames:v 1")));
+}
+
+void TestMediaProbe::cleanup()
+{
+    qputenv("PATH", m_path);
+    QCOMPARE(m_log->takeAll(), QStringList());
+    m_log.reset();
+}
+
+void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("error");
+
+    const QString film = QStringLiteral("holiday.mp4");
+    const QString playlist = QStringLiteral("is a playlist; choose the files that it lists");
+    QTest::newRow("concat list") << film << QByteArray("ffconcat version 1.0\nfile film.mp4\n")
+                                 << playlist;
+    QTest::newRow("HLS") << film
+                         << QByteArray("#EXTM3U\n#EXT-X-VERSION:3\n#EXT-X-TARGETDURATION:1\n"
+                                       "#EXTINF:1.0,\npart0.ts\n#EXT-X-ENDLIST\n")
+                         << playlist;
+    QTest::newRow("DASH")
+        << film
+        << QByteArray("<?xml version=\"1.0\"?>\n"
+                      "<MPD xmlns=\"urn:mpeg:dash:schema:mpd:2011\" type=\"static\" "
+                      "profiles=\"urn:mpeg:dash:profile:isoff-main:2011\"><Period>"
+                      "<AdaptationSet contentType=\"video\"><Representation id=\"0\" "
+                      "mimeType=\"video/mp4\"><BaseURL>film.mp4</BaseURL></Representation>"
+                      "</AdaptationSet></Period></MPD>\n")
+        << playlist;
+    QTest::newRow("SDP") << film
+                         << QByteArray("v=0\no=- 0 0 IN IP4 127.0.0.1\ns=x\nc=IN IP4 127.0.0.1\n"
+                                       "t=0 0\nm=video 5004 RTP/AVP 96\na=rtpmap:96 H264/90000\n")
+                         << playlist;
+    QTest::newRow("M3U") << film << QByteArray("#EXTM3U\n#EXTINF:1,x\nfilm.mp4\n") << playlist;
+    QTest::newRow("PLS") << film
+                         << QByteArray("[playlist]\nFile1=film.mp4\nNumberOfEntries=1\nVersion=2\n")
+                         << playlist;
+    QTest::newRow("subtitles") << film << QByteArray("1\n00:00:01,000 --> 00:00:02,000\nHello\n")
+                               << QStringLiteral(
+                                      "is of a kind that isn't converted (srt); choose a "
+                                      "video or audio file");
+    QTest::newRow("metadata") << film << QByteArray(";FFMETADATA1\ntitle=x\n")
+                              << QStringLiteral("is of a kind that isn't converted (ffmetadata); "
+                                                "choose a video or audio file");
+    const QString pattern = QStringLiteral("stands for a series of pictures; rename it and its "
+                                           "folders without any of % * ? [ ] { }");
+    QFile picture(path(QStringLiteral("other1.png")));
+    QVERIFY(picture.open(QIODevice::ReadOnly));
+    QTest::newRow("pattern of pictures")
+        << QStringLiteral("other%01d.png") << picture.readAll() << pattern;
+    QTest::newRow("pattern of photos")
+        << QStringLiteral("other%01d.jpg") << QByteArray() << pattern;
+    QTest::newRow("planes in files of their own")
+        << QStringLiteral("plane.y") << QByteArray(100, 'y')
+        << QStringLiteral("is of a kind that isn't converted (image2); choose a video or audio "
+                          "file");
+}
+
+void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, error);
+    write(name, content);
+    const ProbeOutcome outcome = probe(name);
+    QCOMPARE(outcome.error, error);
+    QVERIFY(outcome.facts.isEmpty());
+}
+
+void TestMediaProbe::whatHoldsItsMediaIsRead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("arguments");
+
+    const QString picture = QStringLiteral("-f lavfi -i testsrc2=size=352x288:rate=25:duration=1");
+    const QString sine = QStringLiteral(" -f lavfi -i sine=duration=1:sample_rate=48000");
+    const auto row = [](const char *name, const QString &arguments) {
+        QTest::newRow(name) << QString::fromLatin1(name) << arguments;
+    };
+    for (const char *name : {"film.mov", "film.mkv", "film.avi", "film.ts", "film.mpg", "film.vob",
+                             "film.nut", "film.ogv", "film.mxf"}) {
+        row(name, picture + sine);
+    }
+    row("film.wmv", picture + sine + QStringLiteral(" -c:v wmv2 -c:a wmav2"));
+    row("film.m2ts", picture + sine + QStringLiteral(" -mpegts_m2ts_mode 1"));
+    row("film.flv", picture + sine + QStringLiteral(" -ar 44100"));
+    row("film.webm", picture + sine + QStringLiteral(" -c:v vp8 -deadline realtime -cpu-used 8"));
+    row("film.dv", picture + sine + QStringLiteral(" -s 720x576 -pix_fmt yuv420p -ac 2"));
+    row("film.3gp", picture + sine + QStringLiteral(" -c:v h263 -c:a aac"));
+    row("timecode.mov", picture + QStringLiteral(" -timecode 01:00:00:00"));
+    for (const char *name : {"film.h264", "film.m2v", "film.m1v", "film.mjpeg", "film.ivf",
+                             "film.gif", "film.apng", "film.y4m", "film.swf"}) {
+        row(name, picture + QStringLiteral(" -pix_fmt yuv420p -s 320x240"));
+    }
+    row("film.hevc", picture + QStringLiteral(" -preset ultrafast -x265-params log-level=error"));
+    row("still.jpg", picture + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.tga", picture + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.png", picture + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.webp", picture + QStringLiteral(" -frames:v 1"));
+    row("still.tiff", picture + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.bmp", picture + QStringLiteral(" -frames:v 1 -update 1"));
+    for (const char *name :
+         {"song.wav", "song.w64",  "song.aiff", "song.au",  "song.caf", "song.flac",
+          "song.mp3", "song.mp2",  "song.aac",  "song.m4a", "song.ac3", "song.eac3",
+          "song.ogg", "song.opus", "song.spx",  "song.tta", "song.wv",  "song.wma",
+          "song.mka", "song.voc",  "song.sox",  "song.g722"}) {
+        row(name, sine.trimmed());
+    }
+    row("song.dts", sine.trimmed() + QStringLiteral(" -strict -2 -c:a dca"));
+    row("song.thd", sine.trimmed() + QStringLiteral(" -strict -2 -c:a truehd -f truehd"));
+    row("song.amr", sine.trimmed() + QStringLiteral(" -c:a libopencore_amrnb -ar 8000"));
+    row("song.gsm", sine.trimmed() + QStringLiteral(" -c:a libgsm -ar 8000"));
+}
+
+void TestMediaProbe::whatHoldsItsMediaIsRead()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, arguments);
+    const QString file = QStringLiteral("clip-") + name;
+    if (!MediaClips::make(path(file), arguments)) {
+        QSKIP("this ffmpeg can't write it");
+    }
+    const ProbeOutcome outcome = probe(file);
+    QCOMPARE(outcome.error, QString());
+    QVERIFY(!outcome.facts.isEmpty());
+}
+
+void TestMediaProbe::anAnswerThatNeverComesIsGivenUp()
+{
+    const QTemporaryDir tools;
+    QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("sleep 1000; exit 0"),
+                                    QStringLiteral("nothing"), QStringLiteral("ffprobe")));
+    qputenv("PATH", MediaClips::pathWith(tools.path()));
+    QCOMPARE(probe(QStringLiteral("film.mp4"), {1000000, 200}).error,
+             QStringLiteral("takes too long to read; check the disk or network that it is on"));
+}
+
+void TestMediaProbe::anAnswerWithoutEndIsGivenUp()
+{
+    const QTemporaryDir tools;
+    QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("exec yes"),
+                                    QStringLiteral("nothing"), QStringLiteral("ffprobe")));
+    qputenv("PATH", MediaClips::pathWith(tools.path()));
+    QCOMPARE(probe(QStringLiteral("film.mp4")).error,
+             QStringLiteral("describes itself without end; check that it is a complete video or "
+                            "audio file"));
+}
+
+QTEST_GUILESS_MAIN(TestMediaProbe)
+#include "tst_mediaprobe.moc"
