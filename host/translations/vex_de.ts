@@ -795,6 +795,22 @@
         <source>nova HD 1080P</source>
         <translation>nova HD 1080P</translation>
     </message>
+    <message>
+        <source>Videos and songs</source>
+        <translation>Videos und Musik</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <translation>Im Ordner %1 sind weder Videos noch Musik; fügen Sie die Dateien selbst hinzu</translation>
+    </message>
+    <message>
+        <source>No file manager could be started to show the folder %1; open it by hand</source>
+        <translation>Es ließ sich kein Dateimanager starten, um den Ordner %1 zu zeigen; öffnen Sie ihn von Hand</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

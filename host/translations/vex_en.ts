@@ -795,5 +795,21 @@
         <source>nova HD 1080P</source>
         <translation>nova HD 1080P</translation>
     </message>
+    <message>
+        <source>Videos and songs</source>
+        <translation>Videos and songs</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <translation>There are no videos or songs in the folder %1; add the files themselves</translation>
+    </message>
+    <message>
+        <source>No file manager could be started to show the folder %1; open it by hand</source>
+        <translation>No file manager could be started to show the folder %1; open it by hand</translation>
+    </message>
 </context>
 </TS>

@@ -795,6 +795,22 @@
         <source>nova HD 1080P</source>
         <translation>nova HD 1080P</translation>
     </message>
+    <message>
+        <source>Videos and songs</source>
+        <translation>Vídeos y canciones</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <translation>En la carpeta %1 no hay vídeos ni canciones; añada los archivos directamente</translation>
+    </message>
+    <message>
+        <source>No file manager could be started to show the folder %1; open it by hand</source>
+        <translation>No se pudo iniciar ningún gestor de archivos para mostrar la carpeta %1; ábrala manualmente</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

@@ -795,6 +795,22 @@
         <source>nova HD 1080P</source>
         <translation>nova HD 1080P</translation>
     </message>
+    <message>
+        <source>Videos and songs</source>
+        <translation>Vidéos et musique</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <translation>Le dossier %1 ne contient ni vidéo ni musique ; ajoutez directement les fichiers</translation>
+    </message>
+    <message>
+        <source>No file manager could be started to show the folder %1; open it by hand</source>
+        <translation>Aucun gestionnaire de fichiers n’a pu être lancé pour afficher le dossier %1 ; ouvrez-le vous-même</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

@@ -795,6 +795,22 @@
         <source>nova HD 1080P</source>
         <translation>nova HD 1080P</translation>
     </message>
+    <message>
+        <source>Videos and songs</source>
+        <translation>動画と音楽</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <translation>フォルダー %1 には動画も音楽もありません。ファイルを直接追加してください</translation>
+    </message>
+    <message>
+        <source>No file manager could be started to show the folder %1; open it by hand</source>
+        <translation>フォルダー %1 を表示するファイルマネージャーを起動できませんでした。手動で開いてください</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

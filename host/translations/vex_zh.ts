@@ -795,6 +795,22 @@
         <source>nova HD 1080P</source>
         <translation>nova HD 1080P</translation>
     </message>
+    <message>
+        <source>Videos and songs</source>
+        <translation>视频和音乐</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <translation>文件夹 %1 中没有视频或音乐；请直接添加文件</translation>
+    </message>
+    <message>
+        <source>No file manager could be started to show the folder %1; open it by hand</source>
+        <translation>无法启动文件管理器来显示文件夹 %1；请手动打开</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

@@ -4,6 +4,12 @@
 #include "host/window/page.h"
 
 #include <QObject>
+#include <QPointer>
+#include <QWindow>
+
+#include <functional>
+
+class QFileDialog;
 
 /*! The system's dialogs for files and folders; the QML files call it "O_Files". */
 class FileChooser : public QObject
@@ -13,10 +19,22 @@ class FileChooser : public QObject
 public:
     using QObject::QObject;
 
+    /*! The dialogs open in front of \a window. */
+    void setWindow(QWindow *window) { m_window = window; }
+
     /*! Lets the user choose files for the page's list. Returns at once. */
     Q_INVOKABLE void chooseFiles(Page *page);
     /*! Lets the user choose where the page's results go. Returns at once. */
     Q_INVOKABLE void chooseFolder(Page *page);
+
+private:
+    /*! \a take gets the paths, unless the user cancels or \a page is gone. */
+    void open(QFileDialog *dialog, Page *page,
+              const std::function<void(const QStringList &)> &take);
+    void placeOverWindow(QFileDialog *dialog) const;
+
+    QPointer<QWindow> m_window;
+    QString m_lastFolder;
 };
 
 #endif

@@ -50,6 +50,8 @@ QString MainWindow::open()
     m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets);
     m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets);
     connect(m_presets.get(), &Presets::saveFailed, &m_notices, &Notices::add);
+    connect(m_converter.get(), &Page::noticed, &m_notices, &Notices::add);
+    connect(m_editor.get(), &Page::noticed, &m_notices, &Notices::add);
     connect(m_converter.get(), &ConverterProxy::editingAsked, this, &MainWindow::editPreset);
     connect(m_converter.get(), &ConverterProxy::messageAsked, this,
             [this](const QVariantMap &info) {
@@ -60,6 +62,7 @@ QString MainWindow::open()
     if (window() == nullptr) {
         return ToolFun::text(QStringLiteral("The window can't be made"));
     }
+    m_files.setWindow(window());
     window()->requestActivate();
     return {};
 }

@@ -1,31 +1,18 @@
 #include "host/window/page.h"
 
-#include "host/files/filenames.h"
+#include "host/files/localpath.h"
 #include "host/files/visibletext.h"
+#include "host/media/mediafiles.h"
 #include "host/window/presets.h"
+#include "host/window/toolfun.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QMimeDatabase>
 
 #include <algorithm>
 
 namespace {
-
-QStringList mediaFilesIn(const QString &folder)
-{
-    const QMimeDatabase kinds;
-    QStringList files;
-    const QFileInfoList all = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
-    for (const QFileInfo &file : all) {
-        const QString kind = kinds.mimeTypeForFile(file, QMimeDatabase::MatchExtension).name();
-        if (kind.startsWith(QLatin1String("video/")) || kind.startsWith(QLatin1String("audio/"))) {
-            files << file.absoluteFilePath();
-        }
-    }
-    return files;
-}
 
 bool isConvertible(const Task &task)
 {
@@ -93,12 +80,19 @@ bool Page::canConvert() const
 
 void Page::addFiles(const QList<QUrl> &urls)
 {
-    for (const QUrl &url : urls) {
-        if (!url.isLocalFile()) {
-            continue;
+    addPaths(localPaths(urls));
+}
+
+void Page::addPaths(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        const bool isFolder = QFileInfo(path).isDir();
+        const QStringList files = isFolder ? mediaFilesIn(path) : QStringList{path};
+        if (files.isEmpty()) {
+            Q_EMIT noticed(ToolFun::text(QStringLiteral("There are no videos or songs in the "
+                                                        "folder %1; add the files themselves"))
+                               .arg(QDir::toNativeSeparators(path)));
         }
-        const QString path = fileOfUrl(url);
-        const QStringList files = QFileInfo(path).isDir() ? mediaFilesIn(path) : QStringList{path};
         for (const QString &file : files) {
             addFile(file);
         }
@@ -170,7 +164,11 @@ void Page::showInFolder(int taskId)
 {
     if (const Task *task = m_tasks.find(taskId)) {
         const QFileInfo file(task->target.isEmpty() ? task->source : task->target);
-        QDesktopServices::openUrl(urlOfFile(file.absolutePath()));
+        if (!QDesktopServices::openUrl(localUrl(file.absolutePath()))) {
+            Q_EMIT noticed(ToolFun::text(QStringLiteral("No file manager could be started to show "
+                                                        "the folder %1; open it by hand"))
+                               .arg(QDir::toNativeSeparators(file.absolutePath())));
+        }
     }
 }
 

@@ -42,8 +42,9 @@ public:
     /*! Whether convertAll() would do anything. */
     bool canConvert() const;
 
-    /*! Appends the files, and of folders the films and songs in them. */
+    /*! Appends the files, and of folders the films and songs in them. Only file: URLs count. */
     Q_INVOKABLE void addFiles(const QList<QUrl> &urls);
+    void addPaths(const QStringList &paths);
     /*! A running task is stopped first. */
     Q_INVOKABLE void remove(int taskId);
     Q_INVOKABLE void convert(int taskId);
@@ -61,6 +62,8 @@ Q_SIGNALS:
     void globalFormatChanged();
     void folderChanged();
     void queueChanged();
+    /*! One line that the user ought to know. */
+    void noticed(const QString &line);
 
 protected:
     /*! The format of the page, for new files and for all in the list that aren't at work. */

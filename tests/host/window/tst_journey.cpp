@@ -6,97 +6,18 @@
 
 #include "formats/proxy/formatsproxy.h"
 #include "tests/host/mediaclips.h"
+#include "tests/host/window/windowuser.h"
 
-#include <QAccessible>
-#include <QMimeData>
 #include <QProcess>
 #include <QQuickItem>
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace WindowUser;
+
 namespace {
 
 const char configVariable[] = "VEX_JOURNEY_CONFIG";
-
-QStringList unexpected; // the engine's and the program's warnings
-
-void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    // Qt goes on counting a row that a list gave up while it was made ahead, as when a search
-    // changes the list on a slow machine.
-    const bool isMiscount = text.contains(QStringLiteral("in the process of being created"));
-    if (type != QtDebugMsg && type != QtInfoMsg && !isMiscount) {
-        unexpected << text;
-    }
-}
-
-QString nameOf(QQuickItem *item)
-{
-    QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(item);
-    return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
-}
-
-QPoint middleOf(const QQuickItem *item)
-{
-    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
-}
-
-/*! All visible items that lie in the window and have this text, or this name for screen readers. */
-QList<QQuickItem *> itemsNamed(QQuickItem *root, const QString &name)
-{
-    QList<QQuickItem *> found;
-    if (!root->isVisible()) {
-        return found;
-    }
-    const QSize size = root->window()->size();
-    const bool hasName = root->property("text").toString() == name || nameOf(root) == name;
-    if (hasName && QRect(QPoint(), size).contains(middleOf(root))) {
-        found << root;
-    }
-    for (QQuickItem *child : root->childItems()) {
-        found << itemsNamed(child, name);
-    }
-    return found;
-}
-
-/*! Clicks the first item of this name, as soon as it is there and stands still. */
-bool click(QQuickWindow *window, const QString &name)
-{
-    QPoint place;
-    const bool isThere = QTest::qWaitFor([&place, window, &name] {
-        const QList<QQuickItem *> found = itemsNamed(window->contentItem(), name);
-        if (found.isEmpty() || !found.constFirst()->isEnabled()) {
-            return false;
-        }
-        const QPoint before = place;
-        place = middleOf(found.constFirst());
-        return place == before;
-    });
-    if (isThere) {
-        QTest::mouseClick(window, Qt::LeftButton, {}, place);
-    }
-    return isThere;
-}
-
-void type(QQuickWindow *window, const QString &text)
-{
-    for (const QChar letter : text) {
-        QTest::keyClick(window, letter.toLatin1());
-    }
-}
-
-void drop(QQuickWindow *window, const QList<QUrl> &urls)
-{
-    QMimeData data;
-    data.setUrls(urls);
-    const QPoint place(window->width() / 2, window->height() / 2);
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window, &enter);
-    QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window, &move);
-    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window, &drop);
-}
 
 /*! The names of what can take the focus or be pressed and has none for screen readers. */
 QStringList namelessControls(QQuickItem *root)
@@ -140,12 +61,12 @@ void TestJourney::initTestCase()
 {
     keepBytesOfFileNames();
     Languages::install(QStringLiteral("en"));
-    qInstallMessageHandler(collectWarnings);
+    collectWarnings();
 }
 
 void TestJourney::cleanup()
 {
-    QCOMPARE(unexpected.join(QLatin1Char('\n')), QString());
+    QCOMPARE(takeWarnings(), QString());
 }
 
 QString TestJourney::configFolder() const

@@ -115,15 +115,30 @@ void TestLanguages::everyKeyIsTranslated()
     keys += keysIn(QStringLiteral("host/qml"));
     QVERIFY(keys.contains(QStringLiteral("Convert All")));
     // Those that are put together at run time.
-    keys += {QStringLiteral("video"),         QStringLiteral("audio"),
-             QStringLiteral("device"),        QStringLiteral("socialVideo"),
-             QStringLiteral("recently"),      QStringLiteral("High Quality"),
-             QStringLiteral("Default"),       QStringLiteral("Low Quality"),
-             QStringLiteral("Encoder"),       QStringLiteral("Frame Rate"),
-             QStringLiteral("Resolution"),    QStringLiteral("Bitrate"),
-             QStringLiteral("Channel"),       QStringLiteral("Sample Rate"),
-             QStringLiteral("Keep Orignal"),  QStringLiteral("Smart Fit"),
-             QStringLiteral("Choose folder"), QStringLiteral("Add files")};
+    keys += {QStringLiteral("video"),
+             QStringLiteral("audio"),
+             QStringLiteral("device"),
+             QStringLiteral("socialVideo"),
+             QStringLiteral("recently"),
+             QStringLiteral("High Quality"),
+             QStringLiteral("Default"),
+             QStringLiteral("Low Quality"),
+             QStringLiteral("Encoder"),
+             QStringLiteral("Frame Rate"),
+             QStringLiteral("Resolution"),
+             QStringLiteral("Bitrate"),
+             QStringLiteral("Channel"),
+             QStringLiteral("Sample Rate"),
+             QStringLiteral("Keep Orignal"),
+             QStringLiteral("Smart Fit"),
+             QStringLiteral("Choose folder"),
+             QStringLiteral("Add files"),
+             QStringLiteral("All files"),
+             QStringLiteral("Videos and songs"),
+             QStringLiteral("There are no videos or songs in the folder %1; add the files "
+                            "themselves"),
+             QStringLiteral("No file manager could be started to show the folder %1; open it by "
+                            "hand")};
     for (const QString &title : presetTitles()) {
         if (!isName(title)) {
             keys.insert(title);

@@ -30,6 +30,7 @@ private Q_SLOTS:
 
     void aFileIsReadAndPictured();
     void aFolderGivesItsMediaFiles();
+    void aFolderWithoutMediaIsNamed();
     void aFileThatIsNoMediaSaysSoAndTheRestGoOn();
     void tasksRunOneAfterAnother();
     void aStoppedTaskCanBeTriedAgain();
@@ -125,6 +126,20 @@ void TestPage::aFolderGivesItsMediaFiles()
         names << QFileInfo(task.source).fileName();
     }
     QCOMPARE(names, QStringList({QStringLiteral("a.mp3"), QStringLiteral("b.wav")}));
+}
+
+void TestPage::aFolderWithoutMediaIsNamed()
+{
+    QSignalSpy noticed(m_converter.get(), &Page::noticed);
+    const QUrl folder = QUrl::fromLocalFile(m_files->path());
+    m_converter->addFiles({folder});
+    QCOMPARE(m_converter->tasks()->count(), 0);
+    QCOMPARE(noticed.count(), 1);
+    QVERIFY(noticed.at(0).at(0).toString().contains(m_files->path()));
+    song();
+    m_converter->addFiles({folder});
+    QCOMPARE(m_converter->tasks()->count(), 1);
+    QCOMPARE(noticed.count(), 1);
 }
 
 void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()

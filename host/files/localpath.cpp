@@ -1,0 +1,36 @@
+#include "host/files/localpath.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSysInfo>
+
+#include <algorithm>
+#include <iterator>
+
+QString localPath(const QUrl &url)
+{
+    // Some programs write their machine's name into what they let drop.
+    const QString host = url.host();
+    const bool isHere = host.isEmpty() || host == QLatin1String("localhost") ||
+                        host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
+    if (!url.isLocalFile() || !isHere) {
+        return {};
+    }
+    // QUrl::toLocalFile() loses bytes that are no UTF-8.
+    return QFile::decodeName(
+        QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
+}
+
+QStringList localPaths(const QList<QUrl> &urls)
+{
+    QStringList paths;
+    std::transform(urls.begin(), urls.end(), std::back_inserter(paths), localPath);
+    paths.removeAll(QString());
+    return paths;
+}
+
+QUrl localUrl(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(QFileInfo(path).absoluteFilePath());
+    return QUrl::fromEncoded("file://" + name.toPercentEncoding("/"));
+}

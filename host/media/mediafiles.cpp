@@ -1,0 +1,28 @@
+#include "host/media/mediafiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+const QStringList &mediaExtensions()
+{
+    static const QStringList extensions =
+        QStringLiteral(
+            "3g2 3gp aac ac3 aif aifc aiff amr ape asf au avi awb caf divx dsf dts dv eac3 f4v "
+            "flac flv gif m1v m2t m2ts m2v m4a m4b m4r m4v mka mkv mlp mov mp2 mp3 mp4 mpc mpe "
+            "mpeg mpg mts mxf nut oga ogg ogm ogv opus qt ra rm rmvb spx tak thd ts tta vob voc "
+            "w64 wav webm wma wmv wtv wv y4m")
+            .split(QLatin1Char(' '));
+    return extensions;
+}
+
+QStringList mediaFilesIn(const QString &folder)
+{
+    QStringList paths;
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
+    for (const QFileInfo &file : files) {
+        if (mediaExtensions().contains(file.suffix().toLower())) {
+            paths << file.absoluteFilePath();
+        }
+    }
+    return paths;
+}

@@ -1,0 +1,56 @@
+#include "host/media/mediafiles.h"
+#include "host/presets/presetstore.h"
+
+#include "formats/models/formatdetailmodel.h"
+#include "formats/models/formatlistmodel.h"
+#include "formats/proxy/formatsproxy.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestMediaFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatPresetsWriteCountsAsMedia();
+    void aFolderGivesItsOwnMediaFilesByName();
+};
+
+void TestMediaFiles::whatPresetsWriteCountsAsMedia()
+{
+    QTemporaryDir folder;
+    PresetStore store(folder.path());
+    QCOMPARE(store.open(PresetStore::ReadOnly), QString());
+    QStringList unknown;
+    const FormatListModel &formats = *store.formats().formatListModel();
+    QVERIFY(formats.rowCount() > 0);
+    for (int row = 0; row < formats.rowCount(); ++row) {
+        const FormatDetailModel &presets = *formats.formatDetailModel(formats.getTitle(row));
+        for (int preset = 0; preset < presets.rowCount(); ++preset) {
+            FormatDetailModelData data;
+            QVERIFY(presets.getModelInfoByIndex(preset, data));
+            if (!mediaExtensions().contains(data.extension.toLower())) {
+                unknown << data.extension;
+            }
+        }
+    }
+    QCOMPARE(unknown, QStringList());
+}
+
+void TestMediaFiles::aFolderGivesItsOwnMediaFilesByName()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("more.mp4")));
+    for (const char *name : {"b.wav", "A.MTS", "note.txt", "mp3", "more.mp4/c.mp3"}) {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QCOMPARE(mediaFilesIn(folder.path()), QStringList({folder.filePath(QStringLiteral("A.MTS")),
+                                                       folder.filePath(QStringLiteral("b.wav"))}));
+}
+
+QTEST_GUILESS_MAIN(TestMediaFiles)
+#include "tst_mediafiles.moc"

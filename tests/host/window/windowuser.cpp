@@ -1,0 +1,102 @@
+#include "tests/host/window/windowuser.h"
+
+#include <QAccessible>
+#include <QMimeData>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtTest>
+
+namespace {
+
+QStringList warnings;
+
+void keepWarning(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    // Qt goes on counting a row that a list gave up while it was made ahead, as when a search
+    // changes the list on a slow machine.
+    const bool isMiscount = text.contains(QStringLiteral("in the process of being created"));
+    const bool isLackOfScreen = text.startsWith(QStringLiteral("This plugin does not support"));
+    if (type != QtDebugMsg && type != QtInfoMsg && !isMiscount && !isLackOfScreen) {
+        warnings << text;
+    }
+}
+
+} // namespace
+
+QString WindowUser::nameOf(QQuickItem *item)
+{
+    QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(item);
+    return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
+}
+
+QPoint WindowUser::middleOf(const QQuickItem *item)
+{
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+QList<QQuickItem *> WindowUser::itemsNamed(QQuickItem *root, const QString &name)
+{
+    QList<QQuickItem *> found;
+    if (!root->isVisible()) {
+        return found;
+    }
+    const QSize size = root->window()->size();
+    const bool hasName = root->property("text").toString() == name || nameOf(root) == name;
+    if (hasName && QRect(QPoint(), size).contains(middleOf(root))) {
+        found << root;
+    }
+    for (QQuickItem *child : root->childItems()) {
+        found << itemsNamed(child, name);
+    }
+    return found;
+}
+
+bool WindowUser::click(QQuickWindow *window, const QString &name, int which)
+{
+    QPoint place;
+    const bool isThere = QTest::qWaitFor([&place, window, &name, which] {
+        const QList<QQuickItem *> found = itemsNamed(window->contentItem(), name);
+        if (found.size() <= which || !found.at(which)->isEnabled()) {
+            return false;
+        }
+        const QPoint before = place;
+        place = middleOf(found.at(which));
+        return place == before;
+    });
+    if (isThere) {
+        QTest::mouseClick(window, Qt::LeftButton, {}, place);
+    }
+    return isThere;
+}
+
+void WindowUser::type(QWindow *window, const QString &text)
+{
+    for (const QChar letter : text) {
+        QTest::keyClick(window, letter.toLatin1());
+    }
+}
+
+void WindowUser::drop(QQuickWindow *window, const QList<QUrl> &urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    const QPoint place(window->width() / 2, window->height() / 2);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &enter);
+    QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &move);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &drop);
+}
+
+void WindowUser::collectWarnings()
+{
+    qInstallMessageHandler(keepWarning);
+}
+
+QString WindowUser::takeWarnings()
+{
+    const QString lines = warnings.join(QLatin1Char('\n'));
+    warnings.clear();
+    return lines;
+}
