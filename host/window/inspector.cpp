@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QUrl>
 
+#include <algorithm>
+
 Inspector::~Inspector()
 {
     // ffmpeg stops before the folder that it writes into is removed.
@@ -21,16 +23,17 @@ void Inspector::inspect(int id, const QString &path)
 
 void Inspector::forget(int id)
 {
-    // The first question is being answered: only its id is made one that nobody knows.
-    for (int i = m_questions.size() - 1; i >= 0; --i) {
-        if (m_questions.at(i).id != id) {
-            continue;
-        }
-        if (i == 0) {
-            m_questions[0].id = 0;
-        } else {
-            m_questions.removeAt(i);
-        }
+    const auto found = std::find_if(m_questions.begin(), m_questions.end(),
+                                    [id](const Question &question) { return question.id == id; });
+    if (found == m_questions.end()) {
+        return;
+    }
+    const bool isAsked = found == m_questions.begin();
+    m_questions.erase(found);
+    if (isAsked) {
+        // A tool that hangs mustn't keep the other files waiting.
+        delete m_tool;
+        askNext();
     }
 }
 
@@ -44,21 +47,21 @@ void Inspector::askNext()
 
 void Inspector::take(const ProbeOutcome &outcome)
 {
-    Q_EMIT read(m_questions.head().id, outcome);
+    const Question question = m_questions.head();
     if (outcome.facts.picture() != nullptr || outcome.facts.cover() != nullptr) {
-        picture(outcome.facts);
-        return;
+        picture(question, outcome.facts);
+    } else {
+        m_questions.dequeue();
+        askNext();
     }
-    m_questions.dequeue();
-    askNext();
+    Q_EMIT read(question.id, outcome);
 }
 
-void Inspector::picture(const MediaFacts &facts)
+void Inspector::picture(const Question &question, const MediaFacts &facts)
 {
     // The very first frames of films are often black.
     const double moment = facts.picture() == nullptr ? 0 : facts.duration / 10;
     const VideoTrack *track = facts.picture() == nullptr ? facts.cover() : facts.picture();
-    const Question question = m_questions.head();
     const QString file = m_pictures.filePath(QStringLiteral("%1.png").arg(question.id));
     const QStringList arguments =
         QStringList{QStringLiteral("-nostdin"), QStringLiteral("-v"),
@@ -72,12 +75,12 @@ void Inspector::picture(const MediaFacts &facts)
                     QStringLiteral("1"),         fileArgument(file)};
     m_tool = new Tool(
         QStringLiteral("ffmpeg"), arguments,
-        [this, file](const ToolOutcome &) {
+        [this, file](const ToolOutcome &outcome) {
             const int id = m_questions.dequeue().id;
-            if (QFile::exists(file)) {
+            askNext();
+            if (outcome.exitedCleanly && QFile::exists(file)) {
                 Q_EMIT pictured(id, QUrl::fromLocalFile(file).toString());
             }
-            askNext();
         },
         this, probeLimits);
 }

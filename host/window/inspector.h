@@ -22,6 +22,7 @@ public:
 
     /*! \a id names the file in the signals. */
     void inspect(int id, const QString &path);
+    /*! Gives the file up at once, also while a tool works on it. */
     void forget(int id);
 
 Q_SIGNALS:
@@ -38,7 +39,7 @@ private:
 
     void askNext();
     void take(const ProbeOutcome &outcome);
-    void picture(const MediaFacts &facts);
+    void picture(const Question &question, const MediaFacts &facts);
 
     QQueue<Question> m_questions;
     QPointer<Tool> m_tool; // works on the first question

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <csignal>
 
 namespace {
 
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void aFolderGivesItsMediaFiles();
     void aFolderWithoutMediaIsNamed();
     void aFileThatIsNoMediaSaysSoAndTheRestGoOn();
+    void removingAFileThatHangsLetsTheNextOneBeRead_data();
+    void removingAFileThatHangsLetsTheNextOneBeRead();
     void tasksRunOneAfterAnother();
     void aStoppedTaskCanBeTriedAgain();
     void removingTheRunningTaskLetsTheNextOneRun();
@@ -162,6 +165,49 @@ void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()
     QVERIFY(task(*m_converter, second).target.endsWith(QStringLiteral("/song.mp3")));
     QCOMPARE(MediaClips::factsOf(task(*m_converter, second).target).sound()->codec,
              mp3.mid(6, 3).toLower());
+}
+
+void TestPage::removingAFileThatHangsLetsTheNextOneBeRead_data()
+{
+    QTest::addColumn<QString>("tool");
+    QTest::newRow("while it is read") << QStringLiteral("ffprobe");
+    QTest::newRow("while it is pictured") << QStringLiteral("ffmpeg");
+}
+
+void TestPage::removingAFileThatHangsLetsTheNextOneBeRead()
+{
+    QFETCH(QString, tool);
+    const QString film = m_files->filePath(QStringLiteral("hanging.mp4"));
+    QVERIFY(MediaClips::makeFilm(film));
+    const QUrl next = song();
+    // The tool tells its process id and hangs on this file alone.
+    const QString told = m_files->filePath(QStringLiteral("pid"));
+    QVERIFY(MediaClips::makeStandIn(
+        m_files->path(),
+        QStringLiteral("case \"$*\" in *hanging*) echo $$ >'%1'; exec sleep 600;; esac\n"
+                       "exec $REAL \"$@\"")
+            .arg(told),
+        QStringLiteral("nothing"), tool));
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", MediaClips::pathWith(m_files->path()));
+    m_converter->addFiles({QUrl::fromLocalFile(film), next});
+    const int first = m_converter->tasks()->tasks().at(0).id;
+    const int second = m_converter->tasks()->tasks().at(1).id;
+    int pid = 0;
+    const bool hangs = QTest::qWaitFor([&told, &pid] {
+        QFile file(told);
+        pid = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
+        return pid != 0;
+    });
+    m_converter->remove(first);
+    const bool isStopped = ::kill(pid, 0) != 0;
+    const bool isNextRead =
+        QTest::qWaitFor([this, second] { return task(*m_converter, second).state == Task::Ready; });
+    qputenv("PATH", path);
+    QVERIFY(hangs);
+    QVERIFY(isStopped);
+    QVERIFY(isNextRead);
+    QCOMPARE(m_converter->tasks()->count(), 1);
 }
 
 void TestPage::tasksRunOneAfterAnother()
