@@ -1,6 +1,6 @@
+#include "host/app/interrupt.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/console.h"
-#include "host/commandline/interrupt.h"
 
 #include "formats/proxy/formatsproxy.h"
 #include "host/check/cataloguelint.h"

@@ -1,7 +1,11 @@
 #include "host/commandline/commandline.h"
 
 #include "host/commandline/console.h"
+#include "host/files/localpath.h"
 #include "host/presets/presetstore.h"
+
+#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -14,6 +18,31 @@ QVector<Subcommand> subcommands()
     all += checkCommands();
 #endif
     return all;
+}
+
+/*! Null when there is none of this name. */
+const Subcommand *findSubcommand(const QVector<Subcommand> &all, const QString &name)
+{
+    const auto named = std::find_if(all.begin(), all.end(), [&name](const Subcommand &subcommand) {
+        return subcommand.name == name;
+    });
+    return named == all.end() ? nullptr : &*named;
+}
+
+/*! The absolute path of the file or folder that a path or file: URL names; empty: it names none. */
+QString existingPath(const QString &argument)
+{
+    const bool isUrl = argument.startsWith(QLatin1String("file:")) && !QFile::exists(argument);
+    const QFileInfo file(isUrl ? localPath(QUrl::fromEncoded(QFile::encodeName(argument)))
+                               : argument);
+    return file.exists() ? file.absoluteFilePath() : QString();
+}
+
+QStringList existingPaths(const QStringList &arguments)
+{
+    QStringList paths;
+    std::transform(arguments.begin(), arguments.end(), std::back_inserter(paths), existingPath);
+    return paths;
 }
 
 QList<QCommandLineOption> commonOptions()
@@ -64,11 +93,13 @@ QString overviewText(const QCommandLineParser &parser)
     for (const Subcommand &subcommand : all) {
         list += QStringLiteral("  %1 %2\n").arg(subcommand.name, -16).arg(subcommand.summary);
     }
-    return CommandLine::tr("Usage: vexconvert [options]\n"
+    return CommandLine::tr("Usage: vexconvert [options] [FILE...]\n"
                            "       vexconvert SUBCOMMAND [arguments] [options]\n"
                            "\n"
                            "Converts video and audio files with presets: in a window, or with a "
                            "subcommand.\n"
+                           "The window starts with the FILEs and the media in folders among them; "
+                           "one that is open\nalready takes them.\n"
                            "\n"
                            "Subcommands:\n"
                            "%1"
@@ -135,13 +166,20 @@ bool tell(const PresetStore::Opening &opening)
 std::optional<WindowOptions> CommandLine::windowOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    if (!parseOverall(parser, arguments) || !parser.positionalArguments().isEmpty() ||
-        parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
+    if (!parseOverall(parser, arguments) || parser.isSet(QStringLiteral("help")) ||
+        parser.isSet(QStringLiteral("version"))) {
+        return std::nullopt;
+    }
+    const QStringList rest = parser.positionalArguments();
+    const QStringList files = existingPaths(rest);
+    const bool isSubcommand =
+        !rest.isEmpty() && findSubcommand(subcommands(), rest.constFirst()) != nullptr;
+    if (isSubcommand || files.contains(QString())) {
         return std::nullopt;
     }
     return WindowOptions{parser.value(QStringLiteral("config")),
                          parser.value(QStringLiteral("language")),
-                         parser.value(QStringLiteral("screenshots"))};
+                         parser.value(QStringLiteral("screenshots")), files};
 }
 
 ExitCode CommandLine::run(const QStringList &arguments)
@@ -160,20 +198,24 @@ ExitCode CommandLine::run(const QStringList &arguments)
     if (!isParsed) {
         return wrongUsage(tr("%1; see \"vexconvert --help\"").arg(mistakeIn(parser)));
     }
+    const QVector<Subcommand> all = subcommands();
+    const Subcommand *named = findSubcommand(all, rest.constFirst());
+    const int missing = existingPaths(rest).indexOf(QString());
+    if (named == nullptr && missing > 0) {
+        return wrongUsage(tr("there is no file \"%1\"; check its name, and put options before the "
+                             "files")
+                              .arg(rest.at(missing)));
+    }
+    if (named == nullptr) {
+        return wrongUsage(tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
+                              .arg(rest.constFirst()));
+    }
     for (const QCommandLineOption &option : windowOnlyOptions()) {
         const QString name = option.names().constFirst();
         if (parser.isSet(name)) {
             return wrongUsage(
                 tr("--%1 is for the window; leave it out before a subcommand").arg(name));
         }
-    }
-    const QVector<Subcommand> all = subcommands();
-    const auto named = std::find_if(all.begin(), all.end(), [&rest](const Subcommand &subcommand) {
-        return subcommand.name == rest.constFirst();
-    });
-    if (named == all.end()) {
-        return wrongUsage(tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
-                              .arg(rest.constFirst()));
     }
     const ExitCode exitCode = runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
     return Console::hasFailed() ? failure(tr("the output couldn't be written")) : exitCode;

@@ -29,6 +29,7 @@ struct WindowOptions
     QString configFolder;     //!< empty: the platform's
     QString language;         //!< a code or locale; empty: the system's
     QString screenshotFolder; //!< empty: the window is for a person
+    QStringList files;        //!< for its list: absolute paths of existing files and folders
 };
 
 /*! A word that vexconvert knows, its texts for --help and what it does. */

@@ -1,7 +1,7 @@
+#include "host/app/interrupt.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/console.h"
 #include "host/commandline/fitting.h"
-#include "host/commandline/interrupt.h"
 #include "host/commandline/progresstext.h"
 #include "host/convert/conversion.h"
 #include "host/files/visibletext.h"

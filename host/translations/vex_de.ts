@@ -811,6 +811,10 @@
         <source>No file manager could be started to show the folder %1; open it by hand</source>
         <translation>Es ließ sich kein Dateimanager starten, um den Ordner %1 zu zeigen; öffnen Sie ihn von Hand</translation>
     </message>
+    <message>
+        <source>VexConvert can&apos;t open its window</source>
+        <translation>VexConvert kann sein Fenster nicht öffnen</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

@@ -811,5 +811,9 @@
         <source>No file manager could be started to show the folder %1; open it by hand</source>
         <translation>No file manager could be started to show the folder %1; open it by hand</translation>
     </message>
+    <message>
+        <source>VexConvert can&apos;t open its window</source>
+        <translation>VexConvert can’t open its window</translation>
+    </message>
 </context>
 </TS>

@@ -811,6 +811,10 @@
         <source>No file manager could be started to show the folder %1; open it by hand</source>
         <translation>No se pudo iniciar ningún gestor de archivos para mostrar la carpeta %1; ábrala manualmente</translation>
     </message>
+    <message>
+        <source>VexConvert can&apos;t open its window</source>
+        <translation>VexConvert no puede abrir su ventana</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

@@ -811,6 +811,10 @@
         <source>No file manager could be started to show the folder %1; open it by hand</source>
         <translation>Aucun gestionnaire de fichiers n’a pu être lancé pour afficher le dossier %1 ; ouvrez-le vous-même</translation>
     </message>
+    <message>
+        <source>VexConvert can&apos;t open its window</source>
+        <translation>VexConvert ne peut pas ouvrir sa fenêtre</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

@@ -811,6 +811,10 @@
         <source>No file manager could be started to show the folder %1; open it by hand</source>
         <translation>フォルダー %1 を表示するファイルマネージャーを起動できませんでした。手動で開いてください</translation>
     </message>
+    <message>
+        <source>VexConvert can&apos;t open its window</source>
+        <translation>VexConvert のウィンドウを開けません</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

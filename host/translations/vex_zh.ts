@@ -811,6 +811,10 @@
         <source>No file manager could be started to show the folder %1; open it by hand</source>
         <translation>无法启动文件管理器来显示文件夹 %1；请手动打开</translation>
     </message>
+    <message>
+        <source>VexConvert can&apos;t open its window</source>
+        <translation>VexConvert 无法打开窗口</translation>
+    </message>
 </context>
 <context>
     <name>FfmpegArguments</name>

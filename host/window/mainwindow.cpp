@@ -3,12 +3,16 @@
 #include "host/window/pageproxies.h"
 #include "host/window/presets.h"
 #include "host/window/settings.h"
+#include "host/window/singleinstance.h"
 
 #include "formats/proxy/formatsproxy.h"
 
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQuickWindow>
+#include <QSessionManager>
 
 /*! The resources of a static library have to be asked for, from outside of any namespace. */
 static void initResources()
@@ -35,6 +39,8 @@ MainWindow::~MainWindow()
 QString MainWindow::open()
 {
     const QString refusal = m_store.lock(0);
+    // Nobody has a folder that isn't there or can't be written.
+    m_isFolderTaken = !refusal.isEmpty() && QFileInfo(configFolder()).isWritable();
     if (!refusal.isEmpty()) {
         return refusal;
     }
@@ -63,8 +69,38 @@ QString MainWindow::open()
         return ToolFun::text(QStringLiteral("The window can't be made"));
     }
     m_files.setWindow(window());
+    // Another program may call a log-out off: the window stays and only saves.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
+        m_presets->flush();
+        session.setRestartHint(QSessionManager::RestartNever);
+    });
+    m_instance = std::make_unique<SingleInstance>(configFolder());
+    connect(m_instance.get(), &SingleInstance::asked, this, &MainWindow::present);
+    m_instance->listen();
     window()->requestActivate();
     return {};
+}
+
+bool MainWindow::handOver(const QStringList &paths, int patience) const
+{
+    return SingleInstance(configFolder()).handOver(paths, patience);
+}
+
+void MainWindow::present(const QStringList &paths)
+{
+    if (!paths.isEmpty()) {
+        window()->setProperty("currentPage", 0);
+        m_converter->addPaths(paths);
+    }
+    window()->setWindowStates(window()->windowStates() & ~Qt::WindowMinimized);
+    window()->raise();
+    window()->requestActivate();
+}
+
+QString MainWindow::configFolder() const
+{
+    return m_store.filePath(QStringLiteral("."));
 }
 
 QQuickWindow *MainWindow::window() const

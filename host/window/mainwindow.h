@@ -18,6 +18,7 @@ class EditorProxy;
 class Presets;
 class QQuickWindow;
 class Settings;
+class SingleInstance;
 
 /*! The window with its two pages, and everything that the QML files find in their context. */
 class MainWindow : public QObject
@@ -34,6 +35,13 @@ public:
      * shows the window. Returns why it can't, or an empty text.
      */
     [[nodiscard]] QString open();
+    /*!
+     * Whether open() was refused for another program that has the configuration folder, or another
+     * window on it. It may be tried again.
+     */
+    [[nodiscard]] bool isFolderTaken() const { return m_isFolderTaken; }
+    /*! Lets that window show itself with these files. False when none answers in \a patience ms. */
+    [[nodiscard]] bool handOver(const QStringList &paths, int patience) const;
 
     /*! Null before open(). */
     QQuickWindow *window() const;
@@ -44,11 +52,15 @@ public:
     Settings &settings() const { return *m_settings; }
 
 private:
+    /*! Brings the window to the front, with these files added to the converter page. */
+    void present(const QStringList &paths);
+    QString configFolder() const;
     void publish();
     void editPreset(const QVariantMap &info);
     void openDialog(const QUrl &content, const QVariantMap &info);
 
     PresetStore m_store;
+    bool m_isFolderTaken = false;
     Notices m_notices;
     ToolFun m_toolFun;
     FileChooser m_files;
@@ -56,6 +68,7 @@ private:
     std::unique_ptr<Presets> m_presets;
     std::unique_ptr<ConverterProxy> m_converter;
     std::unique_ptr<EditorProxy> m_editor;
+    std::unique_ptr<SingleInstance> m_instance;
     QPointer<DialogFrame> m_dialog;
     // Goes first: what it shows is all of the above.
     std::unique_ptr<QQmlApplicationEngine> m_engine;

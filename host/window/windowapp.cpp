@@ -1,12 +1,18 @@
 #include "host/window/windowapp.h"
 
+#include "host/app/interrupt.h"
 #include "host/commandline/commandline.h"
 #include "host/window/languages.h"
 #include "host/window/mainwindow.h"
+#include "host/window/pageproxies.h"
 #include "host/window/screenshots.h"
+#include "host/window/toolfun.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
+#include <QMessageBox>
 #include <QQuickStyle>
+#include <QThread>
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,13 +30,41 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString
     }
 }
 
-ExitCode showWindow(const QString &configFolder)
+/*! Says it on standard error and, as a window's user may not see that, in a dialog. */
+ExitCode refuse(const QString &problem)
 {
-    MainWindow window(configFolder);
-    const QString problem = window.open();
-    if (!problem.isEmpty()) {
-        return failure(problem);
+    const ExitCode exitCode = failure(problem);
+    // Without a screen nobody could close it.
+    if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        QMessageBox dialog(QMessageBox::Critical, QStringLiteral("VexConvert"),
+                           ToolFun::text(QStringLiteral("VexConvert can't open its window")));
+        dialog.setInformativeText(problem);
+        dialog.exec();
     }
+    return exitCode;
+}
+
+ExitCode showWindow(const WindowOptions &options)
+{
+    Interrupt interrupt; // still caught while all is taken down
+    QObject::connect(&interrupt, &Interrupt::caught, qApp, &QCoreApplication::quit);
+    MainWindow window(options.configFolder);
+    QString problem = window.open();
+    // Who has the folder may be about to end, or about to open its window.
+    constexpr int patience = 5000;
+    constexpr int pause = 100;
+    const QDeadlineTimer deadline(patience);
+    while (window.isFolderTaken() && !deadline.hasExpired()) {
+        if (window.handOver(options.files, patience)) {
+            return Success;
+        }
+        QThread::msleep(pause);
+        problem = window.open();
+    }
+    if (!problem.isEmpty()) {
+        return refuse(problem);
+    }
+    window.converter().addPaths(options.files);
     return QCoreApplication::exec() == 0 ? Success : Failure;
 }
 
@@ -68,6 +102,5 @@ int runWindow(int &argc, char **argv, const WindowOptions &options)
     qInstallMessageHandler(usual);
 
     Languages::install(language);
-    return isForScreenshots ? takeScreenshots(options.screenshotFolder)
-                            : showWindow(options.configFolder);
+    return isForScreenshots ? takeScreenshots(options.screenshotFolder) : showWindow(options);
 }

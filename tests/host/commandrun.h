@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <csignal>
 #include <unistd.h>
 
 /*! A finished run of vexconvert. */
@@ -26,11 +27,16 @@ struct CommandRun
     }
 };
 
-/*! A process with a group of its own, as a shell starts one. */
+/*! A process with a group of its own that ignores no signal, as a shell starts one. */
 class GroupProcess : public QProcess
 {
 protected:
-    void setupChildProcess() override { setpgid(0, 0); }
+    void setupChildProcess() override
+    {
+        setpgid(0, 0);
+        std::signal(SIGHUP, SIG_DFL);
+        std::signal(SIGINT, SIG_DFL);
+    }
 };
 
 /*! A process whose reader has gone before it prints anything. */

@@ -221,9 +221,9 @@ void TestCommandLine::helpIsPrinted_data()
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("start");
     QTest::newRow("all") << QStringLiteral("--help")
-                         << QStringLiteral("Usage: vexconvert [options]\n");
+                         << QStringLiteral("Usage: vexconvert [options] [FILE...]\n");
     QTest::newRow("short") << QStringLiteral("-h")
-                           << QStringLiteral("Usage: vexconvert [options]\n");
+                           << QStringLiteral("Usage: vexconvert [options] [FILE...]\n");
     for (const char *name : {"formats", "search", "presets", "show", "fit", "convert", "recent",
                              "user", "check-catalogue"}) {
         QTest::newRow(name) << QString::fromLatin1(name) + QStringLiteral(" --help")

@@ -135,6 +135,7 @@ void TestLanguages::everyKeyIsTranslated()
              QStringLiteral("Add files"),
              QStringLiteral("All files"),
              QStringLiteral("Videos and songs"),
+             QStringLiteral("VexConvert can't open its window"),
              QStringLiteral("There are no videos or songs in the folder %1; add the files "
                             "themselves"),
              QStringLiteral("No file manager could be started to show the folder %1; open it by "

@@ -3,10 +3,15 @@
 
 #include "tests/host/forkedprocess.h"
 
+#include <QDir>
+#include <QLocalSocket>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <algorithm>
+#include <csignal>
 
 namespace {
 
@@ -19,15 +24,34 @@ struct Run
     QString err;
 };
 
+QString runtimeFolder()
+{
+    static const QTemporaryDir folder;
+    return folder.path();
+}
+
 void prepare(QProcess &program, const QStringList &arguments, const QString &platform)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("DISPLAY"));
     environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeFolder());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
     program.setProcessEnvironment(environment);
     program.setProgram(QStringLiteral(VEXCONVERT));
     program.setArguments(arguments);
+}
+
+/*! Whether any window waits for later starts. */
+bool isWindowListening()
+{
+    const QDir folder(runtimeFolder());
+    const QStringList sockets = folder.entryList(QDir::System);
+    return std::any_of(sockets.begin(), sockets.end(), [&folder](const QString &name) {
+        QLocalSocket socket;
+        socket.connectToServer(folder.filePath(name));
+        return socket.waitForConnected(0);
+    });
 }
 
 Run run(const QStringList &arguments, const QString &platform = QStringLiteral("offscreen"))
@@ -56,12 +80,18 @@ private Q_SLOTS:
     void aCallWithoutASubcommandAsksForTheWindow();
     void withoutADisplayThatIsSaid();
     void subcommandsNeedNoDisplay();
+    void filesAreForTheWindow_data();
+    void filesAreForTheWindow();
+    void aSecondStartEndsWell();
     void aFolderIsForOneWindow();
     void aDamagedFileIsToldInTheLog();
     void whatAKilledProgramLeftGoesWithTheNextWindow();
     void badOptionsAreRefused_data();
     void badOptionsAreRefused();
     void theHelpTellsOfTheWindow();
+
+private:
+    QTemporaryDir m_work;
 };
 
 void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow_data()
@@ -112,14 +142,71 @@ void TestWindowApp::subcommandsNeedNoDisplay()
     QCOMPARE(told.err, QString());
 }
 
-void TestWindowApp::aFolderIsForOneWindow()
+void TestWindowApp::filesAreForTheWindow_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("files"); // none: not for the window
+    const QString file = m_work.filePath(QStringLiteral("a b.wav"));
+    const QString folder = m_work.path();
+    const QString url = QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
+    const QString relative = QDir::current().relativeFilePath(file);
+    QTest::newRow("file") << QStringList{file} << QStringList{file};
+    QTest::newRow("folder and file") << QStringList{folder, file} << QStringList{folder, file};
+    QTest::newRow("URL") << QStringList{url} << QStringList{file};
+    QTest::newRow("from the caller's folder") << QStringList{relative} << QStringList{file};
+    QTest::newRow("missing") << QStringList{folder + QStringLiteral("/none.wav")} << QStringList();
+    QTest::newRow("one missing") << QStringList{file, QStringLiteral("none.wav")} << QStringList();
+    QTest::newRow("subcommand") << QStringList{QStringLiteral("convert"), file} << QStringList();
+}
+
+void TestWindowApp::filesAreForTheWindow()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, files);
+    QFile file(m_work.filePath(QStringLiteral("a b.wav")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const auto options = CommandLine::windowOptions(arguments);
+    QCOMPARE(options.has_value(), !files.isEmpty());
+    QCOMPARE(options ? options->files : QStringList(), files);
+}
+
+void TestWindowApp::aSecondStartEndsWell()
 {
     QTemporaryDir folder;
     const QStringList call = {QStringLiteral("--config"), folder.path()};
     QProcess first;
     prepare(first, call, QStringLiteral("offscreen"));
     first.start();
-    QTRY_VERIFY(QFile::exists(folder.filePath(QStringLiteral("vexconvert.lock"))));
+    QTRY_VERIFY(isWindowListening());
+
+    const Run second = run(call);
+    QCOMPARE(second.err, QString());
+    QCOMPARE(second.exitCode, 0);
+    QCOMPARE(first.state(), QProcess::Running);
+    first.kill();
+    first.waitForFinished();
+
+    // What the killed one left behind keeps nobody out.
+    QProcess third;
+    prepare(third, call, QStringLiteral("offscreen"));
+    third.start();
+    QTRY_VERIFY(isWindowListening());
+    QCOMPARE(run(call).exitCode, 0);
+    QCOMPARE(third.state(), QProcess::Running);
+    third.kill();
+    third.waitForFinished();
+}
+
+void TestWindowApp::aFolderIsForOneWindow()
+{
+    QTemporaryDir folder;
+    const QStringList call = {QStringLiteral("--config"), folder.path(),
+                              QStringLiteral("--language"), QStringLiteral("en")};
+    QProcess first;
+    prepare(first, call, QStringLiteral("offscreen"));
+    first.start();
+    QTRY_VERIFY(isWindowListening());
+    QCOMPARE(::kill(pid_t(first.processId()), SIGSTOP), 0); // it hangs
 
     const Run second = run(call);
     QCOMPARE(second.exitCode, 1);
@@ -196,6 +283,14 @@ void TestWindowApp::badOptionsAreRefused_data()
         << 2
         << QStringLiteral("vexconvert: --language is for the window; leave it out before a "
                           "subcommand\n");
+    QTest::newRow("neither subcommand nor file")
+        << QStringList{QStringLiteral("none.wav")} << 2
+        << QStringLiteral("vexconvert: there is no subcommand \"none.wav\"; \"vexconvert --help\" "
+                          "lists them\n");
+    QTest::newRow("a file that is missing")
+        << QStringList{QStringLiteral("/"), QStringLiteral("none.wav")} << 2
+        << QStringLiteral("vexconvert: there is no file \"none.wav\"; check its name, and put "
+                          "options before the files\n");
     QTest::newRow("folder that can't be")
         << QStringList{QStringLiteral("--config"), QStringLiteral("/dev/null/x"),
                        QStringLiteral("--language"), QStringLiteral("en")}
@@ -222,6 +317,7 @@ void TestWindowApp::theHelpTellsOfTheWindow()
     const QString help = run({QStringLiteral("--help")}).out;
     QVERIFY(help.contains(QStringLiteral("--language <LANG>")));
     QVERIFY(help.contains(QStringLiteral("--screenshots <DIR>")));
+    QVERIFY(help.contains(QStringLiteral("vexconvert [options] [FILE...]")));
 }
 
 QTEST_GUILESS_MAIN(TestWindowApp)

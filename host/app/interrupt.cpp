@@ -1,4 +1,4 @@
-#include "host/commandline/interrupt.h"
+#include "host/app/interrupt.h"
 
 #include <QSocketNotifier>
 
@@ -35,14 +35,19 @@ Interrupt::Interrupt(QObject *parent)
         Q_EMIT caught();
     });
     for (const int number : caughtSignals) {
-        std::signal(number, tellEventLoop);
+        // What the caller ignores stays ignored: nohup does that with SIGHUP.
+        if (std::signal(number, tellEventLoop) == SIG_IGN) {
+            std::signal(number, SIG_IGN);
+        }
     }
 }
 
 Interrupt::~Interrupt()
 {
     for (const int number : caughtSignals) {
-        std::signal(number, SIG_DFL);
+        if (std::signal(number, SIG_DFL) == SIG_IGN) {
+            std::signal(number, SIG_IGN);
+        }
     }
     close(pipeEnds[0]);
     close(pipeEnds[1]);

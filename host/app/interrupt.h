@@ -1,9 +1,12 @@
-#ifndef COMMANDLINE_INTERRUPT_H
-#define COMMANDLINE_INTERRUPT_H
+#ifndef APP_INTERRUPT_H
+#define APP_INTERRUPT_H
 
 #include <QObject>
 
-/*! Turns Ctrl-C and the request to terminate into a signal of the event loop. One at a time. */
+/*!
+ * Turns Ctrl-C, the request to terminate and the end of the session into a signal of the event
+ * loop. One at a time.
+ */
 class Interrupt : public QObject
 {
     Q_OBJECT
