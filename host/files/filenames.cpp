@@ -134,17 +134,3 @@ void keepBytesOfFileNames()
     static QTextCodec *const codec = new FileNameCodec;
     QTextCodec::setCodecForLocale(codec);
 }
-
-QUrl urlOfFile(const QString &path)
-{
-    return QUrl::fromEncoded("file://" + QFile::encodeName(path).toPercentEncoding("/"));
-}
-
-QString fileOfUrl(const QUrl &url)
-{
-    const QString path = url.toLocalFile();
-    return path.contains(QChar::ReplacementCharacter)
-               ? QFile::decodeName(
-                     QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()))
-               : path;
-}

@@ -16,9 +16,12 @@ QString localPath(const QUrl &url)
     if (!url.isLocalFile() || !isHere) {
         return {};
     }
-    // QUrl::toLocalFile() loses bytes that are no UTF-8.
-    return QFile::decodeName(
-        QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
+    // Bytes that are no UTF-8 stand in the encoded form alone, unless the URL was made of a path.
+    const QString path = url.toLocalFile();
+    return path.contains(QChar::ReplacementCharacter)
+               ? QFile::decodeName(
+                     QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()))
+               : path;
 }
 
 QStringList localPaths(const QList<QUrl> &urls)

@@ -1,5 +1,7 @@
 #include "host/files/filenames.h"
 
+#include "host/files/localpath.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -162,10 +164,10 @@ void TestFileNames::urlsNameTheSameFile()
 {
     QFETCH(QByteArray, name);
     const QString path = QStringLiteral("/folder/") + QFile::decodeName(name);
-    QCOMPARE(urlOfFile(path).toEncoded(), "file:///folder/" + name.toPercentEncoding());
-    QCOMPARE(fileOfUrl(urlOfFile(path)), path);
+    QCOMPARE(localUrl(path).toEncoded(), "file:///folder/" + name.toPercentEncoding());
+    QCOMPARE(localPath(localUrl(path)), path);
     // Qt's own dialogs give these.
-    QCOMPARE(fileOfUrl(QUrl::fromLocalFile(path)), path);
+    QCOMPARE(localPath(QUrl::fromLocalFile(path)), path);
 }
 
 QTEST_GUILESS_MAIN(TestFileNames)
