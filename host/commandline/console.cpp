@@ -21,7 +21,7 @@ bool isOutputLost = false;
 void write(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    const size_t size = size_t(bytes.size());
+    const auto size = size_t(bytes.size());
     if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0) {
         isOutputLost = isOutputLost || errno != EPIPE;
     }
