@@ -17,7 +17,7 @@ QString localPath(const QUrl &url)
         return {};
     }
     // Bytes that are no UTF-8 stand in the encoded form alone, unless the URL was made of a path.
-    const QString path = url.toLocalFile();
+    const QString path = url.path(QUrl::FullyDecoded);
     return path.contains(QChar::ReplacementCharacter)
                ? QFile::decodeName(
                      QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()))

@@ -23,7 +23,7 @@ void TestMediaFiles::whatPresetsWriteCountsAsMedia()
 {
     QTemporaryDir folder;
     PresetStore store(folder.path());
-    QCOMPARE(store.open(PresetStore::ReadOnly), QString());
+    QCOMPARE(store.open(PresetStore::ReadOnly).error, QString());
     QStringList unknown;
     const FormatListModel &formats = *store.formats().formatListModel();
     QVERIFY(formats.rowCount() > 0);

@@ -97,7 +97,7 @@ int TestPage::addReady(Page &page, const QUrl &url)
 {
     page.addFiles({url});
     const int id = page.tasks()->tasks().constLast().id;
-    [&] { QTRY_COMPARE_WITH_TIMEOUT(task(page, id).state, Task::Ready); }(, patience);
+    [&] { QTRY_COMPARE_WITH_TIMEOUT(task(page, id).state, Task::Ready, patience); }();
     return id;
 }
 
