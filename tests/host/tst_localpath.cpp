@@ -1,8 +1,9 @@
 #include "host/files/localpath.h"
 
+#include "host/files/filenames.h"
+
 #include <QFile>
 #include <QSysInfo>
-#include <QTextCodec>
 #include <QtTest>
 
 class TestLocalPath : public QObject
@@ -10,19 +11,13 @@ class TestLocalPath : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { keepBytesOfFileNames(); }
     void aUrlNamesItsBytes_data();
     void aUrlNamesItsBytes();
     void aPathMakesAUrlOfItsBytes_data();
     void aPathMakesAUrlOfItsBytes();
     void onlyLocalUrlsHavePaths();
 };
-
-void TestLocalPath::initTestCase()
-{
-    // Any byte is a character here, so that what is lost is lost by the functions.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO 8859-1"));
-}
 
 void TestLocalPath::aUrlNamesItsBytes_data()
 {
