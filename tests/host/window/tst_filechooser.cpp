@@ -37,16 +37,6 @@ void clickWidget(const QFileDialog *dialog, const QWidget *widget, const QPoint 
     QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, keys, widget->mapTo(dialog, place));
 }
 
-/*! Presses a key that may close the window, and lets it go. */
-void press(QWindow *window, Qt::Key key)
-{
-    const QPointer<QWindow> there = window;
-    QTest::keyPress(window, key);
-    if (there != nullptr) {
-        QTest::keyRelease(there, key);
-    }
-}
-
 QTreeView *filesOf(const QFileDialog *dialog)
 {
     return dialog->findChild<QTreeView *>(QStringLiteral("treeView"));

@@ -76,6 +76,15 @@ void WindowUser::type(QWindow *window, const QString &text)
     }
 }
 
+void WindowUser::press(QWindow *window, Qt::Key key)
+{
+    const QPointer<QWindow> there = window;
+    QTest::keyPress(window, key);
+    if (there != nullptr) {
+        QTest::keyRelease(there, key);
+    }
+}
+
 void WindowUser::drop(QQuickWindow *window, const QList<QUrl> &urls)
 {
     QMimeData data;

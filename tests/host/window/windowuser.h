@@ -27,6 +27,8 @@ QList<QQuickItem *> itemsNamed(QQuickItem *root, const QString &name);
  */
 bool click(QQuickWindow *window, const QString &name, int which = 0);
 void type(QWindow *window, const QString &text);
+/*! Presses a key that may close the window, and lets it go. */
+void press(QWindow *window, Qt::Key key);
 /*! Drops files in the middle of the window. */
 void drop(QQuickWindow *window, const QList<QUrl> &urls);
 

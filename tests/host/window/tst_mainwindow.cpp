@@ -1,0 +1,236 @@
+#include "host/window/languages.h"
+#include "host/window/mainwindow.h"
+#include "host/window/pageproxies.h"
+
+#include "formats/proxy/formatsproxy.h"
+#include "tests/host/mediaclips.h"
+#include "tests/host/window/windowuser.h"
+
+#include <QGuiApplication>
+#include <QProcess>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+using namespace WindowUser;
+
+namespace {
+
+constexpr int patience = 60000; // ms, on a busy machine
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+/*! The window and what is outside of it: other starts, the file manager, its end. */
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+
+    void aSecondStartHandsItsFilesOver();
+    void aSecondStartBringsTheWindowBack();
+    void aFolderWithoutMediaIsSaid();
+    void aResultIsShownInTheFileManager();
+    void aPresetInUseIsNotDeleted();
+    void closingTheWindowStopsItsConversion();
+
+private:
+    QString path(const char *name) const { return m_files->filePath(QString::fromLatin1(name)); }
+    const QVector<Task> &tasks() const { return m_main->converter().tasks()->tasks(); }
+    /*! Starts the program with these arguments; the exit code, -1 when it doesn't end. */
+    int startAgain(const QStringList &arguments);
+    /*! Adds a film and converts it, at the pace of a player. */
+    void convertSlowly();
+
+    QTemporaryDir m_work;
+    QByteArray m_path;
+    std::unique_ptr<QTemporaryDir> m_files;
+    std::unique_ptr<MainWindow> m_main;
+    QQuickWindow *m_window = nullptr;
+};
+
+void TestMainWindow::initTestCase()
+{
+    Languages::install(QStringLiteral("en"));
+    qputenv("XDG_RUNTIME_DIR", m_work.path().toLocal8Bit());
+    // The file manager's stand-in notes what it is to show.
+    QFile opener(m_work.filePath(QStringLiteral("xdg-open")));
+    QVERIFY(opener.open(QIODevice::WriteOnly));
+    opener.write("#!/bin/sh\necho \"$1\" >>\"$VEX_OPENED\"\n");
+    opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    // A conversion's process id is noted, and its pace is that of a player.
+    QVERIFY(MediaClips::makeStandIn(
+        m_work.path(), QStringLiteral("case \"$*\" in *slow*.part) echo $$ >\"$VEX_CONVERTER\"; "
+                                      "exec $REAL -re \"$@\";; esac\n"
+                                      "exec $REAL \"$@\"")));
+    m_path = qgetenv("PATH");
+    qputenv("PATH", MediaClips::pathWith(m_work.path()));
+    collectWarnings();
+}
+
+void TestMainWindow::init()
+{
+    m_files = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/slow-XXXXXX"));
+    qputenv("VEX_OPENED", path("opened").toLocal8Bit());
+    qputenv("VEX_CONVERTER", path("converter").toLocal8Bit());
+    m_main = std::make_unique<MainWindow>(m_work.filePath(QStringLiteral("config")));
+    QCOMPARE(m_main->open(), QString());
+    m_window = m_main->window();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+}
+
+void TestMainWindow::cleanup()
+{
+    m_main.reset();
+    QCOMPARE(takeWarnings(), QString());
+}
+
+void TestMainWindow::cleanupTestCase()
+{
+    qputenv("PATH", m_path);
+}
+
+int TestMainWindow::startAgain(const QStringList &arguments)
+{
+    QProcess program;
+    program.setWorkingDirectory(m_files->path());
+    program.start(
+        QStringLiteral(VEXCONVERT),
+        QStringList{QStringLiteral("--config"), m_work.filePath(QStringLiteral("config"))} +
+            arguments);
+    const bool hasEnded =
+        QTest::qWaitFor([&program] { return program.state() == QProcess::NotRunning; }, patience);
+    return hasEnded && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+}
+
+void TestMainWindow::convertSlowly()
+{
+    const QString film = path("film.mp4");
+    QVERIFY(MediaClips::makeFilm(film, 30));
+    m_main->converter().addPaths({film});
+    QTRY_COMPARE(tasks().at(0).state, Task::Ready);
+    QVERIFY(click(m_window, QStringLiteral("Convert All")));
+    QTRY_VERIFY_WITH_TIMEOUT(!contentOf(path("converter")).isEmpty(), patience);
+}
+
+void TestMainWindow::aSecondStartHandsItsFilesOver()
+{
+    QVERIFY(QDir(m_files->path()).mkdir(QStringLiteral("album")));
+    for (const char *name : {"a b.wav", "c.wav", "album/d.wav"}) {
+        QVERIFY(MediaClips::makeSong(path(name)));
+    }
+    QVERIFY(click(m_window, QStringLiteral("Editor")));
+    QTRY_COMPARE(m_window->property("currentPage").toInt(), 1);
+    QCOMPARE(startAgain({QStringLiteral("a b.wav"),
+                         QUrl::fromLocalFile(path("c.wav")).toString(QUrl::FullyEncoded),
+                         QStringLiteral("album")}),
+             0);
+    QCOMPARE(tasks().size(), 3);
+    QCOMPARE(tasks().at(0).source, path("a b.wav"));
+    QCOMPARE(tasks().at(1).source, path("c.wav"));
+    QCOMPARE(tasks().at(2).source, path("album/d.wav"));
+    QCOMPARE(m_window->property("currentPage").toInt(), 0);
+    QCOMPARE(m_main->editor().tasks()->count(), 0);
+}
+
+void TestMainWindow::aSecondStartBringsTheWindowBack()
+{
+    QVERIFY(click(m_window, QStringLiteral("Editor")));
+    m_window->showMinimized();
+    QTRY_COMPARE(m_window->visibility(), QWindow::Minimized);
+    QCOMPARE(startAgain({}), 0);
+    QTRY_COMPARE(m_window->visibility(), QWindow::Windowed);
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QCOMPARE(m_window->property("currentPage").toInt(), 1);
+    QCOMPARE(tasks().size(), 0);
+}
+
+void TestMainWindow::aFolderWithoutMediaIsSaid()
+{
+    drop(m_window, {QUrl::fromLocalFile(m_files->path())});
+    const QString line =
+        QStringLiteral("There are no videos or songs in the folder %1; add the files themselves")
+            .arg(m_files->path());
+    QTRY_VERIFY(!itemsNamed(m_window->contentItem(), line).isEmpty());
+    QCOMPARE(takeWarnings(), line);
+}
+
+void TestMainWindow::aResultIsShownInTheFileManager()
+{
+    QVERIFY(MediaClips::makeSong(path("song.wav")));
+    m_main->converter().setConverterGlobalFormat(QStringLiteral("Audio_MP3_003"));
+    m_main->converter().addPaths({path("song.wav")});
+    QVERIFY(click(m_window, QStringLiteral("Convert All")));
+    QTRY_VERIFY_WITH_TIMEOUT(tasks().at(0).hasEnded(), patience);
+    QCOMPARE(tasks().at(0).state, Task::Converted);
+    QVERIFY(click(m_window, QStringLiteral("Show in folder")));
+    if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        const QByteArray folder = QUrl::fromLocalFile(m_files->path()).toEncoded();
+        QTRY_COMPARE(contentOf(path("opened")).trimmed(), folder);
+        return;
+    }
+    // Without a desktop there is no file manager, which is said.
+    const QString line =
+        QStringLiteral("No file manager could be started to show the folder %1; open it by hand")
+            .arg(m_files->path());
+    QTRY_VERIFY(!itemsNamed(m_window->contentItem(), line).isEmpty());
+    QCOMPARE(takeWarnings(), line);
+}
+
+void TestMainWindow::aPresetInUseIsNotDeleted()
+{
+    FormatsProxy &formats = *FormatsProxy::getInstance();
+    const QString own = formats.addUserDefineFormat(
+        QStringLiteral("video"), QStringLiteral("MKV"), QStringLiteral("Video_MKV_001"),
+        {{QStringLiteral("title"), QStringLiteral("Mine")}});
+    m_main->converter().setConverterGlobalFormat(own);
+    convertSlowly();
+
+    auto *picker = m_window->property("picker").value<QObject *>();
+    QVERIFY(click(m_window, QStringLiteral("Convert all to: MKV - Mine")));
+    QTRY_VERIFY(picker->property("opened").toBool());
+    QVERIFY(click(m_window, QStringLiteral("Video")));
+    QVERIFY(click(m_window, QStringLiteral("Delete")));
+    QTRY_VERIFY(m_main->dialog() != nullptr);
+    QQuickWindow *dialog = m_main->dialog()->window();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QVERIFY(!itemsNamed(dialog->contentItem(),
+                        QStringLiteral("The selected format cannot be deleted because it is in "
+                                       "use."))
+                 .isEmpty());
+    press(dialog, Qt::Key_Return);
+    QTRY_VERIFY(m_main->dialog() == nullptr);
+    QVERIFY(!formats.getFormat(own).isEmpty());
+    QCOMPARE(tasks().at(0).state, Task::Running);
+}
+
+void TestMainWindow::closingTheWindowStopsItsConversion()
+{
+    convertSlowly();
+    const pid_t converter = contentOf(path("converter")).trimmed().toInt();
+    const QStringList piece = {QStringLiteral("*.part")};
+    const QDir folder(m_files->path());
+    QCOMPARE(::kill(converter, 0), 0);
+    QCOMPARE(folder.entryList(piece, QDir::Files | QDir::Hidden).size(), 1);
+    QTimer::singleShot(0, m_window, &QWindow::close);
+    QCOMPARE(QCoreApplication::exec(), 0);
+    m_main.reset();
+    QVERIFY(::kill(converter, 0) != 0);
+    QCOMPARE(folder.entryList(piece, QDir::Files | QDir::Hidden), QStringList());
+    QVERIFY(QFile::exists(path("film.mp4")));
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"
