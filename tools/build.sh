@@ -40,5 +40,7 @@ run_packages=(
     qml-module-qtquick-templates2 qml-module-qtquick-layouts qml-module-qt-labs-settings
     qml-module-qtgraphicaleffects qttranslations5-l10n
 )
-test_packages=(qml-module-qttest xvfb xauth libgl1-mesa-dri python3 python3-jsonschema)
+test_packages=(
+    qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3 python3-jsonschema
+)
 fuzz_packages=(clang libclang-rt-dev)
