@@ -29,4 +29,11 @@ using Result = tl::expected<Value, Error>;
     return tl::make_unexpected(Error{text, kind});
 }
 
+/*! The same failure, for a caller who gives something else. */
+template <typename Value>
+[[nodiscard]] tl::unexpected<Error> failed(const Result<Value> &cause)
+{
+    return tl::make_unexpected(cause.error());
+}
+
 #endif

@@ -1,5 +1,5 @@
+#include "host/app/console.h"
 #include "host/commandline/commandline.h"
-#include "host/commandline/console.h"
 #include "host/commandline/fitting.h"
 #include "host/commandline/presettable.h"
 
@@ -55,13 +55,13 @@ QString formatTitled(const FormatListModel &formats, const QString &name)
     return {};
 }
 
-ExitCode runFormats(const Call &call)
+Result<ExitCode> runFormats(const Call &call)
 {
     if (!call.arguments.isEmpty()) {
         return wrongUsage(CommandLine::tr("\"formats\" takes no arguments but options"));
     }
-    PresetStore store(call.configFolder);
-    openToRead(store);
+    PresetStore store = presetsOf(call);
+    openWhatCanBeRead(store);
     FormatsProxy &formats = store.formats();
     const FormatListModel &all = *formats.formatListModel();
     if (!call.options.isSet(tagOption)) {
@@ -84,13 +84,13 @@ ExitCode runFormats(const Call &call)
     return Success;
 }
 
-ExitCode runSearch(const Call &call)
+Result<ExitCode> runSearch(const Call &call)
 {
     if (call.arguments.size() != 1 || call.arguments.constFirst().isEmpty()) {
         return wrongUsage(CommandLine::tr("name the text to search for: vexconvert search TEXT"));
     }
-    PresetStore store(call.configFolder);
-    openToRead(store);
+    PresetStore store = presetsOf(call);
+    openWhatCanBeRead(store);
     FormatListModelProxy &proxy = *store.formats().formatListModelProxy();
     proxy.setSearchKey(call.arguments.constFirst());
     const bool asJson = call.options.isSet(jsonFlag);
@@ -103,13 +103,13 @@ ExitCode runSearch(const Call &call)
     return Success;
 }
 
-ExitCode runPresets(const Call &call)
+Result<ExitCode> runPresets(const Call &call)
 {
     if (call.arguments.size() != 1) {
         return wrongUsage(CommandLine::tr("name one format: vexconvert presets FORMAT"));
     }
-    PresetStore store(call.configFolder);
-    openToRead(store);
+    PresetStore store = presetsOf(call);
+    openWhatCanBeRead(store);
     const FormatListModel &formats = *store.formats().formatListModel();
     const QString title = formatTitled(formats, call.arguments.constFirst());
     const FormatDetailModel *list = formats.formatDetailModel(title);
@@ -169,42 +169,42 @@ void printSettings(const FoundPreset &preset)
     Console::printTable(table);
 }
 
-ExitCode runShow(const Call &call)
+Result<ExitCode> runShow(const Call &call)
 {
     if (call.arguments.size() != 1) {
         return wrongUsage(CommandLine::tr("name one preset: vexconvert show ID"));
     }
-    PresetStore store(call.configFolder);
-    openToRead(store);
-    const FoundPreset preset = store.find(call.arguments.constFirst());
-    if (preset.map.isEmpty()) {
-        return unknownPreset(call.arguments.constFirst());
+    PresetStore store = presetsOf(call);
+    openWhatCanBeRead(store);
+    const Result<FoundPreset> preset = findPreset(store, call.arguments.constFirst());
+    if (!preset) {
+        return failed(preset);
     }
     if (call.options.isSet(jsonFlag)) {
-        QVariantMap map = preset.map;
-        map.insert(QStringLiteral("tag"), preset.tag);
-        map.insert(QStringLiteral("class"), preset.className);
-        map.insert(QStringLiteral("userDefine"), preset.isUserDefined);
+        QVariantMap map = preset->map;
+        map.insert(QStringLiteral("tag"), preset->tag);
+        map.insert(QStringLiteral("class"), preset->className);
+        map.insert(QStringLiteral("userDefine"), preset->isUserDefined);
         Console::printJson(map);
     } else {
-        printSettings(preset);
+        printSettings(*preset);
     }
     return Success;
 }
 
-ExitCode runFit(const Call &call)
+Result<ExitCode> runFit(const Call &call)
 {
     if (!call.arguments.isEmpty()) {
         return wrongUsage(CommandLine::tr("\"fit\" takes no arguments but options"));
     }
-    PresetStore store(call.configFolder);
-    openToRead(store);
-    ExitCode exitCode = Success;
-    const QVariantMap preset = fittingPreset(call.options, store.formats(), exitCode);
-    if (!preset.isEmpty()) {
-        Console::printJson(preset);
+    PresetStore store = presetsOf(call);
+    openWhatCanBeRead(store);
+    const Result<QVariantMap> preset = fittingPreset(call.options, store.formats());
+    if (!preset) {
+        return failed(preset);
     }
-    return exitCode;
+    Console::printJson(*preset);
+    return Success;
 }
 
 } // namespace

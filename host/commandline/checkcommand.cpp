@@ -1,6 +1,6 @@
+#include "host/app/console.h"
 #include "host/app/interrupt.h"
 #include "host/commandline/commandline.h"
-#include "host/commandline/console.h"
 
 #include "formats/proxy/formatsproxy.h"
 #include "host/check/cataloguelint.h"
@@ -172,7 +172,7 @@ QString prove(Presets &presets, bool showsProgress)
     return problem;
 }
 
-ExitCode runCheck(const Call &call)
+Result<ExitCode> runCheck(const Call &call)
 {
     if (!call.arguments.isEmpty()) {
         return wrongUsage(CommandLine::tr("\"check-catalogue\" takes no arguments but options"));
@@ -198,7 +198,7 @@ ExitCode runCheck(const Call &call)
         printProofs(proven);
     }
     if (!problem.isEmpty()) {
-        return failure(problem);
+        return failed(problem);
     }
     const bool isSound =
         mistakes.isEmpty() && countOf(proven.begin(), proven.end(), ProofOutcome::Failed) == 0;

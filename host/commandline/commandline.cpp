@@ -1,8 +1,9 @@
 #include "host/commandline/commandline.h"
 
-#include "host/commandline/console.h"
+#include "host/app/console.h"
 #include "host/files/localpath.h"
-#include "host/presets/presetstore.h"
+
+#include "formats/proxy/formatsproxy.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -130,8 +131,8 @@ QString helpText(const Subcommand &subcommand, const QCommandLineParser &parser)
              optionsText(parser));
 }
 
-ExitCode runSubcommand(const Subcommand &subcommand, const QStringList &arguments,
-                       const QString &configFolder)
+Result<ExitCode> runSubcommand(const Subcommand &subcommand, const QStringList &arguments,
+                               const QString &configFolder)
 {
     QCommandLineParser parser;
     parser.addOptions(subcommand.options + commonOptions());
@@ -150,15 +151,50 @@ ExitCode runSubcommand(const Subcommand &subcommand, const QStringList &argument
         {parser, parser.positionalArguments(), own.isEmpty() ? configFolder : own});
 }
 
-bool tell(const PresetStore::Opening &opening)
+Result<ExitCode> runCommandLine(const QStringList &arguments)
 {
-    for (const QString &note : opening.notes) {
-        Console::printError(note);
+    QCommandLineParser parser;
+    const bool isParsed = parseOverall(parser, arguments);
+    const QStringList rest = parser.positionalArguments();
+    if (parser.isSet(QStringLiteral("version"))) {
+        Console::print(QStringLiteral("vexconvert %1").arg(QCoreApplication::applicationVersion()));
+        return Success;
     }
-    if (!opening.error.isEmpty()) {
-        Console::printError(opening.error);
+    if (parser.isSet(QStringLiteral("help")) || (isParsed && rest.isEmpty())) {
+        Console::printLines(overviewText(parser));
+        return Success;
     }
-    return opening.error.isEmpty();
+    if (!isParsed) {
+        return wrongUsage(CommandLine::tr("%1; see \"vexconvert --help\"").arg(mistakeIn(parser)));
+    }
+    const QVector<Subcommand> all = subcommands();
+    const Subcommand *named = findSubcommand(all, rest.constFirst());
+    const int missing = existingPaths(rest).indexOf(QString());
+    if (named == nullptr && missing > 0) {
+        return wrongUsage(
+            CommandLine::tr("there is no file \"%1\"; check its name, and put options before the "
+                            "files")
+                .arg(rest.at(missing)));
+    }
+    if (named == nullptr) {
+        return wrongUsage(
+            CommandLine::tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
+                .arg(rest.constFirst()));
+    }
+    for (const QCommandLineOption &option : windowOnlyOptions()) {
+        const QString name = option.names().constFirst();
+        if (parser.isSet(name)) {
+            return wrongUsage(
+                CommandLine::tr("--%1 is for the window; leave it out before a subcommand")
+                    .arg(name));
+        }
+    }
+    const Result<ExitCode> result =
+        runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
+    if (result && Console::hasFailed()) {
+        return failed(CommandLine::tr("the output couldn't be written"));
+    }
+    return result;
 }
 
 } // namespace
@@ -184,76 +220,38 @@ std::optional<WindowOptions> CommandLine::windowOptions(const QStringList &argum
 
 ExitCode CommandLine::run(const QStringList &arguments)
 {
-    QCommandLineParser parser;
-    const bool isParsed = parseOverall(parser, arguments);
-    const QStringList rest = parser.positionalArguments();
-    if (parser.isSet(QStringLiteral("version"))) {
-        Console::print(QStringLiteral("vexconvert %1").arg(QCoreApplication::applicationVersion()));
-        return Success;
-    }
-    if (parser.isSet(QStringLiteral("help")) || (isParsed && rest.isEmpty())) {
-        Console::printLines(overviewText(parser));
-        return Success;
-    }
-    if (!isParsed) {
-        return wrongUsage(tr("%1; see \"vexconvert --help\"").arg(mistakeIn(parser)));
-    }
-    const QVector<Subcommand> all = subcommands();
-    const Subcommand *named = findSubcommand(all, rest.constFirst());
-    const int missing = existingPaths(rest).indexOf(QString());
-    if (named == nullptr && missing > 0) {
-        return wrongUsage(tr("there is no file \"%1\"; check its name, and put options before the "
-                             "files")
-                              .arg(rest.at(missing)));
-    }
-    if (named == nullptr) {
-        return wrongUsage(tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
-                              .arg(rest.constFirst()));
-    }
-    for (const QCommandLineOption &option : windowOnlyOptions()) {
-        const QString name = option.names().constFirst();
-        if (parser.isSet(name)) {
-            return wrongUsage(
-                tr("--%1 is for the window; leave it out before a subcommand").arg(name));
-        }
-    }
-    const ExitCode exitCode = runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
-    return Console::hasFailed() ? failure(tr("the output couldn't be written")) : exitCode;
+    const Result<ExitCode> result = runCommandLine(arguments);
+    return result ? *result : report(result.error());
 }
 
-ExitCode wrongUsage(const QString &line)
+tl::unexpected<Error> wrongUsage(const QString &text)
 {
-    Console::printError(line);
-    return WrongUsage;
+    return failed(text, Error::WrongUsage);
 }
 
-ExitCode failure(const QString &line)
+PresetStore presetsOf(const Call &call)
 {
-    Console::printError(line);
-    return Failure;
+    return PresetStore(*FormatsProxy::getInstance(), call.configFolder, Console::printError);
 }
 
-bool openToRead(PresetStore &store)
+void openWhatCanBeRead(PresetStore &presets)
 {
-    return tell(store.open(PresetStore::ReadOnly));
-}
-
-bool openToWrite(PresetStore &store)
-{
-    constexpr int patience = 10000; // ms
-    const QString refusal = store.lock(patience, Console::printError);
-    if (!refusal.isEmpty()) {
-        Console::printError(refusal);
-        return false;
+    const Result<> opened = presets.open(PresetStore::ReadOnly);
+    if (!opened) {
+        Console::printError(opened.error().text);
     }
-    return tell(store.open(PresetStore::ReadWrite));
 }
 
-ExitCode unknownPreset(const QString &id)
+Result<FoundPreset> findPreset(const PresetStore &presets, const QString &id)
 {
-    return wrongUsage(CommandLine::tr("no preset has the id \"%1\"; \"vexconvert search TEXT\" "
-                                      "finds formats, \"vexconvert presets FORMAT\" lists ids")
-                          .arg(id));
+    const std::optional<FoundPreset> preset = presets.find(id);
+    if (!preset) {
+        return wrongUsage(
+            CommandLine::tr("no preset has the id \"%1\"; \"vexconvert search TEXT\" finds "
+                            "formats, \"vexconvert presets FORMAT\" lists ids")
+                .arg(id));
+    }
+    return *preset;
 }
 
 QCommandLineOption jsonOption()

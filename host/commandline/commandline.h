@@ -1,6 +1,10 @@
 #ifndef COMMANDLINE_COMMANDLINE_H
 #define COMMANDLINE_COMMANDLINE_H
 
+#include "host/app/exitcode.h"
+#include "host/app/windowoptions.h"
+#include "host/presets/presetstore.h"
+
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -11,25 +15,12 @@
 
 #include <optional>
 
-class PresetStore;
-
-enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
-
 /*! What a subcommand was called with. */
 struct Call
 {
     const QCommandLineParser &options;
     QStringList arguments; //!< those behind the subcommand's name
     QString configFolder;  //!< empty: the platform's
-};
-
-/*! What vexconvert was called with when it is called for its window. */
-struct WindowOptions
-{
-    QString configFolder;     //!< empty: the platform's
-    QString language;         //!< a code or locale; empty: the system's
-    QString screenshotFolder; //!< empty: the window is for a person
-    QStringList files;        //!< for its list: absolute paths of existing files and folders
 };
 
 /*! A word that vexconvert knows, its texts for --help and what it does. */
@@ -40,7 +31,7 @@ struct Subcommand
     QString summary;
     QString details; //!< further lines of its own --help
     QList<QCommandLineOption> options;
-    ExitCode (*run)(const Call &call);
+    Result<ExitCode> (*run)(const Call &call); //!< has told the user what isn't an error
 };
 
 [[nodiscard]] QVector<Subcommand> catalogueCommands();
@@ -61,18 +52,14 @@ public:
     static ExitCode run(const QStringList &arguments);
 };
 
-/*! Prints what is wrong with the call and returns WrongUsage. */
-ExitCode wrongUsage(const QString &line);
-/*! Prints what went wrong and returns Failure. */
-ExitCode failure(const QString &line);
+[[nodiscard]] tl::unexpected<Error> wrongUsage(const QString &text);
 
-/*! Opens the store and prints what it has to tell; false when files of the user's can't be used,
- *  which are left out. */
-bool openToRead(PresetStore &store);
-/*! The same, for saving; waits for a process that is writing the presets, and says so. */
-[[nodiscard]] bool openToWrite(PresetStore &store);
-/*! Prints that no preset has this id and returns WrongUsage. */
-ExitCode unknownPreset(const QString &id);
+/*! The presets of the call's folder, not yet open; prints what they have to tell. */
+[[nodiscard]] PresetStore presetsOf(const Call &call);
+/*! Opens the presets for reading. User files that can't be used are left out, which is printed. */
+void openWhatCanBeRead(PresetStore &presets);
+/*! The preset with this id, or that there is none. */
+[[nodiscard]] Result<FoundPreset> findPreset(const PresetStore &presets, const QString &id);
 
 /*! An option of several subcommands: --json. */
 [[nodiscard]] QCommandLineOption jsonOption();

@@ -1,6 +1,6 @@
+#include "host/app/console.h"
 #include "host/app/interrupt.h"
 #include "host/commandline/commandline.h"
-#include "host/commandline/console.h"
 #include "host/commandline/fitting.h"
 #include "host/commandline/progresstext.h"
 #include "host/convert/conversion.h"
@@ -172,86 +172,68 @@ void Batch::tell(const QString &file, const ConversionOutcome &outcome)
     }
 }
 
-/*! Opens the store for noting what is used. A conversion waits for no other process: where one is
- *  writing the presets, they are only read. Returns why nothing can be noted, or an empty text. */
-QString openToNote(PresetStore &store)
+/*! Opens the presets for noting what is used. A conversion waits for no other process: where one
+ *  is writing the presets, they are only read, and nothing can be noted. */
+Result<> openToNote(PresetStore &presets)
 {
-    const QString refusal = store.lock(0);
-    const PresetStore::Opening opening =
-        store.open(refusal.isEmpty() ? PresetStore::ReadWrite : PresetStore::ReadOnly);
-    for (const QString &note : opening.notes) {
-        Console::printError(note);
-    }
-    return refusal.isEmpty() ? opening.error : refusal;
+    const Result<> locked = presets.lock(0);
+    const Result<> opened = presets.open(locked ? PresetStore::ReadWrite : PresetStore::ReadOnly);
+    return locked ? opened : locked;
 }
 
-/*! Makes the preset the most recently used one; a failure is told and hurts nothing else. */
-void noteAsUsed(PresetStore &store, const FoundPreset &preset, const QString &problem)
+/*! Makes the preset the most recently used one. */
+Result<> noteAsUsed(PresetStore &presets, const FoundPreset &preset)
 {
-    QString unsaved = problem;
-    if (unsaved.isEmpty()) {
-        store.formats().add2Recently(preset.tag, preset.className,
-                                     preset.map.value(QStringLiteral("id")).toString());
-        unsaved = store.save();
-    }
-    if (!unsaved.isEmpty()) {
-        Console::printError(
-            CommandLine::tr("the preset isn't noted as recently used: %1").arg(unsaved));
-    }
+    presets.formats().add2Recently(preset.tag, preset.className,
+                                   preset.map.value(QStringLiteral("id")).toString());
+    return presets.save();
 }
 
-/*! The preset with this id; without one, that is told and \a exitCode set. */
-FoundPreset presetOrComplaint(const PresetStore &store, const QString &id, ExitCode &exitCode)
-{
-    const FoundPreset preset = store.find(id);
-    if (preset.map.isEmpty()) {
-        exitCode = unknownPreset(id);
-    }
-    return preset;
-}
-
-/*! The preset that the options name or describe; without one, why is told and \a exitCode set. */
-FoundPreset chosenPreset(const Call &call, ExitCode &exitCode)
+/*! The preset that the options name or describe. */
+Result<FoundPreset> chosenPreset(const Call &call)
 {
     const QString id = call.options.value(presetOption);
     if (id.isEmpty() == !hasFittingOptions(call.options)) {
-        exitCode = wrongUsage(CommandLine::tr("choose a preset: either --preset ID or --type, "
-                                              "--format and --target"));
-        return {};
+        return wrongUsage(CommandLine::tr("choose a preset: either --preset ID or --type, "
+                                          "--format and --target"));
     }
-    PresetStore store(call.configFolder);
+    PresetStore presets = presetsOf(call);
     if (id.isEmpty()) {
-        openToRead(store);
-        const QVariantMap fitting = fittingPreset(call.options, store.formats(), exitCode);
-        return fitting.isEmpty() ? FoundPreset()
-                                 : store.find(fitting.value(QStringLiteral("id")).toString());
+        openWhatCanBeRead(presets);
+        return fittingPreset(call.options, presets.formats())
+            .and_then([&presets](const QVariantMap &fitting) {
+                return findPreset(presets, fitting.value(QStringLiteral("id")).toString());
+            });
     }
     if (call.options.isSet(dryRunFlag)) {
-        openToRead(store);
-        return presetOrComplaint(store, id, exitCode);
+        openWhatCanBeRead(presets);
+        return findPreset(presets, id);
     }
-    const QString problem = openToNote(store);
-    const FoundPreset preset = presetOrComplaint(store, id, exitCode);
-    if (!preset.map.isEmpty()) {
-        noteAsUsed(store, preset, problem);
+    const Result<> opened = openToNote(presets);
+    const Result<FoundPreset> preset = findPreset(presets, id);
+    if (preset) {
+        // A failure is told and hurts nothing else.
+        const Result<> noted = opened ? noteAsUsed(presets, *preset) : opened;
+        if (!noted) {
+            Console::printError(CommandLine::tr("the preset isn't noted as recently used: %1")
+                                    .arg(noted.error().text));
+        }
     }
     return preset;
 }
 
-ExitCode runConvert(const Call &call)
+Result<ExitCode> runConvert(const Call &call)
 {
     if (call.arguments.isEmpty()) {
         return wrongUsage(CommandLine::tr("name the files to convert: vexconvert convert FILE... "
                                           "--preset ID"));
     }
-    ExitCode exitCode = Success;
-    const FoundPreset preset = chosenPreset(call, exitCode);
-    if (preset.map.isEmpty()) {
-        return exitCode;
+    const Result<FoundPreset> preset = chosenPreset(call);
+    if (!preset) {
+        return failed(preset);
     }
     ConversionJob job;
-    job.settings = OutputSettings::fromPreset(preset.map);
-    job.settings.allAudioTracks = preset.allAudioTracks;
+    job.settings = preset->outputSettings();
     job.folder = call.options.value(folderOption);
     job.overwrite = call.options.isSet(overwriteFlag);
     job.planOnly = call.options.isSet(dryRunFlag);

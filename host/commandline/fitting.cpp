@@ -1,6 +1,6 @@
 #include "host/commandline/fitting.h"
 
-#include "host/commandline/console.h"
+#include "host/app/console.h"
 
 #include "formats/proxy/formatsproxy.h"
 
@@ -13,24 +13,24 @@ const QLatin1String formatOption("format");
 const QLatin1String targetOption("target");
 const QLatin1String preferSourceOption("prefer-source");
 
-/*! What is wrong with the wish; empty when nothing is. */
-QString mistakeIn(const QString &type, const QString &format, const QString &target)
+Result<> checkWish(const QString &type, const QString &format, const QString &target)
 {
     const bool isVideo = type == QLatin1String("video");
     if (!isVideo && type != QLatin1String("audio")) {
-        return CommandLine::tr("--type is \"video\" or \"audio\"");
+        return wrongUsage(CommandLine::tr("--type is \"video\" or \"audio\""));
     }
     if (format.isEmpty()) {
-        return CommandLine::tr("--format names a format, such as MP4; \"vexconvert formats\" "
-                               "lists them");
+        return wrongUsage(
+            CommandLine::tr("--format names a format, such as MP4; \"vexconvert formats\" "
+                            "lists them"));
     }
     static const QRegularExpression size(QStringLiteral("^\\d+x\\d+$"));
     static const QRegularExpression number(QStringLiteral("^\\d+$"));
     if (isVideo && !size.match(target).hasMatch()) {
-        return CommandLine::tr("--target of a video is a size, such as 1280x720");
+        return wrongUsage(CommandLine::tr("--target of a video is a size, such as 1280x720"));
     }
     if (!isVideo && !number.match(target).hasMatch()) {
-        return CommandLine::tr("--target of audio is a bitrate in kbps, such as 192");
+        return wrongUsage(CommandLine::tr("--target of audio is a bitrate in kbps, such as 192"));
     }
     return {};
 }
@@ -60,16 +60,14 @@ bool hasFittingOptions(const QCommandLineParser &options)
            options.isSet(targetOption) || options.isSet(preferSourceOption);
 }
 
-QVariantMap fittingPreset(const QCommandLineParser &options, const FormatsProxy &formats,
-                          ExitCode &exitCode)
+Result<QVariantMap> fittingPreset(const QCommandLineParser &options, const FormatsProxy &formats)
 {
     const QString type = options.value(typeOption);
     const QString format = options.value(formatOption);
     const QString target = options.value(targetOption);
-    const QString mistake = mistakeIn(type, format, target);
-    if (!mistake.isEmpty()) {
-        exitCode = wrongUsage(mistake);
-        return {};
+    const Result<> checked = checkWish(type, format, target);
+    if (!checked) {
+        return failed(checked);
     }
     if (!formats.getSupportFormat(format)) {
         Console::printError(
@@ -79,9 +77,9 @@ QVariantMap fittingPreset(const QCommandLineParser &options, const FormatsProxy 
     const QVariantMap preset =
         formats.getConverterParameters(type, format, target, options.isSet(preferSourceOption));
     if (preset.isEmpty()) {
-        exitCode = failure(CommandLine::tr("no preset fits; \"vexconvert formats --tag %1\" lists "
-                                           "the formats to choose from")
-                               .arg(type));
+        return failed(CommandLine::tr("no preset fits; \"vexconvert formats --tag %1\" lists the "
+                                      "formats to choose from")
+                          .arg(type));
     }
     return preset;
 }

@@ -12,10 +12,9 @@ class FormatsProxy;
 [[nodiscard]] bool hasFittingOptions(const QCommandLineParser &options);
 
 /*!
- * The preset closest to the wish. Where there is none, or the wish is incomplete, prints why and
- * returns an empty map with the exit code in \a exitCode.
+ * The preset closest to the wish; an error where there is none or the wish is incomplete.
  */
-[[nodiscard]] QVariantMap fittingPreset(const QCommandLineParser &options,
-                                        const FormatsProxy &formats, ExitCode &exitCode);
+[[nodiscard]] Result<QVariantMap> fittingPreset(const QCommandLineParser &options,
+                                                const FormatsProxy &formats);
 
 #endif

@@ -1,5 +1,5 @@
+#include "host/app/console.h"
 #include "host/commandline/commandline.h"
-#include "host/commandline/console.h"
 #include "host/commandline/presettable.h"
 
 #include "formats/models/formatdetailmodel.h"
@@ -30,22 +30,30 @@ void printPresets(const QVector<QVariantMap> &presets, bool asJson, const QStrin
     }
 }
 
-/*! Saves, and prints \a done or why that failed. */
-ExitCode saveAndTell(PresetStore &store, const QString &done)
+/*! Opens the presets for saving. Waits for another process that is writing them, and says so. */
+Result<> openToWrite(PresetStore &presets)
 {
-    const QString problem = store.save();
-    if (!problem.isEmpty()) {
-        return failure(problem);
+    constexpr int patience = 10000; // ms
+    return presets.lock(patience).and_then(
+        [&presets] { return presets.open(PresetStore::ReadWrite); });
+}
+
+Result<ExitCode> saveAndTell(PresetStore &store, const QString &done)
+{
+    const Result<> saved = store.save();
+    if (!saved) {
+        return failed(saved);
     }
     Console::print(done);
     return Success;
 }
 
-ExitCode listRecent(const Call &call)
+Result<ExitCode> listRecent(const Call &call)
 {
-    PresetStore store(call.configFolder);
-    if (!openToRead(store)) {
-        return Failure;
+    PresetStore store = presetsOf(call);
+    const Result<> opened = store.open(PresetStore::ReadOnly);
+    if (!opened) {
+        return failed(opened);
     }
     QQueue<FormatDetailModelData> records;
     store.formats().recentlyFormatsModel()->getModelInfo(records);
@@ -57,11 +65,12 @@ ExitCode listRecent(const Call &call)
     return Success;
 }
 
-ExitCode deleteRecent(const Call &call, const QString &id)
+Result<ExitCode> deleteRecent(const Call &call, const QString &id)
 {
-    PresetStore store(call.configFolder);
-    if (!openToWrite(store)) {
-        return Failure;
+    PresetStore store = presetsOf(call);
+    const Result<> opened = openToWrite(store);
+    if (!opened) {
+        return failed(opened);
     }
     if (!store.formats().delFromRecently(id)) {
         return wrongUsage(CommandLine::tr("\"%1\" is not among the recently used presets; "
@@ -71,7 +80,7 @@ ExitCode deleteRecent(const Call &call, const QString &id)
     return saveAndTell(store, CommandLine::tr("%1 is no longer listed as recently used").arg(id));
 }
 
-ExitCode runRecent(const Call &call)
+Result<ExitCode> runRecent(const Call &call)
 {
     if (call.arguments.isEmpty()) {
         return listRecent(call);
@@ -83,11 +92,12 @@ ExitCode runRecent(const Call &call)
                                       "ID\""));
 }
 
-ExitCode listUser(const Call &call)
+Result<ExitCode> listUser(const Call &call)
 {
-    PresetStore store(call.configFolder);
-    if (!openToRead(store)) {
-        return Failure;
+    PresetStore store = presetsOf(call);
+    const Result<> opened = store.open(PresetStore::ReadOnly);
+    if (!opened) {
+        return failed(opened);
     }
     const FormatListModel &formats = *store.formats().formatListModel();
     QVector<QVariantMap> presets;
@@ -104,45 +114,54 @@ ExitCode listUser(const Call &call)
     return Success;
 }
 
-/*!
- * The values of \a preset with those of the options in place, as the library takes them to add or
- * change a user's preset. Where a value isn't offered, \a mistake says so.
- */
-QVariantMap editedValues(const Call &call, const QVariantMap &preset, QString &mistake)
+/*! What of \a setting the preset gets: what the option says, if it is offered, else its own. */
+Result<QString> editedValue(const Call &call, const QVariantMap &preset,
+                            const PresetSetting &setting)
 {
     const QString id = preset.value(QStringLiteral("id")).toString();
+    const bool applies = preset.contains(setting.group);
+    if (!call.options.isSet(setting.option)) {
+        return applies ? setting.value(preset) : QString();
+    }
+    if (!applies) {
+        return wrongUsage(CommandLine::tr("--%1 doesn't apply: preset %2 is for audio only")
+                              .arg(setting.option, id));
+    }
+    const QString value = call.options.value(setting.option);
+    const QStringList choices = setting.choices(preset);
+    if (!choices.contains(value)) {
+        return wrongUsage(CommandLine::tr("--%1 %2 is not offered by preset %3; choose one of %4")
+                              .arg(setting.option, value, id, choices.join(QStringLiteral(", "))));
+    }
+    return value;
+}
+
+/*! The values of \a preset with those of the options in place, as the library takes them to add or
+ *  change a user's preset. */
+Result<QVariantMap> editedValues(const Call &call, const QVariantMap &preset)
+{
+    const QString titleKey = QStringLiteral("title");
     const QVariantMap video = preset.value(QStringLiteral("video")).toMap();
     QVariantMap values = {
-        {QStringLiteral("title"), preset.value(QStringLiteral("title"))},
+        {titleKey, call.options.isSet(titleOption) ? QVariant(call.options.value(titleOption))
+                                                   : preset.value(titleKey)},
         {QStringLiteral("videoBitrateLow"), video.value(QStringLiteral("bitrateLow")).toString()},
         {QStringLiteral("videoBitrateHigh"), video.value(QStringLiteral("bitrateHigh")).toString()},
     };
-    if (call.options.isSet(titleOption)) {
-        values.insert(QStringLiteral("title"), call.options.value(titleOption));
+    if (values.value(titleKey).toString().trimmed().isEmpty()) {
+        return wrongUsage(CommandLine::tr("--title must not be empty"));
     }
     for (const PresetSetting &setting : presetSettings()) {
-        const bool applies = preset.contains(setting.group);
-        QString value = applies ? setting.value(preset) : QString();
-        if (call.options.isSet(setting.option)) {
-            const QStringList choices = setting.choices(preset);
-            value = call.options.value(setting.option);
-            if (!applies) {
-                mistake = CommandLine::tr("--%1 doesn't apply: preset %2 is for audio only")
-                              .arg(setting.option, id);
-            } else if (!choices.contains(value)) {
-                mistake = CommandLine::tr("--%1 %2 is not offered by preset %3; choose one of %4")
-                              .arg(setting.option, value, id, choices.join(QStringLiteral(", ")));
-            }
+        const Result<QString> value = editedValue(call, preset, setting);
+        if (!value) {
+            return failed(value);
         }
-        values.insert(setting.paramKey, value);
-    }
-    if (values.value(QStringLiteral("title")).toString().trimmed().isEmpty()) {
-        mistake = CommandLine::tr("--title must not be empty");
+        values.insert(setting.paramKey, *value);
     }
     return values;
 }
 
-ExitCode addUser(const Call &call, PresetStore &store, const FoundPreset &base)
+Result<ExitCode> addUser(const Call &call, PresetStore &store, const FoundPreset &base)
 {
     const QString baseId = base.map.value(QStringLiteral("id")).toString();
     if (base.className.isEmpty()) {
@@ -153,36 +172,34 @@ ExitCode addUser(const Call &call, PresetStore &store, const FoundPreset &base)
     if (!call.options.isSet(titleOption)) {
         return wrongUsage(CommandLine::tr("give the new preset a title: --title TITLE"));
     }
-    QString mistake;
-    const QVariantMap values = editedValues(call, base.map, mistake);
-    if (!mistake.isEmpty()) {
-        return wrongUsage(mistake);
+    const Result<QVariantMap> values = editedValues(call, base.map);
+    if (!values) {
+        return failed(values);
     }
     const QString id =
-        store.formats().addUserDefineFormat(base.tag, base.className, baseId, values);
+        store.formats().addUserDefineFormat(base.tag, base.className, baseId, *values);
     return saveAndTell(store, CommandLine::tr("%1 added to %2").arg(id, base.className));
 }
 
-ExitCode changeUser(const Call &call, PresetStore &store, const FoundPreset &preset)
+Result<ExitCode> changeUser(const Call &call, PresetStore &store, const FoundPreset &preset)
 {
     const QString id = preset.map.value(QStringLiteral("id")).toString();
-    QString mistake;
-    const QVariantMap values = editedValues(call, preset.map, mistake);
-    if (!mistake.isEmpty()) {
-        return wrongUsage(mistake);
+    const Result<QVariantMap> values = editedValues(call, preset.map);
+    if (!values) {
+        return failed(values);
     }
-    store.formats().changeUserDefineFormat(preset.className, id, values);
+    store.formats().changeUserDefineFormat(preset.className, id, *values);
     return saveAndTell(store, CommandLine::tr("%1 changed").arg(id));
 }
 
-ExitCode deleteUser(const Call &, PresetStore &store, const FoundPreset &preset)
+Result<ExitCode> deleteUser(const Call &, PresetStore &store, const FoundPreset &preset)
 {
     const QString id = preset.map.value(QStringLiteral("id")).toString();
     store.formats().delUserDefineFormat(preset.tag, preset.className, id);
     return saveAndTell(store, CommandLine::tr("%1 deleted").arg(id));
 }
 
-ExitCode runUser(const Call &call)
+Result<ExitCode> runUser(const Call &call)
 {
     if (call.arguments.isEmpty() ||
         (call.arguments.size() == 1 && call.arguments.constFirst() == QLatin1String("list"))) {
@@ -192,7 +209,7 @@ ExitCode runUser(const Call &call)
     {
         QLatin1String name;
         bool needsOwnPreset;
-        ExitCode (*run)(const Call &call, PresetStore &store, const FoundPreset &preset);
+        Result<ExitCode> (*run)(const Call &call, PresetStore &store, const FoundPreset &preset);
     };
     static const Action actions[] = {{QLatin1String("add"), false, addUser},
                                      {QLatin1String("change"), true, changeUser},
@@ -202,21 +219,19 @@ ExitCode runUser(const Call &call)
             continue;
         }
         const QString id = call.arguments.at(1);
-        PresetStore store(call.configFolder);
-        if (!openToWrite(store)) {
-            return Failure;
+        PresetStore store = presetsOf(call);
+        const Result<FoundPreset> preset =
+            openToWrite(store).and_then([&store, &id] { return findPreset(store, id); });
+        if (!preset) {
+            return failed(preset);
         }
-        const FoundPreset preset = store.find(id);
-        if (preset.map.isEmpty()) {
-            return unknownPreset(id);
-        }
-        if (action.needsOwnPreset && !preset.isUserDefined) {
+        if (action.needsOwnPreset && !preset->isUserDefined) {
             return wrongUsage(CommandLine::tr("preset %1 isn't yours and stays as it is; "
                                               "\"vexconvert user add %1 --title TITLE\" makes one "
                                               "of your own from it")
                                   .arg(id));
         }
-        return action.run(call, store, preset);
+        return action.run(call, store, *preset);
     }
     return wrongUsage(CommandLine::tr("it is \"vexconvert user list\", or \"add\", \"change\" or "
                                       "\"delete\" with one id; see \"vexconvert user --help\""));

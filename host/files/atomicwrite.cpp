@@ -33,11 +33,11 @@ void syncFolderOf(const QString &path)
 
 } // namespace
 
-QString writeAtomically(const QString &path, const QByteArray &content, const QString &model)
+Result<> writeAtomically(const QString &path, const QByteArray &content, const QString &model)
 {
     QSaveFile file(withoutLinks(path));
     if (!file.open(QIODevice::WriteOnly)) {
-        return file.errorString();
+        return failed(file.errorString());
     }
     if (QFile::exists(model)) {
         file.setPermissions(QFile::permissions(model));
@@ -47,12 +47,12 @@ QString writeAtomically(const QString &path, const QByteArray &content, const QS
     for (qint64 done = 0; done < content.size();) {
         const qint64 written = file.write(content.constData() + done, content.size() - done);
         if (written <= 0) {
-            return file.errorString();
+            return failed(file.errorString());
         }
         done += written;
     }
     if (!file.flush() || !file.commit()) {
-        return file.errorString();
+        return failed(file.errorString());
     }
     syncFolderOf(file.fileName());
     return {};

@@ -35,7 +35,7 @@ void writeHolder(const QString &path)
 
 } // namespace
 
-QString FolderLock::lock(const QString &folder, int patience, const Tell &tellWaiting)
+Result<> FolderLock::lock(const QString &folder, int patience, const Tell &tell)
 {
     constexpr int pause = 20;      // ms
     constexpr int unnoticed = 300; // ms that a wait isn't worth a word
@@ -58,8 +58,8 @@ QString FolderLock::lock(const QString &folder, int patience, const Tell &tellWa
             return {};
         }
         if (result == FileLock::Failed) {
-            return tr("can't write into the configuration folder %1 (%2); name another one")
-                .arg(shownFolder, m_lock.errorText());
+            return failed(tr("can't write into the configuration folder %1 (%2); name another one")
+                              .arg(shownFolder, m_lock.errorText()));
         }
         const QString current = holderIn(path);
         if (current != holder) {
@@ -67,12 +67,12 @@ QString FolderLock::lock(const QString &folder, int patience, const Tell &tellWa
             sinceChange.restart();
         }
         if (sinceChange.elapsed() >= patience) {
-            return tr("%1 is using the presets in %2; close it, or try again when it is done")
-                .arg(holder, shownFolder);
+            return failed(
+                tr("%1 is using the presets in %2; close it, or try again when it is done")
+                    .arg(holder, shownFolder));
         }
-        if (tellWaiting && !isTold && total.elapsed() >= unnoticed) {
-            tellWaiting(
-                tr("waiting for %1, which is using the presets in %2").arg(holder, shownFolder));
+        if (tell && !isTold && total.elapsed() >= unnoticed) {
+            tell(tr("waiting for %1, which is using the presets in %2").arg(holder, shownFolder));
             isTold = true;
         }
         QThread::msleep(pause);

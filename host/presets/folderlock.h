@@ -1,6 +1,7 @@
 #ifndef PRESETS_FOLDERLOCK_H
 #define PRESETS_FOLDERLOCK_H
 
+#include "host/error.h"
 #include "host/files/filelock.h"
 
 #include <QCoreApplication>
@@ -18,10 +19,9 @@ public:
 
     /*!
      * Makes the folder where it is missing and locks it. Where another process has it, says so
-     * with \a tellWaiting and waits, but no longer than \a patience ms for one and the same.
-     * Returns why that failed, or an empty text.
+     * with \a tell and waits, but no longer than \a patience ms for one and the same.
      */
-    [[nodiscard]] QString lock(const QString &folder, int patience, const Tell &tellWaiting = {});
+    [[nodiscard]] Result<> lock(const QString &folder, int patience, const Tell &tell = {});
     void release() { m_lock.release(); }
     [[nodiscard]] bool isLocked() const { return m_lock.isLocked(); }
 

@@ -42,96 +42,106 @@ bool write(const QString &path, const QByteArray &content)
 
 QJsonArray listIn(const UserFile &file)
 {
-    return QJsonDocument::fromJson(file.content().json).array();
+    const Result<Content> content = file.content();
+    return content ? QJsonDocument::fromJson(content->json).array() : QJsonArray();
 }
 
-void add(PresetStore::Opening &opening, const UserFile::Recovery &recovery)
+/*! The first failure of both. */
+Result<> both(const Result<> &one, const Result<> &other)
 {
-    if (!recovery.note.isEmpty()) {
-        opening.notes << recovery.note;
-    }
-    if (opening.error.isEmpty()) {
-        opening.error = recovery.error;
-    }
+    return one ? other : one;
 }
 
 } // namespace
 
-PresetStore::PresetStore(const QString &folder)
-    : m_folder(absoluteFolder(folder))
+OutputSettings FoundPreset::outputSettings() const
+{
+    OutputSettings settings = OutputSettings::fromPreset(map);
+    settings.allAudioTracks = allAudioTracks;
+    return settings;
+}
+
+PresetStore::PresetStore(FormatsProxy &formats, const QString &folder, const Tell &tell)
+    : m_formats(formats)
+    , m_folder(absoluteFolder(folder))
+    , m_tell(tell)
     , m_userPresets(filePath(QStringLiteral("formatCache.json")))
     , m_recently(filePath(QStringLiteral("recently.json")))
 {}
 
-QString PresetStore::lock(int patience, const FolderLock::Tell &tellWaiting)
+Result<> PresetStore::lock(int patience)
 {
-    return m_lock.lock(m_folder, patience, tellWaiting);
+    return m_lock.lock(m_folder, patience, m_tell);
 }
 
-PresetStore::Opening PresetStore::open(Access access, UserFile::Hopeless hopeless)
+Result<> PresetStore::open(Access access, UserFile::Hopeless hopeless)
 {
-    const Opening opening = access == ReadWrite ? openToWrite(hopeless) : openToRead();
-    m_refusal = opening.error;
-    // Without a folder of its own the library reads the user's, unless that holds what it mustn't.
-    const bool isReadable = m_userPresets.content().state != Content::Refused &&
-                            m_recently.content().state != Content::Refused;
+    m_opened = access == ReadWrite ? openToWrite(hopeless) : openToRead();
+    // The library would wait for a pipe, and read a file of any size.
+    const bool isReadable = m_userPresets.content() && m_recently.content();
     const QString nothing = QProcess::nullDevice();
-    formats().init(m_work != nullptr ? m_work->path() : isReadable ? m_folder : nothing);
-    return opening;
+    m_formats.init(m_work != nullptr ? m_work->path() : isReadable ? m_folder : nothing);
+    return m_opened;
 }
 
-PresetStore::Opening PresetStore::openToRead() const
+Result<> PresetStore::openToRead() const
 {
-    Opening opening;
-    for (const UserFile *file : {&m_userPresets, &m_recently}) {
-        add(opening, {{}, file->complaint()});
-    }
+    const Result<> checked = both(m_userPresets.check(), m_recently.check());
     FolderLock lock;
-    if (opening.error.isEmpty() || !lock.lock(m_folder, 0).isEmpty()) {
-        return opening;
-    }
-    return putRight(UserFile::StaysInPlace);
+    return checked || !lock.lock(m_folder, 0) ? checked : putRight(UserFile::StaysInPlace);
 }
 
-PresetStore::Opening PresetStore::openToWrite(UserFile::Hopeless hopeless)
+Result<> PresetStore::openToWrite(UserFile::Hopeless hopeless)
 {
-    const QString unlocked = m_lock.isLocked() ? QString() : lock(0);
-    if (!unlocked.isEmpty()) {
-        return {{}, unlocked};
+    const Result<> locked = m_lock.isLocked() ? Result<>() : lock(0);
+    if (!locked) {
+        return locked;
     }
-    Opening opening = putRight(hopeless);
-    add(opening, m_userPresets.keepUnusable(unusableFormats(listIn(m_userPresets))));
-    add(opening, m_recently.keepUnusable(unusablePresets(listIn(m_recently))));
-    if (opening.error.isEmpty()) {
-        opening.error = copyIntoWorkFolder();
-    }
-    return opening;
+    return putRight(hopeless)
+        .and_then([this] {
+            return tellNote(m_userPresets.keepUnusable(unusableFormats(listIn(m_userPresets))));
+        })
+        .and_then([this] {
+            return tellNote(m_recently.keepUnusable(unusablePresets(listIn(m_recently))));
+        })
+        .and_then([this] { return copyIntoWorkFolder(); });
 }
 
-PresetStore::Opening PresetStore::putRight(UserFile::Hopeless hopeless) const
+Result<> PresetStore::tellNote(const Result<QString> &note) const
 {
-    Opening opening;
-    for (const UserFile *file : {&m_userPresets, &m_recently}) {
-        add(opening, file->recover(hopeless));
+    if (!note) {
+        return failed(note);
     }
-    return opening;
+    if (m_tell && !note->isEmpty()) {
+        m_tell(*note);
+    }
+    return {};
 }
 
-QString PresetStore::copyIntoWorkFolder()
+Result<> PresetStore::putRight(UserFile::Hopeless hopeless) const
+{
+    // Both, whatever comes of the first.
+    const Result<> userPresets = tellNote(m_userPresets.recover(hopeless));
+    const Result<> recently = tellNote(m_recently.recover(hopeless));
+    return both(userPresets, recently);
+}
+
+Result<> PresetStore::copyIntoWorkFolder()
 {
     m_work = std::make_unique<WorkFolder>(m_folder);
     bool isCopied = m_work->isValid();
     for (const UserFile *file : {&m_userPresets, &m_recently}) {
-        const Content content = file->content();
-        isCopied =
-            isCopied && (content.state != Content::Good || write(workPath(*file), content.json));
+        const Result<Content> content = file->content();
+        isCopied = isCopied && content &&
+                   (content->state != Content::Good || write(workPath(*file), content->json));
     }
     if (isCopied) {
         return {};
     }
     m_work.reset();
-    return tr("can't write into the configuration folder %1; check its disk and its permissions")
-        .arg(QDir::toNativeSeparators(m_folder));
+    return failed(
+        tr("can't write into the configuration folder %1; check its disk and its permissions")
+            .arg(QDir::toNativeSeparators(m_folder)));
 }
 
 QString PresetStore::workPath(const UserFile &file) const
@@ -139,10 +149,10 @@ QString PresetStore::workPath(const UserFile &file) const
     return m_work->filePath(QFileInfo(file.path()).fileName());
 }
 
-QString PresetStore::save()
+Result<> PresetStore::save()
 {
     if (m_work == nullptr) {
-        return m_refusal;
+        return m_opened;
     }
     struct Part
     {
@@ -150,42 +160,41 @@ QString PresetStore::save()
         QVariantList list;
     };
     const Part parts[] = {
-        {m_userPresets, formats().formatListModel()->toVariantListForSave()},
-        {m_recently, formats().recentlyFormatsModel()->toVariantListForSave()},
+        {m_userPresets, m_formats.formatListModel()->toVariantListForSave()},
+        {m_recently, m_formats.recentlyFormatsModel()->toVariantListForSave()},
     };
-    formats().uninit();
+    m_formats.uninit();
     for (const Part &part : parts) {
         const QByteArray written = bytesOf(workPath(part.file));
-        const bool isWhole = written == QJsonDocument::fromVariant(part.list).toJson();
-        const QString problem =
-            isWhole ? part.file.replace(written)
-                    : tr("can't write %1, which is as before; check its disk and its permissions")
-                          .arg(QDir::toNativeSeparators(part.file.path()));
-        if (!problem.isEmpty()) {
-            return problem;
+        if (written != QJsonDocument::fromVariant(part.list).toJson()) {
+            return failed(
+                tr("can't write %1, which is as before; check its disk and its permissions")
+                    .arg(QDir::toNativeSeparators(part.file.path())));
+        }
+        const Result<> replaced = part.file.replace(written);
+        if (!replaced) {
+            return replaced;
         }
     }
     return {};
 }
 
-FormatsProxy &PresetStore::formats() const
-{
-    return *FormatsProxy::getInstance();
-}
-
-FoundPreset PresetStore::find(const QString &id) const
+std::optional<FoundPreset> PresetStore::find(const QString &id) const
 {
     const QString recently = QStringLiteral("recently");
-    const QVariantMap place = formats().getTagAndClassById(id);
+    const QVariantMap place = m_formats.getTagAndClassById(id);
     FoundPreset preset;
     preset.className = place.value(QStringLiteral("class")).toString();
     preset.tag = place.isEmpty() ? recently : place.value(QStringLiteral("tag")).toString();
-    preset.map = formats().getFormat(preset.tag, preset.className, id);
+    preset.map = m_formats.getFormat(preset.tag, preset.className, id);
+    if (preset.map.isEmpty()) {
+        return std::nullopt;
+    }
     preset.allAudioTracks = preset.map.value(QStringLiteral("supportMultiTrack")).toBool() ||
-                            formats().isSupportMultiTrack(id);
+                            m_formats.isSupportMultiTrack(id);
 
     const FormatDetailModel *list =
-        formats().formatListModel()->formatDetailModel(preset.className);
+        m_formats.formatListModel()->formatDetailModel(preset.className);
     FormatDetailModelData record;
     preset.isUserDefined =
         list != nullptr && list->getModelInfoById(id, record) && record.userDefine;

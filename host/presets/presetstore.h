@@ -1,16 +1,18 @@
 #ifndef PRESETS_PRESETSTORE_H
 #define PRESETS_PRESETSTORE_H
 
+#include "host/convert/outputsettings.h"
+#include "host/error.h"
 #include "host/files/workfolder.h"
 #include "host/presets/folderlock.h"
 #include "host/presets/userfile.h"
 
 #include <QCoreApplication>
 #include <QString>
-#include <QStringList>
 #include <QVariantMap>
 
 #include <memory>
+#include <optional>
 
 class FormatsProxy;
 
@@ -19,9 +21,12 @@ struct FoundPreset
 {
     QString tag; //!< "recently" for one that only the recently-used list still has
     QString className;
-    QVariantMap map; //!< as FormatDetailModelData::toVarMap() makes it; empty: not found
+    QVariantMap map; //!< as FormatDetailModelData::toVarMap() makes it
     bool isUserDefined = false;
     bool allAudioTracks = false;
+
+    /*! What it asks of a conversion. */
+    [[nodiscard]] OutputSettings outputSettings() const;
 };
 
 /*!
@@ -38,54 +43,53 @@ class PresetStore
     Q_DISABLE_COPY(PresetStore)
 
 public:
+    using Tell = FolderLock::Tell;
     enum Access { ReadOnly, ReadWrite };
 
-    /*! What open() has to tell. */
-    struct Opening
-    {
-        QStringList notes; //!< a line for each thing that was put right
-        QString error;     //!< why the user's files can't be used, or an empty text
-    };
-
-    /*! An empty \a folder is the platform's configuration folder of this program. */
-    explicit PresetStore(const QString &folder);
+    /*!
+     * An empty \a folder is the platform's configuration folder of this program. \a tell gets a
+     * line for each thing that the user ought to know: what was put right, and for whom it waits.
+     */
+    PresetStore(FormatsProxy &formats, const QString &folder, const Tell &tell = {});
 
     /*!
      * Makes the folder where it is missing and keeps other processes from writing there as long as
      * this store lives; see FolderLock::lock(). open() does it for ReadWrite, without waiting,
      * where it hasn't been done.
      */
-    [[nodiscard]] QString lock(int patience, const FolderLock::Tell &tellWaiting = {});
+    [[nodiscard]] Result<> lock(int patience);
     /*!
      * Loads the catalogue and the user's files, after putting right what a crash left of them. A
-     * file that is damaged without a good copy is an error, or \a hopeless puts it aside. The
-     * catalogue is loaded in any case. To be called once in a process.
+     * file that is damaged without a good copy is a failure, or \a hopeless puts it aside. The
+     * catalogue is loaded in any case. To be called once for a facade.
      */
-    [[nodiscard]] Opening open(Access access, UserFile::Hopeless hopeless = UserFile::StaysInPlace);
-    /*! Writes the user's files. Returns why that failed, or an empty text; a file that it names is
-     *  as before. */
-    [[nodiscard]] QString save();
+    [[nodiscard]] Result<> open(Access access,
+                                UserFile::Hopeless hopeless = UserFile::StaysInPlace);
+    /*! Writes the user's files. A file that a failure names is as before. */
+    [[nodiscard]] Result<> save();
 
     /*! The path of a file in the configuration folder. */
     [[nodiscard]] QString filePath(const QString &name) const;
-    [[nodiscard]] FormatsProxy &formats() const;
+    [[nodiscard]] FormatsProxy &formats() const { return m_formats; }
     /*! The catalogue's or the user's preset with this id, else the recently-used one. */
-    [[nodiscard]] FoundPreset find(const QString &id) const;
+    [[nodiscard]] std::optional<FoundPreset> find(const QString &id) const;
 
 private:
-    Opening openToRead() const;
-    Opening openToWrite(UserFile::Hopeless hopeless);
-    Opening putRight(UserFile::Hopeless hopeless) const;
-    QString copyIntoWorkFolder();
+    Result<> openToRead() const;
+    Result<> openToWrite(UserFile::Hopeless hopeless);
+    Result<> tellNote(const Result<QString> &note) const;
+    Result<> putRight(UserFile::Hopeless hopeless) const;
+    Result<> copyIntoWorkFolder();
     QString workPath(const UserFile &file) const;
 
+    FormatsProxy &m_formats;
     const QString m_folder;
+    const Tell m_tell;
     const UserFile m_userPresets;
     const UserFile m_recently;
     FolderLock m_lock;
-    std::unique_ptr<WorkFolder>
-        m_work;        //!< what the library reads and writes; null: nothing to save
-    QString m_refusal; //!< why nothing is saved
+    std::unique_ptr<WorkFolder> m_work; //!< what the library reads and writes; null: read in place
+    Result<> m_opened;                  //!< a failure: nothing is saved
 };
 
 #endif

@@ -9,6 +9,8 @@
 #include <QJsonObject>
 #include <QLocale>
 
+#include <optional>
+
 namespace {
 
 using Content = UserFile::Content;
@@ -36,31 +38,36 @@ QJsonArray listIn(const QByteArray &json)
     return QJsonDocument::fromJson(json).array();
 }
 
-Content contentOf(const QString &path)
+Result<Content> contentOf(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return {Content::Missing};
+        return Content{};
     }
     // Opening a pipe would wait for whoever writes into it.
     if (!info.isFile()) {
-        return {Content::Refused, {}, UserFile::tr("%1 is no file; move it away").arg(shown(path))};
+        return failed(UserFile::tr("%1 is no file; move it away").arg(shown(path)));
     }
     if (info.size() > largestFile) {
-        return {Content::Refused,
-                {},
-                UserFile::tr("%1 has %2, and no more than %3 are read; move it away to start anew")
-                    .arg(shown(path), sizeText(info.size()), sizeText(largestFile))};
+        return failed(
+            UserFile::tr("%1 has %2, and no more than %3 are read; move it away to start anew")
+                .arg(shown(path), sizeText(info.size()), sizeText(largestFile)));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return {Content::Refused,
-                {},
-                UserFile::tr("%1 can't be read (%2); check its permissions")
-                    .arg(shown(path), file.errorString())};
+        return failed(UserFile::tr("%1 can't be read (%2); check its permissions")
+                          .arg(shown(path), file.errorString()));
     }
     const QByteArray json = file.readAll();
-    return {QJsonDocument::fromJson(json).isArray() ? Content::Good : Content::Damaged, json};
+    return Content{QJsonDocument::fromJson(json).isArray() ? Content::Good : Content::Damaged,
+                   json};
+}
+
+/*! What a copy is good for; nothing where it isn't. */
+std::optional<QByteArray> goodContentOf(const QString &path)
+{
+    const Result<Content> content = contentOf(path);
+    return content && content->state == Content::Good ? std::optional(content->json) : std::nullopt;
 }
 
 /*! \a path, or "path-2", "path-3" ...: what was kept before stays. */
@@ -81,104 +88,97 @@ bool hasSettings(const QJsonValue &preset)
 
 } // namespace
 
-UserFile::Content UserFile::content() const
+Result<Content> UserFile::content() const
 {
     return contentOf(m_path);
 }
 
-QString UserFile::complaint() const
+Result<> UserFile::check() const
 {
-    const Content own = content();
-    const bool hasCopy = contentOf(copyPath()).state == Content::Good;
-    if (own.state == Content::Good || (own.state == Content::Missing && !hasCopy)) {
-        return {};
+    const Result<Content> own = content();
+    if (!own) {
+        return failed(own);
     }
-    if (own.state == Content::Refused) {
-        return own.reason;
+    const bool isMissing = own->state == Content::Missing;
+    const bool hasCopy = goodContentOf(copyPath()).has_value();
+    if (own->state == Content::Good || (isMissing && !hasCopy)) {
+        return {};
     }
     const QString file = shown(m_path);
     if (hasCopy) {
-        return (own.state == Content::Missing ? tr("%1 is missing; put its last good copy, %2, in "
-                                                   "its place")
-                                              : tr("%1 is damaged; put its last good copy, %2, in "
-                                                   "its place"))
-            .arg(file, fileName(copyPath()));
+        return failed((isMissing ? tr("%1 is missing; put its last good copy, %2, in its place")
+                                 : tr("%1 is damaged; put its last good copy, %2, in its place"))
+                          .arg(file, fileName(copyPath())));
     }
-    return (own.json.isEmpty() ? tr("%1 is empty and there is no good copy of it; remove it to "
-                                    "start anew")
-                               : tr("%1 is damaged and there is no good copy of it; fix it, or "
-                                    "move it away to start anew"))
-        .arg(file);
+    return failed((own->json.isEmpty()
+                       ? tr("%1 is empty and there is no good copy of it; remove it to start anew")
+                       : tr("%1 is damaged and there is no good copy of it; fix it, or move it "
+                            "away to start anew"))
+                      .arg(file));
 }
 
-UserFile::Recovery UserFile::recover(Hopeless hopeless) const
+Result<QString> UserFile::recover(Hopeless hopeless) const
 {
     removeUnfinishedWrites(m_path);
-    const QString problem = complaint();
-    if (problem.isEmpty()) {
+    const Result<> checked = check();
+    if (checked) {
         keepCopy();
-        return {};
+        return QString();
     }
-    const Content own = content();
-    const Content copy = contentOf(copyPath());
-    const bool hasCopy = copy.state == Content::Good;
-    if (own.state == Content::Refused || (!hasCopy && hopeless == StaysInPlace)) {
-        return {{}, problem};
+    const Result<Content> own = content();
+    const std::optional<QByteArray> copy = goodContentOf(copyPath());
+    if (!own || (!copy && hopeless == StaysInPlace)) {
+        return failed(checked);
     }
 
     const QString file = shown(m_path);
     const QString aside =
-        own.json.isEmpty() ? QString() : freeName(m_path + QStringLiteral(".damaged"));
-    if (!aside.isEmpty() && !writeAtomically(aside, own.json, m_path).isEmpty()) {
-        return {{}, problem};
+        own->json.isEmpty() ? QString() : freeName(m_path + QStringLiteral(".damaged"));
+    const bool isKept = aside.isEmpty() || writeAtomically(aside, own->json, m_path);
+    const bool isDone =
+        isKept && (copy ? bool(writeAtomically(m_path, *copy, copyPath())) : QFile::remove(m_path));
+    if (!isDone) {
+        return failed(checked);
     }
-    if (!hasCopy) {
-        if (!QFile::remove(m_path)) {
-            return {{}, problem};
-        }
-        return {aside.isEmpty()
-                    ? tr("%1 was empty and there is no good copy of it").arg(file)
-                    : tr("%1 was damaged and there is no good copy of it; it is kept as %2")
-                          .arg(file, fileName(aside)),
-                {}};
-    }
-    if (!writeAtomically(m_path, copy.json, copyPath()).isEmpty()) {
-        return {{}, problem};
+    if (!copy) {
+        return aside.isEmpty()
+                   ? tr("%1 was empty and there is no good copy of it").arg(file)
+                   : tr("%1 was damaged and there is no good copy of it; it is kept as %2")
+                         .arg(file, fileName(aside));
     }
     const QString back = fileName(copyPath());
     if (!aside.isEmpty()) {
-        return {tr("%1 was damaged; its last good copy, %2, is in its place, and the damaged file "
-                   "is kept as %3")
-                    .arg(file, back, fileName(aside)),
-                {}};
+        return tr("%1 was damaged; its last good copy, %2, is in its place, and the damaged file "
+                  "is kept as %3")
+            .arg(file, back, fileName(aside));
     }
-    return {(own.state == Content::Missing
-                 ? tr("%1 was missing; its last good copy, %2, is in its place")
-                 : tr("%1 was empty; its last good copy, %2, is in its place"))
-                .arg(file, back),
-            {}};
+    return (own->state == Content::Missing
+                ? tr("%1 was missing; its last good copy, %2, is in its place")
+                : tr("%1 was empty; its last good copy, %2, is in its place"))
+        .arg(file, back);
 }
 
-QString UserFile::replace(const QByteArray &json) const
+Result<> UserFile::replace(const QByteArray &json) const
 {
-    const Content before = content();
-    if (before.state == Content::Refused) {
-        return before.reason;
+    const Result<Content> before = content();
+    if (!before) {
+        return failed(before);
     }
     QString keptAs;
-    if (before.state == Content::Damaged && !before.json.isEmpty()) {
+    if (before->state == Content::Damaged && !before->json.isEmpty()) {
         keptAs = freeName(m_path + QStringLiteral(".damaged"));
-    } else if (before.state == Content::Good && before.json != contentOf(copyPath()).json) {
+    } else if (before->state == Content::Good && before->json != goodContentOf(copyPath())) {
         // Somebody else has written it since it was opened.
         keptAs = freeName(m_path + QStringLiteral(".changed"));
     }
-    QString failure = keptAs.isEmpty() ? QString() : writeAtomically(keptAs, before.json, m_path);
-    if (failure.isEmpty() && before.json != json) {
-        failure = writeAtomically(m_path, json, m_path);
+    Result<> done = keptAs.isEmpty() ? Result<>() : writeAtomically(keptAs, before->json, m_path);
+    if (done && before->json != json) {
+        done = writeAtomically(m_path, json, m_path);
     }
-    if (!failure.isEmpty()) {
-        return tr("can't write %1 (%2), which is as before; check its disk and its permissions")
-            .arg(shown(m_path), failure);
+    if (!done) {
+        return failed(
+            tr("can't write %1 (%2), which is as before; check its disk and its permissions")
+                .arg(shown(m_path), done.error().text));
     }
     keepCopy();
     return {};
@@ -186,21 +186,24 @@ QString UserFile::replace(const QByteArray &json) const
 
 void UserFile::keepCopy() const
 {
-    const Content own = content();
-    if (own.state == Content::Good && own.json != contentOf(copyPath()).json) {
+    const std::optional<QByteArray> own = goodContentOf(m_path);
+    if (own && own != goodContentOf(copyPath())) {
         // Where this fails the copy stays what it was: older, but good.
-        writeAtomically(copyPath(), own.json, m_path);
+        static_cast<void>(writeAtomically(copyPath(), *own, m_path));
     }
 }
 
-UserFile::Recovery UserFile::keepUnusable(const QJsonArray &records) const
+Result<QString> UserFile::keepUnusable(const QJsonArray &records) const
 {
-    const UserFile beside(m_path + QStringLiteral(".unusable"));
-    const QString problem = beside.complaint();
-    if (records.isEmpty() || !problem.isEmpty()) {
-        return {{}, records.isEmpty() ? QString() : problem};
+    if (records.isEmpty()) {
+        return QString();
     }
-    QJsonArray kept = listIn(beside.content().json);
+    const UserFile beside(m_path + QStringLiteral(".unusable"));
+    const Result<> checked = beside.check();
+    if (!checked) {
+        return failed(checked);
+    }
+    QJsonArray kept = listIn(beside.content()->json);
     const int countBefore = kept.size();
     for (const QJsonValue &record : records) {
         if (!kept.contains(record)) {
@@ -208,19 +211,17 @@ UserFile::Recovery UserFile::keepUnusable(const QJsonArray &records) const
         }
     }
     if (kept.size() == countBefore) {
-        return {};
+        return QString();
     }
-    const QString unwritten = writeAtomically(beside.path(), QJsonDocument(kept).toJson(), m_path);
-    if (!unwritten.isEmpty()) {
-        return {{},
-                tr("can't keep the unusable presets of %1 in %2 (%3); check its disk and its "
-                   "permissions")
-                    .arg(shown(m_path), fileName(beside.path()), unwritten)};
+    const Result<> written = writeAtomically(beside.path(), QJsonDocument(kept).toJson(), m_path);
+    if (!written) {
+        return failed(tr("can't keep the unusable presets of %1 in %2 (%3); check its disk and "
+                         "its permissions")
+                          .arg(shown(m_path), fileName(beside.path()), written.error().text));
     }
-    return {tr("%1 holds presets without settings (\"outPutNode\"), which can't be used; they are "
-               "kept in %2")
-                .arg(shown(m_path), fileName(beside.path())),
-            {}};
+    return tr("%1 holds presets without settings (\"outPutNode\"), which can't be used; they are "
+              "kept in %2")
+        .arg(shown(m_path), fileName(beside.path()));
 }
 
 QJsonArray unusablePresets(const QJsonArray &presets)

@@ -1,6 +1,8 @@
 #ifndef PRESETS_USERFILE_H
 #define PRESETS_USERFILE_H
 
+#include "host/error.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -23,19 +25,11 @@ public:
         enum State {
             Missing,
             Good,
-            Damaged, //!< empty, cut or no list: a crash or another program left it
-            Refused  //!< not for reading: see the reason
+            Damaged //!< empty, cut or no list: a crash or another program left it
         };
 
         State state = Missing;
         QByteArray json = {};
-        QString reason = {}; //!< Refused: one line that says why, and how to fix it
-    };
-
-    struct Recovery
-    {
-        QString note;  //!< one line that says what was put in the file's place, or nothing
-        QString error; //!< why the file can't be used, or nothing
     };
 
     /*! \a path is absolute; the file need not exist. */
@@ -46,21 +40,26 @@ public:
     [[nodiscard]] const QString &path() const { return m_path; }
     /*! "formatCache.json.bak" */
     [[nodiscard]] QString copyPath() const { return m_path + QStringLiteral(".bak"); }
-    [[nodiscard]] Content content() const;
-    /*! Why the file can't be used as it is, and which good copy there is; empty when it can. */
-    [[nodiscard]] QString complaint() const;
+    /*! Fails for what mustn't be read: a folder, a pipe, a file that is too large. */
+    [[nodiscard]] Result<Content> content() const;
+    /*! Fails where the file can't be used as it is, and names its good copy if there is one. */
+    [[nodiscard]] Result<> check() const;
 
-    /*! Puts the last good copy in the place of a file that is missing or damaged, which is kept,
-     * and removes what else a crash left. */
-    [[nodiscard]] Recovery recover(Hopeless hopeless) const;
-    /*! Puts \a json in the file's place in one step, and a copy beside it; what another program has
-     *  written there since recover() is kept too. Returns why that failed, or an empty text; then
-     *  the file is as before. */
-    [[nodiscard]] QString replace(const QByteArray &json) const;
-    /*! Adds records that no reader takes to "formatCache.json.unusable"; those that it has already
-     *  aren't repeated. Returns a line for the user: a note, or an error where they can't be kept.
+    /*!
+     * Puts the last good copy in the place of a file that is missing or damaged, which is kept, and
+     * removes what else a crash left. Gives one line that says what was done, or an empty text.
      */
-    [[nodiscard]] Recovery keepUnusable(const QJsonArray &records) const;
+    [[nodiscard]] Result<QString> recover(Hopeless hopeless) const;
+    /*!
+     * Puts \a json in the file's place in one step, and a copy beside it; what another program has
+     * written there since recover() is kept too. A failure leaves the file as it was.
+     */
+    [[nodiscard]] Result<> replace(const QByteArray &json) const;
+    /*!
+     * Adds records that no reader takes to "formatCache.json.unusable", but none that it has
+     * already. Gives one line that says so, or an empty text.
+     */
+    [[nodiscard]] Result<QString> keepUnusable(const QJsonArray &records) const;
 
 private:
     void keepCopy() const;

@@ -23,7 +23,8 @@ static void initResources()
 
 MainWindow::MainWindow(const QString &configFolder, QObject *parent)
     : QObject(parent)
-    , m_store(configFolder)
+    , m_store(*FormatsProxy::getInstance(), configFolder,
+              [this](const QString &line) { m_notices.add(line); })
 {
     initResources();
 }
@@ -36,20 +37,17 @@ MainWindow::~MainWindow()
     }
 }
 
-QString MainWindow::open()
+Result<> MainWindow::open()
 {
-    const QString refusal = m_store.lock(0);
+    const Result<> locked = m_store.lock(0);
     // Nobody has a folder that isn't there or can't be written.
-    m_isFolderTaken = !refusal.isEmpty() && QFileInfo(configFolder()).isWritable();
-    if (!refusal.isEmpty()) {
-        return refusal;
+    m_isFolderTaken = !locked && QFileInfo(configFolder()).isWritable();
+    if (!locked) {
+        return locked;
     }
-    const PresetStore::Opening presets = m_store.open(PresetStore::ReadWrite, UserFile::IsPutAside);
-    for (const QString &line : presets.notes) {
-        m_notices.add(line);
-    }
-    if (!presets.error.isEmpty()) {
-        m_notices.add(presets.error);
+    const Result<> opened = m_store.open(PresetStore::ReadWrite, UserFile::IsPutAside);
+    if (!opened) {
+        m_notices.add(opened.error().text);
     }
     m_settings = std::make_unique<Settings>(m_store.filePath(QStringLiteral("vexconvert.ini")));
     m_presets = std::make_unique<Presets>(m_store);
@@ -66,7 +64,7 @@ QString MainWindow::open()
     publish();
     m_engine->load(QUrl(QStringLiteral("qrc:/window/Main.qml")));
     if (window() == nullptr) {
-        return ToolFun::text(QStringLiteral("The window can't be made"));
+        return failed(ToolFun::text(QStringLiteral("The window can't be made")));
     }
     m_files.setWindow(window());
     // Another program may call a log-out off: the window stays and only saves.

@@ -32,9 +32,9 @@ public:
 
     /*!
      * Takes the configuration folder for itself, puts good copies in the place of damaged files and
-     * shows the window. Returns why it can't, or an empty text.
+     * shows the window.
      */
-    [[nodiscard]] QString open();
+    [[nodiscard]] Result<> open();
     /*!
      * Whether open() was refused for another program that has the configuration folder, or another
      * window on it. It may be tried again.
@@ -59,9 +59,9 @@ private:
     void editPreset(const QVariantMap &info);
     void openDialog(const QUrl &content, const QVariantMap &info);
 
+    Notices m_notices;
     PresetStore m_store;
     bool m_isFolderTaken = false;
-    Notices m_notices;
     ToolFun m_toolFun;
     FileChooser m_files;
     std::unique_ptr<Settings> m_settings;

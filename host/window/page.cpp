@@ -261,12 +261,11 @@ void Page::runNext()
     if (next == m_tasks.tasks().end()) {
         return;
     }
-    const FoundPreset preset =
+    const std::optional<FoundPreset> preset =
         m_presets.find(m_presets.usable(next->format, m_settings.globalId(m_kind)));
     ConversionJob job;
     job.source = next->source;
-    job.settings = OutputSettings::fromPreset(preset.map);
-    job.settings.allAudioTracks = preset.allAudioTracks;
+    job.settings = preset ? preset->outputSettings() : OutputSettings();
     job.settings.start = next->start;
     job.settings.end = next->end;
     job.folder = folder();

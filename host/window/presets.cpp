@@ -9,7 +9,7 @@ Presets::Presets(PresetStore &store, QObject *parent)
     : QObject(parent)
     , m_store(store)
 {
-    // One deed of the user's may change several rows: they are saved together.
+    // One action of the user may change several rows: they are saved together.
     m_change.setSingleShot(true);
     m_change.setInterval(0);
     connect(&m_change, &QTimer::timeout, this, &Presets::save);
@@ -24,7 +24,7 @@ Presets::Presets(PresetStore &store, QObject *parent)
 QString Presets::usable(const QString &id, const QString &standIn) const
 {
     for (const QString &candidate : {id, standIn, Settings::defaultPreset()}) {
-        if (!find(candidate).map.isEmpty()) {
+        if (find(candidate)) {
             return candidate;
         }
     }
@@ -41,13 +41,16 @@ QString Presets::usable(const QString &id, const QString &standIn) const
 
 QString Presets::caption(const QString &id) const
 {
-    const FoundPreset preset = find(id);
-    const QString title = preset.map.value(QStringLiteral("title")).toString();
+    const std::optional<FoundPreset> preset = find(id);
+    if (!preset) {
+        return {};
+    }
+    const QString title = preset->map.value(QStringLiteral("title")).toString();
     const QString shown = title == QLatin1String("Same as source")
                               ? ToolFun::text(QStringLiteral("Keep Orignal"))
                               : ToolFun::text(title);
-    return preset.className.isEmpty() ? shown
-                                      : QStringLiteral("%1 - %2").arg(preset.className, shown);
+    return preset->className.isEmpty() ? shown
+                                       : QStringLiteral("%1 - %2").arg(preset->className, shown);
 }
 
 QString Presets::icon(const QString &id) const
@@ -58,8 +61,9 @@ QString Presets::icon(const QString &id) const
 
 void Presets::noteUse(const QString &id)
 {
-    const FoundPreset preset = find(id);
-    m_store.formats().add2Recently(preset.tag, preset.className, id);
+    if (const std::optional<FoundPreset> preset = find(id)) {
+        m_store.formats().add2Recently(preset->tag, preset->className, id);
+    }
 }
 
 void Presets::flush()
@@ -72,9 +76,9 @@ void Presets::flush()
 
 void Presets::save()
 {
-    const QString problem = m_store.save();
-    if (!problem.isEmpty()) {
-        Q_EMIT saveFailed(problem);
+    const Result<> saved = m_store.save();
+    if (!saved) {
+        Q_EMIT saveFailed(saved.error().text);
     }
     Q_EMIT changed();
 }

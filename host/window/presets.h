@@ -17,7 +17,10 @@ public:
     /*! \a store is open and outlives this object. */
     explicit Presets(PresetStore &store, QObject *parent = nullptr);
 
-    [[nodiscard]] FoundPreset find(const QString &id) const { return m_store.find(id); }
+    [[nodiscard]] std::optional<FoundPreset> find(const QString &id) const
+    {
+        return m_store.find(id);
+    }
     /*! The first of these that there is: \a id, \a standIn, the default preset, the catalogue's
      *  first; empty when there is none. */
     [[nodiscard]] QString usable(const QString &id, const QString &standIn) const;

@@ -22,14 +22,15 @@ Screenshots::Screenshots(const QString &folder)
     , m_window(m_work.filePath(QStringLiteral("config")))
 {}
 
-QString Screenshots::takeAll()
+Result<> Screenshots::takeAll()
 {
     if (!QDir().mkpath(m_folder.path())) {
-        return CommandLine::tr("can't make the folder %1; name another one").arg(m_folder.path());
+        return failed(
+            CommandLine::tr("can't make the folder %1; name another one").arg(m_folder.path()));
     }
-    m_problem = m_window.open();
-    if (!m_problem.isEmpty()) {
-        return m_problem;
+    m_result = m_window.open();
+    if (!m_result) {
+        return m_result;
     }
     // The screen that isn't there has a size, which the window mustn't have.
     m_window.window()->resize(1040, 700);
@@ -40,7 +41,7 @@ QString Screenshots::takeAll()
     takePickers();
     takeDialogs();
     takeTasks();
-    return m_problem;
+    return m_result;
 }
 
 void Screenshots::takePickers()
@@ -170,7 +171,7 @@ QUrl Screenshots::clip(const QString &name, const QString &arguments)
         [this, &isMade](const ToolOutcome &outcome) {
             isMade = true;
             if (!outcome.started) {
-                m_problem = outcome.notStartedText();
+                m_result = failed(outcome.notStartedText());
             }
         },
         &m_window);
@@ -225,6 +226,6 @@ void Screenshots::take(const QString &name, QQuickWindow *window)
 
     const QString path = m_folder.absoluteFilePath(name + QStringLiteral(".png"));
     if (!image.save(path)) {
-        m_problem = CommandLine::tr("can't write %1; name another folder").arg(path);
+        m_result = failed(CommandLine::tr("can't write %1; name another folder").arg(path));
     }
 }

@@ -16,8 +16,7 @@ public:
     /*! \a folder is made where it is missing. */
     explicit Screenshots(const QString &folder);
 
-    /*! Returns why that can't be, or an empty text. */
-    [[nodiscard]] QString takeAll();
+    [[nodiscard]] Result<> takeAll();
 
 private:
     void takePickers();
@@ -41,7 +40,7 @@ private:
     const QDir m_folder;
     WorkFolder m_work;
     MainWindow m_window;
-    QString m_problem;
+    Result<> m_result;
 };
 
 #endif

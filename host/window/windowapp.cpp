@@ -31,14 +31,14 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString
 }
 
 /*! Says it on standard error and, as a window's user may not see that, in a dialog. */
-ExitCode refuse(const QString &problem)
+ExitCode refuse(const Error &error)
 {
-    const ExitCode exitCode = failure(problem);
+    const ExitCode exitCode = report(error);
     // Without a screen nobody could close it.
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
         QMessageBox dialog(QMessageBox::Critical, QStringLiteral("VexConvert"),
                            ToolFun::text(QStringLiteral("VexConvert can't open its window")));
-        dialog.setInformativeText(problem);
+        dialog.setInformativeText(error.text);
         dialog.exec();
     }
     return exitCode;
@@ -49,7 +49,7 @@ ExitCode showWindow(const WindowOptions &options)
     Interrupt interrupt; // still caught while all is taken down
     QObject::connect(&interrupt, &Interrupt::caught, qApp, &QCoreApplication::quit);
     MainWindow window(options.configFolder);
-    QString problem = window.open();
+    Result<> opened = window.open();
     // Who has the folder may be about to end, or about to open its window.
     constexpr int patience = 5000;
     constexpr int pause = 100;
@@ -59,10 +59,10 @@ ExitCode showWindow(const WindowOptions &options)
             return Success;
         }
         QThread::msleep(pause);
-        problem = window.open();
+        opened = window.open();
     }
-    if (!problem.isEmpty()) {
-        return refuse(problem);
+    if (!opened) {
+        return refuse(opened.error());
     }
     window.converter().addPaths(options.files);
     return QCoreApplication::exec() == 0 ? Success : Failure;
@@ -70,8 +70,8 @@ ExitCode showWindow(const WindowOptions &options)
 
 ExitCode takeScreenshots(const QString &folder)
 {
-    const QString problem = Screenshots(folder).takeAll();
-    return problem.isEmpty() ? Success : failure(problem);
+    const Result<> taken = Screenshots(folder).takeAll();
+    return taken ? Success : report(taken.error());
 }
 
 } // namespace
@@ -81,8 +81,9 @@ int runWindow(int &argc, char **argv, const WindowOptions &options)
     const QString language =
         options.language.isEmpty() ? Languages::ofSystem() : Languages::suiting(options.language);
     if (language.isEmpty()) {
-        return wrongUsage(CommandLine::tr("--language is one of: %1")
-                              .arg(Languages::all().join(QStringLiteral(", "))));
+        return report({CommandLine::tr("--language is one of: %1")
+                           .arg(Languages::all().join(QStringLiteral(", "))),
+                       Error::WrongUsage});
     }
     const bool isForScreenshots = !options.screenshotFolder.isEmpty();
     if (isForScreenshots) {

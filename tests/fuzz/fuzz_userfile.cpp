@@ -49,19 +49,19 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     put(file.copyPath(), copy);
 
     // Whatever stood there stands there still, or beside it.
-    const UserFile::Recovery recovery = file.recover(UserFile::StaysInPlace);
-    require(recovery.error.isEmpty() == (isList(own) || isList(copy)));
-    require(recovery.note.isEmpty() == (isList(own) || !isList(copy)));
+    const Result<QString> note = file.recover(UserFile::StaysInPlace);
+    require(note.has_value() == (isList(own) || isList(copy)));
+    require(!note || note->isEmpty() == isList(own));
     require(own.isEmpty() || hasFileWith(folder, own));
-    require(file.recover(UserFile::IsPutAside).error.isEmpty());
-    require(file.complaint().isEmpty());
+    require(file.recover(UserFile::IsPutAside).has_value());
+    require(file.check().has_value());
     require(own.isEmpty() || hasFileWith(folder, own));
 
     const QJsonArray presets = QJsonDocument::fromJson(own).array();
     const QJsonArray unusable = unusableFormats(presets);
     require(unusable.size() <= presets.size());
-    require(file.keepUnusable(unusable).error.isEmpty());
-    require(file.replace("[]").isEmpty());
-    require(file.content().json == "[]");
+    require(file.keepUnusable(unusable).has_value());
+    require(file.replace("[]").has_value());
+    require(file.content()->json == "[]");
     return 0;
 }

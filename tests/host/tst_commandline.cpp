@@ -881,7 +881,7 @@ void TestCommandLine::presetsThatCannotBeUsedAreKeptBeside()
 void TestCommandLine::aConversionDoesNotWaitForThePresets()
 {
     FolderLock lock;
-    QCOMPARE(lock.lock(config(), 0), QString());
+    QVERIFY(lock.lock(config(), 0));
     const QString holder = QStringLiteral("tst_commandline (process %1 on %2)")
                                .arg(QCoreApplication::applicationPid())
                                .arg(QSysInfo::machineHostName());

@@ -22,8 +22,8 @@ private Q_SLOTS:
 void TestMediaFiles::whatPresetsWriteCountsAsMedia()
 {
     QTemporaryDir folder;
-    PresetStore store(folder.path());
-    QCOMPARE(store.open(PresetStore::ReadOnly).error, QString());
+    PresetStore store(*FormatsProxy::getInstance(), folder.path());
+    QVERIFY(store.open(PresetStore::ReadOnly));
     QStringList unknown;
     const FormatListModel &formats = *store.formats().formatListModel();
     QVERIFY(formats.rowCount() > 0);

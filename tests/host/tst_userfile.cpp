@@ -100,18 +100,17 @@ void TestUserFile::aDamagedFileGivesWayToItsGoodCopy()
     if (damage != "missing") {
         make(m_path, damage);
     }
-    QVERIFY(file.complaint().startsWith(m_path + QStringLiteral(" is ")));
-    QVERIFY(file.complaint().contains(QStringLiteral("its last good copy, formatCache.json.bak")));
+    const QString complaint = file.check().error().text;
+    QVERIFY(complaint.startsWith(m_path + QStringLiteral(" is ")));
+    QVERIFY(complaint.contains(QStringLiteral("its last good copy, formatCache.json.bak")));
 
-    const UserFile::Recovery recovery = file.recover(UserFile::StaysInPlace);
-    QCOMPARE(recovery.note, m_path + note);
-    QCOMPARE(recovery.error, QString());
+    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), m_path + note);
     QCOMPARE(contentOf(m_path), good);
     QCOMPARE(contentOf(file.copyPath()), good);
     const bool isKept = note.contains(QStringLiteral("is kept as"));
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), isKept ? damage : "missing");
-    QCOMPARE(file.complaint(), QString());
-    QCOMPARE(file.recover(UserFile::StaysInPlace).note, QString());
+    QVERIFY(file.check());
+    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
 }
 
 void TestUserFile::withoutAGoodCopyItStaysAndIsSaid_data()
@@ -133,8 +132,8 @@ void TestUserFile::withoutAGoodCopyItStaysAndIsSaid()
     const UserFile file(m_path);
     make(m_path, damage);
     make(file.copyPath(), "[");
-    QCOMPARE(file.complaint(), m_path + complaint);
-    QCOMPARE(file.recover(UserFile::StaysInPlace).error, m_path + complaint);
+    QCOMPARE(file.check().error().text, m_path + complaint);
+    QCOMPARE(file.recover(UserFile::StaysInPlace).error().text, m_path + complaint);
     QCOMPARE(contentOf(m_path), damage);
     QCOMPARE(names().size(), 2);
 }
@@ -143,10 +142,9 @@ void TestUserFile::withoutAGoodCopyItIsPutAsideOnDemand()
 {
     const UserFile file(m_path);
     make(m_path, "[");
-    const UserFile::Recovery recovery = file.recover(UserFile::IsPutAside);
-    QCOMPARE(recovery.note, m_path + QStringLiteral(" was damaged and there is no good copy of "
-                                                    "it; it is kept as formatCache.json.damaged"));
-    QCOMPARE(recovery.error, QString());
+    QCOMPARE(file.recover(UserFile::IsPutAside).value(),
+             m_path + QStringLiteral(" was damaged and there is no good copy of "
+                                     "it; it is kept as formatCache.json.damaged"));
     QCOMPARE(names(), QStringList{QStringLiteral("formatCache.json.damaged")});
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("["));
 }
@@ -156,7 +154,7 @@ void TestUserFile::whatWasPutAsideBeforeStays()
     const UserFile file(m_path);
     for (const QByteArray &damage : {QByteArray("[1"), QByteArray("[2"), QByteArray("[3")}) {
         make(m_path, damage);
-        QCOMPARE(file.recover(UserFile::IsPutAside).error, QString());
+        QVERIFY(file.recover(UserFile::IsPutAside));
     }
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("[1"));
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged-2"))), QByteArray("[2"));
@@ -166,14 +164,14 @@ void TestUserFile::whatWasPutAsideBeforeStays()
 void TestUserFile::goodAndMissingFilesNeedNothing()
 {
     const UserFile file(m_path);
-    QCOMPARE(file.complaint(), QString());
-    QCOMPARE(file.recover(UserFile::StaysInPlace).note, QString());
+    QVERIFY(file.check());
+    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
     QCOMPARE(names(), QStringList());
 
     make(m_path, "[]");
     make(file.copyPath(), good);
-    QCOMPARE(file.complaint(), QString());
-    QCOMPARE(file.recover(UserFile::StaysInPlace).note, QString());
+    QVERIFY(file.check());
+    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
     QCOMPARE(contentOf(m_path), QByteArray("[]"));
 }
 
@@ -183,19 +181,19 @@ void TestUserFile::aFolderInItsPlaceIsRefused()
     make(file.copyPath(), good);
     QVERIFY(QDir().mkdir(m_path));
     const QString refusal = m_path + QStringLiteral(" is no file; move it away");
-    QCOMPARE(file.complaint(), refusal);
-    QCOMPARE(file.recover(UserFile::IsPutAside).error, refusal);
-    QCOMPARE(file.replace(other), refusal);
+    QCOMPARE(file.check().error().text, refusal);
+    QCOMPARE(file.recover(UserFile::IsPutAside).error().text, refusal);
+    QCOMPARE(file.replace(other).error().text, refusal);
     QVERIFY(QFileInfo(m_path).isDir());
 }
 
 void TestUserFile::aReplacedFileHasItsCopyBeside()
 {
     const UserFile file(m_path);
-    QCOMPARE(file.replace(good), QString());
+    QVERIFY(file.replace(good));
     QCOMPARE(contentOf(m_path), good);
     QCOMPARE(contentOf(file.copyPath()), good);
-    QCOMPARE(file.replace(other), QString());
+    QVERIFY(file.replace(other));
     QCOMPARE(contentOf(m_path), other);
     QCOMPARE(contentOf(file.copyPath()), other);
     QCOMPARE(names().size(), 2);
@@ -214,9 +212,9 @@ void TestUserFile::whatAnotherProgramWroteIsKept()
     QFETCH(QByteArray, written);
     QFETCH(QString, keptAs);
     const UserFile file(m_path);
-    QCOMPARE(file.replace(good), QString());
+    QVERIFY(file.replace(good));
     make(m_path, written);
-    QCOMPARE(file.replace(other), QString());
+    QVERIFY(file.replace(other));
     QCOMPARE(contentOf(m_path), other);
     QCOMPARE(contentOf(aside(keptAs)), written);
 }
@@ -227,8 +225,8 @@ void TestUserFile::permissionsAreKept()
     make(m_path, good);
     const auto userOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
     QVERIFY(QFile::setPermissions(m_path, userOnly));
-    QCOMPARE(file.recover(UserFile::StaysInPlace).error, QString());
-    QCOMPARE(file.replace(other), QString());
+    QVERIFY(file.recover(UserFile::StaysInPlace));
+    QVERIFY(file.replace(other));
     QCOMPARE(QFile::permissions(m_path), userOnly);
     QCOMPARE(QFile::permissions(file.copyPath()), userOnly);
 }
@@ -237,22 +235,20 @@ void TestUserFile::unusablePresetsAreKeptOnce()
 {
     const UserFile file(m_path);
     make(m_path, good);
-    QCOMPARE(file.keepUnusable({}).note, QString());
+    QCOMPARE(file.keepUnusable({}).value(), QString());
     QCOMPARE(names().size(), 1);
 
     const QString note = m_path + QStringLiteral(" holds presets without settings "
                                                  "(\"outPutNode\"), which can't be used; they are "
                                                  "kept in formatCache.json.unusable");
     const QString beside = aside(QStringLiteral(".unusable"));
-    QCOMPARE(file.keepUnusable(list("[1, 2]")).note, note);
-    QCOMPARE(file.keepUnusable(list("[2]")).note, QString());
-    QCOMPARE(file.keepUnusable(list("[2, 3]")).note, note);
+    QCOMPARE(file.keepUnusable(list("[1, 2]")).value(), note);
+    QCOMPARE(file.keepUnusable(list("[2]")).value(), QString());
+    QCOMPARE(file.keepUnusable(list("[2, 3]")).value(), note);
     QCOMPARE(list(contentOf(beside)), list("[1, 2, 3]"));
 
     make(beside, "damaged");
-    const UserFile::Recovery refused = file.keepUnusable(list("[4]"));
-    QCOMPARE(refused.note, QString());
-    QVERIFY(refused.error.startsWith(beside));
+    QVERIFY(file.keepUnusable(list("[4]")).error().text.startsWith(beside));
     QCOMPARE(contentOf(beside), QByteArray("damaged"));
 }
 

@@ -132,7 +132,7 @@ void TestFileChooser::init()
     }
     QVERIFY(QDir(m_home->path()).mkdir(QStringLiteral("results")));
     m_main = std::make_unique<MainWindow>(m_config.filePath(QStringLiteral("vexconvert")));
-    QCOMPARE(m_main->open(), QString());
+    QVERIFY(m_main->open());
     m_main->converter().setFolder({});
     m_window = m_main->window();
     QVERIFY(QTest::qWaitForWindowActive(m_window));

@@ -83,7 +83,7 @@ void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
     QVERIFY(MediaClips::makeSong(song));
 
     MainWindow main(configFolder());
-    QCOMPARE(main.open(), QString());
+    QVERIFY(main.open());
     QQuickWindow *window = main.window();
     QVERIFY(QTest::qWaitForWindowActive(window));
     const FormatsProxy &formats = *FormatsProxy::getInstance();
@@ -173,7 +173,7 @@ void TestJourney::everythingIsThereAfterARestart()
         return;
     }
     MainWindow main(configFolder());
-    QCOMPARE(main.open(), QString());
+    QVERIFY(main.open());
     QQuickWindow *window = main.window();
     QVERIFY(QTest::qWaitForWindowActive(window));
     auto *picker = window->property("picker").value<QObject *>();
@@ -196,7 +196,7 @@ void TestJourney::keysDoWhatTheMouseDoes()
     QVERIFY(MediaClips::makeSong(song));
     QTemporaryDir config;
     MainWindow main(config.path());
-    QCOMPARE(main.open(), QString());
+    QVERIFY(main.open());
     QQuickWindow *window = main.window();
     QVERIFY(QTest::qWaitForWindowActive(window));
     QCOMPARE(namelessControls(window->contentItem()), QStringList());
@@ -255,7 +255,7 @@ void TestJourney::aNameThatIsNoUtf8IsConverted()
     QVERIFY(MediaClips::makeSong(made));
     QVERIFY(QFile::rename(made, song));
     MainWindow main(work.filePath(QStringLiteral("config")));
-    QCOMPARE(main.open(), QString());
+    QVERIFY(main.open());
     QQuickWindow *window = main.window();
     QVERIFY(QTest::qWaitForWindowActive(window));
     ConverterProxy &page = main.converter();

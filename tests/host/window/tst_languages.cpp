@@ -51,8 +51,8 @@ QSet<QString> keysIn(const QString &folder)
 QSet<QString> presetTitles()
 {
     QTemporaryDir folder;
-    PresetStore store(folder.path());
-    if (!store.open(PresetStore::ReadOnly).error.isEmpty()) {
+    PresetStore store(*FormatsProxy::getInstance(), folder.path());
+    if (!store.open(PresetStore::ReadOnly)) {
         return {};
     }
     QSet<QString> titles;

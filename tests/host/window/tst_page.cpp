@@ -64,8 +64,8 @@ private:
 
 void TestPage::initTestCase()
 {
-    m_store = std::make_unique<PresetStore>(m_config.path());
-    QCOMPARE(m_store->open(PresetStore::ReadWrite).error, QString());
+    m_store = std::make_unique<PresetStore>(*FormatsProxy::getInstance(), m_config.path());
+    QVERIFY(m_store->open(PresetStore::ReadWrite));
     m_settings = std::make_unique<Settings>(m_config.filePath(QStringLiteral("vexconvert.ini")));
     m_presets = std::make_unique<Presets>(*m_store);
 }

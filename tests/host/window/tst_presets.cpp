@@ -59,8 +59,8 @@ private:
 
 void TestPresets::initTestCase()
 {
-    m_store = std::make_unique<PresetStore>(m_folder.path());
-    QCOMPARE(m_store->open(PresetStore::ReadWrite).error, QString());
+    m_store = std::make_unique<PresetStore>(*FormatsProxy::getInstance(), m_folder.path());
+    QVERIFY(m_store->open(PresetStore::ReadWrite));
     m_presets = std::make_unique<Presets>(*m_store);
 }
 

@@ -1,4 +1,4 @@
-#include "host/commandline/console.h"
+#include "host/app/console.h"
 
 #include "host/files/visibletext.h"
 

@@ -1,5 +1,5 @@
-#ifndef COMMANDLINE_CONSOLE_H
-#define COMMANDLINE_CONSOLE_H
+#ifndef APP_CONSOLE_H
+#define APP_CONSOLE_H
 
 #include <QString>
 #include <QStringList>

@@ -1,0 +1,16 @@
+#ifndef APP_WINDOWOPTIONS_H
+#define APP_WINDOWOPTIONS_H
+
+#include <QString>
+#include <QStringList>
+
+/*! What vexconvert was called with when it is called for its window. */
+struct WindowOptions
+{
+    QString configFolder;     //!< empty: the platform's
+    QString language;         //!< a code or locale; empty: the system's
+    QString screenshotFolder; //!< empty: the window is for a person
+    QStringList files;        //!< for its list: absolute paths of existing files and folders
+};
+
+#endif
