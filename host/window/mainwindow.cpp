@@ -85,6 +85,14 @@ bool MainWindow::handOver(const QStringList &paths, int patience) const
     return SingleInstance(configFolder()).handOver(paths, patience);
 }
 
+void MainWindow::stopWork()
+{
+    m_instance.reset();
+    m_presets->flush();
+    m_converter.reset();
+    m_editor.reset();
+}
+
 void MainWindow::present(const QStringList &paths)
 {
     if (!paths.isEmpty()) {

@@ -42,6 +42,8 @@ public:
     [[nodiscard]] bool isFolderTaken() const { return m_isFolderTaken; }
     /*! Lets that window show itself with these files. False when none answers in \a patience ms. */
     [[nodiscard]] bool handOver(const QStringList &paths, int patience) const;
+    /*! Where nothing can be shown any more: saves, stops the pages' work and tidies up after it. */
+    void stopWork();
 
     /*! Null before open(). */
     QQuickWindow *window() const;

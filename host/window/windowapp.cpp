@@ -30,6 +30,18 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString
     }
 }
 
+MainWindow *shownWindow = nullptr;
+
+/*! Qt ends the process at once when the display goes away, as it may at a log-out. */
+void endWithDisplay()
+{
+    if (shownWindow != nullptr) {
+        // The screens complain about what they lose, and nobody sees them any more.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        shownWindow->stopWork();
+    }
+}
+
 /*! Says it on standard error and, as a window's user may not see that, in a dialog. */
 ExitCode refuse(const Error &error)
 {
@@ -64,8 +76,12 @@ ExitCode showWindow(const WindowOptions &options)
     if (!opened) {
         return refuse(opened.error());
     }
+    shownWindow = &window;
+    std::atexit(endWithDisplay);
     window.converter().addPaths(options.files);
-    return QCoreApplication::exec() == 0 ? Success : Failure;
+    const int result = QCoreApplication::exec();
+    shownWindow = nullptr;
+    return result == 0 ? Success : Failure;
 }
 
 ExitCode takeScreenshots(const QString &folder)

@@ -101,6 +101,7 @@ private Q_SLOTS:
 
     void aSignalEndsTheWindowAsClosingDoes_data();
     void aSignalEndsTheWindowAsClosingDoes();
+    void theEndOfTheDisplayLeavesNothingBehind();
     void anIgnoredHangupEndsNothing();
     void aFolderThatIsTakenIsSaidInADialog();
     void filesAreDroppedFromAnotherProgram();
@@ -110,6 +111,11 @@ private:
     void prepare(QProcess &program, const QStringList &arguments) const;
     /*! The names of the pictures of files that the window has read. */
     QStringList thumbnails() const;
+    /*! Starts the conversion of the window's only film; the converter's process id, 0 on failure.
+     */
+    pid_t convertIn(const QString &window) const;
+    /*! What there is besides the film and the presets: pieces, thumbnails, sockets. */
+    QStringList leftBehind() const;
 
     std::unique_ptr<QTemporaryDir> m_work;
 };
@@ -159,6 +165,32 @@ QStringList TestDesktop::thumbnails() const
     return names;
 }
 
+pid_t TestDesktop::convertIn(const QString &window) const
+{
+    if (!QTest::qWaitFor([this] { return thumbnails().size() == 1; }, patience)) {
+        return 0;
+    }
+    // "Convert All" is in the corner, at the same place in windows of any scale.
+    const QRect place = placeOf(window);
+    const double scale = place.width() / 1040.0;
+    xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), window,
+             QString::number(qRound(place.width() - 92 * scale)),
+             QString::number(qRound(place.height() - 36 * scale)), QStringLiteral("click"),
+             QStringLiteral("1")});
+    const bool isRunning =
+        QTest::qWaitFor([this] { return contentOf(path("converter")).endsWith('\n'); }, patience);
+    return isRunning ? contentOf(path("converter")).trimmed().toInt() : 0;
+}
+
+QStringList TestDesktop::leftBehind() const
+{
+    const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    QStringList names = QDir(path("films")).entryList(all) + QDir(path("tmp")).entryList(all) +
+                        QDir(m_work->path()).entryList(QDir::System);
+    names.removeOne(QStringLiteral("film.mp4"));
+    return names;
+}
+
 void TestDesktop::aSignalEndsTheWindowAsClosingDoes_data()
 {
     QTest::addColumn<int>("signalNumber");
@@ -175,28 +207,39 @@ void TestDesktop::aSignalEndsTheWindowAsClosingDoes()
     program.start();
     const QString window = windowOf(program);
     QVERIFY(!window.isEmpty());
-    QTRY_COMPARE_WITH_TIMEOUT(thumbnails().size(), 1, patience);
-
-    // "Convert All" is in the corner, at the same place in windows of any scale.
-    const QRect place = placeOf(window);
-    const double scale = place.width() / 1040.0;
-    xdotool({QStringLiteral("mousemove"), QStringLiteral("--window"), window,
-             QString::number(qRound(place.width() - 92 * scale)),
-             QString::number(qRound(place.height() - 36 * scale)), QStringLiteral("click"),
-             QStringLiteral("1")});
-    QTRY_VERIFY_WITH_TIMEOUT(!contentOf(path("converter")).isEmpty(), patience);
-    const pid_t converter = contentOf(path("converter")).trimmed().toInt();
-    QCOMPARE(::kill(converter, 0), 0);
+    const pid_t converter = convertIn(window);
+    QVERIFY(converter > 0);
 
     QCOMPARE(::kill(pid_t(program.processId()), signalNumber), 0);
     QVERIFY(program.waitForFinished(patience));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
     QVERIFY(::kill(converter, 0) != 0);
-    const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    QCOMPARE(QDir(path("films")).entryList(all), QStringList{QStringLiteral("film.mp4")});
-    QCOMPARE(QDir(path("tmp")).entryList(all), QStringList());
-    QCOMPARE(QDir(m_work->path()).entryList(QDir::System), QStringList());
+    QCOMPARE(leftBehind(), QStringList());
+}
+
+void TestDesktop::theEndOfTheDisplayLeavesNothingBehind()
+{
+    QProcess display;
+    display.start(QStringLiteral("Xvfb"),
+                  {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                   QStringLiteral("0"), QStringLiteral("1280x900x24")});
+    QTRY_VERIFY_WITH_TIMEOUT(display.bytesAvailable() > 0, patience);
+    const QByteArray usual = qgetenv("DISPLAY");
+    qputenv("DISPLAY", ":" + display.readAllStandardOutput().trimmed());
+    GroupProcess program;
+    prepare(program, {path("films/film.mp4")});
+    program.start();
+    const QString window = windowOf(program);
+    const pid_t converter = convertIn(window);
+    qputenv("DISPLAY", usual);
+    QVERIFY(converter > 0);
+
+    display.kill();
+    QVERIFY(program.waitForFinished(patience));
+    QVERIFY(::kill(converter, 0) != 0);
+    QCOMPARE(leftBehind(), QStringList());
+    QVERIFY(display.waitForFinished(patience));
 }
 
 void TestDesktop::anIgnoredHangupEndsNothing()

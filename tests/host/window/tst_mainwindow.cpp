@@ -120,7 +120,7 @@ void TestMainWindow::convertSlowly()
     const QString film = path("film.mp4");
     QVERIFY(MediaClips::makeFilm(film, 30));
     m_main->converter().addPaths({film});
-    QTRY_COMPARE(tasks().at(0).state, Task::Ready);
+    QTRY_COMPARE_WITH_TIMEOUT(tasks().at(0).state, Task::Ready, patience);
     QVERIFY(click(m_window, QStringLiteral("Convert All")));
     QTRY_VERIFY_WITH_TIMEOUT(!contentOf(path("converter")).isEmpty(), patience);
 }
@@ -132,7 +132,7 @@ void TestMainWindow::aSecondStartHandsItsFilesOver()
         QVERIFY(MediaClips::makeSong(path(name)));
     }
     QVERIFY(click(m_window, QStringLiteral("Editor")));
-    QTRY_COMPARE(m_window->property("currentPage").toInt(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_window->property("currentPage").toInt(), 1, patience);
     QCOMPARE(startAgain({QStringLiteral("a b.wav"),
                          QUrl::fromLocalFile(path("c.wav")).toString(QUrl::FullyEncoded),
                          QStringLiteral("album")}),
@@ -149,9 +149,9 @@ void TestMainWindow::aSecondStartBringsTheWindowBack()
 {
     QVERIFY(click(m_window, QStringLiteral("Editor")));
     m_window->showMinimized();
-    QTRY_COMPARE(m_window->visibility(), QWindow::Minimized);
+    QTRY_COMPARE_WITH_TIMEOUT(m_window->visibility(), QWindow::Minimized, patience);
     QCOMPARE(startAgain({}), 0);
-    QTRY_COMPARE(m_window->visibility(), QWindow::Windowed);
+    QTRY_COMPARE_WITH_TIMEOUT(m_window->visibility(), QWindow::Windowed, patience);
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     QCOMPARE(m_window->property("currentPage").toInt(), 1);
     QCOMPARE(tasks().size(), 0);
@@ -163,7 +163,7 @@ void TestMainWindow::aFolderWithoutMediaIsSaid()
     const QString line =
         QStringLiteral("There are no videos or songs in the folder %1; add the files themselves")
             .arg(m_files->path());
-    QTRY_VERIFY(!itemsNamed(m_window->contentItem(), line).isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!itemsNamed(m_window->contentItem(), line).isEmpty(), patience);
     QCOMPARE(takeWarnings(), line);
 }
 
@@ -178,14 +178,14 @@ void TestMainWindow::aResultIsShownInTheFileManager()
     QVERIFY(click(m_window, QStringLiteral("Show in folder")));
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
         const QByteArray folder = QUrl::fromLocalFile(m_files->path()).toEncoded();
-        QTRY_COMPARE(contentOf(path("opened")).trimmed(), folder);
+        QTRY_COMPARE_WITH_TIMEOUT(contentOf(path("opened")).trimmed(), folder, patience);
         return;
     }
     // Without a desktop there is no file manager, which is said.
     const QString line =
         QStringLiteral("No file manager could be started to show the folder %1; open it by hand")
             .arg(m_files->path());
-    QTRY_VERIFY(!itemsNamed(m_window->contentItem(), line).isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!itemsNamed(m_window->contentItem(), line).isEmpty(), patience);
     QCOMPARE(takeWarnings(), line);
 }
 
@@ -200,10 +200,10 @@ void TestMainWindow::aPresetInUseIsNotDeleted()
 
     auto *picker = m_window->property("picker").value<QObject *>();
     QVERIFY(click(m_window, QStringLiteral("Convert all to: MKV - Mine")));
-    QTRY_VERIFY(picker->property("opened").toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(picker->property("opened").toBool(), patience);
     QVERIFY(click(m_window, QStringLiteral("Video")));
     QVERIFY(click(m_window, QStringLiteral("Delete")));
-    QTRY_VERIFY(m_main->dialog() != nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(m_main->dialog() != nullptr, patience);
     QQuickWindow *dialog = m_main->dialog()->window();
     QVERIFY(QTest::qWaitForWindowActive(dialog));
     QVERIFY(!itemsNamed(dialog->contentItem(),
@@ -211,7 +211,7 @@ void TestMainWindow::aPresetInUseIsNotDeleted()
                                        "use."))
                  .isEmpty());
     press(dialog, Qt::Key_Return);
-    QTRY_VERIFY(m_main->dialog() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(m_main->dialog() == nullptr, patience);
     QVERIFY(!formats.getFormat(own).isEmpty());
     QCOMPARE(tasks().at(0).state, Task::Running);
 }

@@ -177,7 +177,7 @@ void TestWindowApp::aSecondStartEndsWell()
     QProcess first;
     prepare(first, call, QStringLiteral("offscreen"));
     first.start();
-    QTRY_VERIFY(isWindowListening());
+    QTRY_VERIFY_WITH_TIMEOUT(isWindowListening(), 60000);
 
     const Run second = run(call);
     QCOMPARE(second.err, QString());
@@ -190,7 +190,7 @@ void TestWindowApp::aSecondStartEndsWell()
     QProcess third;
     prepare(third, call, QStringLiteral("offscreen"));
     third.start();
-    QTRY_VERIFY(isWindowListening());
+    QTRY_VERIFY_WITH_TIMEOUT(isWindowListening(), 60000);
     QCOMPARE(run(call).exitCode, 0);
     QCOMPARE(third.state(), QProcess::Running);
     third.kill();
@@ -205,7 +205,7 @@ void TestWindowApp::aFolderIsForOneWindow()
     QProcess first;
     prepare(first, call, QStringLiteral("offscreen"));
     first.start();
-    QTRY_VERIFY(isWindowListening());
+    QTRY_VERIFY_WITH_TIMEOUT(isWindowListening(), 60000);
     QCOMPARE(::kill(pid_t(first.processId()), SIGSTOP), 0); // it hangs
 
     const Run second = run(call);
