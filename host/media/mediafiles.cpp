@@ -15,12 +15,17 @@ const QStringList &mediaExtensions()
     return extensions;
 }
 
+bool isMediaName(const QString &name)
+{
+    return mediaExtensions().contains(QFileInfo(name).suffix().toLower());
+}
+
 QStringList mediaFilesIn(const QString &folder)
 {
     QStringList paths;
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
-        if (mediaExtensions().contains(file.suffix().toLower())) {
+        if (isMediaName(file.fileName())) {
             paths << file.absoluteFilePath();
         }
     }

@@ -5,7 +5,9 @@
 
 /*! The usual extensions of films and songs, in lower case, without a dot. */
 [[nodiscard]] const QStringList &mediaExtensions();
-/*! The paths of a folder's own files that have one of these extensions, by name. */
+/*! Whether a file's name has one of them. */
+[[nodiscard]] bool isMediaName(const QString &name);
+/*! The paths of a folder's own files that are media by their names, sorted. */
 [[nodiscard]] QStringList mediaFilesIn(const QString &folder);
 
 #endif

@@ -6,7 +6,9 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QScreen>
+#include <QSortFilterProxyModel>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -27,16 +29,68 @@ QString firstFolderOf(const QStringList &folders)
     return found == folders.end() ? QString() : *found;
 }
 
-QStringList nameFilters()
+QString nameFilter(const QString &title, const QStringList &patterns)
+{
+    return QStringLiteral("%1 (%2)").arg(ToolFun::text(title), patterns.join(QLatin1Char(' ')));
+}
+
+QStringList mediaPatterns()
 {
     QStringList patterns;
     for (const QString &extension : mediaExtensions()) {
         // Cameras write capitals, and not every dialog takes them for the same.
         patterns << QStringLiteral("*.") + extension << QStringLiteral("*.") + extension.toUpper();
     }
-    return {QStringLiteral("%1 (%2)").arg(ToolFun::text(QStringLiteral("Videos and songs")),
-                                          patterns.join(QLatin1Char(' '))),
-            QStringLiteral("%1 (*)").arg(ToolFun::text(QStringLiteral("All files")))};
+    return patterns;
+}
+
+/*!
+ * Hides what is no media from Qt's own dialog. Its name filters do that too, but take seconds for a
+ * thousand files when there are so many patterns.
+ */
+class MediaOnly : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void setActive(bool isActive)
+    {
+        m_isActive = isActive;
+        invalidateFilter();
+    }
+
+    /*! The files' own model sorts better: by what a column stands for, folders first. */
+    void sort(int column, Qt::SortOrder order) override { sourceModel()->sort(column, order); }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override
+    {
+        const auto *files = qobject_cast<const QFileSystemModel *>(sourceModel());
+        const QModelIndex file = files->index(row, 0, parent);
+        return !m_isActive || isMediaName(files->fileName(file)) || files->isDir(file);
+    }
+
+private:
+    bool m_isActive = true;
+};
+
+void showMediaFirst(QFileDialog *dialog)
+{
+    const QStringList everything = {QStringLiteral("*")};
+    const QString all = nameFilter(QStringLiteral("All files"), everything);
+    const bool isQtsOwn = dialog->layout() != nullptr;
+    const QString media =
+        nameFilter(QStringLiteral("Videos and songs"), isQtsOwn ? everything : mediaPatterns());
+    if (isQtsOwn) {
+        auto *mediaOnly = new MediaOnly(dialog);
+        dialog->setProxyModel(mediaOnly);
+        // The dialog tells the filter's title alone.
+        QObject::connect(
+            dialog, &QFileDialog::filterSelected, mediaOnly,
+            [=](const QString &title) { mediaOnly->setActive(media.startsWith(title)); });
+    }
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
+    dialog->setNameFilters({media, all});
 }
 
 } // namespace
@@ -46,8 +100,7 @@ void FileChooser::chooseFiles(Page *page)
     auto *dialog = new QFileDialog(nullptr, ToolFun::text(QStringLiteral("Add files")),
                                    firstFolderOf(QStringList{m_lastFolder} + usualFolders()));
     dialog->setFileMode(QFileDialog::ExistingFiles);
-    dialog->setOption(QFileDialog::HideNameFilterDetails);
-    dialog->setNameFilters(nameFilters());
+    showMediaFirst(dialog);
     open(dialog, page, [this, page](const QStringList &paths) {
         m_lastFolder = QFileInfo(paths.constFirst()).absolutePath();
         page->addPaths(paths);

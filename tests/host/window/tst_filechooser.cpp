@@ -20,14 +20,18 @@ using namespace WindowUser;
 
 namespace {
 
+constexpr int patience = 60000; // ms, on a busy machine
+
 /*! The dialog that is open and has the focus; null when there is none in time. */
 QFileDialog *openDialog()
 {
     QFileDialog *dialog = nullptr;
-    const bool isOpen = QTest::qWaitFor([&dialog] {
-        dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        return dialog != nullptr;
-    });
+    const bool isOpen = QTest::qWaitFor(
+        [&dialog] {
+            dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            return dialog != nullptr;
+        },
+        patience);
     return isOpen && QTest::qWaitForWindowActive(dialog) ? dialog : nullptr;
 }
 
@@ -60,11 +64,13 @@ bool clickFile(const QFileDialog *dialog, const QString &name, Qt::KeyboardModif
     const auto place = [list, &name] { return list->visualRect(rowOf(list, name)).center(); };
     const QRect shown = list->viewport()->rect();
     QPoint last;
-    const bool isThere = QTest::qWaitFor([&] {
-        const QPoint before = last;
-        last = place();
-        return rowOf(list, name).isValid() && last == before && shown.contains(last);
-    });
+    const bool isThere = QTest::qWaitFor(
+        [&] {
+            const QPoint before = last;
+            last = place();
+            return rowOf(list, name).isValid() && last == before && shown.contains(last);
+        },
+        patience);
     if (isThere) {
         clickWidget(dialog, list->viewport(), last, keys);
     }
@@ -179,10 +185,11 @@ void TestFileChooser::filesChosenByMouseAreAddedOnce()
                           name == chosen.constFirst() ? Qt::NoModifier : Qt::ControlModifier));
     }
     clickButton(dialog, QDialogButtonBox::Open);
-    QTRY_COMPARE(names(), chosen);
-    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_COMPARE_WITH_TIMEOUT(names(), chosen, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
     QVERIFY(QTest::qWaitForWindowActive(m_window));
-    QTRY_COMPARE(m_main->converter().tasks()->tasks().constLast().state, Task::Ready);
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->converter().tasks()->tasks().constLast().state, Task::Ready,
+                              patience);
     QCOMPARE(names(), chosen);
 }
 
@@ -209,8 +216,8 @@ void TestFileChooser::filesTypedByKeyboardAreAddedOnce()
     QVERIFY(dialog != nullptr);
     type(dialog->windowHandle(), typed);
     press(dialog->windowHandle(), Qt::Key_Return);
-    QTRY_COMPARE(names(), chosen);
-    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_COMPARE_WITH_TIMEOUT(names(), chosen, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     QCOMPARE(names(), chosen);
 }
@@ -223,7 +230,7 @@ void TestFileChooser::theShownPageGetsTheFiles()
     QVERIFY(dialog != nullptr);
     type(dialog->windowHandle(), QStringLiteral("one.wav"));
     press(dialog->windowHandle(), Qt::Key_Return);
-    QTRY_COMPARE(m_main->editor().tasks()->count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->editor().tasks()->count(), 1, patience);
     QCOMPARE(m_main->converter().tasks()->count(), 0);
 }
 
@@ -246,7 +253,7 @@ void TestFileChooser::cancelAddsNothing()
     } else {
         press(dialog->windowHandle(), Qt::Key_Escape);
     }
-    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     QCOMPARE(names(), QStringList());
 }
@@ -258,7 +265,7 @@ void TestFileChooser::theDialogStartsInTheFolderOfFilmsElseAtHome()
     QVERIFY(dialog != nullptr);
     QCOMPARE(dialog->directory().path(), m_home->path());
     press(dialog->windowHandle(), Qt::Key_Escape);
-    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
 
     QVERIFY(QDir(m_home->path()).mkdir(QStringLiteral("Videos")));
     QVERIFY(click(m_window, QStringLiteral("Add files")));
@@ -275,8 +282,8 @@ void TestFileChooser::theNextDialogStartsWhereTheLastFilesWere()
     QVERIFY(dialog != nullptr);
     type(dialog->windowHandle(), homePath("results/four.wav"));
     press(dialog->windowHandle(), Qt::Key_Return);
-    QTRY_COMPARE(names(), QStringList{QStringLiteral("four.wav")});
-    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList{QStringLiteral("four.wav")}, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
 
     QVERIFY(click(m_window, QStringLiteral("Add files")));
     dialog = openDialog();
@@ -308,18 +315,27 @@ void TestFileChooser::otherFilesAreHiddenUntilAllAreAskedFor()
     const QFileDialog *dialog = openDialog();
     QVERIFY(dialog != nullptr);
     const QTreeView *list = filesOf(dialog);
-    QTRY_VERIFY(rowOf(list, QStringLiteral("one.wav")).isValid());
-    QTRY_VERIFY(rowOf(list, QStringLiteral("two.WAV")).isValid());
+    QTRY_VERIFY_WITH_TIMEOUT(rowOf(list, QStringLiteral("one.wav")).isValid(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(rowOf(list, QStringLiteral("two.WAV")).isValid(), patience);
     QVERIFY(!rowOf(list, QStringLiteral("note.txt")).isValid());
 
     const auto *kinds = dialog->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
     QCOMPARE(kinds->currentText(), QStringLiteral("Videos and songs"));
-    clickWidget(dialog, kinds, kinds->rect().center());
-    QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
-    QTest::keyClick(QApplication::activePopupWidget()->windowHandle(), Qt::Key_Down);
-    QTest::keyClick(QApplication::activePopupWidget()->windowHandle(), Qt::Key_Return);
-    QTRY_COMPARE(kinds->currentText(), QStringLiteral("All files"));
-    QTRY_VERIFY(rowOf(list, QStringLiteral("note.txt")).isValid());
+    const auto choose = [dialog, kinds](Qt::Key step) {
+        clickWidget(dialog, kinds, kinds->rect().center());
+        QVERIFY(
+            QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }, patience));
+        QWindow *popup = QApplication::activePopupWidget()->windowHandle();
+        QTest::keyClick(popup, step);
+        press(popup, Qt::Key_Return);
+        QTRY_VERIFY_WITH_TIMEOUT(QApplication::activePopupWidget() == nullptr, patience);
+    };
+    choose(Qt::Key_Down);
+    QTRY_COMPARE_WITH_TIMEOUT(kinds->currentText(), QStringLiteral("All files"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(rowOf(list, QStringLiteral("note.txt")).isValid(), patience);
+    choose(Qt::Key_Up);
+    QTRY_VERIFY_WITH_TIMEOUT(!rowOf(list, QStringLiteral("note.txt")).isValid(), patience);
+    QVERIFY(rowOf(list, QStringLiteral("one.wav")).isValid());
 }
 
 void TestFileChooser::theFolderForResultsIsChosenByMouse()
@@ -329,8 +345,9 @@ void TestFileChooser::theFolderForResultsIsChosenByMouse()
     QVERIFY(dialog != nullptr);
     QVERIFY(clickFile(dialog, QStringLiteral("results"), Qt::NoModifier));
     clickButton(dialog, QDialogButtonBox::Open);
-    QTRY_COMPARE(m_main->converter().folder(), homePath("results"));
-    QTRY_VERIFY(!itemsNamed(m_window->contentItem(), QStringLiteral("results")).isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->converter().folder(), homePath("results"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        !itemsNamed(m_window->contentItem(), QStringLiteral("results")).isEmpty(), patience);
 }
 
 void TestFileChooser::theFolderForResultsIsTypedByKeyboard()
@@ -345,8 +362,8 @@ void TestFileChooser::theFolderForResultsIsTypedByKeyboard()
     QVERIFY(dialog != nullptr);
     type(dialog->windowHandle(), homePath("results"));
     press(dialog->windowHandle(), Qt::Key_Return);
-    QTRY_COMPARE(m_main->converter().folder(), homePath("results"));
-    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->converter().folder(), homePath("results"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
     QVERIFY(QTest::qWaitForWindowActive(m_window));
 }
 
@@ -358,7 +375,7 @@ void TestFileChooser::theFolderDialogStartsInThePresentFolder()
     QVERIFY(dialog != nullptr);
     QCOMPARE(dialog->directory().path(), homePath("results"));
     press(dialog->windowHandle(), Qt::Key_Escape);
-    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
     QCOMPARE(m_main->converter().folder(), homePath("results"));
 
     // One that is gone.

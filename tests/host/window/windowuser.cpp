@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int patience = 60000; // ms, on a busy machine
+
 QStringList warnings;
 
 void keepWarning(QtMsgType type, const QMessageLogContext &, const QString &text)
@@ -54,15 +56,17 @@ QList<QQuickItem *> WindowUser::itemsNamed(QQuickItem *root, const QString &name
 bool WindowUser::click(QQuickWindow *window, const QString &name, int which)
 {
     QPoint place;
-    const bool isThere = QTest::qWaitFor([&place, window, &name, which] {
-        const QList<QQuickItem *> found = itemsNamed(window->contentItem(), name);
-        if (found.size() <= which || !found.at(which)->isEnabled()) {
-            return false;
-        }
-        const QPoint before = place;
-        place = middleOf(found.at(which));
-        return place == before;
-    });
+    const bool isThere = QTest::qWaitFor(
+        [&place, window, &name, which] {
+            const QList<QQuickItem *> found = itemsNamed(window->contentItem(), name);
+            if (found.size() <= which || !found.at(which)->isEnabled()) {
+                return false;
+            }
+            const QPoint before = place;
+            place = middleOf(found.at(which));
+            return place == before;
+        },
+        patience);
     if (isThere) {
         QTest::mouseClick(window, Qt::LeftButton, {}, place);
     }
