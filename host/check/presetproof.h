@@ -44,8 +44,11 @@ public:
     PresetProof(const OutputSettings &settings, const ProofClip &clip, QObject *parent = nullptr);
     ~PresetProof() override;
 
-    /*! A conversion that isn't done after so many milliseconds fails. */
-    void start(int limit = 300000);
+    /*!
+     * A conversion that isn't done after so many milliseconds fails: one that hangs, not one of a
+     * large picture on a busy machine.
+     */
+    void start(int limit = 1800000);
 
 Q_SIGNALS:
     void finished(const ProofOutcome &outcome);
