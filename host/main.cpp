@@ -6,6 +6,8 @@
 #include <QLoggingCategory>
 
 #include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -18,10 +20,24 @@ QStringList argumentsOf(int argc, char **argv)
     return arguments;
 }
 
+/*!
+ * A closed stream's number would go to the next file that is opened, and what is printed into that.
+ * Writing to a stream that was closed still fails, and is told.
+ */
+void occupyClosedStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) < 0) {
+            ::open("/dev/null", O_RDONLY);
+        }
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    occupyClosedStreams();
     keepBytesOfFileNames();
     // The library's notes, such as a file missing at the first start, are for developers.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));

@@ -53,4 +53,16 @@ protected:
     }
 };
 
+/*! A process that was given no standard streams at all. */
+class ProcessWithoutStreams : public QProcess
+{
+protected:
+    void setupChildProcess() override
+    {
+        for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+            ::close(stream);
+        }
+    }
+};
+
 #endif

@@ -94,6 +94,7 @@ private Q_SLOTS:
 
     void formatsAreListedInColumns();
     void outputThatGetsLostIsSaid();
+    void closedStreamsSendNoOutputIntoFiles();
     void aReaderThatWantsNoMoreIsNoError_data();
     void aReaderThatWantsNoMoreIsNoError();
     void formatsAreListedByTag();
@@ -336,6 +337,21 @@ void TestCommandLine::outputThatGetsLostIsSaid()
     const CommandRun told = CommandRun::of(process);
     QCOMPARE(told.exitCode, 1);
     QCOMPARE(told.err, QStringLiteral("vexconvert: the output couldn't be written\n"));
+}
+
+void TestCommandLine::closedStreamsSendNoOutputIntoFiles()
+{
+    ProcessWithoutStreams process;
+    start(process,
+          {QStringLiteral("--config"), config(), QStringLiteral("user"), QStringLiteral("add"),
+           QStringLiteral("V_MP4_2"), QStringLiteral("--title"), QStringLiteral("Mine")});
+    QCOMPARE(CommandRun::of(process).exitCode, 1);
+    QVERIFY(run("user list").out.contains(QStringLiteral("Mine")));
+    const QDir folder(config());
+    const QStringList names = folder.entryList(QDir::Files);
+    for (const QString &name : names) {
+        QVERIFY2(!contentOf(folder.filePath(name)).contains("added to"), qUtf8Printable(name));
+    }
 }
 
 void TestCommandLine::aReaderThatWantsNoMoreIsNoError_data()
