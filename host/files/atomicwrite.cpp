@@ -1,30 +1,48 @@
 #include "host/files/atomicwrite.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QRegularExpression>
-#include <QSaveFile>
+#include "host/files/workfolder.h"
 
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace {
 
-/*! Where a symbolic link leads, also when nothing stands there yet. */
-QString withoutLinks(const QString &path)
+/*! Where symbolic links lead, also when nothing stands there yet. */
+QString withoutLinks(QString path)
 {
-    const QFileInfo info(path);
-    if (info.exists()) {
-        return info.canonicalFilePath();
+    constexpr int mostLinks = 40; // as many as the system follows
+    for (int i = 0; i < mostLinks && QFileInfo(path).isSymLink(); ++i) {
+        path = QFileInfo(path).symLinkTarget();
     }
-    return info.isSymLink() ? info.symLinkTarget() : path;
+    return path;
+}
+
+Result<> writeToDisk(QFile &file, const QByteArray &content)
+{
+    // The first part of a write to a full disk succeeds.
+    for (qint64 done = 0; done < content.size();) {
+        const qint64 written = file.write(content.constData() + done, content.size() - done);
+        if (written <= 0) {
+            return failed(file.errorString());
+        }
+        done += written;
+    }
+    if (!file.flush()) {
+        return failed(file.errorString());
+    }
+    return ::fsync(file.handle()) == 0 ? Result<>() : failed(qt_error_string(errno));
 }
 
 /*! A rename is on the disk only when its folder is. */
-void syncFolderOf(const QString &path)
+void syncFolder(const QString &path)
 {
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
-    const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor >= 0) {
         ::fsync(descriptor);
         ::close(descriptor);
@@ -35,40 +53,31 @@ void syncFolderOf(const QString &path)
 
 Result<> writeAtomically(const QString &path, const QByteArray &content, const QString &model)
 {
-    QSaveFile file(withoutLinks(path));
+    const QString target = withoutLinks(path);
+    const QString folder = QFileInfo(target).absolutePath();
+    // A rename would take no notice of it.
+    if (QFileInfo::exists(target) && !QFileInfo(target).isWritable()) {
+        return failed(qt_error_string(EACCES));
+    }
+    const WorkFolder work(folder);
+    if (!work.isValid()) {
+        return failed(work.errorText());
+    }
+    QFile file(work.filePath(QStringLiteral("new")));
     if (!file.open(QIODevice::WriteOnly)) {
         return failed(file.errorString());
     }
     if (QFile::exists(model)) {
         file.setPermissions(QFile::permissions(model));
     }
-    // commit() takes no notice of what a full disk leaves out: the first part of a write succeeds,
-    // and an error of the last one, which comes out of the buffer, is forgotten.
-    for (qint64 done = 0; done < content.size();) {
-        const qint64 written = file.write(content.constData() + done, content.size() - done);
-        if (written <= 0) {
-            return failed(file.errorString());
-        }
-        done += written;
+    const Result<> written = writeToDisk(file, content);
+    if (!written) {
+        return written;
     }
-    if (!file.flush() || !file.commit()) {
-        return failed(file.errorString());
+    if (std::rename(QFile::encodeName(file.fileName()).constData(),
+                    QFile::encodeName(target).constData()) != 0) {
+        return failed(qt_error_string(errno));
     }
-    syncFolderOf(file.fileName());
+    syncFolder(folder);
     return {};
-}
-
-void removeUnfinishedWrites(const QString &path)
-{
-    const QFileInfo file(withoutLinks(path));
-    const QString name = file.fileName();
-    const QRegularExpression form(
-        QStringLiteral("\\A%1(\\..+)?\\.[A-Za-z]{6}\\z").arg(QRegularExpression::escape(name)));
-    QDir folder = file.absoluteDir();
-    const QStringList beside = folder.entryList({name + QStringLiteral(".*")}, QDir::Files);
-    for (const QString &entry : beside) {
-        if (form.match(entry).hasMatch()) {
-            folder.remove(entry);
-        }
-    }
 }

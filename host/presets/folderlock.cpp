@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 #include <QSysInfo>
 #include <QThread>
@@ -42,6 +43,11 @@ Result<> FolderLock::lock(const QString &folder, int patience, const Tell &tell)
     const QString shownFolder = QDir::toNativeSeparators(folder);
     const QString path = QDir(folder).absoluteFilePath(QStringLiteral("vexconvert.lock"));
     QDir().mkpath(folder);
+    const QFileInfo file(path);
+    if (file.isSymLink() || (file.exists() && !file.isFile())) {
+        // Writing into it would change another file, and reading from a pipe wait for ever.
+        return failed(tr("%1 is no plain file; remove it").arg(QDir::toNativeSeparators(path)));
+    }
     // Made without touching what another process wrote into it.
     QFile(path).open(QIODevice::ReadWrite);
 

@@ -99,27 +99,27 @@ Result<> UserFile::check() const
     if (!own) {
         return failed(own);
     }
+    const Result<Content> copy = contentOf(copyPath());
+    const bool hasCopy = copy && copy->state == Content::Good;
     const bool isMissing = own->state == Content::Missing;
-    const bool hasCopy = goodContentOf(copyPath()).has_value();
-    if (own->state == Content::Good || (isMissing && !hasCopy)) {
+    const bool isNew = isMissing && copy && copy->json.isEmpty();
+    if (own->state == Content::Good || isNew) {
         return {};
     }
-    const QString file = shown(m_path);
     if (hasCopy) {
         return failed((isMissing ? tr("%1 is missing; put its last good copy, %2, in its place")
                                  : tr("%1 is damaged; put its last good copy, %2, in its place"))
-                          .arg(file, fileName(copyPath())));
+                          .arg(shown(m_path), fileName(copyPath())));
     }
-    return failed((own->json.isEmpty()
+    return failed((own->json.isEmpty() && !isMissing
                        ? tr("%1 is empty and there is no good copy of it; remove it to start anew")
                        : tr("%1 is damaged and there is no good copy of it; fix it, or move it "
                             "away to start anew"))
-                      .arg(file));
+                      .arg(shown(isMissing ? copyPath() : m_path)));
 }
 
 Result<QString> UserFile::recover(Hopeless hopeless) const
 {
-    removeUnfinishedWrites(m_path);
     const Result<> checked = check();
     if (checked) {
         keepCopy();
@@ -132,6 +132,9 @@ Result<QString> UserFile::recover(Hopeless hopeless) const
     }
 
     const QString file = shown(m_path);
+    if (!copy && own->state == Content::Missing) {
+        return tr("%1 was missing and its copy, %2, is damaged").arg(file, fileName(copyPath()));
+    }
     const QString aside =
         own->json.isEmpty() ? QString() : freeName(m_path + QStringLiteral(".damaged"));
     const bool isKept = aside.isEmpty() || writeAtomically(aside, own->json, m_path);
@@ -186,10 +189,17 @@ Result<> UserFile::replace(const QByteArray &json) const
 
 void UserFile::keepCopy() const
 {
-    const std::optional<QByteArray> own = goodContentOf(m_path);
-    if (own && own != goodContentOf(copyPath())) {
+    const Result<Content> own = content();
+    const Result<Content> copy = contentOf(copyPath());
+    if (!own || own->state != Content::Good || !copy || own->json == copy->json) {
+        return;
+    }
+    // A damaged copy may be all that is left of presets that were lost before.
+    const bool isToKeep = copy->state == Content::Damaged && !copy->json.isEmpty();
+    if (!isToKeep || writeAtomically(freeName(copyPath() + QStringLiteral(".damaged")), copy->json,
+                                     copyPath())) {
         // Where this fails the copy stays what it was: older, but good.
-        static_cast<void>(writeAtomically(copyPath(), *own, m_path));
+        static_cast<void>(writeAtomically(copyPath(), own->json, m_path));
     }
 }
 

@@ -987,6 +987,10 @@
         <translation>%1 arbeitet mit den Formaten in %2; schließen Sie es oder versuchen Sie es danach noch einmal</translation>
     </message>
     <message>
+        <source>%1 is no plain file; remove it</source>
+        <translation>%1 ist keine gewöhnliche Datei; löschen Sie es</translation>
+    </message>
+    <message>
         <source>waiting for %1, which is using the presets in %2</source>
         <translation>%1 arbeitet mit den Formaten in %2; es wird gewartet</translation>
     </message>
@@ -1036,6 +1040,10 @@
     <message>
         <source>%1 was missing; its last good copy, %2, is in its place</source>
         <translation>%1 fehlte; an ihrer Stelle steht jetzt die letzte gute Kopie, %2</translation>
+    </message>
+    <message>
+        <source>%1 was missing and its copy, %2, is damaged</source>
+        <translation>%1 fehlte und die Kopie, %2, ist beschädigt</translation>
     </message>
     <message>
         <source>%1 was empty; its last good copy, %2, is in its place</source>

@@ -987,6 +987,10 @@
         <translation>%1 está usando los formatos de %2; ciérralo o inténtalo cuando termine</translation>
     </message>
     <message>
+        <source>%1 is no plain file; remove it</source>
+        <translation>%1 no es un archivo normal; elimínalo</translation>
+    </message>
+    <message>
         <source>waiting for %1, which is using the presets in %2</source>
         <translation>esperando a %1, que está usando los formatos de %2</translation>
     </message>
@@ -1036,6 +1040,10 @@
     <message>
         <source>%1 was missing; its last good copy, %2, is in its place</source>
         <translation>faltaba %1; en su lugar está su última copia buena, %2</translation>
+    </message>
+    <message>
+        <source>%1 was missing and its copy, %2, is damaged</source>
+        <translation>faltaba %1 y su copia, %2, está dañada</translation>
     </message>
     <message>
         <source>%1 was empty; its last good copy, %2, is in its place</source>

@@ -987,6 +987,10 @@
         <translation>%1 utilise les formats de %2 ; fermez-le ou réessayez quand il aura fini</translation>
     </message>
     <message>
+        <source>%1 is no plain file; remove it</source>
+        <translation>%1 n’est pas un fichier ordinaire ; supprimez-le</translation>
+    </message>
+    <message>
         <source>waiting for %1, which is using the presets in %2</source>
         <translation>en attente de %1, qui utilise les formats de %2</translation>
     </message>
@@ -1036,6 +1040,10 @@
     <message>
         <source>%1 was missing; its last good copy, %2, is in its place</source>
         <translation>%1 manquait ; sa dernière bonne copie, %2, l’a remplacé</translation>
+    </message>
+    <message>
+        <source>%1 was missing and its copy, %2, is damaged</source>
+        <translation>%1 manquait et sa copie, %2, est endommagée</translation>
     </message>
     <message>
         <source>%1 was empty; its last good copy, %2, is in its place</source>

@@ -987,6 +987,10 @@
         <translation>%1 が %2 の設定を使っています。閉じるか、終わってからやり直してください</translation>
     </message>
     <message>
+        <source>%1 is no plain file; remove it</source>
+        <translation>%1 は通常のファイルではありません。削除してください</translation>
+    </message>
+    <message>
         <source>waiting for %1, which is using the presets in %2</source>
         <translation>%1 が %2 の設定を使い終わるのを待っています</translation>
     </message>
@@ -1036,6 +1040,10 @@
     <message>
         <source>%1 was missing; its last good copy, %2, is in its place</source>
         <translation>%1 がなかったため、最後の正常なコピー %2 に戻しました</translation>
+    </message>
+    <message>
+        <source>%1 was missing and its copy, %2, is damaged</source>
+        <translation>%1 がなく、コピー %2 も壊れています</translation>
     </message>
     <message>
         <source>%1 was empty; its last good copy, %2, is in its place</source>

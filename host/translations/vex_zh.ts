@@ -987,6 +987,10 @@
         <translation>%1 正在使用 %2 中的预设；请关闭它或在它结束后重试</translation>
     </message>
     <message>
+        <source>%1 is no plain file; remove it</source>
+        <translation>%1 不是普通文件；请删除它</translation>
+    </message>
+    <message>
         <source>waiting for %1, which is using the presets in %2</source>
         <translation>正在等待 %1，它正在使用 %2 中的预设</translation>
     </message>
@@ -1036,6 +1040,10 @@
     <message>
         <source>%1 was missing; its last good copy, %2, is in its place</source>
         <translation>缺少 %1；已恢复其最近的完好副本 %2</translation>
+    </message>
+    <message>
+        <source>%1 was missing and its copy, %2, is damaged</source>
+        <translation>缺少 %1，且其副本 %2 已损坏</translation>
     </message>
     <message>
         <source>%1 was empty; its last good copy, %2, is in its place</source>

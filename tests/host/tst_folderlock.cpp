@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void aHolderThatIsKilledHoldsNothing();
     void aWaitIsToldAndEndsWithTheHolder();
     void aFolderThatCannotBeIsSaid();
+    void whatIsNoPlainFileIsLeftAlone_data();
+    void whatIsNoPlainFileIsLeftAlone();
 
 private:
     QString folder() const { return m_temporary->filePath(QStringLiteral("config")); }
@@ -123,6 +126,37 @@ void TestFolderLock::aFolderThatCannotBeIsSaid()
     QCOMPARE(lock.lock(QStringLiteral("/dev/null/config"), 0).error().text,
              QStringLiteral("can't write into the configuration folder /dev/null/config (Not a "
                             "directory); name another one"));
+}
+
+void TestFolderLock::whatIsNoPlainFileIsLeftAlone_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("link to another file") << QStringLiteral("ln -s ../other vexconvert.lock");
+    QTest::newRow("link to nothing") << QStringLiteral("ln -s ../nothing vexconvert.lock");
+    QTest::newRow("pipe") << QStringLiteral("mkfifo vexconvert.lock");
+    QTest::newRow("folder") << QStringLiteral("mkdir vexconvert.lock");
+}
+
+void TestFolderLock::whatIsNoPlainFileIsLeftAlone()
+{
+    QFETCH(QString, command);
+    const QByteArray precious = "precious";
+    QFile other(m_temporary->filePath(QStringLiteral("other")));
+    QVERIFY(other.open(QIODevice::ReadWrite));
+    QCOMPARE(other.write(precious), qint64(precious.size()));
+    QVERIFY(other.seek(0));
+    QVERIFY(QDir().mkpath(folder()));
+    QProcess shell;
+    shell.setWorkingDirectory(folder());
+    shell.start(QStringLiteral("sh"), {QStringLiteral("-c"), command});
+    QVERIFY(shell.waitForFinished());
+    QCOMPARE(shell.exitCode(), 0);
+
+    FolderLock lock;
+    QCOMPARE(lock.lock(folder(), 0).error().text,
+             lockFile() + QStringLiteral(" is no plain file; remove it"));
+    QCOMPARE(other.readAll(), precious);
+    QVERIFY(!QFile::exists(m_temporary->filePath(QStringLiteral("nothing"))));
 }
 
 QTEST_GUILESS_MAIN(TestFolderLock)

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void withoutAGoodCopyItStaysAndIsSaid();
     void withoutAGoodCopyItIsPutAsideOnDemand();
     void whatWasPutAsideBeforeStays();
+    void aDamagedCopyOfAMissingFileIsSaidAndKept();
     void goodAndMissingFilesNeedNothing();
     void aFolderInItsPlaceIsRefused();
 
@@ -159,6 +160,21 @@ void TestUserFile::whatWasPutAsideBeforeStays()
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("[1"));
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged-2"))), QByteArray("[2"));
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged-3"))), QByteArray("[3"));
+}
+
+void TestUserFile::aDamagedCopyOfAMissingFileIsSaidAndKept()
+{
+    const UserFile file(m_path);
+    make(file.copyPath(), "[");
+    QCOMPARE(file.recover(UserFile::StaysInPlace).error().text,
+             file.copyPath() + QStringLiteral(" is damaged and there is no good copy of it; fix "
+                                              "it, or move it away to start anew"));
+    QCOMPARE(file.recover(UserFile::IsPutAside).value(),
+             m_path + QStringLiteral(" was missing and its copy, "
+                                     "formatCache.json.bak, is damaged"));
+    QVERIFY(file.replace(good));
+    QCOMPARE(contentOf(file.copyPath()), good);
+    QCOMPARE(contentOf(aside(QStringLiteral(".bak.damaged"))), QByteArray("["));
 }
 
 void TestUserFile::goodAndMissingFilesNeedNothing()
