@@ -1,19 +1,18 @@
 #include "formats/models/formatdetailmodel.h"
 
-#include "formats/models/presetfields.h"
+#include "formats/models/keyindex_p.h"
+#include "formats/models/presetfields_p.h"
 
 #include <algorithm>
 #include <memory>
 #include <numeric>
-
-static_assert(FormatDetailModel::ExtensionRole == PresetFields::firstRole);
-static_assert(FormatDetailModel::ParamRole == PresetFields::lastRole);
 
 int FormatDetailModel::s_userDefineId = 1000;
 int FormatDetailModel::s_idForTest = 1001;
 
 FormatDetailModel::FormatDetailModel(QObject *parent)
     : QAbstractListModel(parent)
+    , m_rowsById(new KeyIndex<FormatDetailModelData *>)
 {}
 
 FormatDetailModel::~FormatDetailModel()
@@ -69,12 +68,12 @@ void FormatDetailModel::setCount(int count)
 
 bool FormatDetailModel::containId(const QString &id) const
 {
-    return m_rowsById.contains(id);
+    return m_rowsById->contains(id);
 }
 
 int FormatDetailModel::findModelInfoIndex(const QString &id) const
 {
-    return m_rows.indexOf(m_rowsById.first(id));
+    return m_rows.indexOf(m_rowsById->first(id));
 }
 
 int FormatDetailModel::getIdIndex() const
@@ -134,7 +133,7 @@ bool FormatDetailModel::updateModeInfo(int index, const FormatDetailModelData &d
     if (row->id != oldId) {
         forgetId(oldId, row);
         learnId(row, false);
-        m_rowsById.sort(row->id, m_rows);
+        m_rowsById->sort(row->id, m_rows);
     }
 
     QVector<int> roles(PresetFields::lastRole - PresetFields::firstRole + 1);
@@ -180,7 +179,7 @@ bool FormatDetailModel::getModelInfoById(const QString &id, FormatDetailModelDat
 
 bool FormatDetailModel::setRoleValue(InvitationRoles role, const QString &id, const QVariant &value)
 {
-    FormatDetailModelData *row = m_rowsById.first(id);
+    FormatDetailModelData *row = m_rowsById->first(id);
     if (!row) {
         return false;
     }
@@ -221,7 +220,7 @@ QVariantList FormatDetailModel::toVariantListForTest() const
 
 const FormatDetailModelData *FormatDetailModel::find(const QString &id) const
 {
-    return m_rowsById.first(id);
+    return m_rowsById->first(id);
 }
 
 bool FormatDetailModel::hasRow(int index) const
@@ -244,7 +243,8 @@ void FormatDetailModel::insertData(int index, FormatDetailModelData &&data)
 
 void FormatDetailModel::learnId(FormatDetailModelData *row, bool atHead)
 {
-    const bool isNew = atHead ? m_rowsById.prepend(row->id, row) : m_rowsById.append(row->id, row);
+    const bool isNew =
+        atHead ? m_rowsById->prepend(row->id, row) : m_rowsById->append(row->id, row);
     if (isNew && m_titlesById) {
         m_titlesById->append(row->id, m_title);
     }
@@ -252,7 +252,7 @@ void FormatDetailModel::learnId(FormatDetailModelData *row, bool atHead)
 
 void FormatDetailModel::forgetId(const QString &id, FormatDetailModelData *row)
 {
-    const bool isGone = m_rowsById.remove(id, row);
+    const bool isGone = m_rowsById->remove(id, row);
     if (isGone && m_titlesById) {
         m_titlesById->remove(id, m_title);
     }
@@ -283,7 +283,7 @@ void FormatDetailModel::joinCatalogue(KeyIndex<QString> &titlesById, const QStri
 
 void FormatDetailModel::leaveCatalogue()
 {
-    for (const FormatDetailModelData *row : m_rows) {
+    for (const FormatDetailModelData *row : qAsConst(m_rows)) {
         m_titlesById->remove(row->id, m_title);
     }
     m_titlesById = nullptr;

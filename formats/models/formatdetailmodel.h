@@ -3,10 +3,13 @@
 
 #include "formats/formatsglobal.h"
 #include "formats/models/formatdetailmodeldata.h"
-#include "formats/models/keyindex.h"
 
 #include <QAbstractListModel>
 #include <QQueue>
+#include <QScopedPointer>
+
+template <typename Value>
+class KeyIndex;
 
 /*!
  * A list of output presets: those of one format, or the recently used ones.
@@ -61,20 +64,20 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     /*! The row's id; empty when there is no such row. */
-    Q_INVOKABLE QString getId(int index) const;
-    Q_INVOKABLE bool isExist(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE QString getId(int index) const;
+    [[nodiscard]] Q_INVOKABLE bool isExist(const QString &id) const;
 
     /*! The number last stored by a change of rows or by setCount(). */
-    int count() const;
+    [[nodiscard]] int count() const;
     /*! Stores \a count and emits countChanged(), also for an unchanged value. */
     void setCount(int count);
 
-    bool containId(const QString &id) const;
+    [[nodiscard]] bool containId(const QString &id) const;
     /*! The first row with this id; -1 when there is none. */
-    int findModelInfoIndex(const QString &id) const;
+    [[nodiscard]] int findModelInfoIndex(const QString &id) const;
     /*! The highest number that a user-defined preset of any list has had as its id so far. */
-    int getIdIndex() const;
-    int userDefineCount() const;
+    [[nodiscard]] int getIdIndex() const;
+    [[nodiscard]] int userDefineCount() const;
 
     /*! Appends a copy; a user-defined preset with a higher numeric id raises getIdIndex(). */
     bool addModeInfo(const FormatDetailModelData &data);
@@ -96,14 +99,14 @@ public:
     /*! Writes the extension, the only writable role; true whenever the id is known. */
     bool setRoleValue(InvitationRoles role, const QString &id, const QVariant &value);
     /*! The extension, the only role that can be read by id; else an invalid variant. */
-    QVariant getRoleValue(InvitationRoles role, const QString &id) const;
+    [[nodiscard]] QVariant getRoleValue(InvitationRoles role, const QString &id) const;
 
     /*! toVarMap() of each user-defined preset. */
-    QVariantList toVariantList() const;
+    [[nodiscard]] QVariantList toVariantList() const;
     /*! toVarMapForSave() of each user-defined preset. */
-    QVariantList toVariantListForSave() const;
+    [[nodiscard]] QVariantList toVariantListForSave() const;
     /*! toVarMap() of every preset, its id taken from s_idForTest, which counts on. */
-    QVariantList toVariantListForTest() const;
+    [[nodiscard]] QVariantList toVariantListForTest() const;
 
     static int s_userDefineId;
     static int s_idForTest;
@@ -112,11 +115,11 @@ Q_SIGNALS:
     void countChanged(int count);
 
 private:
-    friend class FormatListModel;
     friend class FormatsProxyPrivate;
+    friend class PresetLists;
 
     // The first row with this id, valid until the rows change; null when there is none.
-    const FormatDetailModelData *find(const QString &id) const;
+    [[nodiscard]] const FormatDetailModelData *find(const QString &id) const;
 
     bool hasRow(int index) const;
     void insertData(int index, FormatDetailModelData &&data);
@@ -125,13 +128,13 @@ private:
     void updateCount();
     QVariantList userDefined(QVariantMap (FormatDetailModelData::*toMap)() const) const;
 
-    // Between the two, the catalogue's index knows every id of this list (new when it joins).
+    // From joining, while still empty, to leaving, the catalogue's index has every id of this list.
     void joinCatalogue(KeyIndex<QString> &titlesById, const QString &title);
     void leaveCatalogue();
 
     QQueue<FormatDetailModelData *> m_rows;
     int m_count = 0;
-    KeyIndex<FormatDetailModelData *> m_rowsById;
+    const QScopedPointer<KeyIndex<FormatDetailModelData *>> m_rowsById;
     KeyIndex<QString> *m_titlesById = nullptr; // of the catalogue that this list stands in
     QString m_title;                           // this list's format there
 };

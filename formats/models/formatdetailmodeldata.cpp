@@ -1,6 +1,6 @@
 #include "formats/models/formatdetailmodeldata.h"
 
-#include "formats/models/presetfields.h"
+#include "formats/models/presetfields_p.h"
 
 using PresetFields::Block;
 

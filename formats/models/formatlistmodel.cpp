@@ -1,5 +1,8 @@
 #include "formats/models/formatlistmodel.h"
 
+#include "formats/models/keyindex_p.h"
+#include "formats/models/presetlists_p.h"
+
 #include <algorithm>
 #include <memory>
 
@@ -17,7 +20,6 @@ constexpr Field fields[] = {
     {FormatListModel::IconRole, "icon", &FormatListModelData::icon},
     {FormatListModel::TagRole, "tag", &FormatListModelData::tag},
 };
-static_assert(FormatListModel::TitleRole == 257 && FormatListModel::TagRole == 259);
 
 const Field *fieldOfRole(int role)
 {
@@ -26,10 +28,23 @@ const Field *fieldOfRole(int role)
     return field == std::end(fields) ? nullptr : field;
 }
 
+QStringList titlesTagged(const QList<FormatListModelData *> &rows, const QStringList &tags)
+{
+    QStringList titles;
+    for (const FormatListModelData *row : rows) {
+        if (tags.contains(row->tag)) {
+            titles.append(row->title);
+        }
+    }
+    return titles;
+}
+
 } // namespace
 
 FormatListModel::FormatListModel(QObject *parent)
     : QAbstractListModel(parent)
+    , m_rowsByTitle(new KeyIndex<FormatListModelData *>)
+    , m_presetLists(new PresetLists(this))
 {}
 
 FormatListModel::~FormatListModel()
@@ -62,7 +77,7 @@ QHash<int, QByteArray> FormatListModel::roleNames() const
 
 FormatDetailModel *FormatListModel::formatDetailModel(const QString &name) const
 {
-    return m_detailModels.value(name);
+    return m_presetLists->find(name);
 }
 
 QString FormatListModel::getTitle(int index) const
@@ -72,7 +87,7 @@ QString FormatListModel::getTitle(int index) const
 
 bool FormatListModel::isExist(const QString &title) const
 {
-    return m_rowsByTitle.contains(title);
+    return m_rowsByTitle->contains(title);
 }
 
 int FormatListModel::count() const
@@ -88,17 +103,17 @@ void FormatListModel::setCount(int count)
 
 int FormatListModel::findModelInfoIndex(const QString &title) const
 {
-    return m_rows.indexOf(m_rowsByTitle.first(title));
+    return m_rows.indexOf(m_rowsByTitle->first(title));
 }
 
 bool FormatListModel::containId(const QString &id) const
 {
-    return m_titlesById.contains(id);
+    return m_presetLists->containId(id);
 }
 
 QString FormatListModel::getGetClass(const QString &id) const
 {
-    const QList<QString> titles = m_titlesById.all(id);
+    const QList<QString> titles = m_presetLists->titlesOfId(id);
     return titles.isEmpty() ? QString() : *std::min_element(titles.cbegin(), titles.cend());
 }
 
@@ -133,7 +148,7 @@ bool FormatListModel::delModeInfo(int index)
     }
     beginRemoveRows(QModelIndex(), index, index);
     const std::unique_ptr<FormatListModelData> row(m_rows.takeAt(index));
-    m_rowsByTitle.remove(row->title, row.get());
+    m_rowsByTitle->remove(row->title, row.get());
     delDetailModel(row->title);
     endRemoveRows();
     updateCount();
@@ -147,21 +162,12 @@ bool FormatListModel::delModelInfoByKey(const QString &title)
 
 bool FormatListModel::delDetailModel(const QString &title)
 {
-    const auto presets = m_detailModels.find(title);
-    if (presets == m_detailModels.end()) {
-        return false;
-    }
-    release(*presets);
-    m_detailModels.erase(presets);
-    return true;
+    return m_presetLists->remove(title);
 }
 
 void FormatListModel::clearDetailModel()
 {
-    for (FormatDetailModel *presets : qAsConst(m_detailModels)) {
-        release(presets);
-    }
-    m_detailModels.clear();
+    m_presetLists->clear();
 }
 
 void FormatListModel::clearModeInfo()
@@ -210,7 +216,7 @@ bool FormatListModel::getModelInfoByTitle(const QString &title, FormatListModelD
 bool FormatListModel::setRoleValue(InvitationRoles role, const QString &title,
                                    const QVariant &value)
 {
-    FormatListModelData *row = m_rowsByTitle.first(title);
+    FormatListModelData *row = m_rowsByTitle->first(title);
     if (!row) {
         return false;
     }
@@ -248,24 +254,12 @@ QVariantList FormatListModel::toVariantListTest()
 
 QStringList FormatListModel::formatList() const
 {
-    QStringList titles;
-    for (const FormatListModelData *row : m_rows) {
-        if (row->tag == QLatin1String("video") || row->tag == QLatin1String("audio")) {
-            titles.append(row->title);
-        }
-    }
-    return titles;
+    return titlesTagged(m_rows, {QStringLiteral("video"), QStringLiteral("audio")});
 }
 
 QStringList FormatListModel::getFormatList(const QString &tag) const
 {
-    QStringList titles;
-    for (const FormatListModelData *row : m_rows) {
-        if (row->tag == tag) {
-            titles.append(row->title);
-        }
-    }
-    return titles;
+    return titlesTagged(m_rows, {tag});
 }
 
 bool FormatListModel::isVideoType(const QString &type) const
@@ -277,7 +271,7 @@ void FormatListModel::moveDrag(int from, int to)
 {
     if (from != to && hasRow(from) && hasRow(to)) {
         m_rows.move(from, to);
-        m_rowsByTitle.sort(m_rows.at(to)->title, m_rows);
+        m_rowsByTitle->sort(m_rows.at(to)->title, m_rows);
     }
 }
 
@@ -288,18 +282,11 @@ bool FormatListModel::hasRow(int index) const
 
 void FormatListModel::insertCopy(int index, const FormatListModelData &data)
 {
-    const bool atHead = index == 0;
     beginInsertRows(QModelIndex(), index, index);
     auto *row = new FormatListModelData(data);
     m_rows.insert(index, row);
-    atHead ? m_rowsByTitle.prepend(row->title, row) : m_rowsByTitle.append(row->title, row);
-
-    FormatDetailModel *&presets = m_detailModels[row->title];
-    if (presets) {
-        presets->leaveCatalogue();
-    }
-    presets = new FormatDetailModel(this);
-    presets->joinCatalogue(m_titlesById, row->title);
+    index == 0 ? m_rowsByTitle->prepend(row->title, row) : m_rowsByTitle->append(row->title, row);
+    m_presetLists->add(row->title);
     endInsertRows();
     updateCount();
 }
@@ -311,26 +298,18 @@ void FormatListModel::updateCount()
 
 void FormatListModel::rename(FormatListModelData *row, const QString &title)
 {
-    m_rowsByTitle.remove(row->title, row);
+    m_rowsByTitle->remove(row->title, row);
     row->title = title;
-    m_rowsByTitle.append(row->title, row);
-    m_rowsByTitle.sort(row->title, m_rows);
-}
-
-void FormatListModel::release(FormatDetailModel *presets)
-{
-    if (presets) {
-        presets->leaveCatalogue();
-        presets->deleteLater();
-    }
+    m_rowsByTitle->append(row->title, row);
+    m_rowsByTitle->sort(row->title, m_rows);
 }
 
 const FormatListModelData *FormatListModel::firstRowWithPreset(const QString &id) const
 {
     FormatListModelData *first = nullptr;
-    const QList<QString> titles = m_titlesById.all(id);
+    const QList<QString> titles = m_presetLists->titlesOfId(id);
     for (const QString &title : titles) {
-        FormatListModelData *row = m_rowsByTitle.first(title);
+        FormatListModelData *row = m_rowsByTitle->first(title);
         if (row && (!first || m_rows.indexOf(row) < m_rows.indexOf(first))) {
             first = row;
         }
@@ -342,7 +321,7 @@ QVariantList FormatListModel::nested(QVariantList (FormatDetailModel::*toList)()
 {
     QVariantList list;
     for (const FormatListModelData *row : qAsConst(m_rows)) {
-        const FormatDetailModel *presets = m_detailModels[row->title];
+        const FormatDetailModel *presets = m_presetLists->findOrEnter(row->title);
         const QVariantList group = presets ? (presets->*toList)() : QVariantList();
         if (!group.isEmpty()) {
             QVariantMap format = row->toVarMap();

@@ -4,11 +4,14 @@
 #include "formats/formatsglobal.h"
 #include "formats/models/formatdetailmodel.h"
 #include "formats/models/formatlistmodeldata.h"
-#include "formats/models/keyindex.h"
 
 #include <QAbstractListModel>
-#include <QMap>
 #include <QQueue>
+#include <QScopedPointer>
+
+class PresetLists;
+template <typename Value>
+class KeyIndex;
 
 /*!
  * The output formats in catalogue order, and beside them the presets of each, by format title.
@@ -41,25 +44,25 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     /*! The presets stored under this title; null when there are none. */
-    Q_INVOKABLE FormatDetailModel *formatDetailModel(const QString &name) const;
-    Q_INVOKABLE QString getTitle(int index) const;
-    Q_INVOKABLE bool isExist(const QString &title) const;
+    [[nodiscard]] Q_INVOKABLE FormatDetailModel *formatDetailModel(const QString &name) const;
+    [[nodiscard]] Q_INVOKABLE QString getTitle(int index) const;
+    [[nodiscard]] Q_INVOKABLE bool isExist(const QString &title) const;
 
     /*! The number last stored by a change of rows or by setCount(). */
-    int count() const;
+    [[nodiscard]] int count() const;
     /*! Stores \a count and emits countChanged(), also for an unchanged value. */
     void setCount(int count);
 
     /*! The first row with this title; -1 when there is none. */
-    int findModelInfoIndex(const QString &title) const;
+    [[nodiscard]] int findModelInfoIndex(const QString &title) const;
     /*! Whether any preset list has this preset id. */
-    bool containId(const QString &id) const;
+    [[nodiscard]] bool containId(const QString &id) const;
     /*! The title, first in alphabetical order, whose presets have this id. */
-    QString getGetClass(const QString &id) const;
+    [[nodiscard]] QString getGetClass(const QString &id) const;
     /*! The tag of the first row whose presets have this id. */
-    QString getTagName(const QString &id) const;
+    [[nodiscard]] QString getTagName(const QString &id) const;
     /*! The icon of the first row whose presets have this id. */
-    QString getIcon(const QString &id) const;
+    [[nodiscard]] QString getIcon(const QString &id) const;
 
     /*!
      * Appends a format with an empty preset list. Where the title is already there, the new list
@@ -85,21 +88,22 @@ public:
 
     /*! Writes one text of the first row with this title; true whenever the title is known. */
     bool setRoleValue(InvitationRoles role, const QString &title, const QVariant &value);
-    QVariant getRoleValue(InvitationRoles role, const QString &title) const;
+    [[nodiscard]] QVariant getRoleValue(InvitationRoles role, const QString &title) const;
 
     /*!
-     * One map a format that has something to list: its "title", "icon" and "tag", and as "group"
-     * the list that its presets give. These enter a null preset list under a title without one.
+     * One map for each format that has something to list: its "title", "icon" and "tag", and as
+     * "group" the list that its presets give. A title without presets counts as known from then
+     * on: delDetailModel() is true for it, once.
      */
     QVariantList toVariantList();
     QVariantList toVariantListForSave();
     QVariantList toVariantListTest();
 
     /*! The titles tagged "video" or "audio". */
-    QStringList formatList() const;
-    QStringList getFormatList(const QString &tag) const;
+    [[nodiscard]] QStringList formatList() const;
+    [[nodiscard]] QStringList getFormatList(const QString &tag) const;
     /*! Whether \a type in upper case is the title of a format tagged "video". */
-    bool isVideoType(const QString &type) const;
+    [[nodiscard]] bool isVideoType(const QString &type) const;
 
     /*! Moves a row; views are not told. */
     void moveDrag(int from, int to);
@@ -112,15 +116,13 @@ private:
     void insertCopy(int index, const FormatListModelData &data);
     void updateCount();
     void rename(FormatListModelData *row, const QString &title);
-    void release(FormatDetailModel *presets);
     const FormatListModelData *firstRowWithPreset(const QString &id) const;
     QVariantList nested(QVariantList (FormatDetailModel::*toList)() const);
 
     QList<FormatListModelData *> m_rows;
-    QMap<QString, FormatDetailModel *> m_detailModels;
     int m_count = 0;
-    KeyIndex<FormatListModelData *> m_rowsByTitle;
-    KeyIndex<QString> m_titlesById; // kept by the preset lists in m_detailModels
+    const QScopedPointer<KeyIndex<FormatListModelData *>> m_rowsByTitle;
+    const QScopedPointer<PresetLists> m_presetLists;
 };
 
 #endif

@@ -22,19 +22,19 @@ class VEX_FORMATS_EXPORT FormatListModelProxy : public QSortFilterProxyModel
 public:
     explicit FormatListModelProxy(QObject *parent = nullptr);
 
-    QString filterKey() const;
-    /*! A new key is announced, then the rows are filtered anew; an equal one does nothing. */
+    [[nodiscard]] QString filterKey() const;
+    /*! A new key is announced, then the rows are filtered again; an equal one does nothing. */
     void setFilterKey(const QString &key);
-    QString searchKey() const;
+    [[nodiscard]] QString searchKey() const;
     /*! As setFilterKey(). */
     void setSearchKey(const QString &key);
 
     /*! The number of rows shown. */
-    Q_INVOKABLE int count() const;
+    [[nodiscard]] Q_INVOKABLE int count() const;
     /*! Whether a shown row has this title, in whatever case. */
-    Q_INVOKABLE bool isInProxyModel(const QString &title) const;
+    [[nodiscard]] Q_INVOKABLE bool isInProxyModel(const QString &title) const;
     /*! The title of a shown row; empty when there is no such row. */
-    Q_INVOKABLE QString getTitle(int itemIndex) const;
+    [[nodiscard]] Q_INVOKABLE QString getTitle(int itemIndex) const;
     /*! The order is the catalogue's: does nothing. */
     Q_INVOKABLE void setSort(const QString &roles, bool isUp);
     /*! The order is the catalogue's: does nothing. */

@@ -1,4 +1,4 @@
-#include "formats/models/presetfields.h"
+#include "formats/models/presetfields_p.h"
 
 #include <algorithm>
 
@@ -50,12 +50,12 @@ const QString &key(const Field &field)
     return keys[std::size_t(&field - all.data())];
 }
 
-QVariant read(const FormatDetailModelData &preset, const Member &member)
+QVariant read(const Preset &preset, const Member &member)
 {
     return std::visit([&preset](auto field) { return QVariant(preset.*field); }, member);
 }
 
-void write(FormatDetailModelData &preset, const Member &member, const QVariant &value)
+void write(Preset &preset, const Member &member, const QVariant &value)
 {
     std::visit([&](auto field) { assign(preset.*field, value); }, member);
 }

@@ -1,4 +1,4 @@
-#include "formats/parsers/catalogue.h"
+#include "formats/parsers/catalogue_p.h"
 
 #include "formats/models/formatlistmodel.h"
 
@@ -17,7 +17,7 @@ struct Setting
     List offered;
 };
 
-// Without the copy of a variant that QVariantMap::value() makes.
+// Like QVariantMap::value(), but without copying the variant.
 const QVariant &valueOf(const QVariantMap &map, const QString &key)
 {
     static const QVariant none;

@@ -16,7 +16,10 @@ class QString;
  */
 class VEX_FORMATS_EXPORT IFormatsParser
 {
+    Q_DISABLE_COPY(IFormatsParser)
+
 public:
+    IFormatsParser() = default;
     virtual ~IFormatsParser() = default;
 
     /*! A preset file: a list of formats, each with its presets. */

@@ -1,8 +1,8 @@
 #include "formats/parsers/noformatidparser.h"
 
 #include "formats/models/formatlistmodel.h"
-#include "formats/parsers/catalogue.h"
-#include "formats/parsers/presetfile.h"
+#include "formats/parsers/catalogue_p.h"
+#include "formats/parsers/presetfile_p.h"
 
 #include <QDebug>
 
@@ -84,8 +84,8 @@ void unpackAudioBitrates(FormatDetailModelData &preset, const QVariantMap &audio
     }
 }
 
-// A lossless entry packs "bitrate:offered" and is one preset; a lossy one packs
-// "high:mid:low:offered,offered" and is three.
+// A lossless entry packs "bitrate:offered" and becomes one preset; a lossy one packs
+// "high:mid:low:offered,offered" and becomes three.
 void addAudioPresets(FormatDetailModel &presets, FormatDetailModelData preset,
                      const QString &packedBitrates)
 {

@@ -11,6 +11,7 @@
  */
 class VEX_FORMATS_EXPORT NoFormatIdParser : public QObject, public IFormatsParser
 {
+    // No Q_OBJECT: it has nothing to offer to a meta-object.
     Q_DISABLE_COPY(NoFormatIdParser)
 
 public:
@@ -18,7 +19,7 @@ public:
 
     /*! Adds a format row for every object, also for a title that is already there. */
     bool parseVideo(const QString &path, FormatListModel *model, bool flag) override;
-    /*! One preset an entry that is lossless, else three: "high", "mid" and "low". */
+    /*! A lossless entry gives one preset, any other three: "high", "mid" and "low". */
     bool parseAudio(const QString &path, FormatListModel *model, bool flag) override;
     bool parseDevice(const QString &path, FormatListModel *model, bool flag) override;
     /*! Such data has no recently-used file: true, and nothing is read. */

@@ -1,4 +1,4 @@
-#include "formats/parsers/presetfile.h"
+#include "formats/parsers/presetfile_p.h"
 
 #include "formats/models/formatlistmodel.h"
 

@@ -1,8 +1,8 @@
 #include "formats/parsers/widthformatidparser.h"
 
 #include "formats/models/formatlistmodel.h"
-#include "formats/parsers/catalogue.h"
-#include "formats/parsers/presetfile.h"
+#include "formats/parsers/catalogue_p.h"
+#include "formats/parsers/presetfile_p.h"
 
 #include <optional>
 

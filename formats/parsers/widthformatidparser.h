@@ -8,6 +8,7 @@
 /*! Reads the data in use, whose presets carry an id. Keeps no state between calls. */
 class VEX_FORMATS_EXPORT WidthFormatIdParser : public QObject, public IFormatsParser
 {
+    // No Q_OBJECT: it has nothing to offer to a meta-object.
     Q_DISABLE_COPY(WidthFormatIdParser)
 
 public:

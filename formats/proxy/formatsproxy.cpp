@@ -1,6 +1,6 @@
 #include "formats/proxy/formatsproxy.h"
 
-#include "formats/models/presetfields.h"
+#include "formats/models/presetfields_p.h"
 #include "formats/parsers/widthformatidparser.h"
 #include "formats/proxy/formatsproxyprivate.h"
 

@@ -1,4 +1,4 @@
-#include "formats/models/keyindex.h"
+#include "formats/models/keyindex_p.h"
 
 #include <QtTest>
 

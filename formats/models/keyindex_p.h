@@ -1,5 +1,5 @@
-#ifndef FORMATS_MODELS_KEYINDEX_H
-#define FORMATS_MODELS_KEYINDEX_H
+#ifndef FORMATS_MODELS_KEYINDEX_P_H
+#define FORMATS_MODELS_KEYINDEX_P_H
 
 #include <QHash>
 #include <QList>
@@ -19,7 +19,7 @@ class KeyIndex
 public:
     [[nodiscard]] bool contains(const QString &key) const { return m_values.contains(key); }
 
-    /*! The first value of the key; a default-made one (null) when the key has none. */
+    /*! The first value of the key; a default-constructed one (null) when the key has none. */
     [[nodiscard]] Value first(const QString &key) const { return m_values.value(key).first; }
 
     /*! Every value of the key, in order; empty when the key has none. */

@@ -1,7 +1,7 @@
-#ifndef FORMATS_PARSERS_PRESETFILE_H
-#define FORMATS_PARSERS_PRESETFILE_H
+#ifndef FORMATS_PARSERS_PRESETFILE_P_H
+#define FORMATS_PARSERS_PRESETFILE_P_H
 
-#include "formats/models/presetfields.h"
+#include "formats/models/presetfields_p.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -18,17 +18,17 @@ namespace PresetFile {
  * The file's top-level array. Empty when there is none to read, after a debug line that begins
  * with \a operation and says why; \a openFailure words a failed open.
  */
-QJsonArray read(const char *operation, const char *openFailure, const QString &path);
+[[nodiscard]] QJsonArray read(const char *operation, const char *openFailure, const QString &path);
 
 /*! Adds the format with the object's "title", "icon" and "tag" and returns its presets. */
-FormatDetailModel &addFormat(FormatListModel &model, const QJsonObject &format);
+[[nodiscard]] FormatDetailModel &addFormat(FormatListModel &model, const QJsonObject &format);
 
 /*! The presets under the object's "title"; a format is added only where the title is unknown. */
-FormatDetailModel &findOrAddFormat(FormatListModel &model, const QJsonObject &format);
+[[nodiscard]] FormatDetailModel &findOrAddFormat(FormatListModel &model, const QJsonObject &format);
 
 /*!
  * Calls \a addPreset with each entry of each format's "group" and with the presets that
- * \a presetsOf gives for the format. What is no object counts as an empty one. Option lists that
+ * \a presetsOf gives for the format. An element that is no object counts as an empty one. Option lists that
  * are equal are one shared list.
  */
 void importFormats(const QJsonArray &formats, FormatListModel &model,
@@ -44,7 +44,7 @@ void readMembers(FormatDetailModelData &preset, const QVariantMap &object,
                  std::initializer_list<PresetFields::Member> members);
 
 /*! \a text split at every \a separator, empty parts kept. */
-QVariantList split(const QString &text, QChar separator);
+[[nodiscard]] QVariantList split(const QString &text, QChar separator);
 
 } // namespace PresetFile
 
