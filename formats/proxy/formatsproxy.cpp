@@ -1,8 +1,9 @@
 #include "formats/proxy/formatsproxy.h"
 
-#include "formats/models/presetfields_p.h"
 #include "formats/parsers/widthformatidparser.h"
 #include "formats/proxy/formatsproxyprivate.h"
+#include "formats/proxy/presetfitting_p.h"
+#include "formats/proxy/userpresets_p.h"
 
 #include <formatcodecapi.h>
 
@@ -10,97 +11,16 @@
 #include <QtQml>
 
 #include <algorithm>
-#include <limits>
+#include <optional>
 
 namespace {
 
 const QLatin1String recentlyFile("recently.json");
 const QLatin1String userPresetsFile("formatCache.json");
 
-// The values that the user may change, each under its role name.
-void applyUserValues(FormatDetailModelData &preset, const QVariantMap &param)
+QVariantMap toVarMap(const std::optional<FormatDetailModelData> &preset)
 {
-    using Preset = FormatDetailModelData;
-    constexpr PresetFields::Text members[] = {
-        &Preset::title,
-        &Preset::videoEncoder,
-        &Preset::videoFrameRate,
-        &Preset::videoResolution,
-        &Preset::videoBitrateLow,
-        &Preset::videoBitrateMid,
-        &Preset::videoBitrateHigh,
-        &Preset::audioEncoder,
-        &Preset::audioSampleRate,
-        &Preset::audioChannel,
-        &Preset::audioBitrate,
-    };
-    for (const PresetFields::Text member : members) {
-        const char *name = PresetFields::of(member).roleName;
-        preset.*member = param.value(QLatin1String(name)).toString();
-    }
-}
-
-// The same values as the converter wants them.
-void applyConverterSettings(QVariantMap &outPutNode, const QVariantMap &param)
-{
-    const auto text = [&param](const QString &key) { return param.value(key).toString(); };
-    const auto number = [&param](const QString &key) { return param.value(key).toInt(); };
-
-    const QString videoParam = QStringLiteral("videoParam");
-    QVariantMap video = outPutNode.value(videoParam).toMap();
-    video.insert(QStringLiteral("bitrateKbps"), number(QStringLiteral("videoBitrateMid")));
-    video.insert(QStringLiteral("encoder"), text(QStringLiteral("videoEncoder")));
-    video.insert(QStringLiteral("frameRate"), text(QStringLiteral("videoFrameRate")));
-    video.insert(QStringLiteral("resolution"), text(QStringLiteral("videoResolution")));
-    outPutNode.insert(videoParam, video);
-    outPutNode.insert(QStringLiteral("audioParam"),
-                      QVariantMap{
-                          {QStringLiteral("bitrateKbps"), number(QStringLiteral("audioBitrate"))},
-                          {QStringLiteral("channel"), text(QStringLiteral("audioChannel"))},
-                          {QStringLiteral("encoder"), text(QStringLiteral("audioEncoder"))},
-                          {QStringLiteral("sampleRate"), number(QStringLiteral("audioSampleRate"))},
-                      });
-}
-
-QString withLastPart(const QString &catalogueId, const QString &lastPart)
-{
-    const QStringList parts = catalogueId.split(QLatin1Char('_'));
-    return QStringLiteral("%1_%2_%3").arg(parts.value(0), parts.value(1), lastPart);
-}
-
-// Width times height of a text such as "1920x1080"; a missing side counts as 0.
-qint64 area(const QString &resolution)
-{
-    const QStringList sides = resolution.split(QLatin1Char('x'));
-    return qint64(sides.value(0).toInt()) * sides.value(1).toInt();
-}
-
-// Of all presets offered the one with the smallest distance, the last one on a tie.
-class ClosestPreset
-{
-public:
-    void offer(qint64 distance, const FormatDetailModelData &preset)
-    {
-        const auto rank = int(qBound<qint64>(std::numeric_limits<int>::min(), distance,
-                                             std::numeric_limits<int>::max()));
-        if (!m_found || rank <= m_rank) {
-            m_found = true;
-            m_rank = rank;
-            m_preset = preset;
-        }
-    }
-
-    QVariantMap toVarMap() const { return m_found ? m_preset.toVarMap() : QVariantMap(); }
-
-private:
-    bool m_found = false;
-    int m_rank = 0;
-    FormatDetailModelData m_preset;
-};
-
-qint64 distance(qint64 a, qint64 b)
-{
-    return qAbs(a - b);
+    return preset ? preset->toVarMap() : QVariantMap();
 }
 
 } // namespace
@@ -135,7 +55,7 @@ void FormatsProxy::init(const QString &dir)
     for (const QVariant &category : categories) {
         d->parser->parseVideoNew(category.toString(), d->formatListModel);
     }
-    // Without a folder the path is the separator and the name: looked for all the same.
+    // Also without a folder: the path is then the separator and the file's name.
     d->parser->parseVideo(d->configPath(userPresetsFile), d->formatListModel, true);
 }
 
@@ -197,7 +117,7 @@ bool FormatsProxy::add2Recently(const QString &tagName, const QString &className
         return true;
     }
     FormatDetailModelData preset = *source;
-    // Only user-defined presets are saved, and the recently-used ones are to be.
+    // Only user-defined presets are saved, and the recently-used ones must be.
     preset.userDefine = true;
     const bool moved = recently->delModelInfoByKey(preset.id);
     if (!moved && recently->rowCount() >= d->maxRecentlyCount) {
@@ -220,13 +140,8 @@ QString FormatsProxy::addUserDefineFormat(const QString & /*tagName*/, const QSt
     if (!presets || !presets->getModelInfoById(id, preset)) {
         return QString();
     }
-    preset.id = QString::number(presets->getIdIndex() + 1);
-    preset.userDefine = true;
-    applyUserValues(preset, param);
-    applyConverterSettings(preset.outPutNode, param);
-    const QString idKey = QStringLiteral("id");
-    preset.outPutNode.insert(idKey,
-                             withLastPart(preset.outPutNode.value(idKey).toString(), preset.id));
+    UserPresets::applyValues(preset, param);
+    UserPresets::applyId(preset, QString::number(presets->getIdIndex() + 1));
     presets->addModeInfo(preset);
     return preset.id;
 }
@@ -242,8 +157,7 @@ bool FormatsProxy::changeUserDefineFormat(const QString &className, const QStrin
     if (!presets->getModelInfoById(id, preset)) {
         return false;
     }
-    applyUserValues(preset, param);
-    applyConverterSettings(preset.outPutNode, param);
+    UserPresets::applyValues(preset, param);
     presets->updateModeInfo(presets->findModelInfoIndex(id), preset);
     return true;
 }
@@ -292,8 +206,7 @@ bool FormatsProxy::isSupportMultiTrack(const QString &id) const
 {
     static const QStringList multiTrackClasses{QStringLiteral("MP4"), QStringLiteral("MOV"),
                                                QStringLiteral("AVI"), QStringLiteral("M4V")};
-    QString className;
-    return d->findInCatalogue(id, &className) && multiTrackClasses.contains(className);
+    return d->findInCatalogue(id) && multiTrackClasses.contains(d->classOf(id));
 }
 
 QString FormatsProxy::getTagName(const QString &id) const
@@ -339,10 +252,7 @@ QVariantList FormatsProxy::getSupportAudioLisrfromType(const QString &type) cons
     if (!presets || !presets->getModelInfoByIndex(0, first) || first.userDefine) {
         return fallback;
     }
-    QVariantList bitrates = first.audioBitrates;
-    if (!bitrates.isEmpty()) {
-        bitrates.removeFirst(); // the source's own
-    }
+    QVariantList bitrates = first.audioBitrates.mid(1); // without the source's own
     qInfo() << "getSupportAudioLisrfromType"
             << "reverse tempList";
     std::reverse(bitrates.begin(), bitrates.end());
@@ -357,43 +267,22 @@ bool FormatsProxy::isVideoType(const QString &format) const
 QMap<QString, QVariant> FormatsProxy::getFitAudioFormatByBitrate(const QString &formatTitle,
                                                                  const QString &bitrate) const
 {
-    const FormatDetailModel *presets = d->catalogue().formatDetailModel(formatTitle);
-    ClosestPreset closest;
-    FormatDetailModelData preset;
-    for (int row = 0; presets && presets->getModelInfoByIndex(row, preset); ++row) {
-        closest.offer(distance(preset.audioBitrate.toInt(), bitrate.toInt()), preset);
-    }
-    return closest.toVarMap();
+    return toVarMap(PresetFitting::closestInAudioBitrate(
+        d->catalogue().formatDetailModel(formatTitle), bitrate.toInt()));
 }
 
 QMap<QString, QVariant> FormatsProxy::getFitVideoFormatByName(const QString &formatTitle,
                                                               const QString &presetTitle,
                                                               const QString &bitrateCap) const
 {
-    const FormatDetailModel *presets = d->catalogue().formatDetailModel(formatTitle);
-    FormatDetailModelData preset;
-    int row = 0;
-    while (presets && presets->getModelInfoByIndex(row, preset) &&
-           preset.title.compare(presetTitle, Qt::CaseInsensitive) != 0) {
-        ++row;
-    }
-    if (!presets || row == presets->rowCount()) {
-        return QVariantMap();
-    }
-
+    std::optional<FormatDetailModelData> preset =
+        PresetFitting::titled(d->catalogue().formatDetailModel(formatTitle), presetTitle);
     const int cap = bitrateCap.toInt();
-    if (cap >= 1) {
-        QVector<int> withinCap;
-        for (const QVariant &bitrate : qAsConst(preset.audioBitrates)) {
-            if (bitrate.toInt() <= cap) {
-                withinCap.append(bitrate.toInt());
-            }
-        }
-        const int chosen =
-            withinCap.isEmpty() ? 0 : *std::max_element(withinCap.cbegin(), withinCap.cend());
-        d->updateFormatDetailModelDataByAudioBitrate(preset, QString::number(chosen));
+    if (preset && cap >= 1) {
+        const int chosen = PresetFitting::highestWithin(cap, preset->audioBitrates);
+        d->updateFormatDetailModelDataByAudioBitrate(*preset, QString::number(chosen));
     }
-    return preset.toVarMap();
+    return toVarMap(preset);
 }
 
 bool FormatsProxy::getSupportFormat(const QString &format) const
@@ -416,27 +305,8 @@ QMap<QString, QVariant> FormatsProxy::getConverterParameters(const QString &type
         name = isVideo ? QStringLiteral("mp4") : QStringLiteral("mp3");
     }
 
-    const QString source = QStringLiteral("0");
     const FormatDetailModel *presets = d->catalogue().formatDetailModel(name.toUpper());
-    ClosestPreset closest;
-    FormatDetailModelData preset;
-    for (int row = 0; presets && presets->getModelInfoByIndex(row, preset); ++row) {
-        if (preset.userDefine) {
-            continue;
-        }
-        const QString &own = isVideo ? preset.videoResolution : preset.audioBitrate;
-        if (preferSource && own == source) {
-            return preset.toVarMap();
-        }
-        if (isAudio) {
-            closest.offer(distance(own.toInt(), target.toInt()), preset);
-            continue;
-        }
-        const qint64 wanted = area(target.toString());
-        if (own == source) {
-            closest.offer(wanted, preset);
-        }
-        closest.offer(distance(area(own), wanted), preset);
-    }
-    return closest.toVarMap();
+    return toVarMap(isVideo
+                        ? PresetFitting::forResolution(presets, target.toString(), preferSource)
+                        : PresetFitting::forAudioBitrate(presets, target.toInt(), preferSource));
 }

@@ -27,7 +27,7 @@ class VEX_FORMATS_EXPORT FormatsProxy : public QObject
 
 public:
     /*! The one instance of the process, made on the first call and destroyed at exit. */
-    static FormatsProxy *getInstance();
+    [[nodiscard]] static FormatsProxy *getInstance();
 
     /*! Registers the model types in the QML module "CVFormats" 1.0. */
     explicit FormatsProxy(QObject *parent = nullptr);
@@ -39,19 +39,19 @@ public:
     /*! Writes recently.json and formatCache.json into init()'s folder; nothing for an empty one. */
     void uninit();
 
-    QList<QVariant> formatTags() const;
+    [[nodiscard]] QList<QVariant> formatTags() const;
     /*! Emits formatTagsChanged() only for a list that differs. */
     void setFormatTags(const QList<QVariant> &tags);
 
-    Q_INVOKABLE FormatListModelProxy *formatListModelProxy();
-    Q_INVOKABLE FormatListModel *formatListModel();
+    [[nodiscard]] Q_INVOKABLE FormatListModelProxy *formatListModelProxy();
+    [[nodiscard]] Q_INVOKABLE FormatListModel *formatListModel();
     /*! Makes \a tag the filter key of formatListModelProxy(). */
     Q_INVOKABLE void setFormatTag(const QString &tag);
-    Q_INVOKABLE FormatDetailModel *recentlyFormatsModel();
+    [[nodiscard]] Q_INVOKABLE FormatDetailModel *recentlyFormatsModel();
 
     /*!
      * Puts a copy of the preset, marked user-defined, at the head of the recently-used list, which
-     * keeps one entry an id and drops its last entry when it is full. A preset that is not found
+     * keeps one entry per id and drops its last entry when it is full. A preset that is not found
      * changes nothing and is no failure: true.
      */
     Q_INVOKABLE bool add2Recently(const QString &tagName, const QString &className,
@@ -75,49 +75,53 @@ public:
                                          const QString &id);
 
     /*! The preset of the recently-used list or of the class; the tag is not checked otherwise. */
-    Q_INVOKABLE QVariantMap getFormat(const QString &tagName, const QString &className,
-                                      const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE QVariantMap getFormat(const QString &tagName,
+                                                    const QString &className,
+                                                    const QString &id) const;
     /*! The catalogue's preset with this id. */
-    Q_INVOKABLE QVariantMap getFormat(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE QVariantMap getFormat(const QString &id) const;
     /*! Whether the preset offers audio encoders and no video encoders. */
-    Q_INVOKABLE bool isAudioFormat(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE bool isAudioFormat(const QString &id) const;
     /*! Whether the preset offers both video and audio encoders. */
-    Q_INVOKABLE bool isVideoFormat(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE bool isVideoFormat(const QString &id) const;
     /*! Whether the preset's class takes several audio tracks. */
-    Q_INVOKABLE bool isSupportMultiTrack(const QString &id) const;
-    Q_INVOKABLE QString getTagName(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE bool isSupportMultiTrack(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE QString getTagName(const QString &id) const;
     /*! "tag" and "class" of the catalogue's preset with this id; empty when there is none. */
-    Q_INVOKABLE QVariantMap getTagAndClassById(const QString &id) const;
-    Q_INVOKABLE QString getClassIconById(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE QVariantMap getTagAndClassById(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE QString getClassIconById(const QString &id) const;
     /*! -1 for an empty tag or class, the tag "recently" and an unknown class. */
-    Q_INVOKABLE int getUserDefineCount(const QString &tagName, const QString &className) const;
-    Q_INVOKABLE bool isFormatInRecently(const QString &id) const;
+    [[nodiscard]] Q_INVOKABLE int getUserDefineCount(const QString &tagName,
+                                                     const QString &className) const;
+    [[nodiscard]] Q_INVOKABLE bool isFormatInRecently(const QString &id) const;
 
     /*! The audio bitrates (kbps) of the format's first preset, highest first; never empty. */
-    Q_INVOKABLE QVariantList getSupportAudioLisrfromType(const QString &type) const;
+    [[nodiscard]] Q_INVOKABLE QVariantList getSupportAudioLisrfromType(const QString &type) const;
     /*! Whether \a format, in whatever case, is a format tagged "video". */
-    Q_INVOKABLE bool isVideoType(const QString &format) const;
+    [[nodiscard]] Q_INVOKABLE bool isVideoType(const QString &format) const;
 
     /*! The format's preset with the audio bitrate (kbps) closest to \a bitrate. */
-    QMap<QString, QVariant> getFitAudioFormatByBitrate(const QString &formatTitle,
-                                                       const QString &bitrate) const;
+    [[nodiscard]] QMap<QString, QVariant> getFitAudioFormatByBitrate(const QString &formatTitle,
+                                                                     const QString &bitrate) const;
     /*!
      * The format's preset of this title, in whatever case. A positive \a bitrateCap (kbps) sets
      * its audio bitrate to the highest offered one that does not exceed it, "0" when all do.
      */
-    QMap<QString, QVariant> getFitVideoFormatByName(const QString &formatTitle,
-                                                    const QString &presetTitle,
-                                                    const QString &bitrateCap) const;
+    [[nodiscard]] QMap<QString, QVariant> getFitVideoFormatByName(const QString &formatTitle,
+                                                                  const QString &presetTitle,
+                                                                  const QString &bitrateCap) const;
     /*! Whether \a format, in whatever case, is a format tagged "video" or "audio". */
-    bool getSupportFormat(const QString &format) const;
+    [[nodiscard]] bool getSupportFormat(const QString &format) const;
     /*!
      * The catalogue preset of \a format closest to \a target: for the type "video" by area, a
      * resolution such as "1280x720", for "audio" by bitrate in kbps. \a preferSource takes the
      * first preset that keeps the source's own value before any other. An unsupported format
      * becomes mp4 or mp3 with \a preferSource set.
      */
-    QMap<QString, QVariant> getConverterParameters(const QString &type, const QString &format,
-                                                   QVariant target, bool preferSource) const;
+    [[nodiscard]] QMap<QString, QVariant> getConverterParameters(const QString &type,
+                                                                 const QString &format,
+                                                                 QVariant target,
+                                                                 bool preferSource) const;
 
 Q_SIGNALS:
     void formatTagsChanged();

@@ -54,17 +54,15 @@ FormatsProxyPrivate::find(const QString &tagName, const QString &className, cons
     return presets ? presets->find(id) : nullptr;
 }
 
-const FormatDetailModelData *FormatsProxyPrivate::findInCatalogue(const QString &id,
-                                                                  QString *className) const
+QString FormatsProxyPrivate::classOf(const QString &id) const
 {
-    const QString title = q->getTagAndClassById(id).value(QStringLiteral("class")).toString();
-    if (title.isEmpty()) {
-        return nullptr;
-    }
-    if (className) {
-        *className = title;
-    }
-    return catalogue().formatDetailModel(title)->find(id);
+    return q->getTagAndClassById(id).value(QStringLiteral("class")).toString();
+}
+
+const FormatDetailModelData *FormatsProxyPrivate::findInCatalogue(const QString &id) const
+{
+    const QString className = classOf(id);
+    return className.isEmpty() ? nullptr : catalogue().formatDetailModel(className)->find(id);
 }
 
 void FormatsProxyPrivate::updateFormatDetailModelDataByAudioBitrate(FormatDetailModelData &preset,

@@ -43,15 +43,17 @@ public:
 private:
     friend class FormatsProxy;
 
-    Q_DECL_HIDDEN QString configPath(QLatin1String fileName) const;
+    [[nodiscard]] Q_DECL_HIDDEN QString configPath(QLatin1String fileName) const;
     Q_DECL_HIDDEN void save(QLatin1String fileName, const QVariantList &list);
-    // The format list, and an empty one where there is none.
-    Q_DECL_HIDDEN const FormatListModel &catalogue() const;
+    // The format list, or an empty one where there is none.
+    [[nodiscard]] Q_DECL_HIDDEN const FormatListModel &catalogue() const;
     // Both null when there is no such preset, and valid until its list changes.
-    Q_DECL_HIDDEN const FormatDetailModelData *
+    [[nodiscard]] Q_DECL_HIDDEN const FormatDetailModelData *
     find(const QString &tagName, const QString &className, const QString &id) const;
-    Q_DECL_HIDDEN const FormatDetailModelData *findInCatalogue(const QString &id,
-                                                               QString *className = nullptr) const;
+    [[nodiscard]] Q_DECL_HIDDEN const FormatDetailModelData *
+    findInCatalogue(const QString &id) const;
+    // The format of the catalogue's preset with this id; empty when there is none.
+    [[nodiscard]] Q_DECL_HIDDEN QString classOf(const QString &id) const;
     Q_DECL_HIDDEN void updateFormatDetailModelDataByAudioBitrate(FormatDetailModelData &preset,
                                                                  const QString &bitrate);
 };
