@@ -232,7 +232,7 @@ VEXContent {
     MouseArea {
         anchors.fill: parent
         z: 1
-        onPressed: {
+        onPressed: function (mouse) {
             root.forceActiveFocus()
             mouse.accepted = false
         }

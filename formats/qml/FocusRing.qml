@@ -1,6 +1,6 @@
 import QtQuick 2.15
 
-/*! Marks what the keyboard is at. */
+/*! Marks the item with the keyboard focus. */
 Rectangle {
     color: "transparent"
     radius: 3

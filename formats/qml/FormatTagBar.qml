@@ -31,7 +31,7 @@ Rectangle {
 
     implicitHeight: 48
     color: VexThemeMgr.curTheme.basics_gradeTone7
-    // No search goes on that nobody sees.
+    // A hidden field must not go on filtering.
     onSearchableChanged: {
         if (!root.searchable) {
             root.clearSearch()
@@ -75,9 +75,9 @@ Rectangle {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 Layout.maximumWidth: implicitWidth
-                tag: modelData
-                selected: root.selectedTag === modelData
-                onClicked: root.tagChosen(modelData)
+                tag: tag.modelData
+                selected: root.selectedTag === tag.modelData
+                onClicked: root.tagChosen(tag.modelData)
                 Keys.onLeftPressed: tags.step(tag.index - 1)
                 Keys.onRightPressed: tags.step(tag.index + 1)
             }

@@ -53,7 +53,7 @@ Popup {
         }
         O_FormatsProxy.delUserDefineFormat(root.selectTag, root.selectClass, id)
         if (id === O_Setting.converterGlobalId || id === O_Setting.editorGlobalId) {
-            // Only the page that opened the picker, whichever of the two had the preset.
+            // Only the page that opened the picker is reset, whichever of the two used the preset.
             target.assignGlobal("Video_MP4_001")
         }
     }
@@ -183,8 +183,8 @@ Popup {
             width: parent.width
             selectedTag: root.selectTag
             searchable: !root.recentlyShown
-            onTagChosen: root.showTag(tag)
-            onSearched: root.search(text)
+            onTagChosen: function (tag) { root.showTag(tag) }
+            onSearched: function (text) { root.search(text) }
             onFocusReleased: content.forceActiveFocus()
         }
 

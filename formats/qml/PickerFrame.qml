@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "."
 
-/*! The picker's ground, and its shadow. */
+/*! The picker's background with its shadow. */
 Rectangle {
     color: VexThemeMgr.curTheme.basics_gradeTone1
     border.width: 1

@@ -18,7 +18,7 @@ Row {
         Text {
             id: caption
 
-            // Up to just before the rule, then smaller.
+            // Shrinks rather than run into the rule.
             width: 66
             text: root.text
             textFormat: Text.PlainText

@@ -70,7 +70,7 @@ Item {
         model: root.options
         Accessible.role: Accessible.ComboBox
         Accessible.name: root.label
-        // A closed box would keep Return to itself, without a use for it.
+        // A closed box would swallow Return.
         Keys.forwardTo: box.popup && box.popup.visible ? [] : [root.dialog]
         // A new list puts the box back to its first entry.
         onModelChanged: root.select(root.chosenIndex)

@@ -29,7 +29,7 @@ Column {
 
         QualityBar {
             selected: root.dialog.curQuality
-            onChosen: root.selectQuality(quality)
+            onChosen: function (quality) { root.selectQuality(quality) }
         }
     }
 
