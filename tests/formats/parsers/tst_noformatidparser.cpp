@@ -1,17 +1,12 @@
 #include "formats/parsers/noformatidparser.h"
-#include "tests/formats/parsers/parserfixture.h"
-
-#include <QPointer>
-
-#include <memory>
-#include <optional>
+#include "tests/formats/parsers/parsertest.h"
 
 namespace {
 
 const QString mp4 = QStringLiteral("MP4");
 const QString category = QStringLiteral("Audio");
 
-// As the parser logs a preset list that it has made.
+// The line that the parser logs for a preset list.
 QString importLine(const FormatDetailModel *presets)
 {
     QString text;
@@ -21,98 +16,49 @@ QString importLine(const FormatDetailModel *presets)
 
 } // namespace
 
-class NoFormatIdParserTest : public QObject
+class TestNoFormatIdParser : public ParserTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
-    void theParserBelongsToItsParent();
-    void theParserIsDeletedThroughItsInterface();
-    void theParserHasNoMetaObjectOfItsOwn();
-
     void importingIntoNoModelAsksTheCatalogueNothing();
     void everyGroupBecomesAVideoFormat();
     void theFirstGroupOfANameWins();
     void theWholePresetIsImportedWithoutSettings();
     void absentParametersGiveEmptyTexts();
 
-    void presetFilesAreRead_data();
-    void presetFilesAreRead();
-    void audioListsAreRead_data();
-    void audioListsAreRead();
-    void theFlagIsStoredInEveryPreset_data();
-    void theFlagIsStoredInEveryPreset();
     void filesOfTheParserInUseGiveFormatsWithoutPresets();
     void theRecentlyUsedFileIsNotRead();
 
-    void withoutModelOrPathNothingIsLogged();
-    void aFileThatCannotBeOpenedIsReported_data();
-    void aFileThatCannotBeOpenedIsReported();
-    void anEmptyFileIsReported_data();
-    void anEmptyFileIsReported();
-    void aFileWithoutAListIsReported_data();
-    void aFileWithoutAListIsReported();
-
 private:
+    IFormatsParser &parser() override { return m_parser; }
+    QObject *newParser(QObject *parent) const override { return new NoFormatIdParser(parent); }
+    QString dataFolder() const override { return QStringLiteral("noformatid"); }
+    QByteArray entry() const override
+    {
+        return "{\"\": {\"a\": 1}, \"isLoseless\": true, \"audio\": {\"bitrates\": \"0:0\"}}";
+    }
+
     void serve(const QString &name, const QVariantList &contents);
 
-    std::optional<ParserFixture> m_fixture;
     NoFormatIdParser m_parser;
 };
 
-void NoFormatIdParserTest::init()
-{
-    m_fixture.emplace();
-}
-
-void NoFormatIdParserTest::cleanup()
-{
-    QCOMPARE(m_fixture->log.takeAll(), QStringList());
-    m_fixture.reset();
-}
-
-void NoFormatIdParserTest::serve(const QString &name, const QVariantList &contents)
+void TestNoFormatIdParser::serve(const QString &name, const QVariantList &contents)
 {
     FakeCatalogue::served().groups[category].append(
         {{{QStringLiteral("name"), name}, {QStringLiteral("icon"), name + QStringLiteral(".png")}},
          contents});
 }
 
-void NoFormatIdParserTest::theParserBelongsToItsParent()
-{
-    auto parent = std::make_unique<QObject>();
-    const QPointer<QObject> parser = new NoFormatIdParser(parent.get());
-    QCOMPARE(parser->parent(), parent.get());
-    parent.reset();
-    QVERIFY(!parser);
-}
-
-void NoFormatIdParserTest::theParserIsDeletedThroughItsInterface()
-{
-    auto *parser = new NoFormatIdParser;
-    const QPointer<QObject> watched = parser;
-    std::unique_ptr<IFormatsParser> owner(parser);
-    QCOMPARE(static_cast<void *>(static_cast<QObject *>(parser)), static_cast<void *>(parser));
-    owner.reset();
-    QVERIFY(!watched);
-}
-
-void NoFormatIdParserTest::theParserHasNoMetaObjectOfItsOwn()
-{
-    QCOMPARE(m_parser.metaObject(), &QObject::staticMetaObject);
-}
-
-void NoFormatIdParserTest::importingIntoNoModelAsksTheCatalogueNothing()
+void TestNoFormatIdParser::importingIntoNoModelAsksTheCatalogueNothing()
 {
     serve(mp4, {});
     QVERIFY(!m_parser.parseVideoNew(category, nullptr));
     QCOMPARE(FakeCatalogue::served().calls, QStringList());
 }
 
-void NoFormatIdParserTest::everyGroupBecomesAVideoFormat()
+void TestNoFormatIdParser::everyGroupBecomesAVideoFormat()
 {
     const QStringList names{QStringLiteral("腾讯视频"), QStringLiteral("爱奇艺"),
                             QStringLiteral("优酷"), mp4};
@@ -133,7 +79,7 @@ void NoFormatIdParserTest::everyGroupBecomesAVideoFormat()
         lines.constFirst().startsWith(QStringLiteral("debug: parseVideoNew FormatDetailModel(0x")));
 }
 
-void NoFormatIdParserTest::theFirstGroupOfANameWins()
+void TestNoFormatIdParser::theFirstGroupOfANameWins()
 {
     serve(mp4, {QVariantMap{{QStringLiteral("id"), QStringLiteral("a")}}});
     serve(mp4, {QVariantMap{{QStringLiteral("id"), QStringLiteral("b")}}});
@@ -147,7 +93,7 @@ void NoFormatIdParserTest::theFirstGroupOfANameWins()
              QStringList({importLine(m_fixture->formats.formatDetailModel(mp4))}));
 }
 
-void NoFormatIdParserTest::theWholePresetIsImportedWithoutSettings()
+void TestNoFormatIdParser::theWholePresetIsImportedWithoutSettings()
 {
     serve(mp4,
           {QVariantMap{
@@ -209,7 +155,7 @@ void NoFormatIdParserTest::theWholePresetIsImportedWithoutSettings()
     QCOMPARE(FormatDetailModel::s_userDefineId, 1000);
 }
 
-void NoFormatIdParserTest::absentParametersGiveEmptyTexts()
+void TestNoFormatIdParser::absentParametersGiveEmptyTexts()
 {
     serve(mp4, {QVariantMap()});
     QVERIFY(m_parser.parseVideoNew(category, &m_fixture->formats));
@@ -228,57 +174,7 @@ void NoFormatIdParserTest::absentParametersGiveEmptyTexts()
     QCOMPARE(asLines(fieldsOf(m_fixture->preset(mp4, 0))), asLines(fieldsOf(expected)));
 }
 
-void NoFormatIdParserTest::presetFilesAreRead_data()
-{
-    addGoldenRows(QStringLiteral("noformatid/parsevideo"));
-}
-
-void NoFormatIdParserTest::presetFilesAreRead()
-{
-    QFETCH(QString, path);
-    compareWithGolden(*m_fixture, m_parser, QStringLiteral("parseVideo"), path);
-}
-
-void NoFormatIdParserTest::audioListsAreRead_data()
-{
-    addGoldenRows(QStringLiteral("noformatid/parseaudio"));
-}
-
-void NoFormatIdParserTest::audioListsAreRead()
-{
-    QFETCH(QString, path);
-    compareWithGolden(*m_fixture, m_parser, QStringLiteral("parseAudio"), path);
-}
-
-void NoFormatIdParserTest::theFlagIsStoredInEveryPreset_data()
-{
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<bool>("flag");
-    QTest::addColumn<bool>("userDefine");
-    QTest::newRow("parseVideo, true") << QStringLiteral("parseVideo") << true << true;
-    QTest::newRow("parseVideo, false") << QStringLiteral("parseVideo") << false << false;
-    QTest::newRow("parseAudio, true") << QStringLiteral("parseAudio") << true << true;
-    QTest::newRow("parseAudio, false") << QStringLiteral("parseAudio") << false << false;
-    QTest::newRow("parseDevice, true") << QStringLiteral("parseDevice") << true << false;
-    QTest::newRow("parseDevice, false") << QStringLiteral("parseDevice") << false << false;
-}
-
-void NoFormatIdParserTest::theFlagIsStoredInEveryPreset()
-{
-    QFETCH(QString, operation);
-    QFETCH(bool, flag);
-    QFETCH(bool, userDefine);
-    const QByteArray entry =
-        "{\"\": {\"a\": 1}, \"isLoseless\": true, \"audio\": {\"bitrates\": \"0:0\"}}";
-    const QString path =
-        m_fixture->write("[{\"title\": \"MP4\", \"group\": [" + entry + "," + entry + "]}]");
-    QVERIFY(m_fixture->parse(m_parser, operation, path, flag));
-    const FormatDetailModel &presets = *m_fixture->formats.formatDetailModel(mp4);
-    QCOMPARE(presets.rowCount(), 2);
-    QCOMPARE(presets.userDefineCount(), userDefine ? 2 : 0);
-}
-
-void NoFormatIdParserTest::filesOfTheParserInUseGiveFormatsWithoutPresets()
+void TestNoFormatIdParser::filesOfTheParserInUseGiveFormatsWithoutPresets()
 {
     FormatListModel saved;
     saved.addModeInfo({mp4, QString(), QStringLiteral("video")});
@@ -291,7 +187,7 @@ void NoFormatIdParserTest::filesOfTheParserInUseGiveFormatsWithoutPresets()
     QCOMPARE(m_fixture->formats.formatDetailModel(mp4)->rowCount(), 0);
 }
 
-void NoFormatIdParserTest::theRecentlyUsedFileIsNotRead()
+void TestNoFormatIdParser::theRecentlyUsedFileIsNotRead()
 {
     const QString list = m_fixture->write("[{\"\": {\"a\": 1}, \"outPutNode\": {\"a\": 1}}]");
     m_fixture->recently.addModeInfo(samplePreset());
@@ -303,66 +199,5 @@ void NoFormatIdParserTest::theRecentlyUsedFileIsNotRead()
     QCOMPARE(m_fixture->dump(), before);
 }
 
-void NoFormatIdParserTest::withoutModelOrPathNothingIsLogged()
-{
-    const QString path = m_fixture->write("[{\"\": {\"a\": 1}}]");
-    QVERIFY(!m_parser.parseVideo(path, nullptr, true));
-    QVERIFY(!m_parser.parseAudio(path, nullptr, true));
-    QVERIFY(!m_parser.parseDevice(path, nullptr, true));
-    for (const auto &operation : {QStringLiteral("parseVideo"), QStringLiteral("parseAudio"),
-                                  QStringLiteral("parseDevice")}) {
-        QVERIFY(!m_fixture->parse(m_parser, operation, QString()));
-    }
-    QCOMPARE(m_fixture->formats.rowCount(), 0);
-}
-
-void NoFormatIdParserTest::aFileThatCannotBeOpenedIsReported_data()
-{
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QString>("failure");
-    const QString arrowed = QStringLiteral("-->open formats file failed, path=");
-    QTest::newRow("parseVideo") << QStringLiteral("parseVideo") << arrowed;
-    QTest::newRow("parseDevice") << QStringLiteral("parseDevice") << arrowed;
-    QTest::newRow("parseAudio") << QStringLiteral("parseAudio")
-                                << QStringLiteral("open formats file failed, path=");
-}
-
-void NoFormatIdParserTest::aFileThatCannotBeOpenedIsReported()
-{
-    QFETCH(QString, operation);
-    QFETCH(QString, failure);
-    const QString path = m_fixture->folder() + QStringLiteral("/missing.json");
-    compareRefusal(*m_fixture, m_parser, operation, path,
-                   QStringLiteral("%1 \"%2\"").arg(failure, path));
-}
-
-void NoFormatIdParserTest::anEmptyFileIsReported_data()
-{
-    QTest::addColumn<QString>("operation");
-    for (const char *operation : {"parseVideo", "parseAudio", "parseDevice"}) {
-        QTest::newRow(operation) << QString::fromLatin1(operation);
-    }
-}
-
-void NoFormatIdParserTest::anEmptyFileIsReported()
-{
-    QFETCH(QString, operation);
-    compareRefusal(*m_fixture, m_parser, operation, m_fixture->write(QByteArray()),
-                   QStringLiteral("-->strJson is empty!"));
-}
-
-void NoFormatIdParserTest::aFileWithoutAListIsReported_data()
-{
-    addFilesWithoutAList({QStringLiteral("parseVideo"), QStringLiteral("parseAudio")});
-}
-
-void NoFormatIdParserTest::aFileWithoutAListIsReported()
-{
-    QFETCH(QString, operation);
-    QFETCH(QByteArray, bytes);
-    compareRefusal(*m_fixture, m_parser, operation, m_fixture->write(bytes),
-                   QStringLiteral("-->varJson is null!"));
-}
-
-QTEST_GUILESS_MAIN(NoFormatIdParserTest)
+QTEST_GUILESS_MAIN(TestNoFormatIdParser)
 #include "tst_noformatidparser.moc"

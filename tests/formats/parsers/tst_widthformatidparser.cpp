@@ -1,10 +1,5 @@
 #include "formats/parsers/widthformatidparser.h"
-#include "tests/formats/parsers/parserfixture.h"
-
-#include <QPointer>
-
-#include <memory>
-#include <optional>
+#include "tests/formats/parsers/parsertest.h"
 
 namespace {
 
@@ -64,7 +59,7 @@ QVariantMap with(QVariantMap map, const char *key, const QVariant &value)
     return map;
 }
 
-// As a user's preset comes back from a file that it was written to.
+// What a user's preset is after it was written to a file and read back.
 FormatDetailModelData readBack(FormatDetailModelData preset)
 {
     preset.userDefine = true;
@@ -96,18 +91,11 @@ public:
 
 } // namespace
 
-class WidthFormatIdParserTest : public QObject
+class TestWidthFormatIdParser : public ParserTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
-    void theParserBelongsToItsParent();
-    void theParserIsDeletedThroughItsInterface();
-    void theParserHasNoMetaObjectOfItsOwn();
-
     void importingIntoNoModelAsksTheCatalogueNothing();
     void groupsBecomeFormatsInOrder();
     void theTagIsTheCategoryInLowerCase();
@@ -131,15 +119,9 @@ private Q_SLOTS:
     void importedPresetsAreNotUserDefined();
     void whatIsNoMapCountsAsAnEmptyOne();
 
-    void presetFilesAreRead_data();
-    void presetFilesAreRead();
-    void audioListsAreRead_data();
-    void audioListsAreRead();
     void recentlyUsedPresetsAreRead_data();
     void recentlyUsedPresetsAreRead();
 
-    void theFlagIsStoredInEveryPreset_data();
-    void theFlagIsStoredInEveryPreset();
     void userDefinedPresetsRaiseTheHighestId();
     void presetsAreAppendedToThoseThere();
     void aRenamedFormatIsAddedAnew();
@@ -151,84 +133,47 @@ private Q_SLOTS:
     void settingsMayBeDeep();
     void aLargeFileIsReadWhole();
 
-    void withoutModelOrPathNothingIsLogged();
-    void aFileThatCannotBeOpenedIsReported_data();
-    void aFileThatCannotBeOpenedIsReported();
-    void anEmptyFileIsReported_data();
-    void anEmptyFileIsReported();
-    void aFileWithoutAListIsReported_data();
-    void aFileWithoutAListIsReported();
-
     void deviceFilesAreReadThroughParseVideo_data();
     void deviceFilesAreReadThroughParseVideo();
 
 private:
+    IFormatsParser &parser() override { return m_parser; }
+    QObject *newParser(QObject *parent) const override { return new WidthFormatIdParser(parent); }
+    QString dataFolder() const override { return QStringLiteral("widthformatid"); }
+    QStringList operations() const override
+    {
+        return ParserTest::operations() << QStringLiteral("parseRecently");
+    }
+    QByteArray entry() const override { return "{\"outPutNode\": {\"a\": 1}}"; }
+
     void serve(const QString &category, const QString &name, const QVariantList &contents);
     FormatDetailModelData imported(const QVariantMap &entry);
 
-    std::optional<ParserFixture> m_fixture;
     WidthFormatIdParser m_parser;
 };
 
-void WidthFormatIdParserTest::init()
-{
-    m_fixture.emplace();
-}
-
-void WidthFormatIdParserTest::cleanup()
-{
-    QCOMPARE(m_fixture->log.takeAll(), QStringList());
-    m_fixture.reset();
-}
-
-void WidthFormatIdParserTest::serve(const QString &category, const QString &name,
+void TestWidthFormatIdParser::serve(const QString &category, const QString &name,
                                     const QVariantList &contents)
 {
     FakeCatalogue::served().groups[category].append({group(name), contents});
 }
 
 // The preset that this catalogue entry becomes.
-FormatDetailModelData WidthFormatIdParserTest::imported(const QVariantMap &entry)
+FormatDetailModelData TestWidthFormatIdParser::imported(const QVariantMap &entry)
 {
     serve(QStringLiteral("Video"), mp4, {entry});
     m_parser.parseVideoNew(QStringLiteral("Video"), &m_fixture->formats);
     return m_fixture->preset(mp4, 0);
 }
 
-void WidthFormatIdParserTest::theParserBelongsToItsParent()
-{
-    auto parent = std::make_unique<QObject>();
-    const QPointer<QObject> parser = new WidthFormatIdParser(parent.get());
-    QCOMPARE(parser->parent(), parent.get());
-    parent.reset();
-    QVERIFY(!parser);
-    QCOMPARE(WidthFormatIdParser().parent(), nullptr);
-}
-
-void WidthFormatIdParserTest::theParserIsDeletedThroughItsInterface()
-{
-    auto *parser = new WidthFormatIdParser;
-    const QPointer<QObject> watched = parser;
-    std::unique_ptr<IFormatsParser> owner(parser);
-    QCOMPARE(static_cast<void *>(static_cast<QObject *>(parser)), static_cast<void *>(parser));
-    QVERIFY(watched);
-    owner.reset();
-    QVERIFY(!watched);
-}
-
-void WidthFormatIdParserTest::theParserHasNoMetaObjectOfItsOwn()
-{
-    QCOMPARE(m_parser.metaObject(), &QObject::staticMetaObject);
-}
-
-void WidthFormatIdParserTest::importingIntoNoModelAsksTheCatalogueNothing()
+void TestWidthFormatIdParser::importingIntoNoModelAsksTheCatalogueNothing()
 {
     serve(QStringLiteral("Video"), mp4, {});
     QVERIFY(!m_parser.parseVideoNew(QStringLiteral("Video"), nullptr));
     QCOMPARE(FakeCatalogue::served().calls, QStringList());
 }
 
-void WidthFormatIdParserTest::groupsBecomeFormatsInOrder()
+void TestWidthFormatIdParser::groupsBecomeFormatsInOrder()
 {
     serve(QStringLiteral("Video"), mp4,
           {cataloguePreset(QStringLiteral("b")), cataloguePreset(QStringLiteral("a"))});
@@ -252,7 +197,7 @@ void WidthFormatIdParserTest::groupsBecomeFormatsInOrder()
                           QStringLiteral("contents AAC")}));
 }
 
-void WidthFormatIdParserTest::theTagIsTheCategoryInLowerCase()
+void TestWidthFormatIdParser::theTagIsTheCategoryInLowerCase()
 {
     serve(QStringLiteral("SocialVIDEO"), mp4, {});
     QVERIFY(m_parser.parseVideoNew(QStringLiteral("SocialVIDEO"), &m_fixture->formats));
@@ -263,7 +208,7 @@ void WidthFormatIdParserTest::theTagIsTheCategoryInLowerCase()
     QCOMPARE(FakeCatalogue::served().calls.constFirst(), QStringLiteral("groups SocialVIDEO"));
 }
 
-void WidthFormatIdParserTest::theWholePresetIsImported()
+void TestWidthFormatIdParser::theWholePresetIsImported()
 {
     const QVariantMap entry = cataloguePreset(QStringLiteral("Video_MP4_1"));
     FormatDetailModelData expected;
@@ -294,7 +239,7 @@ void WidthFormatIdParserTest::theWholePresetIsImported()
     QCOMPARE(asLines(fieldsOf(imported(entry))), asLines(fieldsOf(expected)));
 }
 
-void WidthFormatIdParserTest::numbersBecomeTextsAndListsStay()
+void TestWidthFormatIdParser::numbersBecomeTextsAndListsStay()
 {
     const QVariantMap entry = cataloguePreset(QStringLiteral("a"));
     const FormatDetailModelData preset = imported(entry);
@@ -312,7 +257,7 @@ void WidthFormatIdParserTest::numbersBecomeTextsAndListsStay()
     QCOMPARE(preset.audioSampleRates.at(1).userType(), int(QMetaType::QString));
 }
 
-void WidthFormatIdParserTest::excludedGroupsAreLeftOut_data()
+void TestWidthFormatIdParser::excludedGroupsAreLeftOut_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isShown");
@@ -325,7 +270,7 @@ void WidthFormatIdParserTest::excludedGroupsAreLeftOut_data()
     QTest::newRow("part of a name") << QStringLiteral("腾讯") << true;
 }
 
-void WidthFormatIdParserTest::excludedGroupsAreLeftOut()
+void TestWidthFormatIdParser::excludedGroupsAreLeftOut()
 {
     QFETCH(QString, name);
     QFETCH(bool, isShown);
@@ -340,7 +285,7 @@ void WidthFormatIdParserTest::excludedGroupsAreLeftOut()
     }
 }
 
-void WidthFormatIdParserTest::theFirstGroupOfANameWins()
+void TestWidthFormatIdParser::theFirstGroupOfANameWins()
 {
     serve(QStringLiteral("Video"), mp4, {cataloguePreset(QStringLiteral("a"))});
     FakeCatalogue::served().groups[QStringLiteral("Video")].append(
@@ -363,7 +308,7 @@ void WidthFormatIdParserTest::theFirstGroupOfANameWins()
     QCOMPARE(FakeCatalogue::served().calls.count(QStringLiteral("contents MP4")), 1);
 }
 
-void WidthFormatIdParserTest::aKnownFormatIsNotImported()
+void TestWidthFormatIdParser::aKnownFormatIsNotImported()
 {
     m_fixture->formats.addModeInfo({mp4, QString(), QStringLiteral("device")});
     serve(QStringLiteral("Video"), mp4, {cataloguePreset(QStringLiteral("a"))});
@@ -374,7 +319,7 @@ void WidthFormatIdParserTest::aKnownFormatIsNotImported()
     QVERIFY(m_fixture->formats.containId(QStringLiteral("b")));
 }
 
-void WidthFormatIdParserTest::importingTwiceAddsNothing()
+void TestWidthFormatIdParser::importingTwiceAddsNothing()
 {
     serve(QStringLiteral("Video"), mp4, {cataloguePreset(QStringLiteral("a"))});
     QVERIFY(m_parser.parseVideoNew(QStringLiteral("Video"), &m_fixture->formats));
@@ -383,7 +328,7 @@ void WidthFormatIdParserTest::importingTwiceAddsNothing()
     QCOMPARE(m_fixture->dump(), once);
 }
 
-void WidthFormatIdParserTest::categoriesWithoutGroupsImportNothing()
+void TestWidthFormatIdParser::categoriesWithoutGroupsImportNothing()
 {
     FakeCatalogue::served().groups.insert(QStringLiteral("Empty"), {});
     QVERIFY(m_parser.parseVideoNew(QStringLiteral("Empty"), &m_fixture->formats));
@@ -392,7 +337,7 @@ void WidthFormatIdParserTest::categoriesWithoutGroupsImportNothing()
     QCOMPARE(m_fixture->formats.rowCount(), 0);
 }
 
-void WidthFormatIdParserTest::withoutVideoParametersTheVideoDefaultsStay()
+void TestWidthFormatIdParser::withoutVideoParametersTheVideoDefaultsStay()
 {
     const FormatDetailModelData preset =
         imported(without(cataloguePreset(QStringLiteral("a")), {"videoParam"}));
@@ -412,7 +357,7 @@ void WidthFormatIdParserTest::withoutVideoParametersTheVideoDefaultsStay()
     QCOMPARE(preset.audioEncoders.size(), 1);
 }
 
-void WidthFormatIdParserTest::emptyVideoParametersGiveEmptyTexts()
+void TestWidthFormatIdParser::emptyVideoParametersGiveEmptyTexts()
 {
     const QVariantMap entry = without(cataloguePreset(QStringLiteral("a")), {"videoOptions"});
     const FormatDetailModelData preset = imported(with(entry, "videoParam", QVariant()));
@@ -424,7 +369,7 @@ void WidthFormatIdParserTest::emptyVideoParametersGiveEmptyTexts()
     QCOMPARE(preset.videoBitrateHigh, QStringLiteral("0"));
 }
 
-void WidthFormatIdParserTest::withoutAudioParametersTheAudioTextsAreEmpty()
+void TestWidthFormatIdParser::withoutAudioParametersTheAudioTextsAreEmpty()
 {
     const FormatDetailModelData preset =
         imported(without(cataloguePreset(QStringLiteral("a")), {"audioParam", "audioOptions"}));
@@ -439,7 +384,7 @@ void WidthFormatIdParserTest::withoutAudioParametersTheAudioTextsAreEmpty()
     QCOMPARE(preset.videoEncoder, QStringLiteral("hevc"));
 }
 
-void WidthFormatIdParserTest::missingLevelsKeepTheirDefaults_data()
+void TestWidthFormatIdParser::missingLevelsKeepTheirDefaults_data()
 {
     QTest::addColumn<QVariant>("levels");
     QTest::addColumn<QStringList>("highMidLow");
@@ -460,7 +405,7 @@ void WidthFormatIdParserTest::missingLevelsKeepTheirDefaults_data()
                            << QStringList{high, QString(), low};
 }
 
-void WidthFormatIdParserTest::missingLevelsKeepTheirDefaults()
+void TestWidthFormatIdParser::missingLevelsKeepTheirDefaults()
 {
     QFETCH(QVariant, levels);
     QFETCH(QStringList, highMidLow);
@@ -472,7 +417,7 @@ void WidthFormatIdParserTest::missingLevelsKeepTheirDefaults()
              highMidLow);
 }
 
-void WidthFormatIdParserTest::absentKeysAreNullInTheSettings_data()
+void TestWidthFormatIdParser::absentKeysAreNullInTheSettings_data()
 {
     QTest::addColumn<QVariantMap>("entry");
     QTest::addColumn<QStringList>("nullKeys");
@@ -501,7 +446,7 @@ void WidthFormatIdParserTest::absentKeysAreNullInTheSettings_data()
                                 << QStringList{id, extension, title, audioParam, audioOptions};
 }
 
-void WidthFormatIdParserTest::absentKeysAreNullInTheSettings()
+void TestWidthFormatIdParser::absentKeysAreNullInTheSettings()
 {
     QFETCH(QVariantMap, entry);
     QFETCH(QStringList, nullKeys);
@@ -516,13 +461,13 @@ void WidthFormatIdParserTest::absentKeysAreNullInTheSettings()
     }
 }
 
-void WidthFormatIdParserTest::completeSettingsAreTheCataloguesOwn()
+void TestWidthFormatIdParser::completeSettingsAreTheCataloguesOwn()
 {
     const QVariantMap entry = cataloguePreset(QStringLiteral("a"));
     QVERIFY(imported(entry).outPutNode.isSharedWith(entry));
 }
 
-void WidthFormatIdParserTest::repeatedIdsAreAllImported()
+void TestWidthFormatIdParser::repeatedIdsAreAllImported()
 {
     serve(QStringLiteral("Video"), mp4,
           {cataloguePreset(QStringLiteral("a")), cataloguePreset(QStringLiteral("a"))});
@@ -530,14 +475,14 @@ void WidthFormatIdParserTest::repeatedIdsAreAllImported()
     QCOMPARE(m_fixture->formats.formatDetailModel(mp4)->rowCount(), 2);
 }
 
-void WidthFormatIdParserTest::importedPresetsAreNotUserDefined()
+void TestWidthFormatIdParser::importedPresetsAreNotUserDefined()
 {
     const FormatDetailModelData preset = imported(cataloguePreset(QStringLiteral("1005")));
     QVERIFY(!preset.userDefine);
     QCOMPARE(FormatDetailModel::s_userDefineId, 1000);
 }
 
-void WidthFormatIdParserTest::whatIsNoMapCountsAsAnEmptyOne()
+void TestWidthFormatIdParser::whatIsNoMapCountsAsAnEmptyOne()
 {
     FakeCatalogue::served().groups[QStringLiteral("Video")] = {
         {QVariantMap(), {QVariant(5), QStringLiteral("a"), QVariant()}}};
@@ -550,74 +495,18 @@ void WidthFormatIdParserTest::whatIsNoMapCountsAsAnEmptyOne()
     QCOMPARE(m_fixture->preset(QString(), 2).outPutNode.size(), 5);
 }
 
-void WidthFormatIdParserTest::presetFilesAreRead_data()
+void TestWidthFormatIdParser::recentlyUsedPresetsAreRead_data()
 {
-    addGoldenRows(QStringLiteral("widthformatid/parsevideo"));
+    addGoldenRows(QStringLiteral("parserecently"));
 }
 
-void WidthFormatIdParserTest::presetFilesAreRead()
-{
-    QFETCH(QString, path);
-    compareWithGolden(*m_fixture, m_parser, QStringLiteral("parseVideo"), path);
-}
-
-void WidthFormatIdParserTest::audioListsAreRead_data()
-{
-    addGoldenRows(QStringLiteral("widthformatid/parseaudio"));
-}
-
-void WidthFormatIdParserTest::audioListsAreRead()
+void TestWidthFormatIdParser::recentlyUsedPresetsAreRead()
 {
     QFETCH(QString, path);
-    compareWithGolden(*m_fixture, m_parser, QStringLiteral("parseAudio"), path);
+    compareWithGolden(QStringLiteral("parseRecently"), path);
 }
 
-void WidthFormatIdParserTest::recentlyUsedPresetsAreRead_data()
-{
-    addGoldenRows(QStringLiteral("widthformatid/parserecently"));
-}
-
-void WidthFormatIdParserTest::recentlyUsedPresetsAreRead()
-{
-    QFETCH(QString, path);
-    compareWithGolden(*m_fixture, m_parser, QStringLiteral("parseRecently"), path);
-}
-
-void WidthFormatIdParserTest::theFlagIsStoredInEveryPreset_data()
-{
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<bool>("flag");
-    QTest::addColumn<bool>("userDefine");
-    QTest::newRow("parseVideo, true") << QStringLiteral("parseVideo") << true << true;
-    QTest::newRow("parseVideo, false") << QStringLiteral("parseVideo") << false << false;
-    QTest::newRow("parseAudio, true") << QStringLiteral("parseAudio") << true << true;
-    QTest::newRow("parseAudio, false") << QStringLiteral("parseAudio") << false << false;
-    QTest::newRow("parseDevice, true") << QStringLiteral("parseDevice") << true << false;
-    QTest::newRow("parseDevice, false") << QStringLiteral("parseDevice") << false << false;
-    QTest::newRow("parseRecently, true") << QStringLiteral("parseRecently") << true << true;
-    QTest::newRow("parseRecently, false") << QStringLiteral("parseRecently") << false << false;
-}
-
-void WidthFormatIdParserTest::theFlagIsStoredInEveryPreset()
-{
-    QFETCH(QString, operation);
-    QFETCH(bool, flag);
-    QFETCH(bool, userDefine);
-    const QByteArray entries = "[{\"id\": \"1\", \"outPutNode\": {\"a\": 1}},"
-                               " {\"id\": \"2\", \"outPutNode\": {\"a\": 1}}]";
-    const bool isRecently = operation == QLatin1String("parseRecently");
-    QVERIFY(m_fixture->parse(
-        m_parser, operation,
-        m_fixture->write(isRecently ? entries
-                                    : "[{\"title\": \"MP4\", \"group\": " + entries + "}]"),
-        flag));
-    const FormatDetailModel &presets =
-        isRecently ? m_fixture->recently : *m_fixture->formats.formatDetailModel(mp4);
-    QCOMPARE(presets.rowCount(), 2);
-    QCOMPARE(presets.userDefineCount(), userDefine ? 2 : 0);
-}
-
-void WidthFormatIdParserTest::userDefinedPresetsRaiseTheHighestId()
+void TestWidthFormatIdParser::userDefinedPresetsRaiseTheHighestId()
 {
     const QString path = m_fixture->write(
         "[{\"title\": \"MP4\", \"group\": [{\"id\": \"1007\", \"outPutNode\": {\"a\": 1}}]}]");
@@ -627,7 +516,7 @@ void WidthFormatIdParserTest::userDefinedPresetsRaiseTheHighestId()
     QCOMPARE(FormatDetailModel::s_userDefineId, 1007);
 }
 
-void WidthFormatIdParserTest::presetsAreAppendedToThoseThere()
+void TestWidthFormatIdParser::presetsAreAppendedToThoseThere()
 {
     const QString a = QStringLiteral("a");
     m_fixture->formats.addModeInfo({mp4, QString(), QStringLiteral("video")});
@@ -650,7 +539,7 @@ void WidthFormatIdParserTest::presetsAreAppendedToThoseThere()
     QCOMPARE(m_fixture->formats.rowCount(), 1);
 }
 
-void WidthFormatIdParserTest::aRenamedFormatIsAddedAnew()
+void TestWidthFormatIdParser::aRenamedFormatIsAddedAnew()
 {
     m_fixture->formats.addModeInfo({mp4, QString(), QStringLiteral("video")});
     m_fixture->formats.updateModeInfo(0, {QStringLiteral("AVI"), QString(), QString()});
@@ -663,7 +552,7 @@ void WidthFormatIdParserTest::aRenamedFormatIsAddedAnew()
     QCOMPARE(m_fixture->formats.getGetClass(QStringLiteral("in AVI")), QStringLiteral("AVI"));
 }
 
-void WidthFormatIdParserTest::aSavedModelIsReadBack()
+void TestWidthFormatIdParser::aSavedModelIsReadBack()
 {
     FormatDetailModelData noBitrates = samplePreset();
     noBitrates.videoBitrates.clear();
@@ -680,33 +569,33 @@ void WidthFormatIdParserTest::aSavedModelIsReadBack()
     QVERIFY(m_fixture->parse(m_parser, QStringLiteral("parseVideo"), path));
 
     noBitrates.videoBitrates = {QString()};
-    FormatDetailModelData soundOnly;
-    soundOnly.id = audio.id;
-    soundOnly.extension = audio.extension;
-    soundOnly.title = audio.title;
-    soundOnly.icon = audio.icon;
-    soundOnly.socialType = audio.socialType;
-    soundOnly.supportMultiTrack = true;
-    soundOnly.audioEncoder = audio.audioEncoder;
-    soundOnly.audioEncoders = audio.audioEncoders;
-    soundOnly.audioSampleRate = audio.audioSampleRate;
-    soundOnly.audioSampleRates = audio.audioSampleRates;
-    soundOnly.audioChannel = audio.audioChannel;
-    soundOnly.audioChannels = audio.audioChannels;
-    soundOnly.audioBitrate = audio.audioBitrate;
-    soundOnly.audioBitrates = audio.audioBitrates;
-    soundOnly.outPutNode = audio.outPutNode;
+    FormatDetailModelData audioOnly;
+    audioOnly.id = audio.id;
+    audioOnly.extension = audio.extension;
+    audioOnly.title = audio.title;
+    audioOnly.icon = audio.icon;
+    audioOnly.socialType = audio.socialType;
+    audioOnly.supportMultiTrack = true;
+    audioOnly.audioEncoder = audio.audioEncoder;
+    audioOnly.audioEncoders = audio.audioEncoders;
+    audioOnly.audioSampleRate = audio.audioSampleRate;
+    audioOnly.audioSampleRates = audio.audioSampleRates;
+    audioOnly.audioChannel = audio.audioChannel;
+    audioOnly.audioChannels = audio.audioChannels;
+    audioOnly.audioBitrate = audio.audioBitrate;
+    audioOnly.audioBitrates = audio.audioBitrates;
+    audioOnly.outPutNode = audio.outPutNode;
     QCOMPARE(m_fixture->formats.toVariantList().size(), 1);
     QCOMPARE(asLines(ParserFixture::presetsOf(*m_fixture->formats.formatDetailModel(mp4))),
              asLines(QVariantList{fieldsOf(readBack(samplePreset())),
-                                  fieldsOf(readBack(noBitrates)), fieldsOf(readBack(soundOnly))}));
+                                  fieldsOf(readBack(noBitrates)), fieldsOf(readBack(audioOnly))}));
     FormatListModelData format;
     QVERIFY(m_fixture->formats.getModelInfoByIndex(0, format));
     QCOMPARE(format.icon, QStringLiteral("mp4.png"));
     QCOMPARE(format.tag, QStringLiteral("video"));
 }
 
-void WidthFormatIdParserTest::aSavedRecentlyUsedListIsReadBack()
+void TestWidthFormatIdParser::aSavedRecentlyUsedListIsReadBack()
 {
     FormatDetailModel saved;
     saved.addModeInfo(samplePreset());
@@ -719,7 +608,7 @@ void WidthFormatIdParserTest::aSavedRecentlyUsedListIsReadBack()
              asLines(QVariantList{fieldsOf(expected)}));
 }
 
-void WidthFormatIdParserTest::numbersStayAsTheJsonParserGivesThem()
+void TestWidthFormatIdParser::numbersStayAsTheJsonParserGivesThem()
 {
     const QByteArray lists[] = {"[1, 2]",
                                 "[1.0, 2]",
@@ -752,7 +641,7 @@ void WidthFormatIdParserTest::numbersStayAsTheJsonParserGivesThem()
     }
 }
 
-void WidthFormatIdParserTest::equalOptionListsShareTheirData()
+void TestWidthFormatIdParser::equalOptionListsShareTheirData()
 {
     const QByteArray entry = "{\"video\": {\"encoders\": [\"h264\", \"hevc\"]},"
                              " \"audio\": {\"encoders\": [\"aac\"]}, \"outPutNode\": {\"a\": 1}}";
@@ -779,7 +668,7 @@ void WidthFormatIdParserTest::equalOptionListsShareTheirData()
     QVERIFY(oldest.videoEncoders.isSharedWith(newest.videoEncoders));
 }
 
-void WidthFormatIdParserTest::loneSurrogatesAndNulAreKept()
+void TestWidthFormatIdParser::loneSurrogatesAndNulAreKept()
 {
     const QString path = m_fixture->write(
         QByteArray("[{\"id\": \"\\ud83c\", \"title\": \"\\udfac\\ud83c\", \"icon\": \"a") + '\0' +
@@ -797,7 +686,7 @@ void WidthFormatIdParserTest::loneSurrogatesAndNulAreKept()
     QVERIFY(!m_fixture->recently.containId(low));
 }
 
-void WidthFormatIdParserTest::settingsMayBeDeep()
+void TestWidthFormatIdParser::settingsMayBeDeep()
 {
     constexpr int deep = 1000;
     const QString path = m_fixture->write("[{\"outPutNode\": {\"a\": " + QByteArray(deep, '[') +
@@ -814,7 +703,7 @@ void WidthFormatIdParserTest::settingsMayBeDeep()
     QCOMPARE(value.toInt(), 7);
 }
 
-void WidthFormatIdParserTest::aLargeFileIsReadWhole()
+void TestWidthFormatIdParser::aLargeFileIsReadWhole()
 {
     constexpr int entries = 5000;
     const QByteArray settings =
@@ -837,86 +726,7 @@ void WidthFormatIdParserTest::aLargeFileIsReadWhole()
     QCOMPARE(last.outPutNode.value(QStringLiteral("a")).toString().size(), 10 * 1024);
 }
 
-void WidthFormatIdParserTest::withoutModelOrPathNothingIsLogged()
-{
-    const QString path = m_fixture->write("[{\"outPutNode\": {\"a\": 1}}]");
-    QVERIFY(!m_parser.parseVideo(path, nullptr, true));
-    QVERIFY(!m_parser.parseAudio(path, nullptr, true));
-    QVERIFY(!m_parser.parseDevice(path, nullptr, true));
-    QVERIFY(!m_parser.parseRecently(path, nullptr, true));
-    const QStringList before = m_fixture->dump();
-    for (const auto &operation : {QStringLiteral("parseVideo"), QStringLiteral("parseAudio"),
-                                  QStringLiteral("parseDevice"), QStringLiteral("parseRecently")}) {
-        QVERIFY(!m_fixture->parse(m_parser, operation, QString()));
-        QVERIFY(!m_fixture->parse(m_parser, operation, QStringLiteral("")));
-    }
-    QCOMPARE(m_fixture->dump(), before);
-}
-
-void WidthFormatIdParserTest::aFileThatCannotBeOpenedIsReported_data()
-{
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("failure");
-    const QString arrowed = QStringLiteral("-->open formats file failed, path=");
-    const QString plain = QStringLiteral("open formats file failed, path=");
-    const QPair<QString, QString> operations[] = {
-        {QStringLiteral("parseVideo"), arrowed},
-        {QStringLiteral("parseAudio"), plain},
-        {QStringLiteral("parseDevice"), arrowed},
-        {QStringLiteral("parseRecently"), plain},
-    };
-    for (const auto &[operation, failure] : operations) {
-        const auto row = [&](const char *kind) -> QTestData & {
-            return QTest::addRow("%s, %s", qPrintable(operation), kind) << operation;
-        };
-        row("a missing file") << QStringLiteral("/missing.json") << failure;
-        row("a missing folder") << QStringLiteral("/missing/presets.json") << failure;
-        row("a name with a blank") << QStringLiteral("/my presets.json") << failure;
-        row("a folder") << QString() << failure;
-    }
-}
-
-void WidthFormatIdParserTest::aFileThatCannotBeOpenedIsReported()
-{
-    QFETCH(QString, operation);
-    QFETCH(QString, name);
-    QFETCH(QString, failure);
-    const QString path = m_fixture->folder() + name;
-    compareRefusal(*m_fixture, m_parser, operation, path,
-                   QStringLiteral("%1 \"%2\"").arg(failure, path));
-}
-
-void WidthFormatIdParserTest::anEmptyFileIsReported_data()
-{
-    QTest::addColumn<QString>("operation");
-    for (const char *operation : {"parseVideo", "parseAudio", "parseDevice", "parseRecently"}) {
-        QTest::newRow(operation) << QString::fromLatin1(operation);
-    }
-}
-
-void WidthFormatIdParserTest::anEmptyFileIsReported()
-{
-    QFETCH(QString, operation);
-    compareRefusal(*m_fixture, m_parser, operation, m_fixture->write(QByteArray()),
-                   QStringLiteral("-->strJson is empty!"));
-}
-
-void WidthFormatIdParserTest::aFileWithoutAListIsReported_data()
-{
-    addFilesWithoutAList({QStringLiteral("parseVideo"), QStringLiteral("parseAudio"),
-                          QStringLiteral("parseDevice"), QStringLiteral("parseRecently")});
-}
-
-void WidthFormatIdParserTest::aFileWithoutAListIsReported()
-{
-    QFETCH(QString, operation);
-    QFETCH(QByteArray, bytes);
-    compareRefusal(*m_fixture, m_parser, operation, m_fixture->write(bytes),
-                   QStringLiteral("-->varJson is null!"));
-}
-
-void WidthFormatIdParserTest::deviceFilesAreReadThroughParseVideo_data()
+void TestWidthFormatIdParser::deviceFilesAreReadThroughParseVideo_data()
 {
     QTest::addColumn<bool>("flag");
     QTest::addColumn<bool>("result");
@@ -925,7 +735,7 @@ void WidthFormatIdParserTest::deviceFilesAreReadThroughParseVideo_data()
     QTest::newRow("no flag, read") << false << true;
 }
 
-void WidthFormatIdParserTest::deviceFilesAreReadThroughParseVideo()
+void TestWidthFormatIdParser::deviceFilesAreReadThroughParseVideo()
 {
     QFETCH(bool, flag);
     QFETCH(bool, result);
@@ -938,5 +748,5 @@ void WidthFormatIdParserTest::deviceFilesAreReadThroughParseVideo()
     QCOMPARE(parser.models, QList<FormatListModel *>({&m_fixture->formats}));
 }
 
-QTEST_GUILESS_MAIN(WidthFormatIdParserTest)
+QTEST_GUILESS_MAIN(TestWidthFormatIdParser)
 #include "tst_widthformatidparser.moc"
