@@ -18,7 +18,7 @@
 
 namespace {
 
-/*! A figure of something that didn't happen is no figure. */
+/*! Ends the program when what is to be timed didn't happen. */
 void require(bool isSo, const char *otherwise)
 {
     if (!isSo) {

@@ -7,8 +7,11 @@
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QStringList>
+#include <QtTest>
 
-/*! A list model without the one thing that is no list's: rows that are counted below a row too. */
+#include <climits>
+
+/*! A list model of which no row has rows below it; the models count theirs below a row too. */
 class FlatView : public QIdentityProxyModel
 {
 public:
@@ -40,8 +43,8 @@ inline void guard(QAbstractItemModel &model)
 }
 
 /*!
- * All that a list model with a `count` emits: one line a signal, in order, with the number of rows
- * and the `count` that the model has at that moment.
+ * All that a list model with a `count` emits: one line per signal, in order, with the number of
+ * rows and the `count` that the model has at that moment.
  */
 template <typename Model>
 class SignalLog
@@ -67,16 +70,17 @@ public:
         QObject::connect(&model, &Model::dataChanged, &m_context,
                          [this](const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                 const QVector<int> &roles) {
-                             QStringList numbers;
+                             QStringList names;
                              for (const int role : roles) {
-                                 numbers.append(QString::number(role));
+                                 names.append(
+                                     QString::fromLatin1(m_model.roleNames().value(role, "?")));
                              }
                              log(QStringLiteral("dataChanged %1:%2 to %3:%4 roles %5")
                                      .arg(topLeft.row())
                                      .arg(topLeft.column())
                                      .arg(bottomRight.row())
                                      .arg(bottomRight.column())
-                                     .arg(numbers.join(QLatin1Char(' '))));
+                                     .arg(names.join(QLatin1Char(' '))));
                          });
     }
 
@@ -119,6 +123,17 @@ private:
     QObject m_context;
     QStringList m_lines;
 };
+
+/*! Adds the column "row", with numbers outside a list of two rows. */
+inline void addRowsOutsideTwo()
+{
+    QTest::addColumn<int>("row");
+    QTest::newRow("negative") << -1;
+    QTest::newRow("equal to the number of rows") << 2;
+    QTest::newRow("past the end") << 3;
+    QTest::newRow("lowest number") << INT_MIN;
+    QTest::newRow("highest number") << INT_MAX;
+}
 
 /*! The methods that a class adds, in order, such as "signal void countChanged(int count)". */
 inline QStringList ownMethods(const QMetaObject &meta)

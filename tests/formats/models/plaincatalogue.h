@@ -9,8 +9,8 @@
 #include <algorithm>
 
 /*!
- * Formats and their presets held as plainly as can be, every look-up a walk from the front: what
- * the models' look-ups are compared with.
+ * Formats and their presets, held so plainly that every look-up is a walk from the front: the
+ * reference for the models' look-ups.
  */
 struct PlainCatalogue
 {

@@ -1,7 +1,7 @@
 #ifndef TESTS_FORMATS_MODELS_PRESETSAMPLES_H
 #define TESTS_FORMATS_MODELS_PRESETSAMPLES_H
 
-#include "formats/models/formatdetailmodeldata.h"
+#include "formats/models/formatdetailmodel.h"
 
 #include <QJsonDocument>
 #include <QStringList>
@@ -94,6 +94,15 @@ inline QVariantMap fieldsOf(const FormatDetailModelData &preset)
         {QStringLiteral("outPutNode"), outPutNode},
         {QStringLiteral("param"), param},
     };
+}
+
+inline QStringList idsOf(const FormatDetailModel &presets)
+{
+    QStringList ids;
+    for (int row = 0; row < presets.rowCount(); ++row) {
+        ids.append(presets.getId(row));
+    }
+    return ids;
 }
 
 /*!

@@ -21,33 +21,34 @@ struct Role
     const char *type;
 };
 
+// In the order of their numbers.
 constexpr Role roles[] = {
-    {257, "extension", "QString"},
-    {258, "id", "QString"},
-    {259, "title", "QString"},
-    {260, "icon", "QString"},
-    {261, "userDefine", "bool"},
-    {262, "videoEncoder", "QString"},
-    {263, "videoEncoders", "QVariantList"},
-    {264, "videoFrameRate", "QString"},
-    {265, "videoFrameRates", "QVariantList"},
-    {266, "videoResolution", "QString"},
-    {267, "videoResolutions", "QVariantList"},
-    {268, "videoBitrateLow", "QString"},
-    {269, "videoBitrateMid", "QString"},
-    {270, "videoBitrateHigh", "QString"},
-    {271, "videoBitrates", "QVariantList"},
-    {272, "audioEncoder", "QString"},
-    {273, "audioEncoders", "QVariantList"},
-    {274, "audioSampleRate", "QString"},
-    {275, "audioSampleRates", "QVariantList"},
-    {276, "audioChannel", "QString"},
-    {277, "audioChannels", "QVariantList"},
-    {278, "audioBitrate", "QString"},
-    {279, "audioBitrates", "QVariantList"},
-    {280, "isLoseless", "bool"},
-    {281, "supportMultiTrack", "bool"},
-    {282, "param", "QString"},
+    {FormatDetailModel::ExtensionRole, "extension", "QString"},
+    {FormatDetailModel::IdRole, "id", "QString"},
+    {FormatDetailModel::TitleRole, "title", "QString"},
+    {FormatDetailModel::IconRole, "icon", "QString"},
+    {FormatDetailModel::UserDefineRole, "userDefine", "bool"},
+    {FormatDetailModel::VideoEncoderRole, "videoEncoder", "QString"},
+    {FormatDetailModel::VideoEncodersRole, "videoEncoders", "QVariantList"},
+    {FormatDetailModel::VideoFrameRateRole, "videoFrameRate", "QString"},
+    {FormatDetailModel::VideoFrameRatesRole, "videoFrameRates", "QVariantList"},
+    {FormatDetailModel::VideoResolutionRole, "videoResolution", "QString"},
+    {FormatDetailModel::VideoResolutionsRole, "videoResolutions", "QVariantList"},
+    {FormatDetailModel::VideoBitrateLowRole, "videoBitrateLow", "QString"},
+    {FormatDetailModel::VideoBitrateMidRole, "videoBitrateMid", "QString"},
+    {FormatDetailModel::VideoBitrateHighRole, "videoBitrateHigh", "QString"},
+    {FormatDetailModel::VideoBitratesRole, "videoBitrates", "QVariantList"},
+    {FormatDetailModel::AudioEncoderRole, "audioEncoder", "QString"},
+    {FormatDetailModel::AudioEncodersRole, "audioEncoders", "QVariantList"},
+    {FormatDetailModel::AudioSampleRateRole, "audioSampleRate", "QString"},
+    {FormatDetailModel::AudioSampleRatesRole, "audioSampleRates", "QVariantList"},
+    {FormatDetailModel::AudioChannelRole, "audioChannel", "QString"},
+    {FormatDetailModel::AudioChannelsRole, "audioChannels", "QVariantList"},
+    {FormatDetailModel::AudioBitrateRole, "audioBitrate", "QString"},
+    {FormatDetailModel::AudioBitratesRole, "audioBitrates", "QVariantList"},
+    {FormatDetailModel::IsLoselessRole, "isLoseless", "bool"},
+    {FormatDetailModel::SupportMultiTrackRole, "supportMultiTrack", "bool"},
+    {FormatDetailModel::ParamRole, "param", "QString"},
 };
 
 void addRoleRows()
@@ -61,33 +62,14 @@ void addRoleRows()
     }
 }
 
-void addRowsOutOfRange()
-{
-    QTest::addColumn<int>("row");
-    QTest::newRow("negative") << -1;
-    QTest::newRow("equal to the number of rows") << 2;
-    QTest::newRow("past the end") << 3;
-    QTest::newRow("lowest number") << INT_MIN;
-    QTest::newRow("highest number") << INT_MAX;
-}
-
 FormatDetailModel::InvitationRoles asRole(int number)
 {
     return static_cast<FormatDetailModel::InvitationRoles>(number);
 }
 
-QStringList idsOf(const FormatDetailModel &model)
-{
-    QStringList ids;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        ids.append(model.getId(row));
-    }
-    return ids;
-}
-
 } // namespace
 
-class FormatDetailModelTest : public QObject
+class TestFormatDetailModel : public QObject
 {
     Q_OBJECT
 
@@ -100,6 +82,7 @@ private Q_SLOTS:
     void theMetaObjectOffersTheseMethods();
     void theMetaObjectOffersTheCount();
     void qmlCallsTheInvokables();
+    void theRolesAreNumberedFrom257();
     void everyRoleHasAName();
     void dataGivesTheFieldOfTheRole_data();
     void dataGivesTheFieldOfTheRole();
@@ -164,7 +147,7 @@ private:
     std::unique_ptr<FormatDetailModel> m_model;
 };
 
-void FormatDetailModelTest::init()
+void TestFormatDetailModel::init()
 {
     FormatDetailModel::s_userDefineId = 1000;
     FormatDetailModel::s_idForTest = 1001;
@@ -173,21 +156,21 @@ void FormatDetailModelTest::init()
     guard(*m_model);
 }
 
-void FormatDetailModelTest::cleanup()
+void TestFormatDetailModel::cleanup()
 {
     m_model.reset();
     QCOMPARE(m_log->takeAll(), QStringList());
     m_log.reset();
 }
 
-void FormatDetailModelTest::theCountersStartAt1000And1001()
+void TestFormatDetailModel::theCountersStartAt1000And1001()
 {
     QCOMPARE(userDefineIdAtStart, 1000);
     QCOMPARE(idForTestAtStart, 1001);
     QCOMPARE(m_model->getIdIndex(), 1000);
 }
 
-void FormatDetailModelTest::aNewModelIsEmpty()
+void TestFormatDetailModel::aNewModelIsEmpty()
 {
     QObject parent;
     const auto *model = new FormatDetailModel(&parent);
@@ -197,7 +180,7 @@ void FormatDetailModelTest::aNewModelIsEmpty()
     QCOMPARE(model->userDefineCount(), 0);
 }
 
-void FormatDetailModelTest::theMetaObjectOffersTheseMethods()
+void TestFormatDetailModel::theMetaObjectOffersTheseMethods()
 {
     const QMetaObject &meta = FormatDetailModel::staticMetaObject;
     QCOMPARE(meta.superClass(), &QAbstractListModel::staticMetaObject);
@@ -208,7 +191,7 @@ void FormatDetailModelTest::theMetaObjectOffersTheseMethods()
                                }));
 }
 
-void FormatDetailModelTest::theMetaObjectOffersTheCount()
+void TestFormatDetailModel::theMetaObjectOffersTheCount()
 {
     QCOMPARE(ownProperties(FormatDetailModel::staticMetaObject),
              QStringList({QStringLiteral("int count, written, notify countChanged")}));
@@ -217,7 +200,7 @@ void FormatDetailModelTest::theMetaObjectOffersTheCount()
     QCOMPARE(m_model->property("count"), QVariant(7));
 }
 
-void FormatDetailModelTest::qmlCallsTheInvokables()
+void TestFormatDetailModel::qmlCallsTheInvokables()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     QString id;
@@ -230,7 +213,16 @@ void FormatDetailModelTest::qmlCallsTheInvokables()
     QVERIFY(exists);
 }
 
-void FormatDetailModelTest::everyRoleHasAName()
+void TestFormatDetailModel::theRolesAreNumberedFrom257()
+{
+    int number = 257;
+    for (const Role &role : roles) {
+        QCOMPARE(role.number, number++);
+    }
+    QCOMPARE(QMetaEnum::fromType<FormatDetailModel::InvitationRoles>().keyCount(), number - 257);
+}
+
+void TestFormatDetailModel::everyRoleHasAName()
 {
     QHash<int, QByteArray> names;
     for (const Role &role : roles) {
@@ -239,12 +231,12 @@ void FormatDetailModelTest::everyRoleHasAName()
     QCOMPARE(m_model->roleNames(), names);
 }
 
-void FormatDetailModelTest::dataGivesTheFieldOfTheRole_data()
+void TestFormatDetailModel::dataGivesTheFieldOfTheRole_data()
 {
     addRoleRows();
 }
 
-void FormatDetailModelTest::dataGivesTheFieldOfTheRole()
+void TestFormatDetailModel::dataGivesTheFieldOfTheRole()
 {
     QFETCH(int, number);
     QFETCH(QString, name);
@@ -259,25 +251,25 @@ void FormatDetailModelTest::dataGivesTheFieldOfTheRole()
              fieldsOf(FormatDetailModelData()).value(name));
 }
 
-void FormatDetailModelTest::dataOfAnUnknownRoleIsInvalid_data()
+void TestFormatDetailModel::dataOfAnUnknownRoleIsInvalid_data()
 {
     QTest::addColumn<int>("role");
-    QTest::newRow("below the first") << 256;
-    QTest::newRow("above the last") << 283;
+    QTest::newRow("below the first") << FormatDetailModel::ExtensionRole - 1;
+    QTest::newRow("above the last") << FormatDetailModel::ParamRole + 1;
     QTest::newRow("display role") << int(Qt::DisplayRole);
     QTest::newRow("edit role") << int(Qt::EditRole);
     QTest::newRow("negative") << -1;
     QTest::newRow("highest number") << INT_MAX;
 }
 
-void FormatDetailModelTest::dataOfAnUnknownRoleIsInvalid()
+void TestFormatDetailModel::dataOfAnUnknownRoleIsInvalid()
 {
     QFETCH(int, role);
     m_model->addModeInfo(samplePreset());
     QVERIFY(!m_model->data(m_model->index(0), role).isValid());
 }
 
-void FormatDetailModelTest::dataOutsideTheRowsIsInvalid()
+void TestFormatDetailModel::dataOutsideTheRowsIsInvalid()
 {
     FormatDetailModel longer;
     longer.addModeInfo(samplePreset());
@@ -289,7 +281,7 @@ void FormatDetailModelTest::dataOutsideTheRowsIsInvalid()
     }
 }
 
-void FormatDetailModelTest::rowCountIgnoresTheParent()
+void TestFormatDetailModel::rowCountIgnoresTheParent()
 {
     m_model->addModeInfo(samplePreset());
     m_model->addModeInfo(samplePreset());
@@ -297,7 +289,7 @@ void FormatDetailModelTest::rowCountIgnoresTheParent()
     QCOMPARE(m_model->rowCount(m_model->index(0)), 2);
 }
 
-void FormatDetailModelTest::addingAppendsACopy()
+void TestFormatDetailModel::addingAppendsACopy()
 {
     FormatDetailModelData preset = samplePreset();
     QVERIFY(m_model->addModeInfo(presetWithId(QStringLiteral("a"))));
@@ -310,7 +302,7 @@ void FormatDetailModelTest::addingAppendsACopy()
     QCOMPARE(asLines(fieldsOf(read)), asLines(fieldsOf(samplePreset())));
 }
 
-void FormatDetailModelTest::addingAtTheHeadPutsACopyFirst()
+void TestFormatDetailModel::addingAtTheHeadPutsACopyFirst()
 {
     FormatDetailModelData preset = samplePreset();
     QVERIFY(m_model->addModeInfoAtHead(presetWithId(QStringLiteral("a"))));
@@ -323,7 +315,7 @@ void FormatDetailModelTest::addingAtTheHeadPutsACopyFirst()
     QCOMPARE(asLines(fieldsOf(read)), asLines(fieldsOf(samplePreset())));
 }
 
-void FormatDetailModelTest::addingAnnouncesOneRowThenTheCount()
+void TestFormatDetailModel::addingAnnouncesOneRowThenTheCount()
 {
     SignalLog log(*m_model);
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
@@ -343,7 +335,7 @@ void FormatDetailModelTest::addingAnnouncesOneRowThenTheCount()
                           QStringLiteral("countChanged 3; rows 3, count 3")}));
 }
 
-void FormatDetailModelTest::addingTheSameIdTwiceKeepsBoth()
+void TestFormatDetailModel::addingTheSameIdTwiceKeepsBoth()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     QVERIFY(m_model->addModeInfo(presetWithId(QStringLiteral("a"))));
@@ -352,7 +344,7 @@ void FormatDetailModelTest::addingTheSameIdTwiceKeepsBoth()
     QCOMPARE(m_model->count(), 3);
 }
 
-void FormatDetailModelTest::aUserDefinedIdRaisesTheHighestId_data()
+void TestFormatDetailModel::aUserDefinedIdRaisesTheHighestId_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<bool>("userDefine");
@@ -372,7 +364,7 @@ void FormatDetailModelTest::aUserDefinedIdRaisesTheHighestId_data()
     QTest::newRow("above that") << QStringLiteral("2147483648") << true << 1000;
 }
 
-void FormatDetailModelTest::aUserDefinedIdRaisesTheHighestId()
+void TestFormatDetailModel::aUserDefinedIdRaisesTheHighestId()
 {
     QFETCH(QString, id);
     QFETCH(bool, userDefine);
@@ -385,7 +377,7 @@ void FormatDetailModelTest::aUserDefinedIdRaisesTheHighestId()
     QCOMPARE(m_model->getIdIndex(), highest);
 }
 
-void FormatDetailModelTest::theHighestIdIsSharedAndNeverFalls()
+void TestFormatDetailModel::theHighestIdIsSharedAndNeverFalls()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("1005"), true));
     QCOMPARE(FormatDetailModel().getIdIndex(), 1005);
@@ -401,7 +393,7 @@ void FormatDetailModelTest::theHighestIdIsSharedAndNeverFalls()
     QCOMPARE(m_model->getIdIndex(), 1005);
 }
 
-void FormatDetailModelTest::theHighestIdIsRaisedBetweenAnnouncementAndInsertion()
+void TestFormatDetailModel::theHighestIdIsRaisedBetweenAnnouncementAndInsertion()
 {
     int announced = 0;
     int inserted = 0;
@@ -414,7 +406,7 @@ void FormatDetailModelTest::theHighestIdIsRaisedBetweenAnnouncementAndInsertion(
     QCOMPARE(inserted, 1005);
 }
 
-void FormatDetailModelTest::deletingARowRemovesItAlone()
+void TestFormatDetailModel::deletingARowRemovesItAlone()
 {
     for (const auto &id : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}) {
         m_model->addModeInfo(presetWithId(id));
@@ -427,7 +419,7 @@ void FormatDetailModelTest::deletingARowRemovesItAlone()
     QVERIFY(!m_model->delModeInfo(0));
 }
 
-void FormatDetailModelTest::deletingAnnouncesOneRowThenTheCount()
+void TestFormatDetailModel::deletingAnnouncesOneRowThenTheCount()
 {
     for (const auto &id : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}) {
         m_model->addModeInfo(presetWithId(id));
@@ -440,12 +432,12 @@ void FormatDetailModelTest::deletingAnnouncesOneRowThenTheCount()
                           QStringLiteral("countChanged 2; rows 2, count 2")}));
 }
 
-void FormatDetailModelTest::deletingOutsideTheRowsIsRefused_data()
+void TestFormatDetailModel::deletingOutsideTheRowsIsRefused_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatDetailModelTest::deletingOutsideTheRowsIsRefused()
+void TestFormatDetailModel::deletingOutsideTheRowsIsRefused()
 {
     QFETCH(int, row);
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
@@ -456,7 +448,7 @@ void FormatDetailModelTest::deletingOutsideTheRowsIsRefused()
     QCOMPARE(idsOf(*m_model), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
 }
 
-void FormatDetailModelTest::deletingByIdRemovesTheFirstOfSeveral()
+void TestFormatDetailModel::deletingByIdRemovesTheFirstOfSeveral()
 {
     FormatDetailModelData second = presetWithId(QStringLiteral("a"));
     second.title = QStringLiteral("second");
@@ -476,7 +468,7 @@ void FormatDetailModelTest::deletingByIdRemovesTheFirstOfSeveral()
     QCOMPARE(idsOf(*m_model), QStringList({QStringLiteral("b")}));
 }
 
-void FormatDetailModelTest::deletingAnUnknownIdKeepsTheList()
+void TestFormatDetailModel::deletingAnUnknownIdKeepsTheList()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     SignalLog log(*m_model);
@@ -486,7 +478,7 @@ void FormatDetailModelTest::deletingAnUnknownIdKeepsTheList()
     QCOMPARE(m_model->rowCount(), 1);
 }
 
-void FormatDetailModelTest::clearingDeletesRowByRowAndSetsTheCountOnceMore()
+void TestFormatDetailModel::clearingDeletesRowByRowAndSetsTheCountOnceMore()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->addModeInfo(presetWithId(QStringLiteral("b")));
@@ -504,7 +496,7 @@ void FormatDetailModelTest::clearingDeletesRowByRowAndSetsTheCountOnceMore()
     QCOMPARE(m_model->count(), 0);
 }
 
-void FormatDetailModelTest::clearingAnEmptyModelSetsTheCountOnce()
+void TestFormatDetailModel::clearingAnEmptyModelSetsTheCountOnce()
 {
     m_model->setCount(3);
     SignalLog log(*m_model);
@@ -514,7 +506,7 @@ void FormatDetailModelTest::clearingAnEmptyModelSetsTheCountOnce()
                                          QStringLiteral("countChanged 0; rows 0, count 0")}));
 }
 
-void FormatDetailModelTest::theDestructorClears()
+void TestFormatDetailModel::theDestructorClears()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     SignalLog log(*m_model);
@@ -526,7 +518,7 @@ void FormatDetailModelTest::theDestructorClears()
                           QStringLiteral("countChanged 0; rows 0, count 0")}));
 }
 
-void FormatDetailModelTest::settingTheCountAlwaysNotifies()
+void TestFormatDetailModel::settingTheCountAlwaysNotifies()
 {
     SignalLog log(*m_model);
     m_model->setCount(5);
@@ -537,7 +529,7 @@ void FormatDetailModelTest::settingTheCountAlwaysNotifies()
                                          QStringLiteral("countChanged -1; rows 0, count -1")}));
 }
 
-void FormatDetailModelTest::theCountStandsUntilTheRowsChange()
+void TestFormatDetailModel::theCountStandsUntilTheRowsChange()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->setCount(9);
@@ -551,7 +543,7 @@ void FormatDetailModelTest::theCountStandsUntilTheRowsChange()
     QCOMPARE(m_model->count(), 1);
 }
 
-void FormatDetailModelTest::updatingOverwritesTheWholePreset()
+void TestFormatDetailModel::updatingOverwritesTheWholePreset()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->addModeInfo(presetWithId(QStringLiteral("b")));
@@ -565,24 +557,27 @@ void FormatDetailModelTest::updatingOverwritesTheWholePreset()
     QCOMPARE(m_model->getId(0), QStringLiteral("a"));
 }
 
-void FormatDetailModelTest::updatingAnnouncesEveryRole()
+void TestFormatDetailModel::updatingAnnouncesEveryRole()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->addModeInfo(presetWithId(QStringLiteral("b")));
     SignalLog log(*m_model);
     m_model->updateModeInfo(1, samplePreset());
+    QStringList names;
+    for (const Role &role : roles) {
+        names.append(QString::fromLatin1(role.name));
+    }
     QCOMPARE(log.takeAll(),
-             QStringList({QStringLiteral("dataChanged 1:0 to 1:0 roles 257 258 259 260 261 262 263 "
-                                         "264 265 266 267 268 269 270 271 272 273 274 275 276 277 "
-                                         "278 279 280 281 282; rows 2, count 2")}));
+             QStringList({QStringLiteral("dataChanged 1:0 to 1:0 roles %1; rows 2, count 2")
+                              .arg(names.join(QLatin1Char(' ')))}));
 }
 
-void FormatDetailModelTest::updatingOutsideTheRowsIsRefused_data()
+void TestFormatDetailModel::updatingOutsideTheRowsIsRefused_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatDetailModelTest::updatingOutsideTheRowsIsRefused()
+void TestFormatDetailModel::updatingOutsideTheRowsIsRefused()
 {
     QFETCH(int, row);
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
@@ -594,7 +589,7 @@ void FormatDetailModelTest::updatingOutsideTheRowsIsRefused()
     QVERIFY(!m_model->containId(samplePreset().id));
 }
 
-void FormatDetailModelTest::updatingFollowsAChangedId()
+void TestFormatDetailModel::updatingFollowsAChangedId()
 {
     for (const auto &id : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}) {
         m_model->addModeInfo(presetWithId(id));
@@ -608,14 +603,14 @@ void FormatDetailModelTest::updatingFollowsAChangedId()
     QCOMPARE(m_model->findModelInfoIndex(QStringLiteral("a")), 0);
 }
 
-void FormatDetailModelTest::updatingLeavesTheHighestId()
+void TestFormatDetailModel::updatingLeavesTheHighestId()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->updateModeInfo(0, presetWithId(QStringLiteral("1005"), true));
     QCOMPARE(m_model->getIdIndex(), 1000);
 }
 
-void FormatDetailModelTest::idsAreComparedExactly_data()
+void TestFormatDetailModel::idsAreComparedExactly_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<int>("row");
@@ -627,7 +622,7 @@ void FormatDetailModelTest::idsAreComparedExactly_data()
     QTest::newRow("blank behind") << QStringLiteral("Mp4_1 ") << -1;
 }
 
-void FormatDetailModelTest::idsAreComparedExactly()
+void TestFormatDetailModel::idsAreComparedExactly()
 {
     QFETCH(QString, id);
     QFETCH(int, row);
@@ -641,7 +636,7 @@ void FormatDetailModelTest::idsAreComparedExactly()
     QCOMPARE(m_model->getModelInfoById(id, read), row >= 0);
 }
 
-void FormatDetailModelTest::theFirstRowOfAnIdIsFound()
+void TestFormatDetailModel::theFirstRowOfAnIdIsFound()
 {
     const auto add = [this](bool atHead, const QString &id, const QString &title) {
         FormatDetailModelData preset = presetWithId(id);
@@ -669,12 +664,12 @@ void FormatDetailModelTest::theFirstRowOfAnIdIsFound()
     QCOMPARE(read.title, QStringLiteral("second"));
 }
 
-void FormatDetailModelTest::theIdOutsideTheRowsIsEmpty_data()
+void TestFormatDetailModel::theIdOutsideTheRowsIsEmpty_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatDetailModelTest::theIdOutsideTheRowsIsEmpty()
+void TestFormatDetailModel::theIdOutsideTheRowsIsEmpty()
 {
     QFETCH(int, row);
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
@@ -683,7 +678,7 @@ void FormatDetailModelTest::theIdOutsideTheRowsIsEmpty()
     QCOMPARE(FormatDetailModel().getId(row), QString());
 }
 
-void FormatDetailModelTest::allPresetsAreAppendedToTheQueue()
+void TestFormatDetailModel::allPresetsAreAppendedToTheQueue()
 {
     m_model->addModeInfo(samplePreset());
     m_model->addModeInfo(presetWithId(QStringLiteral("b")));
@@ -702,7 +697,7 @@ void FormatDetailModelTest::allPresetsAreAppendedToTheQueue()
     QCOMPARE(queue.size(), 3);
 }
 
-void FormatDetailModelTest::aPresetIsReadByItsRow()
+void TestFormatDetailModel::aPresetIsReadByItsRow()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->addModeInfo(samplePreset());
@@ -713,12 +708,12 @@ void FormatDetailModelTest::aPresetIsReadByItsRow()
     QCOMPARE(asLines(fieldsOf(read)), asLines(fieldsOf(presetWithId(QStringLiteral("a")))));
 }
 
-void FormatDetailModelTest::readingOutsideTheRowsLeavesTheOutput_data()
+void TestFormatDetailModel::readingOutsideTheRowsLeavesTheOutput_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatDetailModelTest::readingOutsideTheRowsLeavesTheOutput()
+void TestFormatDetailModel::readingOutsideTheRowsLeavesTheOutput()
 {
     QFETCH(int, row);
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
@@ -728,7 +723,7 @@ void FormatDetailModelTest::readingOutsideTheRowsLeavesTheOutput()
     QCOMPARE(asLines(fieldsOf(read)), asLines(fieldsOf(samplePreset())));
 }
 
-void FormatDetailModelTest::aPresetIsReadByItsId()
+void TestFormatDetailModel::aPresetIsReadByItsId()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->addModeInfo(samplePreset());
@@ -739,7 +734,7 @@ void FormatDetailModelTest::aPresetIsReadByItsId()
     QCOMPARE(asLines(fieldsOf(read)), asLines(fieldsOf(samplePreset())));
 }
 
-void FormatDetailModelTest::onlyUserDefinedPresetsAreCounted()
+void TestFormatDetailModel::onlyUserDefinedPresetsAreCounted()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a"), true));
     m_model->addModeInfo(presetWithId(QStringLiteral("b"), false));
@@ -751,7 +746,7 @@ void FormatDetailModelTest::onlyUserDefinedPresetsAreCounted()
     QCOMPARE(m_model->userDefineCount(), 2);
 }
 
-void FormatDetailModelTest::theExtensionIsWrittenByIdAndAnnounced()
+void TestFormatDetailModel::theExtensionIsWrittenByIdAndAnnounced()
 {
     const QString a = QStringLiteral("a");
     for (const auto &id : {QStringLiteral("b"), a, a}) {
@@ -759,11 +754,15 @@ void FormatDetailModelTest::theExtensionIsWrittenByIdAndAnnounced()
     }
     SignalLog log(*m_model);
     QVERIFY(m_model->setRoleValue(FormatDetailModel::ExtensionRole, a, QStringLiteral("mkv")));
-    QCOMPARE(log.takeAll(),
-             QStringList({QStringLiteral("dataChanged 1:0 to 1:0 roles 257; rows 3, count 3")}));
-    QCOMPARE(m_model->data(m_model->index(0), 257), QVariant(QString()));
-    QCOMPARE(m_model->data(m_model->index(1), 257), QVariant(QStringLiteral("mkv")));
-    QCOMPARE(m_model->data(m_model->index(2), 257), QVariant(QString()));
+    QCOMPARE(
+        log.takeAll(),
+        QStringList({QStringLiteral("dataChanged 1:0 to 1:0 roles extension; rows 3, count 3")}));
+    QCOMPARE(m_model->data(m_model->index(0), FormatDetailModel::ExtensionRole),
+             QVariant(QString()));
+    QCOMPARE(m_model->data(m_model->index(1), FormatDetailModel::ExtensionRole),
+             QVariant(QStringLiteral("mkv")));
+    QCOMPARE(m_model->data(m_model->index(2), FormatDetailModel::ExtensionRole),
+             QVariant(QString()));
 
     QVERIFY(m_model->setRoleValue(FormatDetailModel::ExtensionRole, a, 264));
     const QVariant written = m_model->getRoleValue(FormatDetailModel::ExtensionRole, a);
@@ -771,19 +770,19 @@ void FormatDetailModelTest::theExtensionIsWrittenByIdAndAnnounced()
     QCOMPARE(written.toString(), QStringLiteral("264"));
 }
 
-void FormatDetailModelTest::otherRolesAreNotWritten_data()
+void TestFormatDetailModel::otherRolesAreNotWritten_data()
 {
     QTest::addColumn<int>("number");
     for (const Role &role : roles) {
-        if (role.number != 257) {
+        if (role.number != FormatDetailModel::ExtensionRole) {
             QTest::newRow(role.name) << role.number;
         }
     }
-    QTest::newRow("below the first role") << 256;
-    QTest::newRow("above the last role") << 283;
+    QTest::newRow("below the first role") << FormatDetailModel::ExtensionRole - 1;
+    QTest::newRow("above the last role") << FormatDetailModel::ParamRole + 1;
 }
 
-void FormatDetailModelTest::otherRolesAreNotWritten()
+void TestFormatDetailModel::otherRolesAreNotWritten()
 {
     QFETCH(int, number);
     m_model->addModeInfo(samplePreset());
@@ -795,7 +794,7 @@ void FormatDetailModelTest::otherRolesAreNotWritten()
     QCOMPARE(asLines(fieldsOf(read)), asLines(fieldsOf(samplePreset())));
 }
 
-void FormatDetailModelTest::writingAnUnknownIdIsRefused()
+void TestFormatDetailModel::writingAnUnknownIdIsRefused()
 {
     m_model->addModeInfo(samplePreset());
     SignalLog log(*m_model);
@@ -803,10 +802,11 @@ void FormatDetailModelTest::writingAnUnknownIdIsRefused()
                                    QStringLiteral("mkv")));
     QVERIFY(!m_model->setRoleValue(FormatDetailModel::IdRole, QString(), QStringLiteral("mkv")));
     QCOMPARE(log.takeAll(), QStringList());
-    QCOMPARE(m_model->data(m_model->index(0), 257), QVariant(samplePreset().extension));
+    QCOMPARE(m_model->data(m_model->index(0), FormatDetailModel::ExtensionRole),
+             QVariant(samplePreset().extension));
 }
 
-void FormatDetailModelTest::onlyTheExtensionIsReadById()
+void TestFormatDetailModel::onlyTheExtensionIsReadById()
 {
     const QString id = samplePreset().id;
     FormatDetailModelData second = presetWithId(id);
@@ -818,12 +818,14 @@ void FormatDetailModelTest::onlyTheExtensionIsReadById()
              QVariant(samplePreset().extension));
     QVERIFY(!m_model->getRoleValue(FormatDetailModel::ExtensionRole, QStringLiteral("unknown"))
                  .isValid());
-    for (int number = 256; number <= 283; ++number) {
-        QCOMPARE(m_model->getRoleValue(asRole(number), id).isValid(), number == 257);
+    for (int number = FormatDetailModel::ExtensionRole - 1;
+         number <= FormatDetailModel::ParamRole + 1; ++number) {
+        QCOMPARE(m_model->getRoleValue(asRole(number), id).isValid(),
+                 number == FormatDetailModel::ExtensionRole);
     }
 }
 
-void FormatDetailModelTest::theListsHoldUserDefinedPresetsOnly()
+void TestFormatDetailModel::theListsHoldUserDefinedPresetsOnly()
 {
     FormatDetailModelData userDefined = samplePreset();
     userDefined.id = QStringLiteral("1001");
@@ -838,7 +840,7 @@ void FormatDetailModelTest::theListsHoldUserDefinedPresetsOnly()
         asLines(QVariantList{samplePreset().toVarMapForSave(), userDefined.toVarMapForSave()}));
 }
 
-void FormatDetailModelTest::theListsOfCataloguePresetsAreEmpty()
+void TestFormatDetailModel::theListsOfCataloguePresetsAreEmpty()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     QCOMPARE(m_model->toVariantList(), QVariantList());
@@ -846,7 +848,7 @@ void FormatDetailModelTest::theListsOfCataloguePresetsAreEmpty()
     QCOMPARE(m_model->toVariantListForTest().size(), 1);
 }
 
-void FormatDetailModelTest::theTestListRenumbersEveryPreset()
+void TestFormatDetailModel::theTestListRenumbersEveryPreset()
 {
     m_model->addModeInfo(samplePreset());
     m_model->addModeInfo(presetWithId(QStringLiteral("of the catalogue")));
@@ -868,5 +870,5 @@ void FormatDetailModelTest::theTestListRenumbersEveryPreset()
     QCOMPARE(m_model->getId(0), samplePreset().id);
 }
 
-QTEST_GUILESS_MAIN(FormatDetailModelTest)
+QTEST_GUILESS_MAIN(TestFormatDetailModel)
 #include "tst_formatdetailmodel.moc"

@@ -43,7 +43,7 @@ QVariantMap videoOf(const QVariantMap &preset)
 
 } // namespace
 
-class FormatDetailModelDataTest : public QObject
+class TestFormatDetailModelData : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private Q_SLOTS:
     void joiningPutsTheSeparatorBetweenTheItems();
 };
 
-void FormatDetailModelDataTest::aNewPresetHoldsTheDefaults()
+void TestFormatDetailModelData::aNewPresetHoldsTheDefaults()
 {
     const QVariantList none;
     const QVariantMap defaults{
@@ -101,7 +101,7 @@ void FormatDetailModelDataTest::aNewPresetHoldsTheDefaults()
     QCOMPARE(asLines(fieldsOf(FormatDetailModelData())), asLines(defaults));
 }
 
-void FormatDetailModelDataTest::aCopyHoldsEveryField()
+void TestFormatDetailModelData::aCopyHoldsEveryField()
 {
     const FormatDetailModelData original = samplePreset();
     const FormatDetailModelData copy(original);
@@ -109,7 +109,7 @@ void FormatDetailModelDataTest::aCopyHoldsEveryField()
     QCOMPARE(asLines(fieldsOf(original)), asLines(fieldsOf(samplePreset())));
 }
 
-void FormatDetailModelDataTest::anAssignedPresetHoldsEveryField()
+void TestFormatDetailModelData::anAssignedPresetHoldsEveryField()
 {
     const FormatDetailModelData original = samplePreset();
     FormatDetailModelData assigned;
@@ -120,7 +120,7 @@ void FormatDetailModelDataTest::anAssignedPresetHoldsEveryField()
     QCOMPARE(asLines(fieldsOf(assigned)), asLines(fieldsOf(FormatDetailModelData())));
 }
 
-void FormatDetailModelDataTest::changingACopyLeavesTheOriginal()
+void TestFormatDetailModelData::changingACopyLeavesTheOriginal()
 {
     const FormatDetailModelData original = samplePreset();
     FormatDetailModelData copy = original;
@@ -130,7 +130,7 @@ void FormatDetailModelDataTest::changingACopyLeavesTheOriginal()
     QCOMPARE(asLines(fieldsOf(original)), asLines(fieldsOf(samplePreset())));
 }
 
-void FormatDetailModelDataTest::theFullMapOfANewPresetHasNoVideo()
+void TestFormatDetailModelData::theFullMapOfANewPresetHasNoVideo()
 {
     const QVariantList none;
     const QVariantMap audio{
@@ -154,7 +154,7 @@ void FormatDetailModelDataTest::theFullMapOfANewPresetHasNoVideo()
     QCOMPARE(asLines(FormatDetailModelData().toVarMap()), asLines(expected));
 }
 
-void FormatDetailModelDataTest::theFullMapOfAVideoPresetHoldsTheseKeys()
+void TestFormatDetailModelData::theFullMapOfAVideoPresetHoldsTheseKeys()
 {
     const FormatDetailModelData sample = samplePreset();
     QVariantMap expected = outerOfSample();
@@ -174,7 +174,7 @@ void FormatDetailModelDataTest::theFullMapOfAVideoPresetHoldsTheseKeys()
     QCOMPARE(asLines(sample.toVarMap()), asLines(expected));
 }
 
-void FormatDetailModelDataTest::theSavedMapOfAVideoPresetHoldsTheseKeys()
+void TestFormatDetailModelData::theSavedMapOfAVideoPresetHoldsTheseKeys()
 {
     const FormatDetailModelData sample = samplePreset();
     QVariantMap expected = outerOfSample();
@@ -192,7 +192,7 @@ void FormatDetailModelDataTest::theSavedMapOfAVideoPresetHoldsTheseKeys()
     QCOMPARE(asLines(sample.toVarMapForSave()), asLines(expected));
 }
 
-void FormatDetailModelDataTest::theSavedMapOfAnAudioPresetIsTheFullOne()
+void TestFormatDetailModelData::theSavedMapOfAnAudioPresetIsTheFullOne()
 {
     FormatDetailModelData preset = samplePreset();
     preset.videoEncoders.clear();
@@ -200,7 +200,7 @@ void FormatDetailModelDataTest::theSavedMapOfAnAudioPresetIsTheFullOne()
     QCOMPARE(asLines(preset.toVarMap()), asLines(outerOfSample()));
 }
 
-void FormatDetailModelDataTest::offeredVideoEncodersDecideWhetherThereIsVideo()
+void TestFormatDetailModelData::offeredVideoEncodersDecideWhetherThereIsVideo()
 {
     FormatDetailModelData preset;
     preset.videoEncoders = {QStringLiteral("h264")};
@@ -217,7 +217,7 @@ void FormatDetailModelDataTest::offeredVideoEncodersDecideWhetherThereIsVideo()
     QVERIFY(!preset.toVarMapForSave().contains(QStringLiteral("video")));
 }
 
-void FormatDetailModelDataTest::savedBitratesAreFolded_data()
+void TestFormatDetailModelData::savedBitratesAreFolded_data()
 {
     QTest::addColumn<QString>("high");
     QTest::addColumn<QString>("mid");
@@ -239,7 +239,7 @@ void FormatDetailModelDataTest::savedBitratesAreFolded_data()
         << QVariantList{QStringLiteral("%1")} << QStringLiteral("%2:%1:%3:%1");
 }
 
-void FormatDetailModelDataTest::savedBitratesAreFolded()
+void TestFormatDetailModelData::savedBitratesAreFolded()
 {
     QFETCH(QString, high);
     QFETCH(QString, mid);
@@ -258,7 +258,7 @@ void FormatDetailModelDataTest::savedBitratesAreFolded()
     QCOMPARE(bitrates.toString(), folded);
 }
 
-void FormatDetailModelDataTest::aMapIsMadeAnewEachTime()
+void TestFormatDetailModelData::aMapIsMadeAnewEachTime()
 {
     const FormatDetailModelData preset = samplePreset();
     QVariantMap map = preset.toVarMap();
@@ -272,7 +272,7 @@ void FormatDetailModelDataTest::aMapIsMadeAnewEachTime()
     QCOMPARE(asLines(preset.toVarMapForSave()), asLines(samplePreset().toVarMapForSave()));
 }
 
-void FormatDetailModelDataTest::joiningPutsTheSeparatorBetweenTheItems_data()
+void TestFormatDetailModelData::joiningPutsTheSeparatorBetweenTheItems_data()
 {
     QTest::addColumn<QVariantList>("items");
     QTest::addColumn<QString>("separator");
@@ -300,7 +300,7 @@ void FormatDetailModelDataTest::joiningPutsTheSeparatorBetweenTheItems_data()
         << QVariantList{a, b} << QStringLiteral(" | ") << QStringLiteral("a | b");
 }
 
-void FormatDetailModelDataTest::joiningPutsTheSeparatorBetweenTheItems()
+void TestFormatDetailModelData::joiningPutsTheSeparatorBetweenTheItems()
 {
     QFETCH(QVariantList, items);
     QFETCH(QString, separator);
@@ -309,5 +309,5 @@ void FormatDetailModelDataTest::joiningPutsTheSeparatorBetweenTheItems()
     QCOMPARE(samplePreset().joinStringList(items, separator), joined);
 }
 
-QTEST_APPLESS_MAIN(FormatDetailModelDataTest)
+QTEST_APPLESS_MAIN(TestFormatDetailModelData)
 #include "tst_formatdetailmodeldata.moc"

@@ -39,16 +39,6 @@ void deletePending()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void addRowsOutOfRange()
-{
-    QTest::addColumn<int>("row");
-    QTest::newRow("negative") << -1;
-    QTest::newRow("equal to the number of rows") << 2;
-    QTest::newRow("past the end") << 3;
-    QTest::newRow("lowest number") << INT_MIN;
-    QTest::newRow("highest number") << INT_MAX;
-}
-
 FormatListModel::InvitationRoles asRole(int number)
 {
     return static_cast<FormatListModel::InvitationRoles>(number);
@@ -56,7 +46,7 @@ FormatListModel::InvitationRoles asRole(int number)
 
 } // namespace
 
-class FormatListModelTest : public QObject
+class TestFormatListModel : public QObject
 {
     Q_OBJECT
 
@@ -68,6 +58,7 @@ private Q_SLOTS:
     void theMetaObjectOffersTheseMethods();
     void theMetaObjectOffersTheCount();
     void qmlCallsTheInvokables();
+    void theRolesAreNumberedFrom257();
     void everyRoleHasAName();
     void dataGivesTheFieldOfTheRole();
     void dataOfAnUnknownRoleIsInvalid_data();
@@ -159,7 +150,7 @@ private:
     std::unique_ptr<FormatListModel> m_model;
 };
 
-void FormatListModelTest::init()
+void TestFormatListModel::init()
 {
     FormatDetailModel::s_userDefineId = 1000;
     FormatDetailModel::s_idForTest = 1001;
@@ -168,7 +159,7 @@ void FormatListModelTest::init()
     guard(*m_model);
 }
 
-void FormatListModelTest::cleanup()
+void TestFormatListModel::cleanup()
 {
     m_model.reset();
     QCOMPARE(m_log->takeAll(), QStringList());
@@ -176,7 +167,7 @@ void FormatListModelTest::cleanup()
 }
 
 // Ids that are numbers become user-defined presets.
-FormatDetailModel &FormatListModelTest::add(const FormatListModelData &data, const QStringList &ids)
+FormatDetailModel &TestFormatListModel::add(const FormatListModelData &data, const QStringList &ids)
 {
     m_model->addModeInfo(data);
     FormatDetailModel &presets = *m_model->formatDetailModel(data.title);
@@ -187,7 +178,7 @@ FormatDetailModel &FormatListModelTest::add(const FormatListModelData &data, con
     return presets;
 }
 
-void FormatListModelTest::aNewModelIsEmpty()
+void TestFormatListModel::aNewModelIsEmpty()
 {
     QObject parent;
     const auto *model = new FormatListModel(&parent);
@@ -197,7 +188,7 @@ void FormatListModelTest::aNewModelIsEmpty()
     QCOMPARE(model->children(), QObjectList());
 }
 
-void FormatListModelTest::theMetaObjectOffersTheseMethods()
+void TestFormatListModel::theMetaObjectOffersTheseMethods()
 {
     const QMetaObject &meta = FormatListModel::staticMetaObject;
     QCOMPARE(meta.superClass(), &QAbstractListModel::staticMetaObject);
@@ -210,7 +201,7 @@ void FormatListModelTest::theMetaObjectOffersTheseMethods()
              }));
 }
 
-void FormatListModelTest::theMetaObjectOffersTheCount()
+void TestFormatListModel::theMetaObjectOffersTheCount()
 {
     QCOMPARE(ownProperties(FormatListModel::staticMetaObject),
              QStringList({QStringLiteral("int count, written, notify countChanged")}));
@@ -219,7 +210,7 @@ void FormatListModelTest::theMetaObjectOffersTheCount()
     QCOMPARE(m_model->property("count"), QVariant(7));
 }
 
-void FormatListModelTest::qmlCallsTheInvokables()
+void TestFormatListModel::qmlCallsTheInvokables()
 {
     add(format(mp4));
     FormatDetailModel *presets = nullptr;
@@ -238,51 +229,60 @@ void FormatListModelTest::qmlCallsTheInvokables()
     QVERIFY(exists);
 }
 
-void FormatListModelTest::everyRoleHasAName()
+void TestFormatListModel::theRolesAreNumberedFrom257()
 {
-    const QHash<int, QByteArray> names{{257, "title"}, {258, "icon"}, {259, "tag"}};
+    QCOMPARE(int(FormatListModel::TitleRole), 257);
+    QCOMPARE(int(FormatListModel::IconRole), 258);
+    QCOMPARE(int(FormatListModel::TagRole), 259);
+}
+
+void TestFormatListModel::everyRoleHasAName()
+{
+    const QHash<int, QByteArray> names{{FormatListModel::TitleRole, "title"},
+                                       {FormatListModel::IconRole, "icon"},
+                                       {FormatListModel::TagRole, "tag"}};
     QCOMPARE(m_model->roleNames(), names);
 }
 
-void FormatListModelTest::dataGivesTheFieldOfTheRole()
+void TestFormatListModel::dataGivesTheFieldOfTheRole()
 {
     add(format(avi));
     add(format(mp4));
     const QModelIndex row = m_model->index(1);
-    QCOMPARE(m_model->data(row, 257), QVariant(mp4));
-    QCOMPARE(m_model->data(row, 258), QVariant(QStringLiteral("mp4.png")));
-    QCOMPARE(m_model->data(row, 259), QVariant(QStringLiteral("video")));
+    QCOMPARE(m_model->data(row, FormatListModel::TitleRole), QVariant(mp4));
+    QCOMPARE(m_model->data(row, FormatListModel::IconRole), QVariant(QStringLiteral("mp4.png")));
+    QCOMPARE(m_model->data(row, FormatListModel::TagRole), QVariant(QStringLiteral("video")));
 }
 
-void FormatListModelTest::dataOfAnUnknownRoleIsInvalid_data()
+void TestFormatListModel::dataOfAnUnknownRoleIsInvalid_data()
 {
     QTest::addColumn<int>("role");
-    QTest::newRow("below the first") << 256;
-    QTest::newRow("above the last") << 260;
+    QTest::newRow("below the first") << FormatListModel::TitleRole - 1;
+    QTest::newRow("above the last") << FormatListModel::TagRole + 1;
     QTest::newRow("display role") << int(Qt::DisplayRole);
     QTest::newRow("negative") << -1;
 }
 
-void FormatListModelTest::dataOfAnUnknownRoleIsInvalid()
+void TestFormatListModel::dataOfAnUnknownRoleIsInvalid()
 {
     QFETCH(int, role);
     add(format(mp4));
     QVERIFY(!m_model->data(m_model->index(0), role).isValid());
 }
 
-void FormatListModelTest::dataOutsideTheRowsIsInvalid()
+void TestFormatListModel::dataOutsideTheRowsIsInvalid()
 {
     FormatListModel longer;
     longer.addModeInfo(format(avi));
     longer.addModeInfo(format(mp4));
     add(format(mp4));
-    for (int role = 257; role <= 259; ++role) {
+    for (int role = FormatListModel::TitleRole; role <= FormatListModel::TagRole; ++role) {
         QVERIFY(!m_model->data(QModelIndex(), role).isValid());
         QVERIFY(!m_model->data(longer.index(1), role).isValid());
     }
 }
 
-void FormatListModelTest::rowCountIgnoresTheParent()
+void TestFormatListModel::rowCountIgnoresTheParent()
 {
     add(format(mp4));
     add(format(avi));
@@ -290,7 +290,7 @@ void FormatListModelTest::rowCountIgnoresTheParent()
     QCOMPARE(m_model->rowCount(m_model->index(0)), 2);
 }
 
-void FormatListModelTest::addingAppendsACopyWithItsOwnPresetList()
+void TestFormatListModel::addingAppendsACopyWithItsOwnPresetList()
 {
     FormatListModelData data = format(mp4);
     QVERIFY(m_model->addModeInfo(format(avi)));
@@ -305,7 +305,7 @@ void FormatListModelTest::addingAppendsACopyWithItsOwnPresetList()
     QCOMPARE(presets->rowCount(), 0);
 }
 
-void FormatListModelTest::addingAtTheHeadPutsACopyFirst()
+void TestFormatListModel::addingAtTheHeadPutsACopyFirst()
 {
     QVERIFY(m_model->addModeInfoAtHead(format(avi)));
     QVERIFY(m_model->addModeInfoAtHead(format(mp4)));
@@ -315,7 +315,7 @@ void FormatListModelTest::addingAtTheHeadPutsACopyFirst()
     QCOMPARE(m_model->formatDetailModel(mp4)->parent(), m_model.get());
 }
 
-void FormatListModelTest::addingAnnouncesOneRowThenTheCount()
+void TestFormatListModel::addingAnnouncesOneRowThenTheCount()
 {
     SignalLog log(*m_model);
     m_model->addModeInfo(format(mp4));
@@ -335,7 +335,7 @@ void FormatListModelTest::addingAnnouncesOneRowThenTheCount()
                           QStringLiteral("countChanged 3; rows 3, count 3")}));
 }
 
-void FormatListModelTest::thePresetListIsThereOnceTheRowIs()
+void TestFormatListModel::thePresetListIsThereOnceTheRowIs()
 {
     bool atAnnouncement = true;
     bool atInsertion = false;
@@ -348,7 +348,7 @@ void FormatListModelTest::thePresetListIsThereOnceTheRowIs()
     QVERIFY(atInsertion);
 }
 
-void FormatListModelTest::twoRowsOfOneTitleShareTheLaterPresetList()
+void TestFormatListModel::twoRowsOfOneTitleShareTheLaterPresetList()
 {
     const FormatDetailModel &earlier = add(format(mp4), {QStringLiteral("a")});
     const FormatDetailModel &later = add(format(mp4), {QStringLiteral("b")});
@@ -358,7 +358,7 @@ void FormatListModelTest::twoRowsOfOneTitleShareTheLaterPresetList()
     QVERIFY(!later.containId(QStringLiteral("a")));
 }
 
-void FormatListModelTest::aReplacedPresetListLivesOutOfReachUntilTheModelEnds()
+void TestFormatListModel::aReplacedPresetListLivesOutOfReachUntilTheModelEnds()
 {
     const QPointer<FormatDetailModel> replaced = &add(format(mp4), {QStringLiteral("a")});
     m_model->addModeInfoAtHead(format(mp4));
@@ -374,7 +374,7 @@ void FormatListModelTest::aReplacedPresetListLivesOutOfReachUntilTheModelEnds()
     QVERIFY(!replaced);
 }
 
-void FormatListModelTest::deletingARowTakesItsPresetListAlong()
+void TestFormatListModel::deletingARowTakesItsPresetListAlong()
 {
     for (const QString &title : {mp4, avi, mp3}) {
         add(format(title));
@@ -387,7 +387,7 @@ void FormatListModelTest::deletingARowTakesItsPresetListAlong()
     QVERIFY(m_model->formatDetailModel(mp3));
 }
 
-void FormatListModelTest::deletingAnnouncesOneRowThenTheCount()
+void TestFormatListModel::deletingAnnouncesOneRowThenTheCount()
 {
     for (const QString &title : {mp4, avi, mp3}) {
         add(format(title));
@@ -400,7 +400,7 @@ void FormatListModelTest::deletingAnnouncesOneRowThenTheCount()
                           QStringLiteral("countChanged 2; rows 2, count 2")}));
 }
 
-void FormatListModelTest::thePresetListIsGoneOnceTheRowIs()
+void TestFormatListModel::thePresetListIsGoneOnceTheRowIs()
 {
     add(format(mp4), {QStringLiteral("a")});
     bool atAnnouncement = false;
@@ -418,12 +418,12 @@ void FormatListModelTest::thePresetListIsGoneOnceTheRowIs()
     QVERIFY(!idAtRemoval);
 }
 
-void FormatListModelTest::deletingOutsideTheRowsIsRefused_data()
+void TestFormatListModel::deletingOutsideTheRowsIsRefused_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatListModelTest::deletingOutsideTheRowsIsRefused()
+void TestFormatListModel::deletingOutsideTheRowsIsRefused()
 {
     QFETCH(int, row);
     add(format(mp4));
@@ -435,14 +435,14 @@ void FormatListModelTest::deletingOutsideTheRowsIsRefused()
     QVERIFY(m_model->formatDetailModel(avi));
 }
 
-void FormatListModelTest::deletingEitherRowOfATitleTakesTheSharedPresetList_data()
+void TestFormatListModel::deletingEitherRowOfATitleTakesTheSharedPresetList_data()
 {
     QTest::addColumn<int>("row");
     QTest::newRow("first") << 0;
     QTest::newRow("second") << 1;
 }
 
-void FormatListModelTest::deletingEitherRowOfATitleTakesTheSharedPresetList()
+void TestFormatListModel::deletingEitherRowOfATitleTakesTheSharedPresetList()
 {
     QFETCH(int, row);
     add(format(mp4));
@@ -454,7 +454,7 @@ void FormatListModelTest::deletingEitherRowOfATitleTakesTheSharedPresetList()
     QVERIFY(m_model->delModeInfo(0));
 }
 
-void FormatListModelTest::deletingByTitleRemovesTheFirstOfSeveral()
+void TestFormatListModel::deletingByTitleRemovesTheFirstOfSeveral()
 {
     m_model->addModeInfo(format(avi));
     m_model->addModeInfo(format(mp4, QStringLiteral("video")));
@@ -469,7 +469,7 @@ void FormatListModelTest::deletingByTitleRemovesTheFirstOfSeveral()
     QCOMPARE(titlesOf(*m_model), QStringList({avi}));
 }
 
-void FormatListModelTest::deletingAnUnknownTitleKeepsTheList()
+void TestFormatListModel::deletingAnUnknownTitleKeepsTheList()
 {
     add(format(mp4));
     SignalLog log(*m_model);
@@ -481,7 +481,7 @@ void FormatListModelTest::deletingAnUnknownTitleKeepsTheList()
     QVERIFY(m_model->formatDetailModel(mp4));
 }
 
-void FormatListModelTest::releasedPresetListsAreDeletedLater()
+void TestFormatListModel::releasedPresetListsAreDeletedLater()
 {
     const QPointer<FormatDetailModel> ofRow = &add(format(mp4), {QStringLiteral("a")});
     const QPointer<FormatDetailModel> ofTitle = &add(format(avi));
@@ -495,7 +495,7 @@ void FormatListModelTest::releasedPresetListsAreDeletedLater()
     QVERIFY(!ofRow && !ofTitle && !cleared);
 }
 
-void FormatListModelTest::deletingAPresetListKeepsTheRow()
+void TestFormatListModel::deletingAPresetListKeepsTheRow()
 {
     add(format(mp4), {QStringLiteral("a")});
     add(format(avi));
@@ -509,7 +509,7 @@ void FormatListModelTest::deletingAPresetListKeepsTheRow()
     QVERIFY(!m_model->delDetailModel(mp4));
 }
 
-void FormatListModelTest::clearingThePresetListsKeepsTheRows()
+void TestFormatListModel::clearingThePresetListsKeepsTheRows()
 {
     add(format(mp4), {QStringLiteral("a")});
     add(format(avi), {QStringLiteral("b")});
@@ -525,7 +525,7 @@ void FormatListModelTest::clearingThePresetListsKeepsTheRows()
     QCOMPARE(m_model->getTagName(QStringLiteral("a")), QString());
 }
 
-void FormatListModelTest::clearingDeletesRowByRowAndSetsTheCountOnceMore()
+void TestFormatListModel::clearingDeletesRowByRowAndSetsTheCountOnceMore()
 {
     add(format(mp4));
     add(format(avi));
@@ -543,7 +543,7 @@ void FormatListModelTest::clearingDeletesRowByRowAndSetsTheCountOnceMore()
     QCOMPARE(m_model->formatDetailModel(mp4), nullptr);
 }
 
-void FormatListModelTest::clearingAnEmptyModelSetsTheCountOnce()
+void TestFormatListModel::clearingAnEmptyModelSetsTheCountOnce()
 {
     m_model->setCount(3);
     SignalLog log(*m_model);
@@ -553,7 +553,7 @@ void FormatListModelTest::clearingAnEmptyModelSetsTheCountOnce()
                                          QStringLiteral("countChanged 0; rows 0, count 0")}));
 }
 
-void FormatListModelTest::clearingReleasesPresetListsWithoutARow()
+void TestFormatListModel::clearingReleasesPresetListsWithoutARow()
 {
     const QPointer<FormatDetailModel> presets = &add(format(mp4));
     m_model->updateModeInfo(0, format(avi));
@@ -565,7 +565,7 @@ void FormatListModelTest::clearingReleasesPresetListsWithoutARow()
     QVERIFY(!presets);
 }
 
-void FormatListModelTest::theDestructorClears()
+void TestFormatListModel::theDestructorClears()
 {
     const QPointer<FormatDetailModel> presets = &add(format(mp4), {QStringLiteral("a")});
     SignalLog log(*m_model);
@@ -578,7 +578,7 @@ void FormatListModelTest::theDestructorClears()
     QVERIFY(!presets);
 }
 
-void FormatListModelTest::settingTheCountAlwaysNotifies()
+void TestFormatListModel::settingTheCountAlwaysNotifies()
 {
     SignalLog log(*m_model);
     m_model->setCount(5);
@@ -589,7 +589,7 @@ void FormatListModelTest::settingTheCountAlwaysNotifies()
                                          QStringLiteral("countChanged -1; rows 0, count -1")}));
 }
 
-void FormatListModelTest::theCountStandsUntilTheRowsChange()
+void TestFormatListModel::theCountStandsUntilTheRowsChange()
 {
     add(format(mp4));
     m_model->setCount(9);
@@ -602,7 +602,7 @@ void FormatListModelTest::theCountStandsUntilTheRowsChange()
     QCOMPARE(m_model->count(), 1);
 }
 
-void FormatListModelTest::anUnknownTitleHasNoPresetListAndGetsNone()
+void TestFormatListModel::anUnknownTitleHasNoPresetListAndGetsNone()
 {
     add(format(mp4));
     QCOMPARE(m_model->formatDetailModel(avi), nullptr);
@@ -612,7 +612,7 @@ void FormatListModelTest::anUnknownTitleHasNoPresetListAndGetsNone()
     QVERIFY(!m_model->delDetailModel(QString()));
 }
 
-void FormatListModelTest::titlesAreComparedExactly_data()
+void TestFormatListModel::titlesAreComparedExactly_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<int>("row");
@@ -624,7 +624,7 @@ void FormatListModelTest::titlesAreComparedExactly_data()
     QTest::newRow("blank behind") << QStringLiteral("Mp4 ") << -1;
 }
 
-void FormatListModelTest::titlesAreComparedExactly()
+void TestFormatListModel::titlesAreComparedExactly()
 {
     QFETCH(QString, title);
     QFETCH(int, row);
@@ -638,7 +638,7 @@ void FormatListModelTest::titlesAreComparedExactly()
     QCOMPARE(m_model->getModelInfoByTitle(title, read), row >= 0);
 }
 
-void FormatListModelTest::theFirstRowOfATitleIsFound()
+void TestFormatListModel::theFirstRowOfATitleIsFound()
 {
     add(format(avi));
     add(format(mp4, QStringLiteral("first")));
@@ -658,12 +658,12 @@ void FormatListModelTest::theFirstRowOfATitleIsFound()
     QCOMPARE(m_model->findModelInfoIndex(avi), 0);
 }
 
-void FormatListModelTest::theTitleOutsideTheRowsIsEmpty_data()
+void TestFormatListModel::theTitleOutsideTheRowsIsEmpty_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatListModelTest::theTitleOutsideTheRowsIsEmpty()
+void TestFormatListModel::theTitleOutsideTheRowsIsEmpty()
 {
     QFETCH(int, row);
     add(format(mp4));
@@ -672,7 +672,7 @@ void FormatListModelTest::theTitleOutsideTheRowsIsEmpty()
     QCOMPARE(FormatListModel().getTitle(row), QString());
 }
 
-void FormatListModelTest::allFormatsAreAppendedToTheQueue()
+void TestFormatListModel::allFormatsAreAppendedToTheQueue()
 {
     add(format(mp4));
     add(format(mp3, QStringLiteral("audio")));
@@ -690,7 +690,7 @@ void FormatListModelTest::allFormatsAreAppendedToTheQueue()
     QCOMPARE(queue.size(), 3);
 }
 
-void FormatListModelTest::aFormatIsReadByRowAndByTitle()
+void TestFormatListModel::aFormatIsReadByRowAndByTitle()
 {
     add(format(mp4));
     add(format(mp3, QStringLiteral("audio")));
@@ -701,12 +701,12 @@ void FormatListModelTest::aFormatIsReadByRowAndByTitle()
     QCOMPARE(read.toVarMap(), format(mp4).toVarMap());
 }
 
-void FormatListModelTest::readingOutsideTheRowsLeavesTheOutput_data()
+void TestFormatListModel::readingOutsideTheRowsLeavesTheOutput_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatListModelTest::readingOutsideTheRowsLeavesTheOutput()
+void TestFormatListModel::readingOutsideTheRowsLeavesTheOutput()
 {
     QFETCH(int, row);
     add(format(mp4));
@@ -717,7 +717,7 @@ void FormatListModelTest::readingOutsideTheRowsLeavesTheOutput()
     QCOMPARE(read.toVarMap(), format(QStringLiteral("before")).toVarMap());
 }
 
-void FormatListModelTest::anUnknownIdHasNoClassTagOrIcon()
+void TestFormatListModel::anUnknownIdHasNoClassTagOrIcon()
 {
     add(format(mp4), {QStringLiteral("a")});
     for (const auto &id : {QStringLiteral("A"), QStringLiteral("unknown"), QString()}) {
@@ -728,7 +728,7 @@ void FormatListModelTest::anUnknownIdHasNoClassTagOrIcon()
     }
 }
 
-void FormatListModelTest::theClassFollowsTheTitlesAndTheTagFollowsTheRows()
+void TestFormatListModel::theClassFollowsTheTitlesAndTheTagFollowsTheRows()
 {
     const QString id = QStringLiteral("in both");
     add(format(mp4, QStringLiteral("video")), {id});
@@ -743,7 +743,7 @@ void FormatListModelTest::theClassFollowsTheTitlesAndTheTagFollowsTheRows()
     QCOMPARE(m_model->getIcon(QStringLiteral("in one")), QStringLiteral("avi.png"));
 }
 
-void FormatListModelTest::titlesAreOrderedByCodeUnit()
+void TestFormatListModel::titlesAreOrderedByCodeUnit()
 {
     const QString id = QStringLiteral("a");
     for (const auto &title : {QStringLiteral("ä"), QStringLiteral("avi"), QStringLiteral("ZZ")}) {
@@ -752,7 +752,7 @@ void FormatListModelTest::titlesAreOrderedByCodeUnit()
     }
 }
 
-void FormatListModelTest::anIdOfAnUpdatedOrDeletedPresetIsNoLongerFound()
+void TestFormatListModel::anIdOfAnUpdatedOrDeletedPresetIsNoLongerFound()
 {
     FormatDetailModel &presets =
         add(format(mp4), {QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("b")});
@@ -767,7 +767,7 @@ void FormatListModelTest::anIdOfAnUpdatedOrDeletedPresetIsNoLongerFound()
     QVERIFY(!m_model->containId(QStringLiteral("c")));
 }
 
-void FormatListModelTest::theIdsOfAReplacedPresetListAreNotFound()
+void TestFormatListModel::theIdsOfAReplacedPresetListAreNotFound()
 {
     FormatDetailModel &replaced = add(format(mp4), {QStringLiteral("a")});
     add(format(mp4), {QStringLiteral("b")});
@@ -783,7 +783,7 @@ void FormatListModelTest::theIdsOfAReplacedPresetListAreNotFound()
     QCOMPARE(m_model->getGetClass(QStringLiteral("b")), mp4);
 }
 
-void FormatListModelTest::theIdsOfAReleasedPresetListAreNotFound()
+void TestFormatListModel::theIdsOfAReleasedPresetListAreNotFound()
 {
     FormatDetailModel &released = add(format(mp4), {QStringLiteral("a")});
     m_model->delDetailModel(mp4);
@@ -792,14 +792,14 @@ void FormatListModelTest::theIdsOfAReleasedPresetListAreNotFound()
     QVERIFY(!m_model->containId(QStringLiteral("b")));
 }
 
-void FormatListModelTest::theSecondRowOfATitleGivesNoTag()
+void TestFormatListModel::theSecondRowOfATitleGivesNoTag()
 {
     add(format(mp4, QStringLiteral("video")));
     add(format(mp4, QStringLiteral("device")), {QStringLiteral("a")});
     QCOMPARE(m_model->getTagName(QStringLiteral("a")), QStringLiteral("video"));
 }
 
-void FormatListModelTest::updatingOverwritesAndAnnouncesEveryRole()
+void TestFormatListModel::updatingOverwritesAndAnnouncesEveryRole()
 {
     add(format(avi));
     add(format(mp4));
@@ -807,21 +807,20 @@ void FormatListModelTest::updatingOverwritesAndAnnouncesEveryRole()
     FormatListModelData data = format(mp3, QStringLiteral("audio"));
     QVERIFY(m_model->updateModeInfo(1, data));
     data.icon = QStringLiteral("changed later");
-    QCOMPARE(
-        log.takeAll(),
-        QStringList({QStringLiteral("dataChanged 1:0 to 1:0 roles 257 258 259; rows 2, count 2")}));
+    QCOMPARE(log.takeAll(), QStringList({QStringLiteral(
+                                "dataChanged 1:0 to 1:0 roles title icon tag; rows 2, count 2")}));
     FormatListModelData read;
     QVERIFY(m_model->getModelInfoByIndex(1, read));
     QCOMPARE(read.toVarMap(), format(mp3, QStringLiteral("audio")).toVarMap());
     QCOMPARE(m_model->getTitle(0), avi);
 }
 
-void FormatListModelTest::updatingOutsideTheRowsIsRefused_data()
+void TestFormatListModel::updatingOutsideTheRowsIsRefused_data()
 {
-    addRowsOutOfRange();
+    addRowsOutsideTwo();
 }
 
-void FormatListModelTest::updatingOutsideTheRowsIsRefused()
+void TestFormatListModel::updatingOutsideTheRowsIsRefused()
 {
     QFETCH(int, row);
     add(format(mp4));
@@ -833,14 +832,14 @@ void FormatListModelTest::updatingOutsideTheRowsIsRefused()
     QVERIFY(!m_model->isExist(mp3));
 }
 
-void FormatListModelTest::renamingLeavesThePresetsUnderTheOldTitle_data()
+void TestFormatListModel::renamingLeavesThePresetsUnderTheOldTitle_data()
 {
     QTest::addColumn<bool>("byRole");
     QTest::newRow("by update") << false;
     QTest::newRow("by role") << true;
 }
 
-void FormatListModelTest::renamingLeavesThePresetsUnderTheOldTitle()
+void TestFormatListModel::renamingLeavesThePresetsUnderTheOldTitle()
 {
     QFETCH(bool, byRole);
     const QString id = QStringLiteral("a");
@@ -867,7 +866,7 @@ void FormatListModelTest::renamingLeavesThePresetsUnderTheOldTitle()
     QCOMPARE(m_model->formatDetailModel(mp4), &presets);
 }
 
-void FormatListModelTest::renamingToATitleWithPresetsFindsThose()
+void TestFormatListModel::renamingToATitleWithPresetsFindsThose()
 {
     const QString id = QStringLiteral("a");
     add(format(avi, QStringLiteral("device")));
@@ -879,15 +878,15 @@ void FormatListModelTest::renamingToATitleWithPresetsFindsThose()
     QCOMPARE(m_model->getGetClass(id), mp4);
 }
 
-void FormatListModelTest::aRoleIsWrittenByTitleAndAnnounced_data()
+void TestFormatListModel::aRoleIsWrittenByTitleAndAnnounced_data()
 {
     QTest::addColumn<int>("role");
-    QTest::newRow("title") << 257;
-    QTest::newRow("icon") << 258;
-    QTest::newRow("tag") << 259;
+    QTest::newRow("title") << int(FormatListModel::TitleRole);
+    QTest::newRow("icon") << int(FormatListModel::IconRole);
+    QTest::newRow("tag") << int(FormatListModel::TagRole);
 }
 
-void FormatListModelTest::aRoleIsWrittenByTitleAndAnnounced()
+void TestFormatListModel::aRoleIsWrittenByTitleAndAnnounced()
 {
     QFETCH(int, role);
     for (const QString &title : {avi, mp4, mp4}) {
@@ -896,9 +895,9 @@ void FormatListModelTest::aRoleIsWrittenByTitleAndAnnounced()
     SignalLog log(*m_model);
     QVERIFY(m_model->setRoleValue(asRole(role), mp4, 264));
     QCOMPARE(log.takeAll(),
-             QStringList(
-                 {QStringLiteral("dataChanged 1:0 to 1:0 roles %1; rows 3, count 3").arg(role)}));
-    for (int other = 257; other <= 259; ++other) {
+             QStringList({QStringLiteral("dataChanged 1:0 to 1:0 roles %1; rows 3, count 3")
+                              .arg(QString::fromLatin1(m_model->roleNames().value(role)))}));
+    for (int other = FormatListModel::TitleRole; other <= FormatListModel::TagRole; ++other) {
         const QVariant value = m_model->data(m_model->index(1), other);
         QCOMPARE(value.userType(), int(QMetaType::QString));
         QCOMPARE(value.toString(), other == role
@@ -909,14 +908,14 @@ void FormatListModelTest::aRoleIsWrittenByTitleAndAnnounced()
              format(mp4).toVarMap().value(QString::fromLatin1(m_model->roleNames().value(role))));
 }
 
-void FormatListModelTest::otherRolesAreNeitherWrittenNorRead_data()
+void TestFormatListModel::otherRolesAreNeitherWrittenNorRead_data()
 {
     QTest::addColumn<int>("role");
-    QTest::newRow("below the first") << 256;
-    QTest::newRow("above the last") << 260;
+    QTest::newRow("below the first") << FormatListModel::TitleRole - 1;
+    QTest::newRow("above the last") << FormatListModel::TagRole + 1;
 }
 
-void FormatListModelTest::otherRolesAreNeitherWrittenNorRead()
+void TestFormatListModel::otherRolesAreNeitherWrittenNorRead()
 {
     QFETCH(int, role);
     add(format(mp4));
@@ -929,18 +928,18 @@ void FormatListModelTest::otherRolesAreNeitherWrittenNorRead()
     QVERIFY(!m_model->getRoleValue(asRole(role), mp4).isValid());
 }
 
-void FormatListModelTest::writingAnUnknownTitleIsRefused()
+void TestFormatListModel::writingAnUnknownTitleIsRefused()
 {
     add(format(mp4));
     SignalLog log(*m_model);
     QVERIFY(!m_model->setRoleValue(FormatListModel::TitleRole, QStringLiteral("mp4"), avi));
     QVERIFY(!m_model->setRoleValue(FormatListModel::TagRole, QString(), avi));
-    QVERIFY(!m_model->setRoleValue(asRole(260), avi, avi));
+    QVERIFY(!m_model->setRoleValue(asRole(FormatListModel::TagRole + 1), avi, avi));
     QCOMPARE(log.takeAll(), QStringList());
     QCOMPARE(titlesOf(*m_model), QStringList({mp4}));
 }
 
-void FormatListModelTest::aRoleIsReadByTitle()
+void TestFormatListModel::aRoleIsReadByTitle()
 {
     add(format(avi));
     add(format(mp4, QStringLiteral("first")));
@@ -953,7 +952,7 @@ void FormatListModelTest::aRoleIsReadByTitle()
     QVERIFY(!m_model->getRoleValue(FormatListModel::TagRole, mp3).isValid());
 }
 
-void FormatListModelTest::theNestedListsHoldFormatsWithUserDefinedPresets()
+void TestFormatListModel::theNestedListsHoldFormatsWithUserDefinedPresets()
 {
     const FormatDetailModelData preset = samplePreset();
     add(format(mp3, QStringLiteral("audio")), {QStringLiteral("of the catalogue")});
@@ -972,7 +971,7 @@ void FormatListModelTest::theNestedListsHoldFormatsWithUserDefinedPresets()
                                   nested(format(avi), preset.toVarMapForSave())}));
 }
 
-void FormatListModelTest::theNestedListsOfACatalogueAreEmpty()
+void TestFormatListModel::theNestedListsOfACatalogueAreEmpty()
 {
     add(format(mp4), {QStringLiteral("a"), QStringLiteral("b")});
     add(format(avi));
@@ -980,7 +979,7 @@ void FormatListModelTest::theNestedListsOfACatalogueAreEmpty()
     QCOMPARE(m_model->toVariantListForSave(), QVariantList());
 }
 
-void FormatListModelTest::theNestedTestListCountsThroughAllFormats()
+void TestFormatListModel::theNestedTestListCountsThroughAllFormats()
 {
     add(format(mp4), {QStringLiteral("a"), QStringLiteral("1001")});
     add(format(mp3));
@@ -1002,7 +1001,7 @@ void FormatListModelTest::theNestedTestListCountsThroughAllFormats()
     QCOMPARE(FormatDetailModel::s_idForTest, 1004);
 }
 
-void FormatListModelTest::aRowWithoutPresetListIsLeftOutAndEnteredAsNull_data()
+void TestFormatListModel::aRowWithoutPresetListIsLeftOutAndEnteredAsNull_data()
 {
     QTest::addColumn<NestedList>("nestedList");
     QTest::newRow("toVariantList") << &FormatListModel::toVariantList;
@@ -1010,7 +1009,7 @@ void FormatListModelTest::aRowWithoutPresetListIsLeftOutAndEnteredAsNull_data()
     QTest::newRow("toVariantListTest") << &FormatListModel::toVariantListTest;
 }
 
-void FormatListModelTest::aRowWithoutPresetListIsLeftOutAndEnteredAsNull()
+void TestFormatListModel::aRowWithoutPresetListIsLeftOutAndEnteredAsNull()
 {
     QFETCH(NestedList, nestedList);
     add(format(mp4), {QStringLiteral("1001")});
@@ -1027,7 +1026,7 @@ void FormatListModelTest::aRowWithoutPresetListIsLeftOutAndEnteredAsNull()
     QVERIFY(!m_model->delDetailModel(avi));
 }
 
-void FormatListModelTest::aFormatCanBeAddedUnderATitleEnteredAsNull()
+void TestFormatListModel::aFormatCanBeAddedUnderATitleEnteredAsNull()
 {
     add(format(mp4));
     m_model->updateModeInfo(0, format(avi));
@@ -1037,7 +1036,7 @@ void FormatListModelTest::aFormatCanBeAddedUnderATitleEnteredAsNull()
     QCOMPARE(m_model->getTagName(QStringLiteral("a")), QStringLiteral("video"));
 }
 
-void FormatListModelTest::formatsAreListedByTag()
+void TestFormatListModel::formatsAreListedByTag()
 {
     add(format(mp4, QStringLiteral("video")));
     add(format(QStringLiteral("phone"), QStringLiteral("device")));
@@ -1054,7 +1053,7 @@ void FormatListModelTest::formatsAreListedByTag()
     QCOMPARE(FormatListModel().formatList(), QStringList());
 }
 
-void FormatListModelTest::videoTypesAreTitlesOfVideoFormatsInUpperCase_data()
+void TestFormatListModel::videoTypesAreTitlesOfVideoFormatsInUpperCase_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<bool>("isVideo");
@@ -1070,7 +1069,7 @@ void FormatListModelTest::videoTypesAreTitlesOfVideoFormatsInUpperCase_data()
     QTest::newRow("empty") << QString() << false;
 }
 
-void FormatListModelTest::videoTypesAreTitlesOfVideoFormatsInUpperCase()
+void TestFormatListModel::videoTypesAreTitlesOfVideoFormatsInUpperCase()
 {
     QFETCH(QString, type);
     QFETCH(bool, isVideo);
@@ -1081,14 +1080,14 @@ void FormatListModelTest::videoTypesAreTitlesOfVideoFormatsInUpperCase()
     QCOMPARE(m_model->isVideoType(type), isVideo);
 }
 
-void FormatListModelTest::withoutVideoFormatsNothingIsAVideoType()
+void TestFormatListModel::withoutVideoFormatsNothingIsAVideoType()
 {
     add(format(mp4, QStringLiteral("device")));
     QVERIFY(!m_model->isVideoType(mp4));
     QVERIFY(!FormatListModel().isVideoType(mp4));
 }
 
-void FormatListModelTest::draggingMovesTheRowSilently_data()
+void TestFormatListModel::draggingMovesTheRowSilently_data()
 {
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("to");
@@ -1105,7 +1104,7 @@ void FormatListModelTest::draggingMovesTheRowSilently_data()
     QTest::newRow("far outside") << INT_MIN << INT_MAX << QStringLiteral("ABCD");
 }
 
-void FormatListModelTest::draggingMovesTheRowSilently()
+void TestFormatListModel::draggingMovesTheRowSilently()
 {
     QFETCH(int, from);
     QFETCH(int, to);
@@ -1125,7 +1124,7 @@ void FormatListModelTest::draggingMovesTheRowSilently()
     QCOMPARE(m_model->count(), 4);
 }
 
-void FormatListModelTest::draggingDecidesWhichRowIsFirst()
+void TestFormatListModel::draggingDecidesWhichRowIsFirst()
 {
     const QString id = QStringLiteral("a");
     add(format(mp4, QStringLiteral("first")));
@@ -1140,7 +1139,7 @@ void FormatListModelTest::draggingDecidesWhichRowIsFirst()
     QCOMPARE(m_model->getIcon(id), QStringLiteral("avi.png"));
 }
 
-void FormatListModelTest::lookUpsAgreeWithAPlainWalk_data()
+void TestFormatListModel::lookUpsAgreeWithAPlainWalk_data()
 {
     QTest::addColumn<unsigned>("seed");
     for (const unsigned seed : {1U, 20240229U, 4242U}) {
@@ -1148,7 +1147,7 @@ void FormatListModelTest::lookUpsAgreeWithAPlainWalk_data()
     }
 }
 
-void FormatListModelTest::lookUpsAgreeWithAPlainWalk()
+void TestFormatListModel::lookUpsAgreeWithAPlainWalk()
 {
     QFETCH(unsigned, seed);
     ChanceWalk walk(seed);
@@ -1162,5 +1161,5 @@ void FormatListModelTest::lookUpsAgreeWithAPlainWalk()
     }
 }
 
-QTEST_GUILESS_MAIN(FormatListModelTest)
+QTEST_GUILESS_MAIN(TestFormatListModel)
 #include "tst_formatlistmodel.moc"

@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-class FormatListModelDataTest : public QObject
+class TestFormatListModelData : public QObject
 {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ private Q_SLOTS:
     void aCopyIsIndependent();
 };
 
-void FormatListModelDataTest::theThreeTextsAreEmptyAtFirst()
+void TestFormatListModelData::theThreeTextsAreEmptyAtFirst()
 {
     const FormatListModelData format;
     const auto &[title, icon, tag] = format;
@@ -25,7 +25,7 @@ void FormatListModelDataTest::theThreeTextsAreEmptyAtFirst()
                                                              {QStringLiteral("tag"), QString()}}));
 }
 
-void FormatListModelDataTest::theMapHoldsTheThreeTexts()
+void TestFormatListModelData::theMapHoldsTheThreeTexts()
 {
     const FormatListModelData format{QStringLiteral("MP4"), QStringLiteral("mp4.png"),
                                      QStringLiteral("video")};
@@ -35,7 +35,7 @@ void FormatListModelDataTest::theMapHoldsTheThreeTexts()
                                  {QStringLiteral("tag"), QStringLiteral("video")}}));
 }
 
-void FormatListModelDataTest::aCopyIsIndependent()
+void TestFormatListModelData::aCopyIsIndependent()
 {
     const FormatListModelData format{QStringLiteral("MP4"), QStringLiteral("mp4.png"),
                                      QStringLiteral("video")};
@@ -46,5 +46,5 @@ void FormatListModelDataTest::aCopyIsIndependent()
     QCOMPARE(copy.tag, QStringLiteral("video"));
 }
 
-QTEST_APPLESS_MAIN(FormatListModelDataTest)
+QTEST_APPLESS_MAIN(TestFormatListModelData)
 #include "tst_formatlistmodeldata.moc"

@@ -51,7 +51,7 @@ public:
 
 } // namespace
 
-class FormatListModelProxyTest : public QObject
+class TestFormatListModelProxy : public QObject
 {
     Q_OBJECT
 
@@ -93,7 +93,7 @@ private:
     std::unique_ptr<CountingProxy> m_proxy;
 };
 
-void FormatListModelProxyTest::init()
+void TestFormatListModelProxy::init()
 {
     m_log.emplace();
     m_formats = std::make_unique<FormatListModel>();
@@ -114,7 +114,7 @@ void FormatListModelProxyTest::init()
     guard(*m_proxy);
 }
 
-void FormatListModelProxyTest::cleanup()
+void TestFormatListModelProxy::cleanup()
 {
     m_proxy.reset();
     m_formats.reset();
@@ -122,7 +122,7 @@ void FormatListModelProxyTest::cleanup()
     m_log.reset();
 }
 
-QStringList FormatListModelProxyTest::shown() const
+QStringList TestFormatListModelProxy::shown() const
 {
     QStringList titles;
     for (int row = 0; row < m_proxy->rowCount(); ++row) {
@@ -131,7 +131,7 @@ QStringList FormatListModelProxyTest::shown() const
     return titles;
 }
 
-void FormatListModelProxyTest::aNewProxyHasEmptyKeysAndFiltersByItself()
+void TestFormatListModelProxy::aNewProxyHasEmptyKeysAndFiltersByItself()
 {
     QObject parent;
     const auto *proxy = new FormatListModelProxy(&parent);
@@ -146,7 +146,7 @@ void FormatListModelProxyTest::aNewProxyHasEmptyKeysAndFiltersByItself()
     QCOMPARE(proxy->sourceModel(), nullptr);
 }
 
-void FormatListModelProxyTest::theMetaObjectOffersTheseMethods()
+void TestFormatListModelProxy::theMetaObjectOffersTheseMethods()
 {
     const QMetaObject &meta = FormatListModelProxy::staticMetaObject;
     QCOMPARE(meta.superClass(), &QSortFilterProxyModel::staticMetaObject);
@@ -162,7 +162,7 @@ void FormatListModelProxyTest::theMetaObjectOffersTheseMethods()
              }));
 }
 
-void FormatListModelProxyTest::theMetaObjectOffersTheKeys()
+void TestFormatListModelProxy::theMetaObjectOffersTheKeys()
 {
     QCOMPARE(ownProperties(FormatListModelProxy::staticMetaObject),
              QStringList({
@@ -177,7 +177,7 @@ void FormatListModelProxyTest::theMetaObjectOffersTheKeys()
     QCOMPARE(m_proxy->property("searchKey"), QVariant(QStringLiteral("mp")));
 }
 
-void FormatListModelProxyTest::qmlCallsTheInvokables()
+void TestFormatListModelProxy::qmlCallsTheInvokables()
 {
     m_proxy->setFilterKey(audio);
     int count = 0;
@@ -196,7 +196,7 @@ void FormatListModelProxyTest::qmlCallsTheInvokables()
     QVERIFY(QMetaObject::invokeMethod(m_proxy.get(), "moveDrag", Q_ARG(int, 0), Q_ARG(int, 1)));
 }
 
-void FormatListModelProxyTest::theFilterKeyIsTheWholeTagInAnyCase_data()
+void TestFormatListModelProxy::theFilterKeyIsTheWholeTagInAnyCase_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QStringList>("titles");
@@ -212,7 +212,7 @@ void FormatListModelProxyTest::theFilterKeyIsTheWholeTagInAnyCase_data()
     QTest::newRow("no pattern") << QStringLiteral(".*") << QStringList();
 }
 
-void FormatListModelProxyTest::theFilterKeyIsTheWholeTagInAnyCase()
+void TestFormatListModelProxy::theFilterKeyIsTheWholeTagInAnyCase()
 {
     QFETCH(QString, key);
     QFETCH(QStringList, titles);
@@ -220,7 +220,7 @@ void FormatListModelProxyTest::theFilterKeyIsTheWholeTagInAnyCase()
     QCOMPARE(shown(), titles);
 }
 
-void FormatListModelProxyTest::theSearchKeyIsAPartOfTheTitleInAnyCase_data()
+void TestFormatListModelProxy::theSearchKeyIsAPartOfTheTitleInAnyCase_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QStringList>("titles");
@@ -237,7 +237,7 @@ void FormatListModelProxyTest::theSearchKeyIsAPartOfTheTitleInAnyCase_data()
     QTest::newRow("a blank is searched for") << QStringLiteral(" ") << QStringList();
 }
 
-void FormatListModelProxyTest::theSearchKeyIsAPartOfTheTitleInAnyCase()
+void TestFormatListModelProxy::theSearchKeyIsAPartOfTheTitleInAnyCase()
 {
     QFETCH(QString, key);
     QFETCH(QStringList, titles);
@@ -247,7 +247,7 @@ void FormatListModelProxyTest::theSearchKeyIsAPartOfTheTitleInAnyCase()
     QCOMPARE(shown(), titles);
 }
 
-void FormatListModelProxyTest::clearingTheSearchKeyBringsTheTagBack()
+void TestFormatListModelProxy::clearingTheSearchKeyBringsTheTagBack()
 {
     m_proxy->setFilterKey(audio);
     m_proxy->setSearchKey(QStringLiteral("mp"));
@@ -255,7 +255,7 @@ void FormatListModelProxyTest::clearingTheSearchKeyBringsTheTagBack()
     QCOMPARE(shown(), QStringList({QStringLiteral("MP3")}));
 }
 
-void FormatListModelProxyTest::theRowsFollowTheSource()
+void TestFormatListModelProxy::theRowsFollowTheSource()
 {
     m_proxy->setFilterKey(audio);
     m_formats->addModeInfo({QStringLiteral("FLAC"), QString(), audio});
@@ -276,7 +276,7 @@ void FormatListModelProxyTest::theRowsFollowTheSource()
     QCOMPARE(shown(), QStringList());
 }
 
-void FormatListModelProxyTest::aNewFilterKeyIsAnnouncedBeforeTheRowsChange()
+void TestFormatListModelProxy::aNewFilterKeyIsAnnouncedBeforeTheRowsChange()
 {
     QStringList seen;
     connect(m_proxy.get(), &FormatListModelProxy::filterKeyChanged, this, [&](const QString &key) {
@@ -290,7 +290,7 @@ void FormatListModelProxyTest::aNewFilterKeyIsAnnouncedBeforeTheRowsChange()
     QCOMPARE(searchSpy.count(), 0);
 }
 
-void FormatListModelProxyTest::aNewSearchKeyIsAnnouncedBeforeTheRowsChange()
+void TestFormatListModelProxy::aNewSearchKeyIsAnnouncedBeforeTheRowsChange()
 {
     QStringList seen;
     connect(m_proxy.get(), &FormatListModelProxy::searchKeyChanged, this,
@@ -303,7 +303,7 @@ void FormatListModelProxyTest::aNewSearchKeyIsAnnouncedBeforeTheRowsChange()
     QCOMPARE(filterSpy.count(), 0);
 }
 
-void FormatListModelProxyTest::anEqualKeyChangesNothing()
+void TestFormatListModelProxy::anEqualKeyChangesNothing()
 {
     m_proxy->setFilterKey(video);
     m_proxy->setSearchKey(QStringLiteral("mp"));
@@ -324,7 +324,7 @@ void FormatListModelProxyTest::anEqualKeyChangesNothing()
     QCOMPARE(m_proxy->filteredRows, 2 * m_formats->rowCount());
 }
 
-void FormatListModelProxyTest::theCountIsThatOfTheShownRows()
+void TestFormatListModelProxy::theCountIsThatOfTheShownRows()
 {
     QCOMPARE(m_proxy->count(), 1);
     m_proxy->setFilterKey(video);
@@ -334,7 +334,7 @@ void FormatListModelProxyTest::theCountIsThatOfTheShownRows()
     QCOMPARE(m_formats->count(), 6);
 }
 
-void FormatListModelProxyTest::onlyShownTitlesAreInTheProxy_data()
+void TestFormatListModelProxy::onlyShownTitlesAreInTheProxy_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<bool>("isIn");
@@ -347,7 +347,7 @@ void FormatListModelProxyTest::onlyShownTitlesAreInTheProxy_data()
     QTest::newRow("empty") << QString() << false;
 }
 
-void FormatListModelProxyTest::onlyShownTitlesAreInTheProxy()
+void TestFormatListModelProxy::onlyShownTitlesAreInTheProxy()
 {
     QFETCH(QString, title);
     QFETCH(bool, isIn);
@@ -357,7 +357,7 @@ void FormatListModelProxyTest::onlyShownTitlesAreInTheProxy()
     QVERIFY(!m_proxy->isInProxyModel(title));
 }
 
-void FormatListModelProxyTest::theTitleIsThatOfTheShownRow()
+void TestFormatListModelProxy::theTitleIsThatOfTheShownRow()
 {
     m_proxy->setFilterKey(video);
     QCOMPARE(m_proxy->getTitle(0), QStringLiteral("MP4"));
@@ -367,7 +367,7 @@ void FormatListModelProxyTest::theTitleIsThatOfTheShownRow()
     QCOMPARE(m_proxy->getTitle(0), QStringLiteral("MP3"));
 }
 
-void FormatListModelProxyTest::theTitleOutsideTheShownRowsIsEmpty_data()
+void TestFormatListModelProxy::theTitleOutsideTheShownRowsIsEmpty_data()
 {
     QTest::addColumn<int>("row");
     QTest::newRow("negative") << -1;
@@ -377,14 +377,14 @@ void FormatListModelProxyTest::theTitleOutsideTheShownRowsIsEmpty_data()
     QTest::newRow("highest number") << INT_MAX;
 }
 
-void FormatListModelProxyTest::theTitleOutsideTheShownRowsIsEmpty()
+void TestFormatListModelProxy::theTitleOutsideTheShownRowsIsEmpty()
 {
     QFETCH(int, row);
     m_proxy->setFilterKey(video);
     QCOMPARE(m_proxy->getTitle(row), QString());
 }
 
-void FormatListModelProxyTest::anotherKindOfSourceIsFilteredButNotLookedInto()
+void TestFormatListModelProxy::anotherKindOfSourceIsFilteredButNotLookedInto()
 {
     OtherListModel other;
     m_proxy->setSourceModel(&other);
@@ -396,7 +396,7 @@ void FormatListModelProxyTest::anotherKindOfSourceIsFilteredButNotLookedInto()
     m_proxy.reset();
 }
 
-void FormatListModelProxyTest::withoutASourceNothingIsFound()
+void TestFormatListModelProxy::withoutASourceNothingIsFound()
 {
     const FormatListModelProxy proxy;
     QCOMPARE(proxy.count(), 0);
@@ -404,7 +404,7 @@ void FormatListModelProxyTest::withoutASourceNothingIsFound()
     QCOMPARE(proxy.getTitle(0), QString());
 }
 
-void FormatListModelProxyTest::sortingAndDraggingDoNothing()
+void TestFormatListModelProxy::sortingAndDraggingDoNothing()
 {
     m_proxy->setFilterKey(video);
     const QStringList before = shown();
@@ -424,5 +424,5 @@ void FormatListModelProxyTest::sortingAndDraggingDoNothing()
     QCOMPARE(emitted, 0);
 }
 
-QTEST_GUILESS_MAIN(FormatListModelProxyTest)
+QTEST_GUILESS_MAIN(TestFormatListModelProxy)
 #include "tst_formatlistmodelproxy.moc"

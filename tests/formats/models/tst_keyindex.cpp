@@ -8,7 +8,7 @@ const QString key = QStringLiteral("MP4");
 
 } // namespace
 
-class KeyIndexTest : public QObject
+class TestKeyIndex : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void sortingAKeyWithOneValueOrNoneChangesNothing();
 };
 
-void KeyIndexTest::anUnknownKeyHasNoValues()
+void TestKeyIndex::anUnknownKeyHasNoValues()
 {
     const KeyIndex<QString> index;
     QVERIFY(!index.contains(key));
@@ -37,13 +37,13 @@ void KeyIndexTest::anUnknownKeyHasNoValues()
     QCOMPARE(index.all(key), QList<QString>());
 }
 
-void KeyIndexTest::anUnknownKeyGivesANullPointer()
+void TestKeyIndex::anUnknownKeyGivesANullPointer()
 {
     const KeyIndex<int *> index;
     QCOMPARE(index.first(key), static_cast<int *>(nullptr));
 }
 
-void KeyIndexTest::theFirstValueIsTheOneAppendedFirst()
+void TestKeyIndex::theFirstValueIsTheOneAppendedFirst()
 {
     KeyIndex<int> index;
     index.append(key, 5);
@@ -54,7 +54,7 @@ void KeyIndexTest::theFirstValueIsTheOneAppendedFirst()
     QCOMPARE(index.all(key), QList<int>({5, 3, 4}));
 }
 
-void KeyIndexTest::aPrependedValueComesBeforeTheOthers()
+void TestKeyIndex::aPrependedValueComesBeforeTheOthers()
 {
     KeyIndex<int> index;
     index.append(key, 5);
@@ -64,7 +64,7 @@ void KeyIndexTest::aPrependedValueComesBeforeTheOthers()
     QCOMPARE(index.all(key), QList<int>({6, 7, 5}));
 }
 
-void KeyIndexTest::addingTellsWhetherTheKeyIsNew()
+void TestKeyIndex::addingTellsWhetherTheKeyIsNew()
 {
     KeyIndex<int> index;
     QVERIFY(index.append(key, 1));
@@ -74,7 +74,7 @@ void KeyIndexTest::addingTellsWhetherTheKeyIsNew()
     QVERIFY(!index.append(QStringLiteral("AVI"), 2));
 }
 
-void KeyIndexTest::aKeyWhoseValuesAreGoneIsNewAgain()
+void TestKeyIndex::aKeyWhoseValuesAreGoneIsNewAgain()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -84,7 +84,7 @@ void KeyIndexTest::aKeyWhoseValuesAreGoneIsNewAgain()
     QVERIFY(index.append(key, 1));
 }
 
-void KeyIndexTest::keysAreComparedExactly()
+void TestKeyIndex::keysAreComparedExactly()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -95,7 +95,7 @@ void KeyIndexTest::keysAreComparedExactly()
     QCOMPARE(index.first(QStringLiteral("")), 2);
 }
 
-void KeyIndexTest::removingTheFirstValueMakesTheNextOneTheFirst()
+void TestKeyIndex::removingTheFirstValueMakesTheNextOneTheFirst()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -104,7 +104,7 @@ void KeyIndexTest::removingTheFirstValueMakesTheNextOneTheFirst()
     QCOMPARE(index.first(key), 2);
 }
 
-void KeyIndexTest::removingTellsWhetherTheKeyIsGone()
+void TestKeyIndex::removingTellsWhetherTheKeyIsGone()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -115,7 +115,7 @@ void KeyIndexTest::removingTellsWhetherTheKeyIsGone()
     QVERIFY(!index.contains(key));
 }
 
-void KeyIndexTest::removingWhatIsNotThereChangesNothing()
+void TestKeyIndex::removingWhatIsNotThereChangesNothing()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -125,7 +125,7 @@ void KeyIndexTest::removingWhatIsNotThereChangesNothing()
     QVERIFY(!index.contains(QStringLiteral("AVI")));
 }
 
-void KeyIndexTest::removingTakesOneOfSeveralEqualValues()
+void TestKeyIndex::removingTakesOneOfSeveralEqualValues()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -138,7 +138,7 @@ void KeyIndexTest::removingTakesOneOfSeveralEqualValues()
     QCOMPARE(index.all(key), QList<int>({2, 1}));
 }
 
-void KeyIndexTest::sortingFollowsTheRows()
+void TestKeyIndex::sortingFollowsTheRows()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -149,7 +149,7 @@ void KeyIndexTest::sortingFollowsTheRows()
     QCOMPARE(index.first(key), 3);
 }
 
-void KeyIndexTest::sortingLeavesOtherKeysAlone()
+void TestKeyIndex::sortingLeavesOtherKeysAlone()
 {
     KeyIndex<int> index;
     for (const int value : {1, 2}) {
@@ -161,7 +161,7 @@ void KeyIndexTest::sortingLeavesOtherKeysAlone()
     QCOMPARE(index.all(QStringLiteral("AVI")), QList<int>({1, 2}));
 }
 
-void KeyIndexTest::sortingAKeyWithOneValueOrNoneChangesNothing()
+void TestKeyIndex::sortingAKeyWithOneValueOrNoneChangesNothing()
 {
     KeyIndex<int> index;
     index.append(key, 1);
@@ -171,5 +171,5 @@ void KeyIndexTest::sortingAKeyWithOneValueOrNoneChangesNothing()
     QVERIFY(!index.contains(QStringLiteral("AVI")));
 }
 
-QTEST_APPLESS_MAIN(KeyIndexTest)
+QTEST_APPLESS_MAIN(TestKeyIndex)
 #include "tst_keyindex.moc"

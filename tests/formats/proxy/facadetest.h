@@ -52,15 +52,6 @@ protected:
         return QString::fromUtf8(texts).split(QLatin1Char(' '));
     }
 
-    static QStringList ids(const FormatDetailModel &presets)
-    {
-        QStringList list;
-        for (int row = 0; row < presets.rowCount(); ++row) {
-            list.append(presets.getId(row));
-        }
-        return list;
-    }
-
     static Preset presetAt(const FormatDetailModel &presets, int row)
     {
         Preset preset;

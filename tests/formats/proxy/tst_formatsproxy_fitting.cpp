@@ -1,6 +1,6 @@
 #include "tests/formats/proxy/facadetest.h"
 
-class FormatsProxyFittingTest : public FacadeTest
+class TestFormatsProxyFitting : public FacadeTest
 {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ constexpr QLatin1String infoLine("info: getSupportAudioLisrfromType reverse temp
 
 } // namespace
 
-void FormatsProxyFittingTest::beforeInitThereIsNothingToFit()
+void TestFormatsProxyFitting::beforeInitThereIsNothingToFit()
 {
     const QString mp4 = QStringLiteral("MP4");
     QVERIFY(!m_facade->getSupportFormat(mp4));
@@ -52,7 +52,7 @@ void FormatsProxyFittingTest::beforeInitThereIsNothingToFit()
              (QVariantList{text("320"), text("256"), text("128")}));
 }
 
-void FormatsProxyFittingTest::theAudioPresetOfTheClosestBitrate_data()
+void TestFormatsProxyFitting::theAudioPresetOfTheClosestBitrate_data()
 {
     QTest::addColumn<QStringList>("bitrates");
     QTest::addColumn<QString>("bitrate");
@@ -79,7 +79,7 @@ void FormatsProxyFittingTest::theAudioPresetOfTheClosestBitrate_data()
     row("a distance of 32 bits is not cut", "2147483647 -2", "-2147483648", "1");
 }
 
-void FormatsProxyFittingTest::theAudioPresetOfTheClosestBitrate()
+void TestFormatsProxyFitting::theAudioPresetOfTheClosestBitrate()
 {
     QFETCH(const QStringList, bitrates);
     QFETCH(const QString, bitrate);
@@ -88,8 +88,8 @@ void FormatsProxyFittingTest::theAudioPresetOfTheClosestBitrate()
     QCOMPARE(titleOf(m_facade->getFitAudioFormatByBitrate(QStringLiteral("MP3"), bitrate)), title);
 }
 
-// A user-defined preset is chosen as any other.
-void FormatsProxyFittingTest::theFittingAudioPresetIsHandedOutWhole()
+// A user-defined preset is chosen like any other.
+void TestFormatsProxyFitting::theFittingAudioPresetIsHandedOutWhole()
 {
     const Preset preset = samplePreset();
     QVERIFY(preset.userDefine);
@@ -101,7 +101,7 @@ void FormatsProxyFittingTest::theFittingAudioPresetIsHandedOutWhole()
              preset.toVarMap());
 }
 
-void FormatsProxyFittingTest::aTitleToFitAudioInIsTakenAsItStands_data()
+void TestFormatsProxyFitting::aTitleToFitAudioInIsTakenAsItStands_data()
 {
     QTest::addColumn<QString>("title");
     QTest::newRow("in another case") << QStringLiteral("mp3");
@@ -109,7 +109,7 @@ void FormatsProxyFittingTest::aTitleToFitAudioInIsTakenAsItStands_data()
     QTest::newRow("without presets") << QStringLiteral("FLAC");
 }
 
-void FormatsProxyFittingTest::aTitleToFitAudioInIsTakenAsItStands()
+void TestFormatsProxyFitting::aTitleToFitAudioInIsTakenAsItStands()
 {
     QFETCH(const QString, title);
     addPresets(QStringLiteral("MP3"), QStringLiteral("audio"), &Preset::audioBitrate, words("128"));
@@ -117,7 +117,7 @@ void FormatsProxyFittingTest::aTitleToFitAudioInIsTakenAsItStands()
     QCOMPARE(m_facade->getFitAudioFormatByBitrate(title, QStringLiteral("128")), QVariantMap());
 }
 
-void FormatsProxyFittingTest::theVideoPresetOfTheName_data()
+void TestFormatsProxyFitting::theVideoPresetOfTheName_data()
 {
     QTest::addColumn<QString>("presetTitle");
     QTest::addColumn<QString>("id");
@@ -128,7 +128,7 @@ void FormatsProxyFittingTest::theVideoPresetOfTheName_data()
     QTest::newRow("empty") << QString() << QString();
 }
 
-void FormatsProxyFittingTest::theVideoPresetOfTheName()
+void TestFormatsProxyFitting::theVideoPresetOfTheName()
 {
     QFETCH(const QString, presetTitle);
     QFETCH(const QString, id);
@@ -148,7 +148,7 @@ void FormatsProxyFittingTest::theVideoPresetOfTheName()
     QCOMPARE(found.isEmpty(), id.isEmpty());
 }
 
-void FormatsProxyFittingTest::aTitleToFitVideoInIsTakenAsItStands()
+void TestFormatsProxyFitting::aTitleToFitVideoInIsTakenAsItStands()
 {
     addPresets(QStringLiteral("MP4"), QStringLiteral("video"), &Preset::extension, words("mp4"));
     addFormat(QStringLiteral("AVI"), QStringLiteral("video"));
@@ -161,7 +161,7 @@ void FormatsProxyFittingTest::aTitleToFitVideoInIsTakenAsItStands()
     QCOMPARE(titleOf(m_facade->getFitVideoFormatByName(QStringLiteral("MP4"), title, cap)), title);
 }
 
-void FormatsProxyFittingTest::theAudioBitrateIsCapped_data()
+void TestFormatsProxyFitting::theAudioBitrateIsCapped_data()
 {
     QTest::addColumn<QString>("cap");
     QTest::addColumn<QVariantList>("offered");
@@ -188,7 +188,7 @@ void FormatsProxyFittingTest::theAudioBitrateIsCapped_data()
     row("cap is empty", "", offered, own);
 }
 
-void FormatsProxyFittingTest::theAudioBitrateIsCapped()
+void TestFormatsProxyFitting::theAudioBitrateIsCapped()
 {
     QFETCH(const QString, cap);
     QFETCH(const QVariantList, offered);
@@ -213,7 +213,7 @@ void FormatsProxyFittingTest::theAudioBitrateIsCapped()
     QCOMPARE(setting, QVariant(bitrate));
 }
 
-void FormatsProxyFittingTest::theCapReachesTheConverterSettings()
+void TestFormatsProxyFitting::theCapReachesTheConverterSettings()
 {
     Preset preset = presetWithId(QStringLiteral("a"));
     preset.title = QStringLiteral("HD");
@@ -240,7 +240,7 @@ void FormatsProxyFittingTest::theCapReachesTheConverterSettings()
     QCOMPARE(settings.value(QStringLiteral("bitrateKbps")).userType(), int(QMetaType::QString));
 }
 
-void FormatsProxyFittingTest::theCapAddsTheConverterSettingsThatAreMissing()
+void TestFormatsProxyFitting::theCapAddsTheConverterSettingsThatAreMissing()
 {
     Preset preset;
     preset.title = QStringLiteral("HD");
@@ -254,7 +254,7 @@ void FormatsProxyFittingTest::theCapAddsTheConverterSettingsThatAreMissing()
     QCOMPARE(fitted.value(QStringLiteral("outPutNode")).toMap(), expected);
 }
 
-void FormatsProxyFittingTest::theCapChangesNoModel()
+void TestFormatsProxyFitting::theCapChangesNoModel()
 {
     Preset preset;
     preset.title = QStringLiteral("HD");
@@ -263,13 +263,15 @@ void FormatsProxyFittingTest::theCapChangesNoModel()
     mp4.addModeInfo(preset);
     QSignalSpy changed(&mp4, &QAbstractItemModel::dataChanged);
 
-    m_facade->getFitVideoFormatByName(QStringLiteral("MP4"), QStringLiteral("HD"),
-                                      QStringLiteral("200"));
+    QVERIFY(!m_facade
+                 ->getFitVideoFormatByName(QStringLiteral("MP4"), QStringLiteral("HD"),
+                                           QStringLiteral("200"))
+                 .isEmpty());
     QCOMPARE(presetAt(mp4, 0).toVarMap(), preset.toVarMap());
     QCOMPARE(changed.count(), 0);
 }
 
-void FormatsProxyFittingTest::aFormatIsSupportedByItsUpperCaseTitleAndTag_data()
+void TestFormatsProxyFitting::aFormatIsSupportedByItsUpperCaseTitleAndTag_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<bool>("supported");
@@ -288,7 +290,7 @@ void FormatsProxyFittingTest::aFormatIsSupportedByItsUpperCaseTitleAndTag_data()
     row("empty", "", false, false);
 }
 
-void FormatsProxyFittingTest::aFormatIsSupportedByItsUpperCaseTitleAndTag()
+void TestFormatsProxyFitting::aFormatIsSupportedByItsUpperCaseTitleAndTag()
 {
     QFETCH(const QString, format);
     QFETCH(const bool, supported);
@@ -302,7 +304,7 @@ void FormatsProxyFittingTest::aFormatIsSupportedByItsUpperCaseTitleAndTag()
     QCOMPARE(m_facade->isVideoType(format), isVideo);
 }
 
-void FormatsProxyFittingTest::audioBitratesAreOfferedInReverse_data()
+void TestFormatsProxyFitting::audioBitratesAreOfferedInReverse_data()
 {
     QTest::addColumn<QStringList>("stored");
     QTest::addColumn<QStringList>("offered");
@@ -314,7 +316,7 @@ void FormatsProxyFittingTest::audioBitratesAreOfferedInReverse_data()
     QTest::newRow("none") << QStringList() << fallback;
 }
 
-void FormatsProxyFittingTest::audioBitratesAreOfferedInReverse()
+void TestFormatsProxyFitting::audioBitratesAreOfferedInReverse()
 {
     QFETCH(const QStringList, stored);
     QFETCH(const QStringList, offered);
@@ -332,7 +334,7 @@ void FormatsProxyFittingTest::audioBitratesAreOfferedInReverse()
     QCOMPARE(presetAt(mp3, 0).audioBitrates, first.audioBitrates);
 }
 
-void FormatsProxyFittingTest::withoutABuiltInFirstPresetTheUsualBitratesAreOffered_data()
+void TestFormatsProxyFitting::withoutABuiltInFirstPresetTheUsualBitratesAreOffered_data()
 {
     QTest::addColumn<QString>("type");
     QTest::newRow("unknown format") << QStringLiteral("wav");
@@ -342,7 +344,7 @@ void FormatsProxyFittingTest::withoutABuiltInFirstPresetTheUsualBitratesAreOffer
 }
 
 // Nothing is reversed, nothing is logged.
-void FormatsProxyFittingTest::withoutABuiltInFirstPresetTheUsualBitratesAreOffered()
+void TestFormatsProxyFitting::withoutABuiltInFirstPresetTheUsualBitratesAreOffered()
 {
     QFETCH(const QString, type);
     Preset preset;
@@ -358,7 +360,7 @@ void FormatsProxyFittingTest::withoutABuiltInFirstPresetTheUsualBitratesAreOffer
              (QVariantList{text("320"), text("256"), text("128")}));
 }
 
-void FormatsProxyFittingTest::theBitratesOfferedKeepTheirTypes()
+void TestFormatsProxyFitting::theBitratesOfferedKeepTheirTypes()
 {
     Preset preset;
     preset.audioBitrates = QVariantList{0, 128, text("256")};
@@ -370,5 +372,5 @@ void FormatsProxyFittingTest::theBitratesOfferedKeepTheirTypes()
     QCOMPARE(offered.at(1).userType(), int(QMetaType::Int));
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyFittingTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyFitting)
 #include "tst_formatsproxy_fitting.moc"

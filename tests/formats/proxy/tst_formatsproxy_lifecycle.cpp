@@ -3,7 +3,7 @@
 
 #include <QPointer>
 
-class FormatsProxyLifecycleTest : public FacadeTest
+class TestFormatsProxyLifecycle : public FacadeTest
 {
     Q_OBJECT
 
@@ -51,7 +51,7 @@ private:
     }
 };
 
-void FormatsProxyLifecycleTest::aNewFacadeIsEmpty()
+void TestFormatsProxyLifecycle::aNewFacadeIsEmpty()
 {
     QCOMPARE(m_facade->formatTags(), QVariantList());
     QCOMPARE(m_facade->formatListModel()->rowCount(), 0);
@@ -60,7 +60,7 @@ void FormatsProxyLifecycleTest::aNewFacadeIsEmpty()
     QCOMPARE(FakeCatalogue::served().calls, QStringList());
 }
 
-void FormatsProxyLifecycleTest::theModelsAndThenTheParserAreChildren()
+void TestFormatsProxyLifecycle::theModelsAndThenTheParserAreChildren()
 {
     QObject parent;
     auto *facade = new FormatsProxy(&parent);
@@ -82,12 +82,12 @@ void FormatsProxyLifecycleTest::theModelsAndThenTheParserAreChildren()
     }
 }
 
-void FormatsProxyLifecycleTest::theFilterStandsOverTheCatalogueFromTheStart()
+void TestFormatsProxyLifecycle::theFilterStandsOverTheCatalogueFromTheStart()
 {
     QCOMPARE(m_facade->formatListModelProxy()->sourceModel(), m_facade->formatListModel());
 }
 
-void FormatsProxyLifecycleTest::theModelsStayTheSame()
+void TestFormatsProxyLifecycle::theModelsStayTheSame()
 {
     const QTemporaryDir folder;
     const auto models = [this] {
@@ -103,7 +103,7 @@ void FormatsProxyLifecycleTest::theModelsStayTheSame()
     QCOMPARE(models(), before);
 }
 
-void FormatsProxyLifecycleTest::theTagsAreSetAndAnnouncedOnce()
+void TestFormatsProxyLifecycle::theTagsAreSetAndAnnouncedOnce()
 {
     const QTemporaryDir folder;
     QSignalSpy changed(&*m_facade, &FormatsProxy::formatTagsChanged);
@@ -121,7 +121,7 @@ void FormatsProxyLifecycleTest::theTagsAreSetAndAnnouncedOnce()
     QCOMPARE(changed.count(), 1);
 }
 
-void FormatsProxyLifecycleTest::onlyTagsThatDifferAreAnnounced_data()
+void TestFormatsProxyLifecycle::onlyTagsThatDifferAreAnnounced_data()
 {
     QTest::addColumn<QVariantList>("tags");
     QTest::addColumn<int>("announcements");
@@ -135,7 +135,7 @@ void FormatsProxyLifecycleTest::onlyTagsThatDifferAreAnnounced_data()
     QTest::newRow("none") << QVariantList() << 1;
 }
 
-void FormatsProxyLifecycleTest::onlyTagsThatDifferAreAnnounced()
+void TestFormatsProxyLifecycle::onlyTagsThatDifferAreAnnounced()
 {
     QFETCH(const QVariantList, tags);
     QFETCH(const int, announcements);
@@ -153,7 +153,7 @@ void FormatsProxyLifecycleTest::onlyTagsThatDifferAreAnnounced()
     }
 }
 
-void FormatsProxyLifecycleTest::theFormatTagIsTheFilterKeyAndNothingElse()
+void TestFormatsProxyLifecycle::theFormatTagIsTheFilterKeyAndNothingElse()
 {
     addFormat(QStringLiteral("MP4"), QStringLiteral("video"));
     addFormat(QStringLiteral("MP3"), QStringLiteral("audio"));
@@ -174,7 +174,7 @@ void FormatsProxyLifecycleTest::theFormatTagIsTheFilterKeyAndNothingElse()
     QCOMPARE(m_facade->formatTags(), QVariantList());
 }
 
-void FormatsProxyLifecycleTest::theCategoriesAreImportedInOrder()
+void TestFormatsProxyLifecycle::theCategoriesAreImportedInOrder()
 {
     const QTemporaryDir folder;
     FakeCatalogue::served() = sampleCatalogue();
@@ -189,12 +189,12 @@ void FormatsProxyLifecycleTest::theCategoriesAreImportedInOrder()
                           QStringLiteral("groups Audio"), QStringLiteral("contents 音频"),
                           QStringLiteral("groups 42")}));
     QCOMPARE(titles(), words("MP4 AVI 音频"));
-    QCOMPARE(ids(mp4()), words("video_mp4_source video_mp4_720p"));
+    QCOMPARE(idsOf(mp4()), words("video_mp4_source video_mp4_720p"));
     QCOMPARE(m_facade->getTagName(QStringLiteral("audio_yinpin_source")), QStringLiteral("audio"));
     QVERIFY(!presetAt(mp4(), 0).userDefine);
 }
 
-void FormatsProxyLifecycleTest::theTagsAreSetFirstAndTheRecentlyUsedReadNext()
+void TestFormatsProxyLifecycle::theTagsAreSetFirstAndTheRecentlyUsedReadNext()
 {
     const QTemporaryDir folder;
     writeFile(recentlyFile(folder), R"([{"id": "recent", "outPutNode": {"id": "x_y_z"}}])");
@@ -222,7 +222,7 @@ void FormatsProxyLifecycleTest::theTagsAreSetFirstAndTheRecentlyUsedReadNext()
                                  QStringLiteral("format after groups Audio")}));
 }
 
-void FormatsProxyLifecycleTest::theUsersPresetsFollowTheCatalogues()
+void TestFormatsProxyLifecycle::theUsersPresetsFollowTheCatalogues()
 {
     const QTemporaryDir folder;
     writeFile(recentlyFile(folder), "[]");
@@ -237,7 +237,7 @@ void FormatsProxyLifecycleTest::theUsersPresetsFollowTheCatalogues()
              QStringList(QStringLiteral("debug: parseRecently -->varJson is null!")));
 
     QCOMPARE(titles(), words("MP4 AVI 音频 Mine"));
-    QCOMPARE(ids(mp4()), words("video_mp4_source video_mp4_720p 1005"));
+    QCOMPARE(idsOf(mp4()), words("video_mp4_source video_mp4_720p 1005"));
     QCOMPARE(m_facade->getTagName(QStringLiteral("1005")), QStringLiteral("video"));
     QCOMPARE(m_facade->getClassIconById(QStringLiteral("1005")), QStringLiteral("mp4.png"));
     QCOMPARE(m_facade->getTagName(QStringLiteral("1003")), QStringLiteral("device"));
@@ -246,7 +246,7 @@ void FormatsProxyLifecycleTest::theUsersPresetsFollowTheCatalogues()
              QStringLiteral("1006"));
 }
 
-void FormatsProxyLifecycleTest::bothFilesHoldUserDefinedPresets()
+void TestFormatsProxyLifecycle::bothFilesHoldUserDefinedPresets()
 {
     const QTemporaryDir folder;
     const QByteArray entry = R"({"id": "a", "userDefine": false, "outPutNode": {"id": "x_y_z"}})";
@@ -260,7 +260,7 @@ void FormatsProxyLifecycleTest::bothFilesHoldUserDefinedPresets()
     QCOMPARE(m_facade->getUserDefineCount(QStringLiteral("video"), QStringLiteral("Mine")), 1);
 }
 
-void FormatsProxyLifecycleTest::missingFilesAreLoggedAndNoObstacle_data()
+void TestFormatsProxyLifecycle::missingFilesAreLoggedAndNoObstacle_data()
 {
     QTest::addColumn<QString>("suffix");
     QTest::newRow("a folder without files") << QString();
@@ -269,7 +269,7 @@ void FormatsProxyLifecycleTest::missingFilesAreLoggedAndNoObstacle_data()
     QTest::newRow("a missing folder with a Chinese name") << QStringLiteral("/预设 1");
 }
 
-void FormatsProxyLifecycleTest::missingFilesAreLoggedAndNoObstacle()
+void TestFormatsProxyLifecycle::missingFilesAreLoggedAndNoObstacle()
 {
     QFETCH(const QString, suffix);
     const QTemporaryDir folder;
@@ -280,7 +280,7 @@ void FormatsProxyLifecycleTest::missingFilesAreLoggedAndNoObstacle()
     QCOMPARE(m_facade->recentlyFormatsModel()->rowCount(), 0);
 }
 
-void FormatsProxyLifecycleTest::unreadableFilesAreLoggedAndNoObstacle_data()
+void TestFormatsProxyLifecycle::unreadableFilesAreLoggedAndNoObstacle_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("complaint");
@@ -293,7 +293,7 @@ void FormatsProxyLifecycleTest::unreadableFilesAreLoggedAndNoObstacle_data()
     QTest::newRow("a file cut short") << QByteArray("[{\"id\": \"a\", \"outPut") << noList;
 }
 
-void FormatsProxyLifecycleTest::unreadableFilesAreLoggedAndNoObstacle()
+void TestFormatsProxyLifecycle::unreadableFilesAreLoggedAndNoObstacle()
 {
     QFETCH(const QByteArray, content);
     QFETCH(const QString, complaint);
@@ -309,7 +309,7 @@ void FormatsProxyLifecycleTest::unreadableFilesAreLoggedAndNoObstacle()
     QCOMPARE(m_facade->recentlyFormatsModel()->rowCount(), 0);
 }
 
-void FormatsProxyLifecycleTest::withoutAFolderOnlyTheUsersPresetsAreLookedFor()
+void TestFormatsProxyLifecycle::withoutAFolderOnlyTheUsersPresetsAreLookedFor()
 {
     FakeCatalogue::served() = sampleCatalogue();
     m_facade->init(QString());
@@ -320,7 +320,7 @@ void FormatsProxyLifecycleTest::withoutAFolderOnlyTheUsersPresetsAreLookedFor()
     QCOMPARE(m_facade->formatListModel()->rowCount(), 3);
 }
 
-void FormatsProxyLifecycleTest::initAgainReadsTheFilesAgain()
+void TestFormatsProxyLifecycle::initAgainReadsTheFilesAgain()
 {
     const QTemporaryDir folder;
     const QByteArray entry = R"({"id": "1001", "outPutNode": {"id": "x_y_1001"}})";
@@ -337,9 +337,9 @@ void FormatsProxyLifecycleTest::initAgainReadsTheFilesAgain()
              (QStringList{QStringLiteral("categories"), QStringLiteral("groups Video"),
                           QStringLiteral("groups Audio")}));
     QCOMPARE(titles(), words("MP4 AVI 音频"));
-    QCOMPARE(ids(mp4()), words("video_mp4_source video_mp4_720p 1001 1001"));
-    QCOMPARE(ids(*m_facade->recentlyFormatsModel()), words("1001 1001"));
+    QCOMPARE(idsOf(mp4()), words("video_mp4_source video_mp4_720p 1001 1001"));
+    QCOMPARE(idsOf(*m_facade->recentlyFormatsModel()), words("1001 1001"));
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyLifecycleTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyLifecycle)
 #include "tst_formatsproxy_lifecycle.moc"

@@ -1,6 +1,6 @@
 #include "tests/formats/proxy/facadetest.h"
 
-class FormatsProxyLookupsTest : public FacadeTest
+class TestFormatsProxyLookups : public FacadeTest
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private:
     }
 };
 
-void FormatsProxyLookupsTest::aPresetIsFoundByItsClass()
+void TestFormatsProxyLookups::aPresetIsFoundByItsClass()
 {
     const Preset preset = samplePreset();
     addFormat(QStringLiteral("MP4"), QStringLiteral("video")).addModeInfo(preset);
@@ -46,7 +46,7 @@ void FormatsProxyLookupsTest::aPresetIsFoundByItsClass()
              preset.toVarMap());
 }
 
-void FormatsProxyLookupsTest::theTagIsNotCheckedButTheClassIs_data()
+void TestFormatsProxyLookups::theTagIsNotCheckedButTheClassIs_data()
 {
     QTest::addColumn<QString>("tagName");
     QTest::addColumn<QString>("className");
@@ -63,7 +63,7 @@ void FormatsProxyLookupsTest::theTagIsNotCheckedButTheClassIs_data()
     QTest::newRow("recently") << QStringLiteral("recently") << mp4 << false;
 }
 
-void FormatsProxyLookupsTest::theTagIsNotCheckedButTheClassIs()
+void TestFormatsProxyLookups::theTagIsNotCheckedButTheClassIs()
 {
     QFETCH(const QString, tagName);
     QFETCH(const QString, className);
@@ -73,7 +73,7 @@ void FormatsProxyLookupsTest::theTagIsNotCheckedButTheClassIs()
     QCOMPARE(!m_facade->getFormat(tagName, className, QStringLiteral("a")).isEmpty(), found);
 }
 
-void FormatsProxyLookupsTest::theTagRecentlyLooksInTheRecentlyUsedOnly()
+void TestFormatsProxyLookups::theTagRecentlyLooksInTheRecentlyUsedOnly()
 {
     addPreset(QStringLiteral("MP4"), QStringLiteral("video"), QStringLiteral("a"));
     Preset recent = presetWithId(QStringLiteral("b"));
@@ -87,7 +87,7 @@ void FormatsProxyLookupsTest::theTagRecentlyLooksInTheRecentlyUsedOnly()
     }
 }
 
-void FormatsProxyLookupsTest::aPresetIsFoundByItsIdAlone()
+void TestFormatsProxyLookups::aPresetIsFoundByItsIdAlone()
 {
     addPreset(QStringLiteral("MP4"), QStringLiteral("video"), QStringLiteral("a"));
     Preset preset = presetWithId(QStringLiteral("b"));
@@ -97,7 +97,7 @@ void FormatsProxyLookupsTest::aPresetIsFoundByItsIdAlone()
     QCOMPARE(m_facade->getFormat(QStringLiteral("B")), QVariantMap());
 }
 
-void FormatsProxyLookupsTest::aRecentlyUsedPresetIsNotFoundByItsIdAlone()
+void TestFormatsProxyLookups::aRecentlyUsedPresetIsNotFoundByItsIdAlone()
 {
     const QString id = QStringLiteral("a");
     m_facade->recentlyFormatsModel()->addModeInfo(presetWithId(id));
@@ -107,7 +107,7 @@ void FormatsProxyLookupsTest::aRecentlyUsedPresetIsNotFoundByItsIdAlone()
              presetWithId(id).toVarMap());
 }
 
-void FormatsProxyLookupsTest::aFormatTaggedRecentlySharesItsPresetsWithTheRecentlyUsed()
+void TestFormatsProxyLookups::aFormatTaggedRecentlySharesItsPresetsWithTheRecentlyUsed()
 {
     addPreset(QStringLiteral("MP4"), QStringLiteral("recently"), QStringLiteral("a"));
     QCOMPARE(m_facade->getFormat(QStringLiteral("a")), QVariantMap());
@@ -115,7 +115,7 @@ void FormatsProxyLookupsTest::aFormatTaggedRecentlySharesItsPresetsWithTheRecent
     QCOMPARE(idOf(m_facade->getFormat(QStringLiteral("a"))), QStringLiteral("a"));
 }
 
-void FormatsProxyLookupsTest::tagAndClassComeTogether()
+void TestFormatsProxyLookups::tagAndClassComeTogether()
 {
     addPreset(QStringLiteral("AVI"), QStringLiteral("video"), QStringLiteral("a"));
     addPreset(QStringLiteral("MP3"), QStringLiteral("audio"), QStringLiteral("b"));
@@ -127,7 +127,7 @@ void FormatsProxyLookupsTest::tagAndClassComeTogether()
     QCOMPARE(m_facade->getClassIconById(QStringLiteral("b")), QStringLiteral("MP3.png"));
 }
 
-void FormatsProxyLookupsTest::withoutATagOrAClassThereIsNeither_data()
+void TestFormatsProxyLookups::withoutATagOrAClassThereIsNeither_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<QString>("tag");
@@ -135,7 +135,7 @@ void FormatsProxyLookupsTest::withoutATagOrAClassThereIsNeither_data()
     QTest::newRow("no class") << QString() << QStringLiteral("video");
 }
 
-void FormatsProxyLookupsTest::withoutATagOrAClassThereIsNeither()
+void TestFormatsProxyLookups::withoutATagOrAClassThereIsNeither()
 {
     QFETCH(const QString, className);
     QFETCH(const QString, tag);
@@ -153,7 +153,7 @@ void FormatsProxyLookupsTest::withoutATagOrAClassThereIsNeither()
     QCOMPARE(idOf(m_facade->getFormat(tag, className, id)), id);
 }
 
-void FormatsProxyLookupsTest::anIdOfTwoFormatsHasTheFirstRowsTagAndTheFirstKeysClass()
+void TestFormatsProxyLookups::anIdOfTwoFormatsHasTheFirstRowsTagAndTheFirstKeysClass()
 {
     Preset video = presetWithId(QStringLiteral("a"));
     video.title = QStringLiteral("first row");
@@ -176,7 +176,7 @@ void FormatsProxyLookupsTest::anIdOfTwoFormatsHasTheFirstRowsTagAndTheFirstKeysC
     QVERIFY(!m_facade->isSupportMultiTrack(id));
 }
 
-void FormatsProxyLookupsTest::audioAndVideoAreToldByTheEncodersOffered_data()
+void TestFormatsProxyLookups::audioAndVideoAreToldByTheEncodersOffered_data()
 {
     QTest::addColumn<QVariantList>("videoEncoders");
     QTest::addColumn<QVariantList>("audioEncoders");
@@ -190,7 +190,7 @@ void FormatsProxyLookupsTest::audioAndVideoAreToldByTheEncodersOffered_data()
     QTest::newRow("nothing offered") << none << none << false << false;
 }
 
-void FormatsProxyLookupsTest::audioAndVideoAreToldByTheEncodersOffered()
+void TestFormatsProxyLookups::audioAndVideoAreToldByTheEncodersOffered()
 {
     QFETCH(const QVariantList, videoEncoders);
     QFETCH(const QVariantList, audioEncoders);
@@ -199,14 +199,14 @@ void FormatsProxyLookupsTest::audioAndVideoAreToldByTheEncodersOffered()
     Preset preset = presetWithId(QStringLiteral("a"));
     preset.videoEncoders = videoEncoders;
     preset.audioEncoders = audioEncoders;
-    // The tag has no say.
+    // The tag doesn't matter.
     addFormat(QStringLiteral("Phone"), QStringLiteral("device")).addModeInfo(preset);
 
     QCOMPARE(m_facade->isAudioFormat(preset.id), isAudio);
     QCOMPARE(m_facade->isVideoFormat(preset.id), isVideo);
 }
 
-void FormatsProxyLookupsTest::severalTracksAreAMatterOfTheClassTitle_data()
+void TestFormatsProxyLookups::severalTracksAreAMatterOfTheClassTitle_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<bool>("flag");
@@ -219,7 +219,7 @@ void FormatsProxyLookupsTest::severalTracksAreAMatterOfTheClassTitle_data()
     QTest::newRow("MKV with the flag set") << QStringLiteral("MKV") << true << false;
 }
 
-void FormatsProxyLookupsTest::severalTracksAreAMatterOfTheClassTitle()
+void TestFormatsProxyLookups::severalTracksAreAMatterOfTheClassTitle()
 {
     QFETCH(const QString, className);
     QFETCH(const bool, flag);
@@ -230,7 +230,7 @@ void FormatsProxyLookupsTest::severalTracksAreAMatterOfTheClassTitle()
     QCOMPARE(m_facade->isSupportMultiTrack(preset.id), supported);
 }
 
-void FormatsProxyLookupsTest::anUnknownIdGivesNothing_data()
+void TestFormatsProxyLookups::anUnknownIdGivesNothing_data()
 {
     QTest::addColumn<QString>("id");
     QTest::newRow("empty") << QString();
@@ -239,7 +239,7 @@ void FormatsProxyLookupsTest::anUnknownIdGivesNothing_data()
     QTest::newRow("only recently used") << QStringLiteral("recent");
 }
 
-void FormatsProxyLookupsTest::anUnknownIdGivesNothing()
+void TestFormatsProxyLookups::anUnknownIdGivesNothing()
 {
     QFETCH(const QString, id);
     Preset recent = presetWithId(QStringLiteral("recent"));
@@ -258,7 +258,7 @@ void FormatsProxyLookupsTest::anUnknownIdGivesNothing()
     QVERIFY(!m_facade->isSupportMultiTrack(id));
 }
 
-void FormatsProxyLookupsTest::userDefinedPresetsAreCountedByClass()
+void TestFormatsProxyLookups::userDefinedPresetsAreCountedByClass()
 {
     FormatDetailModel &mp4 = addFormat(QStringLiteral("MP4"), QStringLiteral("video"));
     mp4.addModeInfo(presetWithId(QStringLiteral("built-in")));
@@ -276,7 +276,7 @@ void FormatsProxyLookupsTest::userDefinedPresetsAreCountedByClass()
     QCOMPARE(count("Recently"), 2);
 }
 
-void FormatsProxyLookupsTest::aCountNeedsATagAndAKnownClass_data()
+void TestFormatsProxyLookups::aCountNeedsATagAndAKnownClass_data()
 {
     QTest::addColumn<QString>("tagName");
     QTest::addColumn<QString>("className");
@@ -287,7 +287,7 @@ void FormatsProxyLookupsTest::aCountNeedsATagAndAKnownClass_data()
     QTest::newRow("class in another case") << QStringLiteral("video") << QStringLiteral("mp4");
 }
 
-void FormatsProxyLookupsTest::aCountNeedsATagAndAKnownClass()
+void TestFormatsProxyLookups::aCountNeedsATagAndAKnownClass()
 {
     QFETCH(const QString, tagName);
     QFETCH(const QString, className);
@@ -297,5 +297,5 @@ void FormatsProxyLookupsTest::aCountNeedsATagAndAKnownClass()
     QCOMPARE(m_facade->getUserDefineCount(tagName, className), -1);
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyLookupsTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyLookups)
 #include "tst_formatsproxy_lookups.moc"

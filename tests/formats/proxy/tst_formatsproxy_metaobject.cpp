@@ -2,7 +2,7 @@
 
 #include <QMetaMethod>
 
-class FormatsProxyMetaObjectTest : public FacadeTest
+class TestFormatsProxyMetaObject : public FacadeTest
 {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ private Q_SLOTS:
     void theTagsAreReadWrittenAndAnnouncedThroughTheProperty();
 };
 
-void FormatsProxyMetaObjectTest::aMethodStandsAtItsIndex_data()
+void TestFormatsProxyMetaObject::aMethodStandsAtItsIndex_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QByteArray>("result");
@@ -52,7 +52,7 @@ void FormatsProxyMetaObjectTest::aMethodStandsAtItsIndex_data()
     row("bool", "isVideoType(QString)", {"format"});
 }
 
-void FormatsProxyMetaObjectTest::aMethodStandsAtItsIndex()
+void TestFormatsProxyMetaObject::aMethodStandsAtItsIndex()
 {
     QFETCH(const int, index);
     QFETCH(const QByteArray, result);
@@ -69,7 +69,7 @@ void FormatsProxyMetaObjectTest::aMethodStandsAtItsIndex()
 }
 
 // So the four fitting operations that are the host's alone can't be seen from QML.
-void FormatsProxyMetaObjectTest::thereAreNoOtherMethods()
+void TestFormatsProxyMetaObject::thereAreNoOtherMethods()
 {
     const QMetaObject &meta = FormatsProxy::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 22);
@@ -81,7 +81,7 @@ void FormatsProxyMetaObjectTest::thereAreNoOtherMethods()
     }
 }
 
-void FormatsProxyMetaObjectTest::theOnlyPropertyIsTheTags()
+void TestFormatsProxyMetaObject::theOnlyPropertyIsTheTags()
 {
     const QMetaObject &meta = FormatsProxy::staticMetaObject;
     QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 1);
@@ -95,7 +95,7 @@ void FormatsProxyMetaObjectTest::theOnlyPropertyIsTheTags()
     QCOMPARE(tags.notifySignal().methodSignature(), QByteArray("formatTagsChanged()"));
 }
 
-void FormatsProxyMetaObjectTest::theTagsAreReadWrittenAndAnnouncedThroughTheProperty()
+void TestFormatsProxyMetaObject::theTagsAreReadWrittenAndAnnouncedThroughTheProperty()
 {
     const QVariantList tags{QStringLiteral("video"), QStringLiteral("audio")};
     QSignalSpy changed(&*m_facade, &FormatsProxy::formatTagsChanged);
@@ -109,5 +109,5 @@ void FormatsProxyMetaObjectTest::theTagsAreReadWrittenAndAnnouncedThroughTheProp
     QCOMPARE(changed.count(), 1);
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyMetaObjectTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyMetaObject)
 #include "tst_formatsproxy_metaobject.moc"

@@ -3,7 +3,7 @@
 
 namespace {
 
-// An explicit instantiation may name a private member: the facade needs no door for its tests.
+// An explicit instantiation may name a private member: the facade needs no access for its tests.
 template <auto member>
 struct Insight
 {
@@ -21,7 +21,7 @@ const QString hd = QStringLiteral("video_mp4_720p");
 } // namespace
 
 /*! The facade without its recently-used list, its format list or both. */
-class FormatsProxyMissingListsTest : public FacadeTest
+class TestFormatsProxyMissingLists : public FacadeTest
 {
     Q_OBJECT
 
@@ -67,7 +67,7 @@ private:
     const QTemporaryDir m_folder;
 };
 
-void FormatsProxyMissingListsTest::nothingIsAddedToAMissingRecentlyUsedList_data()
+void TestFormatsProxyMissingLists::nothingIsAddedToAMissingRecentlyUsedList_data()
 {
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("className");
@@ -78,7 +78,7 @@ void FormatsProxyMissingListsTest::nothingIsAddedToAMissingRecentlyUsedList_data
     QTest::newRow("of the list itself") << recently << QString() << hd;
 }
 
-void FormatsProxyMissingListsTest::nothingIsAddedToAMissingRecentlyUsedList()
+void TestFormatsProxyMissingLists::nothingIsAddedToAMissingRecentlyUsedList()
 {
     QFETCH(const QString, tag);
     QFETCH(const QString, className);
@@ -88,7 +88,7 @@ void FormatsProxyMissingListsTest::nothingIsAddedToAMissingRecentlyUsedList()
     QVERIFY(!m_facade->add2Recently(tag, className, id));
 }
 
-void FormatsProxyMissingListsTest::aMissingRecentlyUsedListHoldsNothing()
+void TestFormatsProxyMissingLists::aMissingRecentlyUsedListHoldsNothing()
 {
     fill();
     dropRecents();
@@ -97,16 +97,16 @@ void FormatsProxyMissingListsTest::aMissingRecentlyUsedListHoldsNothing()
     QCOMPARE(m_facade->getFormat(recently, QString(), hd), QVariantMap());
 }
 
-void FormatsProxyMissingListsTest::aPresetIsDeletedWithoutARecentlyUsedList()
+void TestFormatsProxyMissingLists::aPresetIsDeletedWithoutARecentlyUsedList()
 {
     fill();
     dropRecents();
     QVERIFY(m_facade->delUserDefineFormat(video, mp4Class, hd));
-    QCOMPARE(ids(mp4()), QStringList(source));
+    QCOMPARE(idsOf(mp4()), QStringList(source));
     QVERIFY(!m_facade->delUserDefineFormat(video, mp4Class, hd));
 }
 
-void FormatsProxyMissingListsTest::theCatalogueAnswersWithoutARecentlyUsedList()
+void TestFormatsProxyMissingLists::theCatalogueAnswersWithoutARecentlyUsedList()
 {
     fill();
     dropRecents();
@@ -116,7 +116,7 @@ void FormatsProxyMissingListsTest::theCatalogueAnswersWithoutARecentlyUsedList()
     QCOMPARE(m_facade->getUserDefineCount(video, mp4Class), 1);
 }
 
-void FormatsProxyMissingListsTest::noPresetIsFoundInAMissingCatalogue()
+void TestFormatsProxyMissingLists::noPresetIsFoundInAMissingCatalogue()
 {
     fill();
     dropCatalogue();
@@ -131,7 +131,7 @@ void FormatsProxyMissingListsTest::noPresetIsFoundInAMissingCatalogue()
     QCOMPARE(m_facade->getUserDefineCount(video, mp4Class), -1);
 }
 
-void FormatsProxyMissingListsTest::userPresetsOfAMissingCatalogueAreThoseOfAnUnknownClass()
+void TestFormatsProxyMissingLists::userPresetsOfAMissingCatalogueAreThoseOfAnUnknownClass()
 {
     fill();
     dropCatalogue();
@@ -141,7 +141,7 @@ void FormatsProxyMissingListsTest::userPresetsOfAMissingCatalogueAreThoseOfAnUnk
     QVERIFY(m_facade->isFormatInRecently(hd));
 }
 
-void FormatsProxyMissingListsTest::nothingFitsInAMissingCatalogue()
+void TestFormatsProxyMissingLists::nothingFitsInAMissingCatalogue()
 {
     fill();
     dropCatalogue();
@@ -156,7 +156,7 @@ void FormatsProxyMissingListsTest::nothingFitsInAMissingCatalogue()
     }
 }
 
-void FormatsProxyMissingListsTest::theUsualBitratesAreOfferedWithoutACatalogue()
+void TestFormatsProxyMissingLists::theUsualBitratesAreOfferedWithoutACatalogue()
 {
     fill();
     dropCatalogue();
@@ -164,7 +164,7 @@ void FormatsProxyMissingListsTest::theUsualBitratesAreOfferedWithoutACatalogue()
              (QVariantList{QStringLiteral("320"), QStringLiteral("256"), QStringLiteral("128")}));
 }
 
-void FormatsProxyMissingListsTest::theRecentlyUsedListAnswersWithoutACatalogue()
+void TestFormatsProxyMissingLists::theRecentlyUsedListAnswersWithoutACatalogue()
 {
     fill();
     dropCatalogue();
@@ -172,11 +172,11 @@ void FormatsProxyMissingListsTest::theRecentlyUsedListAnswersWithoutACatalogue()
     QCOMPARE(titleOf(m_facade->getFormat(recently, QString(), hd)), QStringLiteral("HD 720p"));
     QVERIFY(m_facade->add2Recently(recently, QString(), hd));
     QVERIFY(m_facade->add2Recently(video, mp4Class, source));
-    QCOMPARE(ids(*m_facade->recentlyFormatsModel()), QStringList(hd));
+    QCOMPARE(idsOf(*m_facade->recentlyFormatsModel()), QStringList(hd));
     QVERIFY(m_facade->delFromRecently(hd));
 }
 
-void FormatsProxyMissingListsTest::theAccessorsHandOutWhatThereIs()
+void TestFormatsProxyMissingLists::theAccessorsHandOutWhatThereIs()
 {
     dropRecents();
     dropCatalogue();
@@ -185,12 +185,12 @@ void FormatsProxyMissingListsTest::theAccessorsHandOutWhatThereIs()
     QVERIFY(m_facade->formatListModelProxy());
 }
 
-void FormatsProxyMissingListsTest::onlyTheListsThatExistAreSaved_data()
+void TestFormatsProxyMissingLists::onlyTheListsThatExistAreSaved_data()
 {
     addListRows();
 }
 
-void FormatsProxyMissingListsTest::onlyTheListsThatExistAreSaved()
+void TestFormatsProxyMissingLists::onlyTheListsThatExistAreSaved()
 {
     QFETCH(const bool, hasRecents);
     QFETCH(const bool, hasCatalogue);
@@ -209,13 +209,13 @@ void FormatsProxyMissingListsTest::onlyTheListsThatExistAreSaved()
     QCOMPARE(readFile(userPresetsFile(folder)), QByteArray(hasCatalogue ? "[\n]\n" : "old"));
 }
 
-void FormatsProxyMissingListsTest::onlyTheListsThatExistAreLoaded_data()
+void TestFormatsProxyMissingLists::onlyTheListsThatExistAreLoaded_data()
 {
     addListRows();
 }
 
 // The parser of a list that is there tells that its file is not.
-void FormatsProxyMissingListsTest::onlyTheListsThatExistAreLoaded()
+void TestFormatsProxyMissingLists::onlyTheListsThatExistAreLoaded()
 {
     QFETCH(const bool, hasRecents);
     QFETCH(const bool, hasCatalogue);
@@ -234,5 +234,5 @@ void FormatsProxyMissingListsTest::onlyTheListsThatExistAreLoaded()
     QCOMPARE(m_facade->formatTags().size(), 5);
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyMissingListsTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyMissingLists)
 #include "tst_formatsproxy_missinglists.moc"

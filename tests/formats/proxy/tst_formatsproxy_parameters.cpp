@@ -1,6 +1,6 @@
 #include "tests/formats/proxy/facadetest.h"
 
-class FormatsProxyParametersTest : public FacadeTest
+class TestFormatsProxyParameters : public FacadeTest
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private:
     static QVariant text(const char *latin1) { return QString::fromLatin1(latin1); }
 };
 
-void FormatsProxyParametersTest::addColumns()
+void TestFormatsProxyParameters::addColumns()
 {
     QTest::addColumn<QStringList>("values");
     QTest::addColumn<QVariant>("target");
@@ -33,13 +33,13 @@ void FormatsProxyParametersTest::addColumns()
     QTest::addColumn<QString>("title");
 }
 
-void FormatsProxyParametersTest::row(const char *name, const char *values, const QVariant &target,
+void TestFormatsProxyParameters::row(const char *name, const char *values, const QVariant &target,
                                      bool preferSource, const char *title)
 {
     QTest::newRow(name) << words(values) << target << preferSource << QString::fromLatin1(title);
 }
 
-void FormatsProxyParametersTest::compareChoice(const QString &type, QString Preset::*member)
+void TestFormatsProxyParameters::compareChoice(const QString &type, QString Preset::*member)
 {
     QFETCH(const QStringList, values);
     QFETCH(const QVariant, target);
@@ -51,7 +51,7 @@ void FormatsProxyParametersTest::compareChoice(const QString &type, QString Pres
              title);
 }
 
-void FormatsProxyParametersTest::videoParametersAreClosestByArea_data()
+void TestFormatsProxyParameters::videoParametersAreClosestByArea_data()
 {
     addColumns();
     const char *usual = "640x480 1280x720 1920x1080";
@@ -100,12 +100,12 @@ void FormatsProxyParametersTest::videoParametersAreClosestByArea_data()
     row("a side beyond 32 bits counts as 0", "10x10 99999999999x10", text("0x0"), false, "1");
 }
 
-void FormatsProxyParametersTest::videoParametersAreClosestByArea()
+void TestFormatsProxyParameters::videoParametersAreClosestByArea()
 {
     compareChoice(QStringLiteral("video"), &Preset::videoResolution);
 }
 
-void FormatsProxyParametersTest::audioParametersAreClosestByBitrate_data()
+void TestFormatsProxyParameters::audioParametersAreClosestByBitrate_data()
 {
     addColumns();
     row("an equal one", "128 192 256", text("192"), false, "1");
@@ -127,12 +127,12 @@ void FormatsProxyParametersTest::audioParametersAreClosestByBitrate_data()
         "1");
 }
 
-void FormatsProxyParametersTest::audioParametersAreClosestByBitrate()
+void TestFormatsProxyParameters::audioParametersAreClosestByBitrate()
 {
     compareChoice(QStringLiteral("audio"), &Preset::audioBitrate);
 }
 
-void FormatsProxyParametersTest::userDefinedPresetsAreNoParameters()
+void TestFormatsProxyParameters::userDefinedPresetsAreNoParameters()
 {
     Preset own;
     own.userDefine = true;
@@ -156,7 +156,7 @@ void FormatsProxyParametersTest::userDefinedPresetsAreNoParameters()
     QCOMPARE(parameters(false), builtIn.toVarMap());
 }
 
-void FormatsProxyParametersTest::anUnsupportedFormatFallsBackToItsTypesDefault_data()
+void TestFormatsProxyParameters::anUnsupportedFormatFallsBackToItsTypesDefault_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("format");
@@ -185,7 +185,7 @@ void FormatsProxyParametersTest::anUnsupportedFormatFallsBackToItsTypesDefault_d
     QTest::newRow("no type") << QString() << QStringLiteral("mp3") << QString();
 }
 
-void FormatsProxyParametersTest::anUnsupportedFormatFallsBackToItsTypesDefault()
+void TestFormatsProxyParameters::anUnsupportedFormatFallsBackToItsTypesDefault()
 {
     QFETCH(const QString, type);
     QFETCH(const QString, format);
@@ -213,7 +213,7 @@ void FormatsProxyParametersTest::anUnsupportedFormatFallsBackToItsTypesDefault()
              id);
 }
 
-void FormatsProxyParametersTest::parametersNeedAFormatWithPresets_data()
+void TestFormatsProxyParameters::parametersNeedAFormatWithPresets_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("format");
@@ -222,7 +222,7 @@ void FormatsProxyParametersTest::parametersNeedAFormatWithPresets_data()
     QTest::newRow("no default audio format") << QStringLiteral("audio") << QStringLiteral("xyz");
 }
 
-void FormatsProxyParametersTest::parametersNeedAFormatWithPresets()
+void TestFormatsProxyParameters::parametersNeedAFormatWithPresets()
 {
     QFETCH(const QString, type);
     QFETCH(const QString, format);
@@ -231,5 +231,5 @@ void FormatsProxyParametersTest::parametersNeedAFormatWithPresets()
     QCOMPARE(m_facade->getConverterParameters(type, format, QVariant(), true), QVariantMap());
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyParametersTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyParameters)
 #include "tst_formatsproxy_parameters.moc"

@@ -8,7 +8,7 @@
 #include <memory>
 
 /*! The facade as a QML scene of the host sees it. */
-class FormatsProxyQmlTest : public FacadeTest
+class TestFormatsProxyQml : public FacadeTest
 {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ QVariant plain(const QVariant &value)
 } // namespace
 
 // A video format with a built-in and a user-defined preset, an audio format, one recently used.
-void FormatsProxyQmlTest::fill()
+void TestFormatsProxyQml::fill()
 {
     FormatDetailModel &mp4 =
         addFormat(QStringLiteral("MP4"), QStringLiteral("video"), QStringLiteral("mp4.png"));
@@ -77,7 +77,7 @@ void FormatsProxyQmlTest::fill()
     m_facade->recentlyFormatsModel()->addModeInfo(own);
 }
 
-QVariant FormatsProxyQmlTest::evaluate(const QByteArray &expression)
+QVariant TestFormatsProxyQml::evaluate(const QByteArray &expression)
 {
     QQmlEngine engine;
     engine.rootContext()->setContextProperty(QStringLiteral("O_FormatsProxy"), &*m_facade);
@@ -88,7 +88,7 @@ QVariant FormatsProxyQmlTest::evaluate(const QByteArray &expression)
     return object ? plain(object->property("result")) : QVariant();
 }
 
-void FormatsProxyQmlTest::theModuleHasTheThreeModelTypes_data()
+void TestFormatsProxyQml::theModuleHasTheThreeModelTypes_data()
 {
     QTest::addColumn<QByteArray>("qml");
     QTest::addColumn<QByteArray>("type");
@@ -101,7 +101,7 @@ void FormatsProxyQmlTest::theModuleHasTheThreeModelTypes_data()
                              << QByteArray("FormatDetailModel");
 }
 
-void FormatsProxyQmlTest::theModuleHasTheThreeModelTypes()
+void TestFormatsProxyQml::theModuleHasTheThreeModelTypes()
 {
     QFETCH(const QByteArray, qml);
     QFETCH(const QByteArray, type);
@@ -112,7 +112,7 @@ void FormatsProxyQmlTest::theModuleHasTheThreeModelTypes()
     QCOMPARE(model->property("shown"), QVariant(0));
 }
 
-void FormatsProxyQmlTest::theModuleHasOneVersion_data()
+void TestFormatsProxyQml::theModuleHasOneVersion_data()
 {
     QTest::addColumn<QByteArray>("version");
     QTest::addColumn<bool>("exists");
@@ -122,7 +122,7 @@ void FormatsProxyQmlTest::theModuleHasOneVersion_data()
     QTest::newRow("2.0") << QByteArray("2.0") << false;
 }
 
-void FormatsProxyQmlTest::theModuleHasOneVersion()
+void TestFormatsProxyQml::theModuleHasOneVersion()
 {
     QFETCH(const QByteArray, version);
     QFETCH(const bool, exists);
@@ -132,7 +132,7 @@ void FormatsProxyQmlTest::theModuleHasOneVersion()
     QCOMPARE(component.isReady(), exists);
 }
 
-void FormatsProxyQmlTest::aBindingFollowsTheTags()
+void TestFormatsProxyQml::aBindingFollowsTheTags()
 {
     QQmlEngine engine;
     engine.rootContext()->setContextProperty(QStringLiteral("O_FormatsProxy"), &*m_facade);
@@ -145,7 +145,7 @@ void FormatsProxyQmlTest::aBindingFollowsTheTags()
     QCOMPARE(object->property("tags").toString(), QStringLiteral("recently,video"));
 }
 
-void FormatsProxyQmlTest::theTagsAreWritable()
+void TestFormatsProxyQml::theTagsAreWritable()
 {
     QSignalSpy changed(&*m_facade, &FormatsProxy::formatTagsChanged);
     evaluate("O_FormatsProxy.formatTags = ['b', 'a']");
@@ -153,7 +153,7 @@ void FormatsProxyQmlTest::theTagsAreWritable()
     QCOMPARE(changed.count(), 1);
 }
 
-void FormatsProxyQmlTest::aModelBelongsToTheFacadeAlsoInQml_data()
+void TestFormatsProxyQml::aModelBelongsToTheFacadeAlsoInQml_data()
 {
     QTest::addColumn<QByteArray>("expression");
     for (const char *expression :
@@ -164,7 +164,7 @@ void FormatsProxyQmlTest::aModelBelongsToTheFacadeAlsoInQml_data()
     }
 }
 
-void FormatsProxyQmlTest::aModelBelongsToTheFacadeAlsoInQml()
+void TestFormatsProxyQml::aModelBelongsToTheFacadeAlsoInQml()
 {
     QFETCH(const QByteArray, expression);
     fill();
@@ -175,7 +175,7 @@ void FormatsProxyQmlTest::aModelBelongsToTheFacadeAlsoInQml()
     QCOMPARE(evaluate(expression).value<QObject *>(), model);
 }
 
-void FormatsProxyQmlTest::anOperationAnswers_data()
+void TestFormatsProxyQml::anOperationAnswers_data()
 {
     QTest::addColumn<QByteArray>("expression");
     QTest::addColumn<QVariant>("answer");
@@ -239,7 +239,7 @@ void FormatsProxyQmlTest::anOperationAnswers_data()
         text("MP4"));
 }
 
-void FormatsProxyQmlTest::anOperationAnswers()
+void TestFormatsProxyQml::anOperationAnswers()
 {
     QFETCH(const QByteArray, expression);
     QFETCH(const QVariant, answer);
@@ -249,7 +249,7 @@ void FormatsProxyQmlTest::anOperationAnswers()
     QCOMPARE(result.isValid(), answer.isValid());
 }
 
-void FormatsProxyQmlTest::theAudioBitratesAreAnArray()
+void TestFormatsProxyQml::theAudioBitratesAreAnArray()
 {
     fill();
     QCOMPARE(evaluate("O_FormatsProxy.getSupportAudioLisrfromType('ogg').join()"),
@@ -258,7 +258,7 @@ void FormatsProxyQmlTest::theAudioBitratesAreAnArray()
              QStringList(QStringLiteral("info: getSupportAudioLisrfromType reverse tempList")));
 }
 
-void FormatsProxyQmlTest::theHostsOwnOperationsAreNotThere_data()
+void TestFormatsProxyQml::theHostsOwnOperationsAreNotThere_data()
 {
     QTest::addColumn<QByteArray>("name");
     for (const char *name :
@@ -268,11 +268,11 @@ void FormatsProxyQmlTest::theHostsOwnOperationsAreNotThere_data()
     }
 }
 
-void FormatsProxyQmlTest::theHostsOwnOperationsAreNotThere()
+void TestFormatsProxyQml::theHostsOwnOperationsAreNotThere()
 {
     QFETCH(const QByteArray, name);
     QCOMPARE(evaluate("typeof O_FormatsProxy." + name), QVariant(QStringLiteral("undefined")));
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyQmlTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyQml)
 #include "tst_formatsproxy_qml.moc"

@@ -1,6 +1,6 @@
 #include "tests/formats/proxy/facadetest.h"
 
-class FormatsProxyRecentlyTest : public FacadeTest
+class TestFormatsProxyRecently : public FacadeTest
 {
     Q_OBJECT
 
@@ -56,39 +56,39 @@ private:
     }
 };
 
-void FormatsProxyRecentlyTest::thePresetPickedLastStandsFirst()
+void TestFormatsProxyRecently::thePresetPickedLastStandsFirst()
 {
     pickPresets(0);
     QVERIFY(pick(QStringLiteral("p3")));
     QVERIFY(pick(QStringLiteral("p1")));
-    QCOMPARE(ids(recently()), words("p1 p3"));
+    QCOMPARE(idsOf(recently()), words("p1 p3"));
 }
 
-void FormatsProxyRecentlyTest::theEleventhPresetDropsTheOldest()
+void TestFormatsProxyRecently::theEleventhPresetDropsTheOldest()
 {
     pickPresets(10);
-    QCOMPARE(ids(recently()), words("p9 p8 p7 p6 p5 p4 p3 p2 p1 p0"));
+    QCOMPARE(idsOf(recently()), words("p9 p8 p7 p6 p5 p4 p3 p2 p1 p0"));
     QVERIFY(pick(QStringLiteral("p10")));
-    QCOMPARE(ids(recently()), words("p10 p9 p8 p7 p6 p5 p4 p3 p2 p1"));
+    QCOMPARE(idsOf(recently()), words("p10 p9 p8 p7 p6 p5 p4 p3 p2 p1"));
     QCOMPARE(recently().count(), 10);
 }
 
-void FormatsProxyRecentlyTest::aPresetPickedAgainMovesToTheTop()
+void TestFormatsProxyRecently::aPresetPickedAgainMovesToTheTop()
 {
     pickPresets(8);
     QCOMPARE(recently().getId(5), QStringLiteral("p2"));
     QVERIFY(pick(QStringLiteral("p2")));
-    QCOMPARE(ids(recently()), words("p2 p7 p6 p5 p4 p3 p1 p0"));
+    QCOMPARE(idsOf(recently()), words("p2 p7 p6 p5 p4 p3 p1 p0"));
 }
 
-void FormatsProxyRecentlyTest::aPresetPickedAgainMovesEvenInAFullList()
+void TestFormatsProxyRecently::aPresetPickedAgainMovesEvenInAFullList()
 {
     pickPresets(10);
     QVERIFY(pick(QStringLiteral("p0")));
-    QCOMPARE(ids(recently()), words("p0 p9 p8 p7 p6 p5 p4 p3 p2 p1"));
+    QCOMPARE(idsOf(recently()), words("p0 p9 p8 p7 p6 p5 p4 p3 p2 p1"));
 }
 
-void FormatsProxyRecentlyTest::aPresetPickedAgainIsRefreshed()
+void TestFormatsProxyRecently::aPresetPickedAgainIsRefreshed()
 {
     FormatDetailModel &presets = pickPresets(2);
     Preset changed = presetWithId(QStringLiteral("p0"));
@@ -99,7 +99,7 @@ void FormatsProxyRecentlyTest::aPresetPickedAgainIsRefreshed()
     QCOMPARE(presetAt(recently(), 0).title, QStringLiteral("new"));
 }
 
-void FormatsProxyRecentlyTest::aPickFromTheListItselfMovesToTheTop_data()
+void TestFormatsProxyRecently::aPickFromTheListItselfMovesToTheTop_data()
 {
     QTest::addColumn<QString>("className");
     QTest::newRow("its own class") << QStringLiteral("MP4");
@@ -107,7 +107,7 @@ void FormatsProxyRecentlyTest::aPickFromTheListItselfMovesToTheTop_data()
     QTest::newRow("no class") << QString();
 }
 
-void FormatsProxyRecentlyTest::aPickFromTheListItselfMovesToTheTop()
+void TestFormatsProxyRecently::aPickFromTheListItselfMovesToTheTop()
 {
     QFETCH(const QString, className);
     FormatDetailModel &presets = pickPresets(3);
@@ -116,20 +116,20 @@ void FormatsProxyRecentlyTest::aPickFromTheListItselfMovesToTheTop()
     presets.updateModeInfo(0, changed);
 
     QVERIFY(m_facade->add2Recently(QStringLiteral("recently"), className, QStringLiteral("p0")));
-    QCOMPARE(ids(recently()), words("p0 p2 p1"));
+    QCOMPARE(idsOf(recently()), words("p0 p2 p1"));
     // The list's own copy moved, not the format's preset.
     QCOMPARE(presetAt(recently(), 0).title, QString());
 }
 
-void FormatsProxyRecentlyTest::theTagOfTheListIsComparedExactly()
+void TestFormatsProxyRecently::theTagOfTheListIsComparedExactly()
 {
     pickPresets(2);
     QVERIFY(m_facade->add2Recently(QStringLiteral("Recently"), QStringLiteral("MP4"),
                                    QStringLiteral("p5")));
-    QCOMPARE(ids(recently()), words("p5 p1 p0"));
+    QCOMPARE(idsOf(recently()), words("p5 p1 p0"));
 }
 
-void FormatsProxyRecentlyTest::aPresetThatIsNotFoundIsNoFailure_data()
+void TestFormatsProxyRecently::aPresetThatIsNotFoundIsNoFailure_data()
 {
     QTest::addColumn<QString>("tagName");
     QTest::addColumn<QString>("className");
@@ -145,7 +145,7 @@ void FormatsProxyRecentlyTest::aPresetThatIsNotFoundIsNoFailure_data()
     QTest::newRow("not in the list itself") << list << mp4 << QStringLiteral("p10");
 }
 
-void FormatsProxyRecentlyTest::aPresetThatIsNotFoundIsNoFailure()
+void TestFormatsProxyRecently::aPresetThatIsNotFoundIsNoFailure()
 {
     QFETCH(const QString, tagName);
     QFETCH(const QString, className);
@@ -154,35 +154,35 @@ void FormatsProxyRecentlyTest::aPresetThatIsNotFoundIsNoFailure()
     QSignalSpy changed(&recently(), &FormatDetailModel::countChanged);
 
     QVERIFY(m_facade->add2Recently(tagName, className, id));
-    QCOMPARE(ids(recently()), words("p9 p8 p7 p6 p5 p4 p3 p2 p1 p0"));
+    QCOMPARE(idsOf(recently()), words("p9 p8 p7 p6 p5 p4 p3 p2 p1 p0"));
     QCOMPARE(changed.count(), 0);
 }
 
-void FormatsProxyRecentlyTest::anOverlongListKeepsItsLength()
+void TestFormatsProxyRecently::anOverlongListKeepsItsLength()
 {
     pickPresets(0);
     fillDirectly(words("a b c d e f g h i j k l"));
     QVERIFY(pick(QStringLiteral("p0")));
-    QCOMPARE(ids(recently()), words("p0 a b c d e f g h i j k"));
+    QCOMPARE(idsOf(recently()), words("p0 a b c d e f g h i j k"));
 }
 
-void FormatsProxyRecentlyTest::anOverlongListKeepsItsLengthWhenAPresetMoves()
+void TestFormatsProxyRecently::anOverlongListKeepsItsLengthWhenAPresetMoves()
 {
     pickPresets(0);
     fillDirectly(words("a b c d e f g h i j k p0"));
     QVERIFY(pick(QStringLiteral("p0")));
-    QCOMPARE(ids(recently()), words("p0 a b c d e f g h i j k"));
+    QCOMPARE(idsOf(recently()), words("p0 a b c d e f g h i j k"));
 }
 
-void FormatsProxyRecentlyTest::onlyTheFirstOfEqualEntriesMoves()
+void TestFormatsProxyRecently::onlyTheFirstOfEqualEntriesMoves()
 {
     pickPresets(0);
     fillDirectly(words("a p0 b p0"));
     QVERIFY(pick(QStringLiteral("p0")));
-    QCOMPARE(ids(recently()), words("p0 a b p0"));
+    QCOMPARE(idsOf(recently()), words("p0 a b p0"));
 }
 
-void FormatsProxyRecentlyTest::anEntryIsAUserDefinedFullCopy()
+void TestFormatsProxyRecently::anEntryIsAUserDefinedFullCopy()
 {
     Preset preset = samplePreset();
     preset.userDefine = false;
@@ -196,7 +196,7 @@ void FormatsProxyRecentlyTest::anEntryIsAUserDefinedFullCopy()
     QCOMPARE(recently().userDefineCount(), 1);
 }
 
-void FormatsProxyRecentlyTest::anEntryDoesNotFollowItsPreset()
+void TestFormatsProxyRecently::anEntryDoesNotFollowItsPreset()
 {
     FormatDetailModel &presets = pickPresets(1);
     Preset changed = presetWithId(QStringLiteral("p0"));
@@ -205,11 +205,11 @@ void FormatsProxyRecentlyTest::anEntryDoesNotFollowItsPreset()
     QCOMPARE(presetAt(recently(), 0).title, QString());
 
     presets.clearModeInfo();
-    QCOMPARE(ids(recently()), words("p0"));
+    QCOMPARE(idsOf(recently()), words("p0"));
 }
 
 // Marked user-defined, an entry with a number as its id counts as a user's preset with that id.
-void FormatsProxyRecentlyTest::anEntryRaisesTheHighestUserDefinedId()
+void TestFormatsProxyRecently::anEntryRaisesTheHighestUserDefinedId()
 {
     FormatDetailModel &presets = addFormat(QStringLiteral("MP4"), QStringLiteral("video"));
     presets.addModeInfo(presetWithId(QStringLiteral("2000")));
@@ -218,7 +218,7 @@ void FormatsProxyRecentlyTest::anEntryRaisesTheHighestUserDefinedId()
     QCOMPARE(FormatDetailModel::s_userDefineId, 2000);
 }
 
-void FormatsProxyRecentlyTest::aMoveIsARemovalAndAnInsertionAtTheHead()
+void TestFormatsProxyRecently::aMoveIsARemovalAndAnInsertionAtTheHead()
 {
     pickPresets(4);
     QSignalSpy removed(&recently(), &QAbstractItemModel::rowsRemoved);
@@ -235,30 +235,30 @@ void FormatsProxyRecentlyTest::aMoveIsARemovalAndAnInsertionAtTheHead()
     QCOMPARE(counted.at(1), QVariantList{4});
 }
 
-void FormatsProxyRecentlyTest::anEntryIsRemovedById()
+void TestFormatsProxyRecently::anEntryIsRemovedById()
 {
     FormatDetailModel &presets = pickPresets(3);
     QVERIFY(m_facade->delFromRecently(QStringLiteral("p1")));
-    QCOMPARE(ids(recently()), words("p2 p0"));
+    QCOMPARE(idsOf(recently()), words("p2 p0"));
     QVERIFY(presets.containId(QStringLiteral("p1")));
 }
 
-void FormatsProxyRecentlyTest::removingAnUnknownIdKeepsTheList()
+void TestFormatsProxyRecently::removingAnUnknownIdKeepsTheList()
 {
     pickPresets(3);
     QVERIFY(!m_facade->delFromRecently(QStringLiteral("p5")));
     QVERIFY(!m_facade->delFromRecently(QString()));
-    QCOMPARE(ids(recently()), words("p2 p1 p0"));
+    QCOMPARE(idsOf(recently()), words("p2 p1 p0"));
 }
 
-void FormatsProxyRecentlyTest::onlyTheFirstOfEqualEntriesIsRemoved()
+void TestFormatsProxyRecently::onlyTheFirstOfEqualEntriesIsRemoved()
 {
     fillDirectly(words("a b a"));
     QVERIFY(m_facade->delFromRecently(QStringLiteral("a")));
-    QCOMPARE(ids(recently()), words("b a"));
+    QCOMPARE(idsOf(recently()), words("b a"));
 }
 
-void FormatsProxyRecentlyTest::theListKnowsItsIds()
+void TestFormatsProxyRecently::theListKnowsItsIds()
 {
     pickPresets(1);
     QVERIFY(m_facade->isFormatInRecently(QStringLiteral("p0")));
@@ -268,5 +268,5 @@ void FormatsProxyRecentlyTest::theListKnowsItsIds()
     QVERIFY(!m_facade->isFormatInRecently(QStringLiteral("p0")));
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyRecentlyTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyRecently)
 #include "tst_formatsproxy_recently.moc"

@@ -3,7 +3,7 @@
 #include <QProcess>
 
 /*! What one process saves, read by another one, whose counters start anew. */
-class FormatsProxyRoundTripTest : public FacadeTest
+class TestFormatsProxyRoundTrip : public FacadeTest
 {
     Q_OBJECT
 
@@ -112,7 +112,7 @@ int saveFiles(const QString &folder)
 
 } // namespace
 
-void FormatsProxyRoundTripTest::initTestCase()
+void TestFormatsProxyRoundTrip::initTestCase()
 {
     QCOMPARE(FormatDetailModel::s_userDefineId, 1000);
     QCOMPARE(FormatDetailModel::s_idForTest, 1001);
@@ -123,24 +123,24 @@ void FormatsProxyRoundTripTest::initTestCase()
     QCOMPARE(process.exitCode(), 0);
 }
 
-void FormatsProxyRoundTripTest::theUsersPresetsFollowTheCatalogues()
+void TestFormatsProxyRoundTrip::theUsersPresetsFollowTheCatalogues()
 {
     read(*m_facade, m_folder.path());
-    QCOMPARE(ids(presets(QStringLiteral("MP4"))),
+    QCOMPARE(idsOf(presets(QStringLiteral("MP4"))),
              words("video_mp4_source video_mp4_720p 1003 1004"));
     QCOMPARE(m_facade->getUserDefineCount(QStringLiteral("video"), QStringLiteral("MP4")), 2);
     QCOMPARE(presets(QStringLiteral("AVI")).rowCount(), 0);
-    QCOMPARE(ids(presets(QStringLiteral("音频"))), words("audio_yinpin_source"));
+    QCOMPARE(idsOf(presets(QStringLiteral("音频"))), words("audio_yinpin_source"));
 }
 
-void FormatsProxyRoundTripTest::aPresetComesBack()
+void TestFormatsProxyRoundTrip::aPresetComesBack()
 {
     read(*m_facade, m_folder.path());
     const Preset preset = userPreset(QStringLiteral("MP4"), QStringLiteral("1003"));
     QCOMPARE(asLines(fieldsOf(preset)), asLines(fieldsOf(asReadBack(fullPreset()))));
 }
 
-void FormatsProxyRoundTripTest::anEmptyListOfVideoBitratesComesBackWithOneEmptyText()
+void TestFormatsProxyRoundTrip::anEmptyListOfVideoBitratesComesBackWithOneEmptyText()
 {
     read(*m_facade, m_folder.path());
     const Preset preset = userPreset(QStringLiteral("Phone"), QStringLiteral("without bitrates"));
@@ -148,7 +148,7 @@ void FormatsProxyRoundTripTest::anEmptyListOfVideoBitratesComesBackWithOneEmptyT
     QCOMPARE(preset.videoBitrateHigh, fullPreset().videoBitrateHigh);
 }
 
-void FormatsProxyRoundTripTest::aPresetMadeByTheUserComesBack()
+void TestFormatsProxyRoundTrip::aPresetMadeByTheUserComesBack()
 {
     read(*m_facade, m_folder.path());
     const Preset preset = userPreset(QStringLiteral("MP4"), QStringLiteral("1004"));
@@ -166,7 +166,7 @@ void FormatsProxyRoundTripTest::aPresetMadeByTheUserComesBack()
              2500);
 }
 
-void FormatsProxyRoundTripTest::anAudioPresetComesBackWithoutItsVideoValues()
+void TestFormatsProxyRoundTrip::anAudioPresetComesBackWithoutItsVideoValues()
 {
     read(*m_facade, m_folder.path());
     const Preset defaults;
@@ -186,14 +186,14 @@ void FormatsProxyRoundTripTest::anAudioPresetComesBackWithoutItsVideoValues()
     QCOMPARE(asLines(fieldsOf(preset)), asLines(fieldsOf(expected)));
 }
 
-void FormatsProxyRoundTripTest::aPresetWithoutConverterSettingsIsLost()
+void TestFormatsProxyRoundTrip::aPresetWithoutConverterSettingsIsLost()
 {
     QVERIFY(readFile(userPresetsFile(m_folder)).contains("\"id\": \"1002\""));
     read(*m_facade, m_folder.path());
     QVERIFY(!m_facade->formatListModel()->containId(QStringLiteral("1002")));
 }
 
-void FormatsProxyRoundTripTest::aFormatOfTheUsersComesBackWithItsPresets()
+void TestFormatsProxyRoundTrip::aFormatOfTheUsersComesBackWithItsPresets()
 {
     read(*m_facade, m_folder.path());
     FormatListModel &formats = *m_facade->formatListModel();
@@ -206,15 +206,15 @@ void FormatsProxyRoundTripTest::aFormatOfTheUsersComesBackWithItsPresets()
     QVERIFY(!formats.isExist(QStringLiteral("Empty")));
 }
 
-void FormatsProxyRoundTripTest::theRecentlyUsedComeBackInOrder()
+void TestFormatsProxyRoundTrip::theRecentlyUsedComeBackInOrder()
 {
     read(*m_facade, m_folder.path());
     FormatDetailModel &recently = *m_facade->recentlyFormatsModel();
-    QCOMPARE(ids(recently), words("1004 1003 video_mp4_source"));
+    QCOMPARE(idsOf(recently), words("1004 1003 video_mp4_source"));
     QCOMPARE(recently.userDefineCount(), 3);
 }
 
-void FormatsProxyRoundTripTest::theRecentlyUsedForgetWhatTheirReaderDoesNotRead()
+void TestFormatsProxyRoundTrip::theRecentlyUsedForgetWhatTheirReaderDoesNotRead()
 {
     read(*m_facade, m_folder.path());
     Preset expected = asReadBack(fullPreset());
@@ -224,7 +224,7 @@ void FormatsProxyRoundTripTest::theRecentlyUsedForgetWhatTheirReaderDoesNotRead(
     QVERIFY(userPreset(QStringLiteral("MP4"), QStringLiteral("1003")).supportMultiTrack);
 }
 
-void FormatsProxyRoundTripTest::theNextIdIsOneAboveTheHighestRead()
+void TestFormatsProxyRoundTrip::theNextIdIsOneAboveTheHighestRead()
 {
     read(*m_facade, m_folder.path());
     QCOMPARE(m_facade->addUserDefineFormat(QString(), QStringLiteral("MP4"),
@@ -232,7 +232,7 @@ void FormatsProxyRoundTripTest::theNextIdIsOneAboveTheHighestRead()
              QStringLiteral("1005"));
 }
 
-void FormatsProxyRoundTripTest::whatWasReadOnceIsSavedAndReadUnchanged()
+void TestFormatsProxyRoundTrip::whatWasReadOnceIsSavedAndReadUnchanged()
 {
     read(*m_facade, m_folder.path());
     // A second init() reads nothing in an empty folder and makes it the one to save into.
@@ -256,7 +256,7 @@ int main(int argc, char *argv[])
     if (app.arguments().value(1) == writeFiles) {
         return saveFiles(app.arguments().value(2));
     }
-    FormatsProxyRoundTripTest test;
+    TestFormatsProxyRoundTrip test;
     return QTest::qExec(&test, argc, argv);
 }
 

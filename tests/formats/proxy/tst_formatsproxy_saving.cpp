@@ -3,7 +3,7 @@
 #include <QDir>
 
 /*! What uninit() writes, and where. */
-class FormatsProxySavingTest : public FacadeTest
+class TestFormatsProxySaving : public FacadeTest
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private:
 };
 
 // What golden/ holds: a video and an audio preset, with texts that JSON has to escape.
-void FormatsProxySavingTest::makeUserPresets()
+void TestFormatsProxySaving::makeUserPresets()
 {
     const auto add = [this](const QString &className, const char *id, const QVariantMap &param) {
         return m_facade->addUserDefineFormat(QString(), className, QString::fromLatin1(id), param);
@@ -60,7 +60,7 @@ void FormatsProxySavingTest::makeUserPresets()
     QVERIFY(m_facade->add2Recently(QStringLiteral("audio"), audioClass, QStringLiteral("1002")));
 }
 
-void FormatsProxySavingTest::uninitWritesTheUsersPresetsAndTheRecentlyUsed()
+void TestFormatsProxySaving::uninitWritesTheUsersPresetsAndTheRecentlyUsed()
 {
     const QTemporaryDir folder;
     initOverSamples(folder.path());
@@ -71,7 +71,7 @@ void FormatsProxySavingTest::uninitWritesTheUsersPresetsAndTheRecentlyUsed()
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 2);
 }
 
-void FormatsProxySavingTest::uninitWritesEmptyLists()
+void TestFormatsProxySaving::uninitWritesEmptyLists()
 {
     const QTemporaryDir folder;
     initOverSamples(folder.path());
@@ -80,7 +80,7 @@ void FormatsProxySavingTest::uninitWritesEmptyLists()
     QCOMPARE(readFile(userPresetsFile(folder)), QByteArray("[\n]\n"));
 }
 
-void FormatsProxySavingTest::uninitWritesOverTheOldFiles()
+void TestFormatsProxySaving::uninitWritesOverTheOldFiles()
 {
     const QTemporaryDir folder;
     initOverSamples(folder.path());
@@ -92,14 +92,14 @@ void FormatsProxySavingTest::uninitWritesOverTheOldFiles()
     QCOMPARE(readFile(userPresetsFile(folder)), golden("formatCache.json"));
 }
 
-void FormatsProxySavingTest::uninitWithoutAFolderWritesNothing_data()
+void TestFormatsProxySaving::uninitWithoutAFolderWritesNothing_data()
 {
     QTest::addColumn<bool>("initialised");
     QTest::newRow("before init") << false;
     QTest::newRow("after init without a folder") << true;
 }
 
-void FormatsProxySavingTest::uninitWithoutAFolderWritesNothing()
+void TestFormatsProxySaving::uninitWithoutAFolderWritesNothing()
 {
     QFETCH(const bool, initialised);
     const QTemporaryDir folder;
@@ -120,7 +120,7 @@ void FormatsProxySavingTest::uninitWithoutAFolderWritesNothing()
     QVERIFY(!QFile::exists(QStringLiteral("/formatCache.json")));
 }
 
-void FormatsProxySavingTest::uninitMakesNoFolder()
+void TestFormatsProxySaving::uninitMakesNoFolder()
 {
     const QTemporaryDir folder;
     initOverSamples(folder.filePath(QStringLiteral("missing")));
@@ -128,7 +128,7 @@ void FormatsProxySavingTest::uninitMakesNoFolder()
     QVERIFY(QDir(folder.path()).isEmpty());
 }
 
-void FormatsProxySavingTest::aFileThatCannotBeWrittenDoesNotStopTheOther()
+void TestFormatsProxySaving::aFileThatCannotBeWrittenDoesNotStopTheOther()
 {
     const QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("recently.json")));
@@ -138,7 +138,7 @@ void FormatsProxySavingTest::aFileThatCannotBeWrittenDoesNotStopTheOther()
     QCOMPARE(readFile(userPresetsFile(folder)), golden("formatCache.json"));
 }
 
-void FormatsProxySavingTest::uninitLeavesTheModelsAsTheyAre()
+void TestFormatsProxySaving::uninitLeavesTheModelsAsTheyAre()
 {
     const QTemporaryDir folder;
     initOverSamples(folder.path());
@@ -154,7 +154,7 @@ void FormatsProxySavingTest::uninitLeavesTheModelsAsTheyAre()
     QCOMPARE(m_facade->formatTags().size(), 5);
 }
 
-void FormatsProxySavingTest::destructionSavesNothing()
+void TestFormatsProxySaving::destructionSavesNothing()
 {
     const QTemporaryDir folder;
     initOverSamples(folder.path());
@@ -164,7 +164,7 @@ void FormatsProxySavingTest::destructionSavesNothing()
     m_facade.emplace();
 }
 
-void FormatsProxySavingTest::theFolderIsTheOneOfTheLastInit()
+void TestFormatsProxySaving::theFolderIsTheOneOfTheLastInit()
 {
     const QTemporaryDir first;
     const QTemporaryDir second;
@@ -175,5 +175,5 @@ void FormatsProxySavingTest::theFolderIsTheOneOfTheLastInit()
     QCOMPARE(QDir(second.path()).entryList(QDir::Files), words("formatCache.json recently.json"));
 }
 
-QTEST_GUILESS_MAIN(FormatsProxySavingTest)
+QTEST_GUILESS_MAIN(TestFormatsProxySaving)
 #include "tst_formatsproxy_saving.moc"

@@ -5,7 +5,7 @@
 
 #include <cstdio>
 
-class FormatsProxySingletonTest : public FacadeTest
+class TestFormatsProxySingleton : public FacadeTest
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ int useInstance(const QString &folder)
 
 } // namespace
 
-void FormatsProxySingletonTest::everyCallGivesTheSameInstance()
+void TestFormatsProxySingleton::everyCallGivesTheSameInstance()
 {
     FormatsProxy *instance = FormatsProxy::getInstance();
     QVERIFY(instance);
@@ -48,7 +48,7 @@ void FormatsProxySingletonTest::everyCallGivesTheSameInstance()
     QCOMPARE(m_facade->formatTags(), QVariantList());
 }
 
-void FormatsProxySingletonTest::theInstanceDiesAtExitAndSavesNothing()
+void TestFormatsProxySingleton::theInstanceDiesAtExitAndSavesNothing()
 {
     const QTemporaryDir folder;
     QProcess process;
@@ -66,7 +66,7 @@ int main(int argc, char *argv[])
     if (app.arguments().value(1) == useAndExit) {
         return useInstance(app.arguments().value(2));
     }
-    FormatsProxySingletonTest test;
+    TestFormatsProxySingleton test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -102,7 +102,7 @@ QStringList lines(const Preset &preset)
 
 } // namespace
 
-class FormatsProxyUserDefinedTest : public FacadeTest
+class TestFormatsProxyUserDefined : public FacadeTest
 {
     Q_OBJECT
 
@@ -162,7 +162,7 @@ private:
         return m_facade->add2Recently(QStringLiteral("video"), mp4Class, id);
     }
 
-    QStringList recentlyUsed() { return ids(*m_facade->recentlyFormatsModel()); }
+    QStringList recentlyUsed() { return idsOf(*m_facade->recentlyFormatsModel()); }
 
     FormatDetailModel &addMp4(const QList<Preset> &presets)
     {
@@ -174,7 +174,7 @@ private:
     }
 };
 
-void FormatsProxyUserDefinedTest::newIdsCountUpAcrossClasses()
+void TestFormatsProxyUserDefined::newIdsCountUpAcrossClasses()
 {
     addMp4({base()});
     addFormat(QStringLiteral("AVI"), QStringLiteral("video")).addModeInfo(base());
@@ -184,7 +184,7 @@ void FormatsProxyUserDefinedTest::newIdsCountUpAcrossClasses()
     QCOMPARE(add(), QStringLiteral("1003"));
 }
 
-void FormatsProxyUserDefinedTest::aNewIdIsOneAboveTheHighestOneEverHeld()
+void TestFormatsProxyUserDefined::aNewIdIsOneAboveTheHighestOneEverHeld()
 {
     const Preset loaded = presetWithId(QStringLiteral("1005"), true);
     FormatDetailModel &mp4 = addMp4({base()});
@@ -193,23 +193,23 @@ void FormatsProxyUserDefinedTest::aNewIdIsOneAboveTheHighestOneEverHeld()
 
     QVERIFY(remove(QStringLiteral("1006")));
     QCOMPARE(add(), QStringLiteral("1007"));
-    QCOMPARE(ids(mp4), words("base 1007"));
+    QCOMPARE(idsOf(mp4), words("base 1007"));
 }
 
-void FormatsProxyUserDefinedTest::aNewPresetStandsAtTheEndOfItsClass()
+void TestFormatsProxyUserDefined::aNewPresetStandsAtTheEndOfItsClass()
 {
     FormatDetailModel &mp4 = addMp4({base(), presetWithId(QStringLiteral("last"))});
     QSignalSpy inserted(&mp4, &QAbstractItemModel::rowsInserted);
     add();
 
-    QCOMPARE(ids(mp4), words("base last 1001"));
+    QCOMPARE(idsOf(mp4), words("base last 1001"));
     QCOMPARE(inserted.count(), 1);
     QCOMPARE(inserted.first().mid(1), (QVariantList{2, 2}));
     QCOMPARE(FormatDetailModel::s_userDefineId, 1001);
     QCOMPARE(m_facade->getUserDefineCount(QStringLiteral("video"), QStringLiteral("MP4")), 1);
 }
 
-void FormatsProxyUserDefinedTest::aNewPresetTakesTheUsersValuesAndItsBasesRest()
+void TestFormatsProxyUserDefined::aNewPresetTakesTheUsersValuesAndItsBasesRest()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     add();
@@ -221,7 +221,7 @@ void FormatsProxyUserDefinedTest::aNewPresetTakesTheUsersValuesAndItsBasesRest()
     QCOMPARE(lines(presetAt(mp4, 1)), lines(expected));
 }
 
-void FormatsProxyUserDefinedTest::theUsersValuesBecomeTexts()
+void TestFormatsProxyUserDefined::theUsersValuesBecomeTexts()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVariantMap param = userValues();
@@ -232,7 +232,7 @@ void FormatsProxyUserDefinedTest::theUsersValuesBecomeTexts()
     QCOMPARE(lines(presetAt(mp4, 0)), lines(baseWithUserValues()));
 }
 
-void FormatsProxyUserDefinedTest::aMissingValueIsEmpty()
+void TestFormatsProxyUserDefined::aMissingValueIsEmpty()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     add(QStringLiteral("base"), QVariantMap());
@@ -258,7 +258,7 @@ void FormatsProxyUserDefinedTest::aMissingValueIsEmpty()
     QCOMPARE(asLines(settings(made, "videoParam")), asLines(emptyVideo));
 }
 
-void FormatsProxyUserDefinedTest::bitratesAndSampleRatesOfTheConverterAreWholeNumbers()
+void TestFormatsProxyUserDefined::bitratesAndSampleRatesOfTheConverterAreWholeNumbers()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVariantMap param = userValues();
@@ -276,7 +276,7 @@ void FormatsProxyUserDefinedTest::bitratesAndSampleRatesOfTheConverterAreWholeNu
     }
 }
 
-void FormatsProxyUserDefinedTest::anAudioBaseGetsVideoSettingsToo()
+void TestFormatsProxyUserDefined::anAudioBaseGetsVideoSettingsToo()
 {
     Preset audio = base();
     audio.videoEncoders.clear();
@@ -286,7 +286,7 @@ void FormatsProxyUserDefinedTest::anAudioBaseGetsVideoSettingsToo()
     QCOMPARE(settings(presetAt(mp4, 1), "videoParam"), converterVideo());
 }
 
-void FormatsProxyUserDefinedTest::theConverterIdKeepsTheFirstTwoPartsOfTheBases_data()
+void TestFormatsProxyUserDefined::theConverterIdKeepsTheFirstTwoPartsOfTheBases_data()
 {
     QTest::addColumn<QVariant>("baseId");
     QTest::addColumn<QString>("newId");
@@ -304,7 +304,7 @@ void FormatsProxyUserDefinedTest::theConverterIdKeepsTheFirstTwoPartsOfTheBases_
     QTest::newRow("none") << QVariant() << QStringLiteral("__1001");
 }
 
-void FormatsProxyUserDefinedTest::theConverterIdKeepsTheFirstTwoPartsOfTheBases()
+void TestFormatsProxyUserDefined::theConverterIdKeepsTheFirstTwoPartsOfTheBases()
 {
     QFETCH(const QVariant, baseId);
     QFETCH(const QString, newId);
@@ -322,7 +322,7 @@ void FormatsProxyUserDefinedTest::theConverterIdKeepsTheFirstTwoPartsOfTheBases(
     QCOMPARE(made.userType(), int(QMetaType::QString));
 }
 
-void FormatsProxyUserDefinedTest::aPresetOfTheUsersCanBeABase()
+void TestFormatsProxyUserDefined::aPresetOfTheUsersCanBeABase()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     add();
@@ -333,7 +333,7 @@ void FormatsProxyUserDefinedTest::aPresetOfTheUsersCanBeABase()
              QStringLiteral("video_mp4_1001"));
 }
 
-void FormatsProxyUserDefinedTest::anEqualTitleIsNoObstacle()
+void TestFormatsProxyUserDefined::anEqualTitleIsNoObstacle()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     add();
@@ -342,7 +342,7 @@ void FormatsProxyUserDefinedTest::anEqualTitleIsNoObstacle()
     QCOMPARE(presetAt(mp4, 2).title, QStringLiteral("Mine"));
 }
 
-void FormatsProxyUserDefinedTest::theTagPlaysNoPart()
+void TestFormatsProxyUserDefined::theTagPlaysNoPart()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     int lastId = 1000;
@@ -356,7 +356,7 @@ void FormatsProxyUserDefinedTest::theTagPlaysNoPart()
     }
 }
 
-void FormatsProxyUserDefinedTest::addingTouchesNeitherTheBaseNorTheRecentlyUsed()
+void TestFormatsProxyUserDefined::addingTouchesNeitherTheBaseNorTheRecentlyUsed()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVERIFY(pick());
@@ -367,7 +367,7 @@ void FormatsProxyUserDefinedTest::addingTouchesNeitherTheBaseNorTheRecentlyUsed(
     QCOMPARE(recentlyUsed(), words("base"));
 }
 
-void FormatsProxyUserDefinedTest::addingNeedsAKnownClassAndId_data()
+void TestFormatsProxyUserDefined::addingNeedsAKnownClassAndId_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<QString>("id");
@@ -378,7 +378,7 @@ void FormatsProxyUserDefinedTest::addingNeedsAKnownClassAndId_data()
         << QStringLiteral("MP4") << QStringLiteral("recent");
 }
 
-void FormatsProxyUserDefinedTest::addingNeedsAKnownClassAndId()
+void TestFormatsProxyUserDefined::addingNeedsAKnownClassAndId()
 {
     QFETCH(const QString, className);
     QFETCH(const QString, id);
@@ -391,21 +391,21 @@ void FormatsProxyUserDefinedTest::addingNeedsAKnownClassAndId()
     QCOMPARE(FormatDetailModel::s_userDefineId, 1000);
 }
 
-void FormatsProxyUserDefinedTest::aChangedPresetTakesTheUsersValues()
+void TestFormatsProxyUserDefined::aChangedPresetTakesTheUsersValues()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVERIFY(change());
     QCOMPARE(lines(presetAt(mp4, 0)), lines(baseWithUserValues()));
 }
 
-void FormatsProxyUserDefinedTest::aChangeKeepsTheRowAndAnnouncesEveryRole()
+void TestFormatsProxyUserDefined::aChangeKeepsTheRowAndAnnouncesEveryRole()
 {
     FormatDetailModel &mp4 = addMp4(
         {presetWithId(QStringLiteral("first")), base(), presetWithId(QStringLiteral("last"))});
     QSignalSpy changed(&mp4, &QAbstractItemModel::dataChanged);
     QVERIFY(change());
 
-    QCOMPARE(ids(mp4), words("first base last"));
+    QCOMPARE(idsOf(mp4), words("first base last"));
     QVector<int> roles(26);
     std::iota(roles.begin(), roles.end(), int(FormatDetailModel::ExtensionRole));
     QCOMPARE(changed.count(), 1);
@@ -414,7 +414,7 @@ void FormatsProxyUserDefinedTest::aChangeKeepsTheRowAndAnnouncesEveryRole()
     QCOMPARE(changed.first().at(2).value<QVector<int>>(), roles);
 }
 
-void FormatsProxyUserDefinedTest::aChangedPresetKeepsItsIdentity_data()
+void TestFormatsProxyUserDefined::aChangedPresetKeepsItsIdentity_data()
 {
     QTest::addColumn<bool>("userDefine");
     QTest::addColumn<bool>("hasConverterId");
@@ -423,7 +423,7 @@ void FormatsProxyUserDefinedTest::aChangedPresetKeepsItsIdentity_data()
     QTest::newRow("without a converter id") << true << false;
 }
 
-void FormatsProxyUserDefinedTest::aChangedPresetKeepsItsIdentity()
+void TestFormatsProxyUserDefined::aChangedPresetKeepsItsIdentity()
 {
     QFETCH(const bool, userDefine);
     QFETCH(const bool, hasConverterId);
@@ -444,7 +444,7 @@ void FormatsProxyUserDefinedTest::aChangedPresetKeepsItsIdentity()
     QCOMPARE(FormatDetailModel::s_userDefineId, 1000);
 }
 
-void FormatsProxyUserDefinedTest::aChangeDoesNotReachTheRecentlyUsed()
+void TestFormatsProxyUserDefined::aChangeDoesNotReachTheRecentlyUsed()
 {
     addMp4({base()});
     QVERIFY(pick());
@@ -454,7 +454,7 @@ void FormatsProxyUserDefinedTest::aChangeDoesNotReachTheRecentlyUsed()
     QCOMPARE(lines(presetAt(*m_facade->recentlyFormatsModel(), 0)), lines(expected));
 }
 
-void FormatsProxyUserDefinedTest::onlyTheFirstOfEqualIdsIsChanged()
+void TestFormatsProxyUserDefined::onlyTheFirstOfEqualIdsIsChanged()
 {
     FormatDetailModel &mp4 = addMp4({base(), base()});
     QVERIFY(change());
@@ -462,7 +462,7 @@ void FormatsProxyUserDefinedTest::onlyTheFirstOfEqualIdsIsChanged()
     QCOMPARE(lines(presetAt(mp4, 1)), lines(base()));
 }
 
-void FormatsProxyUserDefinedTest::changingAnUnknownClassIsNoFailure()
+void TestFormatsProxyUserDefined::changingAnUnknownClassIsNoFailure()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVERIFY(change(QStringLiteral("base"), userValues(), QStringLiteral("AVI")));
@@ -470,15 +470,15 @@ void FormatsProxyUserDefinedTest::changingAnUnknownClassIsNoFailure()
     QCOMPARE(m_facade->formatListModel()->rowCount(), 1);
 }
 
-void FormatsProxyUserDefinedTest::changingAnUnknownIdFails()
+void TestFormatsProxyUserDefined::changingAnUnknownIdFails()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVERIFY(!change(QStringLiteral("other")));
-    QCOMPARE(ids(mp4), words("base"));
+    QCOMPARE(idsOf(mp4), words("base"));
     QCOMPARE(lines(presetAt(mp4, 0)), lines(base()));
 }
 
-void FormatsProxyUserDefinedTest::aDeletedPresetLeavesTheRecentlyUsedToo()
+void TestFormatsProxyUserDefined::aDeletedPresetLeavesTheRecentlyUsedToo()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     const QString id = add();
@@ -486,11 +486,11 @@ void FormatsProxyUserDefinedTest::aDeletedPresetLeavesTheRecentlyUsedToo()
     QVERIFY(pick());
 
     QVERIFY(remove(id));
-    QCOMPARE(ids(mp4), words("base"));
+    QCOMPARE(idsOf(mp4), words("base"));
     QCOMPARE(recentlyUsed(), words("base"));
 }
 
-void FormatsProxyUserDefinedTest::aBuiltInPresetCanBeDeleted()
+void TestFormatsProxyUserDefined::aBuiltInPresetCanBeDeleted()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVERIFY(remove());
@@ -498,7 +498,7 @@ void FormatsProxyUserDefinedTest::aBuiltInPresetCanBeDeleted()
     QCOMPARE(m_facade->formatListModel()->rowCount(), 1);
 }
 
-void FormatsProxyUserDefinedTest::onlyTheFirstOfEqualIdsIsDeleted()
+void TestFormatsProxyUserDefined::onlyTheFirstOfEqualIdsIsDeleted()
 {
     Preset second = base();
     second.title = QStringLiteral("second");
@@ -508,7 +508,7 @@ void FormatsProxyUserDefinedTest::onlyTheFirstOfEqualIdsIsDeleted()
     QCOMPARE(presetAt(mp4, 0).title, QStringLiteral("second"));
 }
 
-void FormatsProxyUserDefinedTest::aFailedDeletionKeepsTheRecentlyUsed_data()
+void TestFormatsProxyUserDefined::aFailedDeletionKeepsTheRecentlyUsed_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<QString>("id");
@@ -516,7 +516,7 @@ void FormatsProxyUserDefinedTest::aFailedDeletionKeepsTheRecentlyUsed_data()
     QTest::newRow("unknown id") << QStringLiteral("MP4") << QStringLiteral("other");
 }
 
-void FormatsProxyUserDefinedTest::aFailedDeletionKeepsTheRecentlyUsed()
+void TestFormatsProxyUserDefined::aFailedDeletionKeepsTheRecentlyUsed()
 {
     QFETCH(const QString, className);
     QFETCH(const QString, id);
@@ -528,5 +528,5 @@ void FormatsProxyUserDefinedTest::aFailedDeletionKeepsTheRecentlyUsed()
     QCOMPARE(recentlyUsed(), QStringList(id));
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyUserDefinedTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyUserDefined)
 #include "tst_formatsproxy_userdefined.moc"

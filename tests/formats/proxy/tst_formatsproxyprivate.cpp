@@ -10,7 +10,7 @@
 
 #include <optional>
 
-class FormatsProxyPrivateTest : public QObject
+class TestFormatsProxyPrivate : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private:
     std::optional<QTemporaryDir> m_folder;
 };
 
-void FormatsProxyPrivateTest::init()
+void TestFormatsProxyPrivate::init()
 {
     m_log.emplace();
     m_folder.emplace();
@@ -42,7 +42,7 @@ void FormatsProxyPrivateTest::init()
     m_private.emplace(&*m_facade);
 }
 
-void FormatsProxyPrivateTest::cleanup()
+void TestFormatsProxyPrivate::cleanup()
 {
     m_private.reset();
     m_facade.reset();
@@ -52,7 +52,7 @@ void FormatsProxyPrivateTest::cleanup()
     QCOMPARE(unexpected, QStringList());
 }
 
-void FormatsProxyPrivateTest::itStartsWithEmptyModelsAndNoParser()
+void TestFormatsProxyPrivate::itStartsWithEmptyModelsAndNoParser()
 {
     QCOMPARE(m_private->q, &*m_facade);
     QCOMPARE(m_private->formatTags, QVariantList());
@@ -65,7 +65,7 @@ void FormatsProxyPrivateTest::itStartsWithEmptyModelsAndNoParser()
     QCOMPARE(m_private->configDir, QString());
 }
 
-void FormatsProxyPrivateTest::theModelsBelongToTheFacade()
+void TestFormatsProxyPrivate::theModelsBelongToTheFacade()
 {
     const QObjectList children = m_facade->children();
     const QList<QPointer<QObject>> models{
@@ -86,12 +86,12 @@ void FormatsProxyPrivateTest::theModelsBelongToTheFacade()
     }
 }
 
-void FormatsProxyPrivateTest::theFilterStandsOverTheCatalogue()
+void TestFormatsProxyPrivate::theFilterStandsOverTheCatalogue()
 {
     QCOMPARE(m_private->formatListModelProxy->sourceModel(), m_private->formatListModel);
 }
 
-void FormatsProxyPrivateTest::aTextIsWrittenAsUtf8_data()
+void TestFormatsProxyPrivate::aTextIsWrittenAsUtf8_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("content");
@@ -105,7 +105,7 @@ void FormatsProxyPrivateTest::aTextIsWrittenAsUtf8_data()
     QTest::newRow("carriage return") << QStringLiteral("a\r\nb") << QByteArray("a\r\nb");
 }
 
-void FormatsProxyPrivateTest::aTextIsWrittenAsUtf8()
+void TestFormatsProxyPrivate::aTextIsWrittenAsUtf8()
 {
     QFETCH(const QString, text);
     QFETCH(const QByteArray, content);
@@ -116,7 +116,7 @@ void FormatsProxyPrivateTest::aTextIsWrittenAsUtf8()
     QCOMPARE(file.readAll(), content);
 }
 
-void FormatsProxyPrivateTest::aLongerFileIsReplacedWhole()
+void TestFormatsProxyPrivate::aLongerFileIsReplacedWhole()
 {
     const QString path = m_folder->filePath(QStringLiteral("old.json"));
     QVERIFY(m_private->write2Local(path, QString(100000, QLatin1Char('x'))));
@@ -126,14 +126,14 @@ void FormatsProxyPrivateTest::aLongerFileIsReplacedWhole()
     QCOMPARE(file.readAll(), QByteArray("short"));
 }
 
-void FormatsProxyPrivateTest::aFileThatCannotBeOpenedIsAFailure_data()
+void TestFormatsProxyPrivate::aFileThatCannotBeOpenedIsAFailure_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("in a missing folder") << QStringLiteral("missing/new.json");
     QTest::newRow("a folder") << QString();
 }
 
-void FormatsProxyPrivateTest::aFileThatCannotBeOpenedIsAFailure()
+void TestFormatsProxyPrivate::aFileThatCannotBeOpenedIsAFailure()
 {
     QFETCH(const QString, name);
     const QString path = m_folder->filePath(name);
@@ -141,7 +141,7 @@ void FormatsProxyPrivateTest::aFileThatCannotBeOpenedIsAFailure()
     QVERIFY(QDir(m_folder->path()).isEmpty());
 }
 
-void FormatsProxyPrivateTest::whatAWriteReturnsIsNotChecked()
+void TestFormatsProxyPrivate::whatAWriteReturnsIsNotChecked()
 {
     const QString full = QStringLiteral("/dev/full");
     if (!QFile::exists(full)) {
@@ -150,5 +150,5 @@ void FormatsProxyPrivateTest::whatAWriteReturnsIsNotChecked()
     QVERIFY(m_private->write2Local(full, QStringLiteral("text")));
 }
 
-QTEST_GUILESS_MAIN(FormatsProxyPrivateTest)
+QTEST_GUILESS_MAIN(TestFormatsProxyPrivate)
 #include "tst_formatsproxyprivate.moc"

@@ -87,13 +87,13 @@ TestCase {
         tryVerify(function () { return root.host.calls.length > 0 }, root.patience)
     }
 
-    /*! Lets the scene take up what changed. */
+    /*! Lets the scene process what has changed. */
     function settle() {
         wait(0)
         root.waitForRest()
     }
 
-    /*! Whoever looks for an item or measures it waits here until all are built and laid out. */
+    /*! Before items are looked for or measured: waits until all are built and laid out. */
     function waitForRest() {
         tryVerify(function () {
             if (!bench.isAtRest(root)) {

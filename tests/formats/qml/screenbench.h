@@ -12,8 +12,8 @@
 #include <optional>
 
 /*!
- * What a screen under test stands on: the real facade as O_FormatsProxy, other objects under the
- * names that the host gives them, and an ear for warnings. QML knows it as "bench".
+ * What a screen under test needs: the real facade as O_FormatsProxy, other objects under the names
+ * that the host gives them, and a record of the warnings. QML knows it as "bench".
  */
 class ScreenBench : public QObject
 {

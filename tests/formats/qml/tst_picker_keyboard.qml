@@ -164,7 +164,7 @@ ScreenTest {
         compare(presets("AVI").isExist(id), false)
         compare(calls(), [["converter.setConverterGlobalFormat", "Video_MP4_001"]])
 
-        // No bin, nothing to do.
+        // Without a delete button the key does nothing.
         press(Qt.Key_Delete)
         compare(presets("AVI").count, 1)
     }

@@ -112,7 +112,7 @@ ScreenTest {
         compare(texts(recentlyRow(row.preset)), row.texts)
     }
 
-    // The facade holds texts only; a preset list of another making may hold numbers and gaps.
+    // The facade holds texts only; a preset list from elsewhere may hold numbers and gaps.
     function test_aRecentlyUsedRowTakesTheNumber0AsTheText_data() {
         return [
             { tag: "video", values: { "videoResolution": 0, "videoResolutions": ["0"] },
