@@ -3,7 +3,6 @@
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
 #include "host/convert/outputsettings.h"
-#include "host/convert/textlist.h"
 #include "host/media/mediafacts.h"
 
 #include <QRegularExpression>
@@ -111,12 +110,29 @@ QStringList sizesOf(const VideoCodec &codec)
 QStringList bitratesOf(const AudioCodec &codec)
 {
     QStringList bitrates;
-    const QStringList exact = words(codec.bitrates);
-    for (const QString &kbps : exact) {
-        bitrates << QString::number(qRound(kbps.toDouble()));
+    for (const double kbps : codec.bitrates) {
+        bitrates << QString::number(qRound(kbps));
     }
     bitrates.removeDuplicates();
     return bitrates;
+}
+
+QStringList textsOf(const QVector<Ratio> &rates)
+{
+    QStringList texts;
+    for (const Ratio &rate : rates) {
+        texts << rate.toText();
+    }
+    return texts;
+}
+
+QStringList textsOf(const QVector<int> &numbers)
+{
+    QStringList texts;
+    for (const int number : numbers) {
+        texts << QString::number(number);
+    }
+    return texts;
 }
 
 QStringList channelsUpTo(int count)
@@ -147,7 +163,8 @@ private:
     void lintLevels();
     void lintVideo(const Container &container);
     void lintAudio(const Container &container);
-    QStringList lintEncoders(const ChosenValue &encoder, const char *held, const QString &track);
+    QStringList lintEncoders(const ChosenValue &encoder, const QStringList &allowed,
+                             const QString &track);
 
     /*!
      * Notes each value of an option list that \a owner, a codec or kind of file that stands under
@@ -304,10 +321,10 @@ void Linter::lintLevels()
 
 /*! The codecs that the preset may be written with; "0" may come out as the container's usual one.
  */
-QStringList Linter::lintEncoders(const ChosenValue &encoder, const char *held, const QString &track)
+QStringList Linter::lintEncoders(const ChosenValue &encoder, const QStringList &allowed,
+                                 const QString &track)
 {
     QStringList names = valueAt(m_preset, encoder.options).toStringList();
-    const QStringList allowed = words(held);
     if (allowed.isEmpty() && !names.isEmpty()) {
         note(encoder.options, QStringLiteral("%1 holds no %2").arg(fileText(), track),
              extensionKey);
@@ -326,10 +343,10 @@ void Linter::lintVideo(const Container &container)
         lintEncoders(videoEncoder, container.videoCodecs, QStringLiteral("picture"));
     bool takesBitrates = names.isEmpty();
     for (const QString &name : names) {
-        const VideoCodec &codec = videoCodec(name);
+        const VideoCodec codec = videoCodec(name);
         takesBitrates = takesBitrates || codec.takesBitrate;
         const QString &owner = videoEncoder.options;
-        allowOnly(words(codec.frameRates), frameRate, QStringLiteral("%1 frames a second"), name,
+        allowOnly(textsOf(codec.frameRates), frameRate, QStringLiteral("%1 frames a second"), name,
                   owner);
         allowOnly(sizesOf(codec), resolution, QStringLiteral("the size %1"), name, owner);
     }
@@ -344,7 +361,7 @@ void Linter::lintAudio(const Container &container)
     const QString channelUnit = QStringLiteral("%1-channel sound");
     const QString sampleRateUnit = QStringLiteral("%1 Hz");
     const QString &owner = audioEncoder.options;
-    if (*container.audioCodecs != '\0' && valueAt(m_preset, audioEncoder.param).isNull()) {
+    if (!container.audioCodecs.isEmpty() && valueAt(m_preset, audioEncoder.param).isNull()) {
         note(extensionKey,
              QStringLiteral("%1 holds sound, but there are no audio settings (in the preset %2)")
                  .arg(fileText(), m_preset.value(QStringLiteral("id")).toString()));
@@ -353,13 +370,13 @@ void Linter::lintAudio(const Container &container)
         lintEncoders(audioEncoder, container.audioCodecs, QStringLiteral("sound"));
     bool takesBitrates = names.isEmpty();
     for (const QString &name : names) {
-        const AudioCodec &codec = audioCodec(name);
+        const AudioCodec codec = audioCodec(name);
         takesBitrates = takesBitrates || codec.takesBitrate;
         if (codec.isOnlyCopied) {
             note(owner, QStringLiteral("%1 can only be copied from a source").arg(name));
         }
         allowOnly(channelsUpTo(codec.maxChannels), channel, channelUnit, name, owner);
-        allowOnly(words(codec.sampleRates), sampleRate, sampleRateUnit, name, owner);
+        allowOnly(textsOf(codec.sampleRates), sampleRate, sampleRateUnit, name, owner);
         allowOnly(bitratesOf(codec), audioBitrate, kbpsUnit, name, owner);
     }
     if (!takesBitrates) {
@@ -369,7 +386,7 @@ void Linter::lintAudio(const Container &container)
         allowOnly({QString::number(container.channels)}, channel, channelUnit, fileText(),
                   extensionKey);
     }
-    allowOnly(words(container.sampleRates), sampleRate, sampleRateUnit, fileText(), extensionKey);
+    allowOnly(textsOf(container.sampleRates), sampleRate, sampleRateUnit, fileText(), extensionKey);
 }
 
 void Linter::allowOnly(const QStringList &allowed, const ChosenValue &chosen, const QString &unit,

@@ -20,7 +20,7 @@ ConversionJob jobOf(const OutputSettings &settings, const ProofClip &clip)
  */
 QStringList clipArguments(const QSize &size, const QString &path)
 {
-    return QStringLiteral("-nostdin -v error -y "
+    return QStringLiteral("-y "
                           "-f lavfi -i testsrc2=size=%1x%2:rate=30000/1001:duration=1 "
                           "-f lavfi -i anoisesrc=color=pink:sample_rate=44100:seed=1:duration=1 "
                           "-pix_fmt yuv420p -c:v utvideo -ac 2 -c:a adpcm_ms")
@@ -37,18 +37,24 @@ void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
 {
     const QString path = QDir(folder).filePath(
         QStringLiteral("clip-%1x%2.mkv").arg(size.width()).arg(size.height()));
-    new Tool(
-        QStringLiteral("ffmpeg"), clipArguments(size, path),
-        [path, parent, done](const ToolOutcome &made) {
-            if (!made.exitedCleanly) {
-                done({}, made.started ? made.firstError() : made.notStartedText());
-                return;
-            }
-            probeMedia(path, parent, [path, done](const ProbeOutcome &probed) {
-                done({path, probed.facts}, probed.error);
-            });
-        },
-        parent);
+    auto *probe = new MediaProbe(parent);
+    QObject::connect(
+        probe, &MediaProbe::finished, probe, [path, probe, done](const Result<MediaFacts> &facts) {
+            probe->deleteLater();
+            done({path, facts.value_or(MediaFacts())}, facts ? QString() : facts.error().text);
+        });
+    auto *ffmpeg = new Tool(probe);
+    QObject::connect(ffmpeg, &Tool::finished, probe,
+                     [path, probe, done](const Result<ToolRun> &run) {
+                         const Result<QByteArray> made = cleanOutput(run);
+                         if (made) {
+                             probe->start(path);
+                         } else {
+                             probe->deleteLater();
+                             done({}, made.error().text);
+                         }
+                     });
+    ffmpeg->start(ffmpegCall(clipArguments(size, path)));
 }
 
 PresetProof::PresetProof(const OutputSettings &settings, const ProofClip &clip, QObject *parent)
@@ -58,6 +64,7 @@ PresetProof::PresetProof(const OutputSettings &settings, const ProofClip &clip, 
     , m_conversion(jobOf(settings, clip))
 {
     connect(&m_conversion, &Conversion::finished, this, &PresetProof::measure);
+    connect(&m_packetList, &Tool::finished, this, &PresetProof::compare);
     m_limit.setSingleShot(true);
     connect(&m_limit, &QTimer::timeout, &m_conversion, &Conversion::cancel);
 }
@@ -75,35 +82,31 @@ void PresetProof::start(int limit)
     m_conversion.start();
 }
 
-void PresetProof::measure(const ConversionOutcome &outcome)
+void PresetProof::measure(const Result<ConversionOutcome> &outcome)
 {
     m_limit.stop();
-    if (outcome.result == ConversionOutcome::Cancelled) {
-        Q_EMIT finished(
-            {ProofOutcome::Failed, tr("not done after %1 s").arg(m_limit.interval() / 1000.0)});
+    if (outcome) {
+        m_converted = *outcome;
+        m_packetList.start(ffprobeCall(packetListArguments(outcome->target)));
         return;
     }
-    if (outcome.result != ConversionOutcome::Converted) {
-        Q_EMIT finished({outcome.lacksEncoder ? ProofOutcome::LacksEncoder : ProofOutcome::Failed,
-                         outcome.error});
-        return;
-    }
-    m_converted = outcome;
-    new Tool(
-        QStringLiteral("ffprobe"), packetListArguments(outcome.target),
-        [this](const ToolOutcome &packets) { compare(packets); }, this);
+    const Error &error = outcome.error();
+    Q_EMIT finished(
+        {error.kind == Error::EncoderMissing ? ProofOutcome::LacksEncoder : ProofOutcome::Failed,
+         error.kind == Error::Cancelled ? tr("not done after %1 s").arg(m_limit.interval() / 1000.0)
+                                        : error.text});
 }
 
-void PresetProof::compare(const ToolOutcome &packets)
+void PresetProof::compare(const Result<ToolRun> &run)
 {
-    if (!packets.exitedCleanly) {
-        Q_EMIT finished({ProofOutcome::Failed,
-                         packets.started ? packets.firstError() : packets.notStartedText()});
+    const Result<QByteArray> packets = cleanOutput(run);
+    if (!packets) {
+        Q_EMIT finished({ProofOutcome::Failed, packets.error().text});
         return;
     }
     WrittenFile file;
     file.facts = m_converted.facts;
-    file.readPackets(packets.output);
+    file.readPackets(*packets);
     const QStringList deviations = file.deviations(m_settings, m_clip.facts);
     Q_EMIT finished({deviations.isEmpty() ? ProofOutcome::Passed : ProofOutcome::Failed,
                      deviations.join(QStringLiteral("; "))});

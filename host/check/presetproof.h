@@ -54,12 +54,13 @@ Q_SIGNALS:
     void finished(const ProofOutcome &outcome);
 
 private:
-    void measure(const ConversionOutcome &outcome);
-    void compare(const ToolOutcome &packets);
+    void measure(const Result<ConversionOutcome> &outcome);
+    void compare(const Result<ToolRun> &run);
 
     const OutputSettings m_settings;
     const ProofClip m_clip;
     Conversion m_conversion;
+    Tool m_packetList;
     ConversionOutcome m_converted;
     QTimer m_limit;
 };

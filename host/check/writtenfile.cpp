@@ -2,7 +2,6 @@
 
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
-#include "host/convert/textlist.h"
 #include "host/media/mediainput.h"
 
 #include <algorithm>
@@ -14,9 +13,9 @@ namespace {
 constexpr double videoTolerance = 3;
 constexpr double audioTolerance = 2;
 
-bool takes(const char *allowed, int value)
+bool takes(const QVector<int> &allowed, int value)
 {
-    return *allowed == '\0' || words(allowed).contains(QString::number(value));
+    return allowed.isEmpty() || allowed.contains(value);
 }
 
 class Comparison
@@ -37,7 +36,7 @@ public:
 private:
     void compareSize(const VideoTrack &track, const QSize &sourceSize);
     void compareCodec(const QString &codec, const QString &asked, const QString &source,
-                      const char *held);
+                      const QStringList &held);
     void compareBitrate(const QString &what, int stream, double asked, double tolerance);
     void expect(bool isAsAsked, const QString &deviation);
 
@@ -49,9 +48,8 @@ private:
 
 void Comparison::compareContainer(const Container &container)
 {
-    const QString demuxer = QLatin1String(container.demuxer);
-    expect(m_file.facts.container.split(QLatin1Char(',')).contains(demuxer),
-           QStringLiteral("the file is %1, not %2").arg(m_file.facts.container, demuxer));
+    expect(m_file.facts.container.split(QLatin1Char(',')).contains(container.demuxer),
+           QStringLiteral("the file is %1, not %2").arg(m_file.facts.container, container.demuxer));
 }
 
 void Comparison::compareDuration()
@@ -73,11 +71,11 @@ void Comparison::comparePicture(const Container &container)
         return;
     }
     const VideoTrack *source = m_source.picture();
-    const VideoCodec &codec = videoCodec(track->codec);
+    const VideoCodec codec = videoCodec(track->codec);
     compareCodec(track->codec, m_asked.videoCodec, source->codec, container.videoCodecs);
     compareSize(*track, source->displaySize());
     // Without a wish a codec takes the nearest rate that it has.
-    const bool isBound = *codec.frameRates != '\0' || !codec.frames.isEmpty();
+    const bool isBound = !codec.frameRates.isEmpty() || !codec.frames.isEmpty();
     const bool isAsked = m_asked.frameRate.isValid();
     const double rate = track->frameRate.value();
     const double wanted = (isAsked ? m_asked.frameRate : source->frameRate).value();
@@ -90,7 +88,7 @@ void Comparison::comparePicture(const Container &container)
 void Comparison::compareSize(const VideoTrack &track, const QSize &sourceSize)
 {
     // The pixels of a fixed frame needn't be square.
-    const QVector<VideoCodec::Frame> &frames = videoCodec(track.codec).frames;
+    const QVector<VideoCodec::Frame> frames = videoCodec(track.codec).frames;
     const QSize size = frames.isEmpty() ? track.displaySize() : track.storedSize;
     const QSize sourceRoom = sourceSize - size;
     const bool isWhole = std::max(sourceRoom.width(), sourceRoom.height()) < 2;
@@ -110,13 +108,13 @@ void Comparison::compareSound(const Container &container)
 {
     const AudioTrack *track = m_file.facts.sound();
     const AudioTrack *source = m_source.sound();
-    const bool isAsked = *container.audioCodecs != '\0' && source != nullptr;
+    const bool isAsked = !container.audioCodecs.isEmpty() && source != nullptr;
     if (track == nullptr || !isAsked) {
         expect(!isAsked, QStringLiteral("there is no sound"));
         expect(track == nullptr, QStringLiteral("there is sound"));
         return;
     }
-    const AudioCodec &codec = audioCodec(track->codec);
+    const AudioCodec codec = audioCodec(track->codec);
     compareCodec(track->codec, m_asked.audioCodec, source->codec, container.audioCodecs);
 
     // Without a wish the nearest rate is taken that container and codec have.
@@ -137,10 +135,9 @@ void Comparison::compareSound(const Container &container)
 /*! Without a wish the source's codec is kept where the container holds it, else its usual one is
  *  taken. */
 void Comparison::compareCodec(const QString &codec, const QString &asked, const QString &source,
-                              const char *held)
+                              const QStringList &held)
 {
-    const QStringList names = words(held);
-    const QString kept = names.contains(source) ? source : names.value(0);
+    const QString kept = held.contains(source) ? source : held.value(0);
     const QString wanted = asked.isEmpty() ? kept : asked;
     expect(codec == wanted, QStringLiteral("%1, not %2").arg(codec, wanted));
 }
@@ -192,11 +189,7 @@ QStringList WrittenFile::deviations(const OutputSettings &asked, const MediaFact
 
 QStringList packetListArguments(const QString &path)
 {
-    return QStringList{QStringLiteral("-v"),
-                       QStringLiteral("error"),
-                       QStringLiteral("-show_entries"),
-                       QStringLiteral("packet=stream_index,size"),
-                       QStringLiteral("-of"),
-                       QStringLiteral("csv=print_section=0")} +
+    return QStringList{QStringLiteral("-show_entries"), QStringLiteral("packet=stream_index,size"),
+                       QStringLiteral("-of"), QStringLiteral("csv=print_section=0")} +
            inputArguments(path, demuxersFor(path));
 }

@@ -12,6 +12,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 #include <QRegularExpression>
 
 namespace {
@@ -75,7 +76,7 @@ public:
 private:
     void convert(const QString &file);
     void showProgress(const QString &file, const Progress &progress);
-    void tell(const QString &file, const ConversionOutcome &outcome);
+    void tell(const QString &file, const Result<ConversionOutcome> &outcome);
 
     const QStringList m_files;
     ConversionJob m_job;
@@ -123,7 +124,7 @@ void Batch::convert(const QString &file)
     QObject::connect(&conversion, &Conversion::progressed, &loop,
                      [this, &file](const Progress &progress) { showProgress(file, progress); });
     QObject::connect(&conversion, &Conversion::finished, &loop,
-                     [this, &file, &loop](const ConversionOutcome &outcome) {
+                     [this, &file, &loop](const Result<ConversionOutcome> &outcome) {
                          tell(file, outcome);
                          loop.quit();
                      });
@@ -147,28 +148,23 @@ void Batch::showProgress(const QString &file, const Progress &progress)
     }
 }
 
-void Batch::tell(const QString &file, const ConversionOutcome &outcome)
+void Batch::tell(const QString &file, const Result<ConversionOutcome> &outcome)
 {
     if (Console::isTerminal()) {
         Console::overwriteLine(QString());
     }
-    switch (outcome.result) {
-    case ConversionOutcome::Converted:
+    if (outcome && m_job.planOnly) {
         ++m_converted;
-        m_job.keep << outcome.target;
-        Console::print(CommandLine::tr("%1 -> %2").arg(file, outcome.target));
-        Console::print(QStringLiteral("  ") + outcome.facts.summary());
-        break;
-    case ConversionOutcome::Planned:
+        Console::print(shellCommand(outcome->plan.program, outcome->plan.arguments));
+    } else if (outcome) {
         ++m_converted;
-        Console::print(shellCommand(QStringLiteral("ffmpeg"), outcome.arguments));
-        break;
-    case ConversionOutcome::Failed:
-        Console::printError(QStringLiteral("%1: %2").arg(file, outcome.error));
-        break;
-    case ConversionOutcome::Cancelled:
+        m_job.keep << outcome->target;
+        Console::print(CommandLine::tr("%1 -> %2").arg(file, outcome->target));
+        Console::print(QStringLiteral("  ") + outcome->facts.summary());
+    } else if (outcome.error().kind == Error::Cancelled) {
         Console::printError(CommandLine::tr("%1: stopped; nothing was written").arg(file));
-        break;
+    } else {
+        Console::printError(QStringLiteral("%1: %2").arg(file, outcome.error().text));
     }
 }
 

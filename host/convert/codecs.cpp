@@ -4,112 +4,236 @@
 
 namespace {
 
-const char mpegFrameRates[] = "24000/1001 24 25 30000/1001 30 50 60000/1001 60";
-const char layer2Bitrates[] = "32 48 56 64 80 96 112 128 160 192 224 256 320 384";
-const char mp3Bitrates[] = "8 16 24 32 40 48 56 64 80 96 112 128 160 192 224 256 320";
-const char ac3Bitrates[] = "32 40 48 56 64 80 96 112 128 160 192 224 256 320 384 448 512 576 640";
-const char wmaBitrates[] = "24 32 40 48 64 80 96 128 160 192 256 320";
-const char wmaSampleRates[] = "8000 11025 16000 22050 32000 44100 48000";
+/*! A row of the table of video codecs. */
+class Video : public VideoCodec
+{
+public:
+    explicit Video(const char *codec) { name = QLatin1String(codec); }
+
+    Video writtenBy(const char *encoder)
+    {
+        encoders.append({QLatin1String(encoder)});
+        return *this;
+    }
+    /*! An option of the encoder named last. */
+    Video with(const char *option, const char *value)
+    {
+        encoders.last().options.append({QLatin1String(option), QLatin1String(value)});
+        return *this;
+    }
+    /*! The same, where no bitrate is asked for. */
+    Video orElse(const char *option, const char *value)
+    {
+        encoders.last().quality.append({QLatin1String(option), QLatin1String(value)});
+        return *this;
+    }
+    Video inPixels(const char *format)
+    {
+        pixelFormat = QLatin1String(format);
+        return *this;
+    }
+    Video withoutBitrate()
+    {
+        takesBitrate = false;
+        return *this;
+    }
+    Video atRates(const QVector<Ratio> &rates)
+    {
+        frameRates = rates;
+        return *this;
+    }
+    Video lastlyFilteredBy(const char *filter)
+    {
+        lastFilter = QLatin1String(filter);
+        return *this;
+    }
+    Video inFrame(const QSize &size, Ratio pixelAspect, Ratio rate, const char *format)
+    {
+        frames.append({size, pixelAspect, rate, QLatin1String(format)});
+        return *this;
+    }
+};
+
+/*! A row of the table of audio codecs. */
+class Audio : public AudioCodec
+{
+public:
+    explicit Audio(const char *codec) { name = QLatin1String(codec); }
+
+    Audio writtenBy(const char *encoder)
+    {
+        encoders.append(QLatin1String(encoder));
+        return *this;
+    }
+    Audio upTo(int channels)
+    {
+        maxChannels = channels;
+        return *this;
+    }
+    Audio at(const QVector<int> &hertz)
+    {
+        sampleRates = hertz;
+        return *this;
+    }
+    Audio withAnyBitrate()
+    {
+        takesBitrate = true;
+        return *this;
+    }
+    Audio withBitrates(const QVector<double> &kbps)
+    {
+        bitrates = kbps;
+        return withAnyBitrate();
+    }
+    /*! Good quality, for where no bitrate is asked for. */
+    Audio goodAt(int kbpsOfAChannel)
+    {
+        kbpsPerChannel = kbpsOfAChannel;
+        return *this;
+    }
+    Audio goodWith(const char *option, const char *value)
+    {
+        quality.append({QLatin1String(option), QLatin1String(value)});
+        return *this;
+    }
+    Audio bitsPerSampleAtMost(double bits)
+    {
+        maxBitsPerSample = bits;
+        return *this;
+    }
+    Audio bitsPerSampleAtLeast(double inStereo, double otherwise)
+    {
+        minBitsPerSample = inStereo;
+        minBitsUnlessStereo = otherwise;
+        return *this;
+    }
+    Audio onlyCopied()
+    {
+        isOnlyCopied = true;
+        return *this;
+    }
+};
 
 // clang-format off
-const QVector<VideoCodec> &videoCodecs()
+QVector<VideoCodec> makeVideoCodecs()
 {
-    static const QVector<VideoCodec> table = {
-        // name, {{encoder, options, quality}}, pixel format, takes a bitrate, frame rates, filter
-        {"h264", {{"libx264", "preset=veryfast", "crf=20"}}, "yuv420p"},
-        {"hevc", {{"libx265", "preset=veryfast x265-params=log-level=error", "crf=23"}}, "yuv420p"},
-        {"vp8", {{"libvpx", "deadline=good cpu-used=4", "crf=10 b=8M"}}, "yuv420p"},
-        {"vp9", {{"libvpx-vp9", "deadline=good cpu-used=5 row-mt=1", "crf=31 b=0"}}, "yuv420p"},
-        {"av1", {{"libsvtav1", "preset=9", "crf=32"},
-                 {"libaom-av1", "cpu-used=7 row-mt=1", "crf=30 b=0"}}, "yuv420p"},
-        {"mpeg4", {{"mpeg4", "", "q=4"}}, "yuv420p"},
-        {"mpeg2video", {{"mpeg2video", "", "q=4"}}, "yuv420p", true, mpegFrameRates},
-        {"mpeg1video", {{"mpeg1video", "", "q=4"}}, "yuv420p", true, mpegFrameRates},
-        {"msmpeg4v3", {{"msmpeg4", "", "q=4"}}, "yuv420p"},
-        {"msmpeg4v2", {{"msmpeg4v2", "", "q=4"}}, "yuv420p"},
-        {"wmv1", {{"wmv1", "", "q=4"}}, "yuv420p"},
-        {"wmv2", {{"wmv2", "", "q=4"}}, "yuv420p"},
-        {"flv1", {{"flv", "", "q=4"}}, "yuv420p"},
-        {"theora", {{"libtheora", "", "q=7"}}, "yuv420p"},
-        {"mjpeg", {{"mjpeg", "", "q=3"}}, "yuvj420p"},
-        {"prores", {{"prores", "", ""}}, "yuv422p10le", false},
-        {"dnxhd", {{"dnxhd", "profile=dnxhr_sq", ""}}, "yuv422p", false},
-        {"gif", {{"gif", "", ""}}, "", false, "5 8 10 12 15 20 25 50",
-            "split[picture][sample];[sample]palettegen[palette];[picture][palette]paletteuse"},
-        {"dvvideo", {{"dvvideo", "", ""}}, "", false, "", "", {
-            {{720, 576}, {16, 15}, {25, 1}, "yuv420p"},
-            {{720, 576}, {64, 45}, {25, 1}, "yuv420p"},
-            {{720, 480}, {8, 9}, {30000, 1001}, "yuv411p"},
-            {{720, 480}, {32, 27}, {30000, 1001}, "yuv411p"}}},
+    const QVector<Ratio> mpeg = {{24000, 1001}, {24, 1}, {25, 1}, {30000, 1001}, {30, 1}, {50, 1},
+                                 {60000, 1001}, {60, 1}};
+    const QVector<Ratio> gif = {{5, 1}, {8, 1}, {10, 1}, {12, 1}, {15, 1}, {20, 1}, {25, 1},
+                                {50, 1}};
+    return {
+        Video("h264").writtenBy("libx264").with("preset", "veryfast").orElse("crf", "20")
+            .inPixels("yuv420p"),
+        Video("hevc").writtenBy("libx265").with("preset", "veryfast")
+            .with("x265-params", "log-level=error").orElse("crf", "23").inPixels("yuv420p"),
+        Video("vp8").writtenBy("libvpx").with("deadline", "good").with("cpu-used", "4")
+            .orElse("crf", "10").orElse("b", "8M").inPixels("yuv420p"),
+        Video("vp9").writtenBy("libvpx-vp9").with("deadline", "good").with("cpu-used", "5")
+            .with("row-mt", "1").orElse("crf", "31").orElse("b", "0").inPixels("yuv420p"),
+        Video("av1").writtenBy("libsvtav1").with("preset", "9").orElse("crf", "32")
+            .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1").orElse("crf", "30")
+            .orElse("b", "0").inPixels("yuv420p"),
+        Video("mpeg4").writtenBy("mpeg4").orElse("q", "4").inPixels("yuv420p"),
+        Video("mpeg2video").writtenBy("mpeg2video").orElse("q", "4").inPixels("yuv420p")
+            .atRates(mpeg),
+        Video("mpeg1video").writtenBy("mpeg1video").orElse("q", "4").inPixels("yuv420p")
+            .atRates(mpeg),
+        Video("msmpeg4v3").writtenBy("msmpeg4").orElse("q", "4").inPixels("yuv420p"),
+        Video("msmpeg4v2").writtenBy("msmpeg4v2").orElse("q", "4").inPixels("yuv420p"),
+        Video("wmv1").writtenBy("wmv1").orElse("q", "4").inPixels("yuv420p"),
+        Video("wmv2").writtenBy("wmv2").orElse("q", "4").inPixels("yuv420p"),
+        Video("flv1").writtenBy("flv").orElse("q", "4").inPixels("yuv420p"),
+        Video("theora").writtenBy("libtheora").orElse("q", "7").inPixels("yuv420p"),
+        Video("mjpeg").writtenBy("mjpeg").orElse("q", "3").inPixels("yuvj420p"),
+        Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate(),
+        Video("dnxhd").writtenBy("dnxhd").with("profile", "dnxhr_sq").inPixels("yuv422p")
+            .withoutBitrate(),
+        Video("gif").writtenBy("gif").withoutBitrate().atRates(gif)
+            .lastlyFilteredBy("split[picture][sample];[sample]palettegen[palette];"
+                              "[picture][palette]paletteuse"),
+        Video("dvvideo").writtenBy("dvvideo").withoutBitrate()
+            .inFrame({720, 576}, {16, 15}, {25, 1}, "yuv420p")
+            .inFrame({720, 576}, {64, 45}, {25, 1}, "yuv420p")
+            .inFrame({720, 480}, {8, 9}, {30000, 1001}, "yuv411p")
+            .inFrame({720, 480}, {32, 27}, {30000, 1001}, "yuv411p"),
     };
-    return table;
 }
 
-const QVector<AudioCodec> &audioCodecs()
+QVector<AudioCodec> makeAudioCodecs()
 {
-    static const QVector<AudioCodec> table = {
-        // name, {encoders}, channels, sample rates, kbps a channel, quality, takes a bitrate,
-        // bitrates, bits a sample (at most, at least, at least unless stereo), is only copied
-        {"aac", {"aac"}, 8,
-            "8000 11025 12000 16000 22050 24000 32000 44100 48000 64000 88200 96000",
-            96, "", true, "", 6},
-        {"mp3", {"libmp3lame"}, 2, "8000 11025 12000 16000 22050 24000 32000 44100 48000",
-            0, "q=2", true, mp3Bitrates},
+    const QVector<int> upTo48000 = {8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000};
+    const QVector<int> upTo96000 = upTo48000 + QVector<int>{64000, 88200, 96000};
+    const QVector<int> from32000 = {32000, 44100, 48000};
+    const QVector<int> wma = {8000, 11025, 16000, 22050, 32000, 44100, 48000};
+    const QVector<double> mp3Kbps = {8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192,
+                                     224, 256, 320};
+    const QVector<double> layer2Kbps = {32, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320,
+                                        384};
+    const QVector<double> ac3Kbps = {32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320,
+                                     384, 448, 512, 576, 640};
+    const QVector<double> wmaKbps = {24, 32, 40, 48, 64, 80, 96, 128, 160, 192, 256, 320};
+    return {
+        Audio("aac").writtenBy("aac").at(upTo96000).withAnyBitrate().goodAt(96)
+            .bitsPerSampleAtMost(6),
+        Audio("mp3").writtenBy("libmp3lame").upTo(2).at(upTo48000).withBitrates(mp3Kbps)
+            .goodWith("q", "2"),
         // Below 32000 Hz layer 2 has other bitrates, and few players.
-        {"mp2", {"mp2"}, 2, "32000 44100 48000", 128, "", true, layer2Bitrates},
-        {"ac3", {"ac3"}, 6, "32000 44100 48000", 96, "", true, ac3Bitrates, 32, 0.35, 0.35},
-        {"eac3", {"eac3"}, 6, "32000 44100 48000", 96, "", true, "", 32, 0.35, 0.35},
-        // Beside these bits a sample the encoder refuses to start.
-        {"vorbis", {"libvorbis"}, 8, "8000 11025 12000 16000 22050 24000 32000 44100 48000",
-            0, "q=6", true, "", 3.9, 0.75, 1.1},
-        {"opus", {"libopus"}, 8, "8000 12000 16000 24000 48000", 64, "", true, "", 5.3, 0.1, 0.1},
-        {"speex", {"libspeex"}, 2, "8000 16000 32000", 0, "", true},
-        {"wmav1", {"wmav1"}, 2, wmaSampleRates, 96, "", true, wmaBitrates},
-        {"wmav2", {"wmav2"}, 2, wmaSampleRates, 96, "", true, wmaBitrates},
-        {"amr_nb", {"libopencore_amrnb"}, 1, "8000", 0, "b=12.2k", true,
-            "4.75 5.15 5.9 6.7 7.4 7.95 10.2 12.2"},
-        {"amr_wb", {"libvo_amrwbenc"}, 1, "16000", 0, "b=23.85k", true,
-            "6.6 8.85 12.65 14.25 15.85 18.25 19.85 23.05 23.85"},
-        {"dts", {}, 8, "", 0, "", false, "", 32, 0, 0, true},
-        {"truehd", {}, 8, "", 0, "", false, "", 32, 0, 0, true},
+        Audio("mp2").writtenBy("mp2").upTo(2).at(from32000).withBitrates(layer2Kbps).goodAt(128),
+        Audio("ac3").writtenBy("ac3").upTo(6).at(from32000).withBitrates(ac3Kbps).goodAt(96)
+            .bitsPerSampleAtLeast(0.35, 0.35),
+        Audio("eac3").writtenBy("eac3").upTo(6).at(from32000).withAnyBitrate().goodAt(96)
+            .bitsPerSampleAtLeast(0.35, 0.35),
+        // Outside of these limits the encoder refuses to start.
+        Audio("vorbis").writtenBy("libvorbis").at(upTo48000).withAnyBitrate().goodWith("q", "6")
+            .bitsPerSampleAtMost(3.9).bitsPerSampleAtLeast(0.75, 1.1),
+        Audio("opus").writtenBy("libopus").at({8000, 12000, 16000, 24000, 48000}).withAnyBitrate()
+            .goodAt(64).bitsPerSampleAtMost(5.3).bitsPerSampleAtLeast(0.1, 0.1),
+        Audio("speex").writtenBy("libspeex").upTo(2).at({8000, 16000, 32000}).withAnyBitrate(),
+        Audio("wmav1").writtenBy("wmav1").upTo(2).at(wma).withBitrates(wmaKbps).goodAt(96),
+        Audio("wmav2").writtenBy("wmav2").upTo(2).at(wma).withBitrates(wmaKbps).goodAt(96),
+        Audio("amr_nb").writtenBy("libopencore_amrnb").upTo(1).at({8000})
+            .withBitrates({4.75, 5.15, 5.9, 6.7, 7.4, 7.95, 10.2, 12.2}).goodWith("b", "12.2k"),
+        Audio("amr_wb").writtenBy("libvo_amrwbenc").upTo(1).at({16000})
+            .withBitrates({6.6, 8.85, 12.65, 14.25, 15.85, 18.25, 19.85, 23.05, 23.85})
+            .goodWith("b", "23.85k"),
+        Audio("dts").onlyCopied(),
+        Audio("truehd").onlyCopied(),
     };
-    return table;
 }
 // clang-format on
 
 template <typename Codec>
-const Codec &find(const QVector<Codec> &table, const QString &name)
+Codec find(const QVector<Codec> &table, const QString &name)
 {
-    static const Codec plain;
-    const auto row = std::find_if(table.begin(), table.end(), [&name](const Codec &codec) {
-        return name == QLatin1String(codec.name);
-    });
-    return row == table.end() ? plain : *row;
+    const auto row = std::find_if(table.begin(), table.end(),
+                                  [&name](const Codec &codec) { return codec.name == name; });
+    return row == table.end() ? Codec{name} : *row;
 }
 
 } // namespace
 
-const VideoCodec &videoCodec(const QString &name)
+QStringList VideoCodec::encoderNames() const
 {
-    return find(videoCodecs(), name);
-}
-
-const AudioCodec &audioCodec(const QString &name)
-{
-    return find(audioCodecs(), name);
-}
-
-QSet<QString> encodersInListing(const QByteArray &listing)
-{
-    QSet<QString> encoders;
-    bool inTable = false;
-    const QStringList lines = QString::fromLatin1(listing).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
-        const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        if (inTable && words.size() > 1) {
-            encoders.insert(words.at(1));
-        }
-        inTable = inTable || line.trimmed() == QLatin1String("------");
+    QStringList names;
+    for (const Encoder &encoder : encoders) {
+        names << encoder.name;
     }
-    return encoders;
+    return names.isEmpty() ? QStringList{name} : names;
+}
+
+QStringList AudioCodec::encoderNames() const
+{
+    return encoders.isEmpty() && !isOnlyCopied ? QStringList{name} : encoders;
+}
+
+VideoCodec videoCodec(const QString &name)
+{
+    static const QVector<VideoCodec> table = makeVideoCodecs();
+    return find(table, name);
+}
+
+AudioCodec audioCodec(const QString &name)
+{
+    static const QVector<AudioCodec> table = makeAudioCodecs();
+    return find(table, name);
 }

@@ -1,94 +1,178 @@
 #include "host/convert/containers.h"
 
-#include "host/convert/textlist.h"
+#include <algorithm>
 
 namespace {
 
-const char faststart[] = "movflags=+faststart";
-const char mp4Video[] = "h264 hevc av1 vp9 mpeg4 mpeg2video mpeg1video mjpeg";
-const char mp4Audio[] = "aac mp3 ac3 eac3 alac opus mp2";
-const char asfVideo[] = "wmv2 wmv1 msmpeg4v3 msmpeg4v2 mpeg4 h264";
-const char asfAudio[] = "wmav2 wmav1 mp3 pcm_s16le";
-const char programVideo[] = "mpeg2video mpeg1video";
-const char programAudio[] = "mp2 ac3 mp3";
-const char transportVideo[] = "h264 hevc mpeg2video mpeg1video";
-const char transportAudio[] = "aac ac3 eac3 mp2 mp3 opus";
-const char phoneVideo[] = "h264 mpeg4 h263";
-const char phoneAudio[] = "aac amr_nb amr_wb";
-const char flashSampleRates[] = "11025 22050 44100 48000";
-const char wavAudio[] = "pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_u8 pcm_alaw pcm_mulaw";
-const char oggAudio[] = "vorbis opus flac speex";
-const char mkvVideo[] = "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video theora mjpeg wmv1 wmv2 "
-                        "msmpeg4v3 msmpeg4v2 flv1 prores dnxhd dvvideo ffv1";
-const char mkvAudio[] = "aac mp3 ac3 eac3 opus vorbis flac alac mp2 dts truehd pcm_s16le pcm_s24le "
-                        "pcm_s32le pcm_f32le pcm_s16be tta wavpack wmav1 wmav2";
+/*! The names in a text with blanks between. */
+QStringList list(const char *names)
+{
+    return QString::fromLatin1(names).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
 
-constexpr int mp4Traits =
-    Container::SeveralAudioTracks | Container::KeepsRotation | Container::TagsHevcAsHvc1;
+/*! A row of the table. Muxer and demuxer have the name of the first extension unless told. */
+class Files : public Container
+{
+public:
+    explicit Files(const char *names)
+    {
+        extensions = list(names);
+        muxer = extensions.constFirst();
+        demuxer = muxer;
+    }
+
+    /*! Written by this muxer, and read by the demuxer of the same name. */
+    Files writtenBy(const char *name)
+    {
+        muxer = QLatin1String(name);
+        demuxer = muxer;
+        return *this;
+    }
+    Files readBy(const char *name)
+    {
+        demuxer = QLatin1String(name);
+        return *this;
+    }
+    Files with(const char *option, const char *value)
+    {
+        options.append({QLatin1String(option), QLatin1String(value)});
+        return *this;
+    }
+    /*! With the index in front, so that a player needn't have the whole file. */
+    Files indexedFirst() { return with("movflags", "+faststart"); }
+    Files holding(const QStringList &video, const QStringList &audio)
+    {
+        videoCodecs = video;
+        audioCodecs = audio;
+        return *this;
+    }
+    Files holdingSound(const QStringList &audio) { return holding({}, audio); }
+    Files inSeveralTracks()
+    {
+        holdsSeveralAudioTracks = true;
+        return *this;
+    }
+    Files withCover()
+    {
+        takesCover = true;
+        return *this;
+    }
+    Files withRotation()
+    {
+        keepsRotation = true;
+        return *this;
+    }
+    Files withHvc1()
+    {
+        tagsHevcAsHvc1 = true;
+        return *this;
+    }
+    Files withSoundInFrames()
+    {
+        hasSoundInFrames = true;
+        return *this;
+    }
+    Files at(const QVector<int> &hertz)
+    {
+        sampleRates = hertz;
+        return *this;
+    }
+    Files inChannels(int count)
+    {
+        channels = count;
+        return *this;
+    }
+};
 
 // clang-format off
-const Container containers[] = {
-    // extensions, muxer, demuxer, options, video codecs, audio codecs, traits, sample rates,
-    // channels
-    {"mp4", "mp4", "mp4", faststart, mp4Video, mp4Audio, mp4Traits},
-    {"m4v", "mp4", "mp4", faststart, "h264 hevc mpeg4", "aac ac3 eac3 alac", mp4Traits},
-    {"mov", "mov", "mov", faststart, "h264 hevc mpeg4 prores dnxhd mjpeg dvvideo mpeg2video",
-        "aac alac ac3 eac3 mp3 mp2 pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_s16be pcm_s24be",
-        mp4Traits},
-    {"mkv", "matroska", "matroska", "", mkvVideo, mkvAudio, Container::SeveralAudioTracks},
-    {"avi", "avi", "avi", "", "mpeg4 h264 msmpeg4v3 msmpeg4v2 mjpeg dvvideo mpeg2video mpeg1video",
-        "mp3 ac3 mp2 pcm_s16le aac", Container::SeveralAudioTracks},
-    {"webm", "webm", "webm", "", "vp9 vp8 av1", "opus vorbis", Container::SeveralAudioTracks},
-    {"wmv asf", "asf", "asf", "", asfVideo, asfAudio, Container::SeveralAudioTracks},
-    {"mpg mpeg", "mpeg", "mpeg", "", programVideo, programAudio, Container::SeveralAudioTracks},
-    {"vob", "vob", "mpeg", "", programVideo, "ac3 mp2", Container::SeveralAudioTracks},
-    {"ts", "mpegts", "mpegts", "", transportVideo, transportAudio, Container::SeveralAudioTracks},
-    {"m2ts mts", "mpegts", "mpegts", "mpegts_m2ts_mode=1", transportVideo, transportAudio,
-        Container::SeveralAudioTracks},
-    {"flv", "flv", "flv", "", "h264 flv1", "aac mp3", Container::None, flashSampleRates},
-    {"f4v", "f4v", "mov", faststart, "h264", "aac mp3", Container::None},
-    {"3gp", "3gp", "3gp", faststart, phoneVideo, phoneAudio, Container::KeepsRotation},
-    {"3g2", "3g2", "3g2", faststart, phoneVideo, phoneAudio, Container::KeepsRotation},
-    {"ogv", "ogv", "ogg", "", "theora vp8", oggAudio, Container::SeveralAudioTracks},
-    {"mxf", "mxf", "mxf", "", "mpeg2video dnxhd h264 prores dvvideo", "pcm_s16le pcm_s24le",
-        Container::SeveralAudioTracks, "48000"},
-    {"dv", "dv", "dv", "", "dvvideo", "pcm_s16le", Container::SoundInEachFrame, "48000", 2},
-    {"gif", "gif", "gif", "", "gif", "", Container::None},
+QVector<Container> makeContainers()
+{
+    const QStringList mp4Video = list("h264 hevc av1 vp9 mpeg4 mpeg2video mpeg1video mjpeg");
+    const QStringList mp4Audio = list("aac mp3 ac3 eac3 alac opus mp2");
+    const QStringList movVideo = list("h264 hevc mpeg4 prores dnxhd mjpeg dvvideo mpeg2video");
+    const QStringList movAudio = list("aac alac ac3 eac3 mp3 mp2 pcm_s16le pcm_s24le pcm_s32le "
+                                      "pcm_f32le pcm_s16be pcm_s24be");
+    const QStringList mkvVideo = list("h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video theora "
+                                      "mjpeg wmv1 wmv2 msmpeg4v3 msmpeg4v2 flv1 prores dnxhd "
+                                      "dvvideo ffv1");
+    const QStringList mkvAudio = list("aac mp3 ac3 eac3 opus vorbis flac alac mp2 dts truehd "
+                                      "pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_s16be tta "
+                                      "wavpack wmav1 wmav2");
+    const QStringList aviVideo = list("mpeg4 h264 msmpeg4v3 msmpeg4v2 mjpeg dvvideo mpeg2video "
+                                      "mpeg1video");
+    const QStringList asfVideo = list("wmv2 wmv1 msmpeg4v3 msmpeg4v2 mpeg4 h264");
+    const QStringList asfAudio = list("wmav2 wmav1 mp3 pcm_s16le");
+    const QStringList programVideo = list("mpeg2video mpeg1video");
+    const QStringList transportVideo = list("h264 hevc mpeg2video mpeg1video");
+    const QStringList transportAudio = list("aac ac3 eac3 mp2 mp3 opus");
+    const QStringList phoneVideo = list("h264 mpeg4 h263");
+    const QStringList phoneAudio = list("aac amr_nb amr_wb");
+    const QStringList oggAudio = list("vorbis opus flac speex");
+    const QStringList wavAudio = list("pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_u8 pcm_alaw "
+                                      "pcm_mulaw");
+    return {
+        Files("mp4").indexedFirst().holding(mp4Video, mp4Audio).inSeveralTracks()
+            .withRotation().withHvc1(),
+        Files("m4v").writtenBy("mp4").indexedFirst()
+            .holding(list("h264 hevc mpeg4"), list("aac ac3 eac3 alac")).inSeveralTracks()
+            .withRotation().withHvc1(),
+        Files("mov").indexedFirst().holding(movVideo, movAudio).inSeveralTracks()
+            .withRotation().withHvc1(),
+        Files("mkv").writtenBy("matroska").holding(mkvVideo, mkvAudio).inSeveralTracks(),
+        Files("avi").holding(aviVideo, list("mp3 ac3 mp2 pcm_s16le aac")).inSeveralTracks(),
+        Files("webm").holding(list("vp9 vp8 av1"), list("opus vorbis")).inSeveralTracks(),
+        Files("wmv asf").writtenBy("asf").holding(asfVideo, asfAudio).inSeveralTracks(),
+        Files("mpg mpeg").writtenBy("mpeg").holding(programVideo, list("mp2 ac3 mp3"))
+            .inSeveralTracks(),
+        Files("vob").readBy("mpeg").holding(programVideo, list("ac3 mp2")).inSeveralTracks(),
+        Files("ts").writtenBy("mpegts").holding(transportVideo, transportAudio).inSeveralTracks(),
+        Files("m2ts mts").writtenBy("mpegts").with("mpegts_m2ts_mode", "1")
+            .holding(transportVideo, transportAudio).inSeveralTracks(),
+        Files("flv").holding(list("h264 flv1"), list("aac mp3")).at({11025, 22050, 44100, 48000}),
+        Files("f4v").readBy("mov").indexedFirst().holding(list("h264"), list("aac mp3")),
+        Files("3gp").indexedFirst().holding(phoneVideo, phoneAudio).withRotation(),
+        Files("3g2").indexedFirst().holding(phoneVideo, phoneAudio).withRotation(),
+        Files("ogv").readBy("ogg").holding(list("theora vp8"), oggAudio).inSeveralTracks(),
+        Files("mxf").holding(list("mpeg2video dnxhd h264 prores dvvideo"),
+                             list("pcm_s16le pcm_s24le")).inSeveralTracks().at({48000}),
+        Files("dv").holding(list("dvvideo"), list("pcm_s16le")).withSoundInFrames().at({48000})
+            .inChannels(2),
+        Files("gif").holding(list("gif"), {}),
 
-    {"mp3", "mp3", "mp3", "", "", "mp3", Container::TakesCover},
-    {"aac", "adts", "aac", "", "", "aac", Container::None},
-    {"m4a m4b m4r", "ipod", "m4a", faststart, "", "aac alac", Container::TakesCover},
-    {"flac", "flac", "flac", "", "", "flac", Container::TakesCover},
-    {"wav", "wav", "wav", "", "", wavAudio, Container::None},
-    {"aiff aif", "aiff", "aiff", "", "", "pcm_s16be pcm_s24be pcm_s32be pcm_s16le",
-        Container::None},
-    {"au", "au", "au", "", "", "pcm_s16be pcm_s24be pcm_s32be pcm_mulaw pcm_alaw", Container::None},
-    {"caf", "caf", "caf", "", "", "pcm_s16le pcm_s24le pcm_s16be alac aac opus flac",
-        Container::None},
-    {"ogg", "ogg", "ogg", "", "", oggAudio, Container::None},
-    {"oga", "oga", "ogg", "", "", oggAudio, Container::None},
-    {"opus", "opus", "ogg", "", "", "opus", Container::None},
-    {"spx", "spx", "ogg", "", "", "speex", Container::None},
-    {"ac3", "ac3", "ac3", "", "", "ac3", Container::None},
-    {"eac3", "eac3", "eac3", "", "", "eac3", Container::None},
-    {"mp2", "mp2", "mp3", "", "", "mp2", Container::None},
-    {"wma", "asf", "asf", "", "", asfAudio, Container::None},
-    {"mka", "matroska", "matroska", "", "", mkvAudio, Container::SeveralAudioTracks},
-    {"amr", "amr", "amr", "", "", "amr_nb amr_wb", Container::None},
-    {"tta", "tta", "tta", "", "", "tta", Container::None},
-    {"wv", "wv", "wv", "", "", "wavpack", Container::None},
-};
+        Files("mp3").holdingSound(list("mp3")).withCover(),
+        Files("aac").writtenBy("adts").readBy("aac").holdingSound(list("aac")),
+        Files("m4a m4b m4r").writtenBy("ipod").readBy("m4a").indexedFirst()
+            .holdingSound(list("aac alac")).withCover(),
+        Files("flac").holdingSound(list("flac")).withCover(),
+        Files("wav").holdingSound(wavAudio),
+        Files("aiff aif").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_s16le")),
+        Files("au").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_mulaw pcm_alaw")),
+        Files("caf").holdingSound(list("pcm_s16le pcm_s24le pcm_s16be alac aac opus flac")),
+        Files("ogg").holdingSound(oggAudio),
+        Files("oga").readBy("ogg").holdingSound(oggAudio),
+        Files("opus").readBy("ogg").holdingSound(list("opus")),
+        Files("spx").readBy("ogg").holdingSound(list("speex")),
+        Files("ac3").holdingSound(list("ac3")),
+        Files("eac3").holdingSound(list("eac3")),
+        Files("mp2").readBy("mp3").holdingSound(list("mp2")),
+        Files("wma").writtenBy("asf").holdingSound(asfAudio),
+        Files("mka").writtenBy("matroska").holdingSound(mkvAudio).inSeveralTracks(),
+        Files("amr").holdingSound(list("amr_nb amr_wb")),
+        Files("tta").holdingSound(list("tta")),
+        Files("wv").holdingSound(list("wavpack")),
+    };
+}
 // clang-format on
 
 } // namespace
 
 const Container *Container::find(const QString &extension)
 {
+    static const QVector<Container> table = makeContainers();
     const QString wanted = extension.toLower();
-    for (const Container &container : containers) {
-        if (words(container.extensions).contains(wanted)) {
-            return &container;
-        }
-    }
-    return nullptr;
+    const auto row =
+        std::find_if(table.begin(), table.end(), [&wanted](const Container &container) {
+            return container.extensions.contains(wanted);
+        });
+    return row == table.end() ? nullptr : &*row;
 }

@@ -1,6 +1,5 @@
 #include "host/convert/conversion.h"
 
-#include "host/convert/codecs.h"
 #include "host/convert/ffmpegarguments.h"
 
 #include <QDir>
@@ -13,8 +12,6 @@
 
 namespace {
 
-const char ffmpeg[] = "ffmpeg";
-
 bool isSameFile(const QString &one, const QString &other)
 {
     std::error_code missing;
@@ -23,7 +20,7 @@ bool isSameFile(const QString &one, const QString &other)
 }
 
 /*! ffmpeg's exit code says nothing about the last bytes of the file; its errors do. */
-bool wroteAll(const ToolOutcome &run)
+bool wroteAll(const ToolRun &run)
 {
     return run.exitedCleanly && !run.errors.contains("Error writing trailer") &&
            !run.errors.contains("Error closing file");
@@ -34,109 +31,100 @@ bool wroteAll(const ToolOutcome &run)
 Conversion::Conversion(const ConversionJob &job, QObject *parent)
     : QObject(parent)
     , m_job(job)
-{}
-
-Conversion::~Conversion()
 {
-    // ffmpeg stops before the file that it writes is removed.
-    delete m_tool;
+    connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::listEncoders);
+    connect(&m_encoders, &EncoderList::finished, this, &Conversion::convertWith);
+    connect(&m_ffmpeg, &Tool::outputReady, this, [this] {
+        if (m_progress.feed(m_ffmpeg.readOutput())) {
+            Q_EMIT progressed(m_progress.progress());
+        }
+    });
+    connect(&m_ffmpeg, &Tool::finished, this, &Conversion::checkResult);
+    connect(&m_resultProbe, &MediaProbe::finished, this, &Conversion::publish);
 }
 
 void Conversion::start()
 {
-    m_isCancelled = false;
-    const QString problem = m_job.settings.problem();
-    if (!problem.isEmpty()) {
+    const Result<> possible = m_job.settings.check();
+    if (possible) {
+        m_sourceProbe.start(m_job.source);
+    } else {
         QMetaObject::invokeMethod(
-            this, [this, problem] { endWith(problem); }, Qt::QueuedConnection);
-        return;
+            this, [this, error = possible.error()] { fail(error); }, Qt::QueuedConnection);
     }
-    m_tool =
-        probeMedia(m_job.source, this, [this](const ProbeOutcome &source) { planWith(source); });
 }
 
 void Conversion::cancel()
 {
-    m_isCancelled = true;
-    if (m_tool != nullptr) {
-        m_tool->stop();
-    }
+    m_sourceProbe.stop();
+    m_encoders.stop();
+    m_ffmpeg.stop();
+    m_resultProbe.stop();
 }
 
-void Conversion::planWith(const ProbeOutcome &source)
+void Conversion::listEncoders(const Result<MediaFacts> &source)
 {
-    if (m_isCancelled || !source.error.isEmpty()) {
-        endWith(source.error);
+    if (!source) {
+        fail(source.error());
         return;
     }
-    m_source = source.facts;
-    m_tool = new Tool(
-        QLatin1String(ffmpeg),
-        {QStringLiteral("-hide_banner"), QStringLiteral("-v"), QStringLiteral("error"),
-         QStringLiteral("-encoders")},
-        [this](const ToolOutcome &listing) { convertWith(listing); }, this);
+    m_source = *source;
+    m_encoders.start();
 }
 
-void Conversion::convertWith(const ToolOutcome &encoderListing)
+void Conversion::convertWith(const Result<QSet<QString>> &encoders)
 {
-    if (m_isCancelled || !encoderListing.started) {
-        endWith(encoderListing.notStartedText());
+    if (!encoders) {
+        fail(encoders.error());
         return;
     }
-    const QSet<QString> encoders = encodersInListing(encoderListing.output);
-    const auto plan = [this, &encoders](const QString &target) {
-        return FfmpegArguments::form(m_job.settings, m_source, encoders, m_job.source, target);
+    const auto argumentsFor = [this, &encoders](const QString &target) {
+        return ffmpegArguments(m_job.settings, m_source, *encoders, m_job.source, target);
     };
-
     const QString replaced = fileToReplace();
     const QString target =
         replaced.isEmpty() ? freeName(folder(), baseName(), m_job.settings.extension) : replaced;
-    const FfmpegArguments planned = plan(target);
-    if (!planned.error.isEmpty()) {
-        endWith(planned.error, planned.lacksEncoder);
+    const Result<QStringList> planned = argumentsFor(target);
+    if (!planned) {
+        fail(planned.error());
         return;
     }
     if (m_job.planOnly) {
-        Q_EMIT finished({ConversionOutcome::Planned, {}, target, {}, planned.arguments});
+        Q_EMIT finished(ConversionOutcome{target, {}, ffmpegCall(*planned)});
         return;
     }
     const QString refusal = m_pending.create(folder());
     if (!refusal.isEmpty()) {
-        endWith(refusal);
+        fail({refusal});
         return;
     }
     m_progress = ProgressReader(m_job.settings.cutDuration(m_source.duration));
-    m_tool = new Tool(
-        QLatin1String(ffmpeg), plan(m_pending.path()).arguments,
-        [this](const ToolOutcome &run) { checkResult(run); }, this);
-    connect(m_tool, &QProcess::readyReadStandardOutput, this, [this] {
-        if (m_progress.feed(m_tool->readAllStandardOutput())) {
-            Q_EMIT progressed(m_progress.progress());
-        }
-    });
+    m_ffmpeg.start(ffmpegCall(*argumentsFor(m_pending.path())));
 }
 
-void Conversion::checkResult(const ToolOutcome &run)
+void Conversion::checkResult(const Result<ToolRun> &run)
 {
-    if (run.errors.contains("No space left on device")) {
-        endWith(tr("the disk with %1 is full; free some space or choose another folder")
-                    .arg(QDir::toNativeSeparators(folder())));
-        return;
+    if (!run) {
+        fail(run.error());
+    } else if (run->errors.contains("No space left on device")) {
+        fail({tr("the disk with %1 is full; free some space or choose another folder")
+                  .arg(QDir::toNativeSeparators(folder()))});
+    } else if (!wroteAll(*run)) {
+        fail({tr("ffmpeg couldn't convert it (%1); check the file or try another preset")
+                  .arg(run->firstError())});
+    } else {
+        m_resultProbe.start(m_pending.path());
     }
-    if (m_isCancelled || !wroteAll(run)) {
-        endWith(tr("ffmpeg couldn't convert it (%1); check the file or try another preset")
-                    .arg(run.firstError()));
-        return;
-    }
-    m_tool =
-        probeMedia(m_pending.path(), this, [this](const ProbeOutcome &result) { publish(result); });
 }
 
-void Conversion::publish(const ProbeOutcome &result)
+void Conversion::publish(const Result<MediaFacts> &result)
 {
-    const bool lacksPicture = m_job.settings.hasPicture && result.facts.picture() == nullptr;
-    if (m_isCancelled || !result.error.isEmpty() || lacksPicture) {
-        endWith(tr("ffmpeg wrote a file that can't be played; try another preset"));
+    if (!result && result.error().kind == Error::Cancelled) {
+        fail(result.error());
+        return;
+    }
+    if (!result || (m_job.settings.hasPicture && result->picture() == nullptr)) {
+        fail({tr("ffmpeg wrote a file that can't be played; try another preset")});
         return;
     }
     const QString replaced = fileToReplace();
@@ -147,11 +135,11 @@ void Conversion::publish(const ProbeOutcome &result)
         target.clear();
     }
     if (target.isEmpty()) {
-        endWith(tr("the result couldn't get its name in %1; choose another folder")
-                    .arg(QDir::toNativeSeparators(folder())));
+        fail({tr("the result couldn't get its name in %1; choose another folder")
+                  .arg(QDir::toNativeSeparators(folder()))});
         return;
     }
-    Q_EMIT finished({ConversionOutcome::Converted, {}, target, result.facts, {}});
+    Q_EMIT finished(ConversionOutcome{target, *result});
 }
 
 QString Conversion::folder() const
@@ -177,12 +165,8 @@ QString Conversion::fileToReplace() const
     return m_job.overwrite && QFileInfo(path).isFile() && !isKept ? path : QString();
 }
 
-void Conversion::endWith(const QString &error, bool lacksEncoder)
+void Conversion::fail(const Error &error)
 {
     m_pending.discard();
-    ConversionOutcome outcome;
-    outcome.result = m_isCancelled ? ConversionOutcome::Cancelled : ConversionOutcome::Failed;
-    outcome.error = m_isCancelled ? QString() : error;
-    outcome.lacksEncoder = lacksEncoder;
-    Q_EMIT finished(outcome);
+    Q_EMIT finished(tl::make_unexpected(error));
 }

@@ -6,9 +6,9 @@
 #include "host/files/pendingfile.h"
 #include "host/media/mediafacts.h"
 #include "host/media/mediaprobe.h"
+#include "host/tools/encoderlist.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 /*! One file to convert. */
@@ -22,19 +22,14 @@ struct ConversionJob
     bool planOnly = false;  //!< only say what would be done
 };
 
-/*! How a conversion ended. */
+/*! What a conversion gave. */
 struct ConversionOutcome
 {
-    enum Result { Converted, Planned, Failed, Cancelled };
-
-    Result result = Failed;
-    QString error;             //!< Failed: one line that says what happened and how to mend it
-    QString target;            //!< Converted: the new file; Planned: its name as things stand
-    MediaFacts facts;          //!< Converted: what the new file holds
-    QStringList arguments;     //!< Planned: those of ffmpeg, with the target's name
-    bool lacksEncoder = false; //!< Failed: the encoder exists, but this ffmpeg lacks it
+    QString target;     //!< the new file; of a plan, its name as things stand
+    MediaFacts facts;   //!< what the new file holds; of a plan, nothing
+    ToolCall plan = {}; //!< only of a plan: the run of ffmpeg that would write the target
 };
-Q_DECLARE_METATYPE(ConversionOutcome)
+Q_DECLARE_METATYPE(Result<ConversionOutcome>)
 
 /*!
  * Converts one file with ffmpeg, without ever waiting: everything happens from the event loop.
@@ -49,36 +44,37 @@ class Conversion : public QObject
 
 public:
     explicit Conversion(const ConversionJob &job, QObject *parent = nullptr);
-    ~Conversion() override;
 
     void start();
-    /*! finished() follows from the event loop. */
+    /*! finished() follows from the event loop, with Error::Cancelled. */
     void cancel();
 
 Q_SIGNALS:
     /*! About twice a second while ffmpeg works. */
     void progressed(const Progress &progress);
     /*! Once for each start(). What hears it may delete the conversion with deleteLater() only. */
-    void finished(const ConversionOutcome &outcome);
+    void finished(const Result<ConversionOutcome> &outcome);
 
 private:
-    void planWith(const ProbeOutcome &source);
-    void convertWith(const ToolOutcome &encoderListing);
-    void checkResult(const ToolOutcome &run);
-    void publish(const ProbeOutcome &result);
+    void listEncoders(const Result<MediaFacts> &source);
+    void convertWith(const Result<QSet<QString>> &encoders);
+    void checkResult(const Result<ToolRun> &run);
+    void publish(const Result<MediaFacts> &result);
 
     QString folder() const;
     QString baseName() const;
     /*! The existing file that the result is to replace; empty when it takes a free name. */
     QString fileToReplace() const;
-    void endWith(const QString &error, bool lacksEncoder = false);
+    void fail(const Error &error);
 
     const ConversionJob m_job;
     MediaFacts m_source;
-    PendingFile m_pending;
+    PendingFile m_pending; // ffmpeg, below, stops before the file that it writes is removed
     ProgressReader m_progress;
-    QPointer<Tool> m_tool;
-    bool m_isCancelled = false;
+    MediaProbe m_sourceProbe;
+    EncoderList m_encoders;
+    Tool m_ffmpeg;
+    MediaProbe m_resultProbe;
 };
 
 #endif

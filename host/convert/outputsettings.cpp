@@ -145,16 +145,16 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
     return settings;
 }
 
-QString OutputSettings::problem() const
+Result<> OutputSettings::check() const
 {
     if (Container::find(extension) == nullptr) {
-        return tr("files of the kind \".%1\" can't be written; choose another preset")
-            .arg(shortened(extension));
+        return failed(tr("files of the kind \".%1\" can't be written; choose another preset")
+                          .arg(shortened(extension)));
     }
     for (const QString &codec : {videoCodec, audioCodec}) {
         if (!isName(codec)) {
-            return tr("no encoder has a name like \"%1\"; choose another preset")
-                .arg(shortened(codec));
+            return failed(tr("no encoder has a name like \"%1\"; choose another preset")
+                              .arg(shortened(codec)));
         }
     }
     const double rate = frameRate == Ratio() ? 0 : frameRate.isValid() ? frameRate.value() : -1;
@@ -170,18 +170,21 @@ QString OutputSettings::problem() const
     for (const ChosenNumber &number : numbers) {
         if (!number.isPossible()) {
             const bool isReadable = number.value > 0;
-            return tr("the preset's %1 is %2; it must be 0 or %3; choose another preset")
-                .arg(QLatin1String(number.field),
-                     isReadable ? number.text : tr("not a valid number"), number.allowed());
+            return failed(tr("the preset's %1 is %2; it must be 0 or %3; choose another preset")
+                              .arg(QLatin1String(number.field),
+                                   isReadable ? number.text : tr("not a valid number"),
+                                   number.allowed()));
         }
     }
     // A file of 30 years, so that ffmpeg can count its microseconds.
     constexpr double longestSeconds = 1e9;
     const bool isCutPossible = start >= 0 && start <= longestSeconds &&
                                (end == 0 || (end > start && end <= longestSeconds));
-    return isCutPossible ? QString()
-                         : tr("the part to keep must begin at 0 or later and end after that; "
-                              "choose another part");
+    if (!isCutPossible) {
+        return failed(tr("the part to keep must begin at 0 or later and end after that; choose "
+                         "another part"));
+    }
+    return {};
 }
 
 bool OutputSettings::operator==(const OutputSettings &other) const

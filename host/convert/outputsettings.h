@@ -1,6 +1,7 @@
 #ifndef CONVERT_OUTPUTSETTINGS_H
 #define CONVERT_OUTPUTSETTINGS_H
 
+#include "host/error.h"
 #include "host/media/ratio.h"
 
 #include <QCoreApplication>
@@ -29,21 +30,19 @@ public:
     int sampleRate = 0; //!< Hz
     int channels = 0;
     double audioKbps = 0;        //!< 0: the encoder's own good quality
-    bool allAudioTracks = false; //!< else only the one that a player would sound
+    bool allAudioTracks = false; //!< else only the one that a player would play
     double start = 0;            //!< seconds; what lies before is left out
     double end = 0;              //!< seconds; what lies behind is left out, 0: nothing
 
     /*!
      * Reads a preset map, as FormatDetailModelData::toVarMap() makes it. A value that can't be
-     * read is kept as one that problem() names.
+     * read is kept as one that check() names.
      */
     [[nodiscard]] static OutputSettings fromPreset(const QVariantMap &preset);
 
-    /*!
-     * One line that says which value no file can be written with, and what is allowed; empty when
-     * all can be. What only a source or this machine's ffmpeg can't do comes later.
-     */
-    [[nodiscard]] QString problem() const;
+    /*! Fails with the first value that no file can be written with, and what is allowed. What only
+     *  a source or this machine's ffmpeg can't do comes later. */
+    [[nodiscard]] Result<> check() const;
 
     bool operator==(const OutputSettings &other) const;
 

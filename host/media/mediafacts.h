@@ -33,7 +33,7 @@ struct AudioTrack
     QString codec;
     int sampleRate = 0;     //!< Hz, 0 when unknown
     int channels = 0;       //!< 0 when unknown
-    bool hasLayout = false; //!< the file says where each channel sounds
+    bool hasLayout = false; //!< the file says where each channel is heard
     bool isDefault = false;
 };
 
@@ -57,7 +57,7 @@ public:
     [[nodiscard]] const VideoTrack *picture() const;
     /*! The attached still picture; null when there is none. */
     [[nodiscard]] const VideoTrack *cover() const;
-    /*! The track a player would sound; null when there is none. */
+    /*! The track that a player would play; null when there is none. */
     [[nodiscard]] const AudioTrack *sound() const;
     /*! One line for people: "h264 1280x720 25 fps, aac 48000 Hz stereo, 0:10, 1.2 MB". */
     [[nodiscard]] QString summary() const;

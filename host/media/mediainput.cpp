@@ -1,6 +1,6 @@
 #include "host/media/mediainput.h"
 
-#include "host/tools/tool.h"
+#include "host/tools/toolcall.h"
 
 #include <QCoreApplication>
 #include <QMimeDatabase>
@@ -134,7 +134,7 @@ QStringList inputArguments(const QString &path, const QString &demuxers)
             fileArgument(path)};
 }
 
-QString refusedKind(const QString &path, const QByteArray &errors)
+std::optional<QString> refusedKind(const QString &path, const QByteArray &errors)
 {
     const QString demuxer = refusedDemuxer(errors);
     // Lists of other programs may look like lyrics to ffprobe, or like nothing.
@@ -149,8 +149,9 @@ QString refusedKind(const QString &path, const QByteArray &errors)
         return Texts::tr("stands for a series of pictures; rename it and its folders without "
                          "any of % * ? [ ] { }");
     }
-    return demuxer.isEmpty() ? QString()
-                             : Texts::tr("is of a kind that isn't converted (%1); choose a video "
-                                         "or audio file")
-                                   .arg(demuxer);
+    if (demuxer.isEmpty()) {
+        return std::nullopt;
+    }
+    return Texts::tr("is of a kind that isn't converted (%1); choose a video or audio file")
+        .arg(demuxer);
 }

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /*! The names of the demuxers that read \a path and no other file, commas between. */
 [[nodiscard]] QString demuxersFor(const QString &path);
 
@@ -16,7 +18,7 @@
 [[nodiscard]] QStringList inputArguments(const QString &path, const QString &demuxers);
 
 /*! What the file is instead, and what to choose, where \a errors of ffprobe tell that no demuxer
- *  of those may read it; else empty. */
-[[nodiscard]] QString refusedKind(const QString &path, const QByteArray &errors);
+ *  of those may read it. */
+[[nodiscard]] std::optional<QString> refusedKind(const QString &path, const QByteArray &errors);
 
 #endif

@@ -2,67 +2,57 @@
 
 #include "host/media/mediainput.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
-namespace {
-
-struct Texts
+MediaProbe::MediaProbe(QObject *parent)
+    : QObject(parent)
 {
-    Q_DECLARE_TR_FUNCTIONS(MediaProbe)
-};
-
-ProbeOutcome readOutcome(const ToolOutcome &tool, const QString &path)
-{
-    if (!tool.started) {
-        return {{}, tool.notStartedText()};
-    }
-    const QFileInfo file(path);
-    if (!file.exists()) {
-        return {{}, Texts::tr("no such file; check its name")};
-    }
-    if (file.isDir()) {
-        return {{}, Texts::tr("this is a folder; name the files in it")};
-    }
-    if (tool.excess != ToolOutcome::None) {
-        return {{},
-                tool.excess == ToolOutcome::OfTime
-                    ? Texts::tr("takes too long to read; check the disk or network that it is on")
-                    : Texts::tr("describes itself without end; check that it is a complete video "
-                                "or audio file")};
-    }
-    const QString otherKind = tool.exitedCleanly ? QString() : refusedKind(path, tool.errors);
-    if (!otherKind.isEmpty()) {
-        return {{}, otherKind};
-    }
-    const MediaFacts facts = MediaFacts::fromProbe(tool.output);
-    if (!tool.exitedCleanly) {
-        QString reason = tool.firstError();
-        reason.remove(fileArgument(path) + QStringLiteral(": "));
-        return {{},
-                Texts::tr("cannot be read as media (%1); check that it is a complete video or "
-                          "audio file")
-                    .arg(reason)};
-    }
-    if (facts.isEmpty()) {
-        return {{}, Texts::tr("holds neither video nor audio; choose a video or audio file")};
-    }
-    return {facts, {}};
+    connect(&m_tool, &Tool::finished, this,
+            [this](const Result<ToolRun> &run) { Q_EMIT finished(factsFrom(run)); });
 }
 
-} // namespace
-
-Tool *probeMedia(const QString &path, QObject *parent,
-                 const std::function<void(const ProbeOutcome &)> &done, const ToolLimits &limits)
+void MediaProbe::start(const QString &path, const ToolLimits &limits)
 {
-    const QStringList arguments = QStringList{QStringLiteral("-v"),
-                                              QStringLiteral("error"),
-                                              QStringLiteral("-print_format"),
-                                              QStringLiteral("json"),
-                                              QStringLiteral("-show_format"),
-                                              QStringLiteral("-show_streams")} +
-                                  inputArguments(path, demuxersFor(path));
-    return new Tool(
-        QStringLiteral("ffprobe"), arguments,
-        [path, done](const ToolOutcome &tool) { done(readOutcome(tool, path)); }, parent, limits);
+    m_path = path;
+    m_tool.start(
+        ffprobeCall(QStringList{QStringLiteral("-print_format"), QStringLiteral("json"),
+                                QStringLiteral("-show_format"), QStringLiteral("-show_streams")} +
+                    inputArguments(path, demuxersFor(path))),
+        limits);
+}
+
+Result<MediaFacts> MediaProbe::factsFrom(const Result<ToolRun> &run) const
+{
+    if (!run) {
+        return tl::make_unexpected(run.error());
+    }
+    const QFileInfo file(m_path);
+    if (!file.exists()) {
+        return failed(tr("no such file; check its name"));
+    }
+    if (file.isDir()) {
+        return failed(tr("this is a folder; name the files in it"));
+    }
+    if (run->excess == ToolRun::OfTime) {
+        return failed(tr("takes too long to read; check the disk or network that it is on"));
+    }
+    if (run->excess == ToolRun::OfOutput) {
+        return failed(tr("describes itself without end; check that it is a complete video or "
+                         "audio file"));
+    }
+    if (!run->exitedCleanly) {
+        if (const std::optional<QString> kind = refusedKind(m_path, run->errors)) {
+            return failed(*kind);
+        }
+        QString reason = run->firstError();
+        reason.remove(fileArgument(m_path) + QStringLiteral(": "));
+        return failed(tr("cannot be read as media (%1); check that it is a complete video or "
+                         "audio file")
+                          .arg(reason));
+    }
+    const MediaFacts facts = MediaFacts::fromProbe(run->output);
+    if (facts.isEmpty()) {
+        return failed(tr("holds neither video nor audio; choose a video or audio file"));
+    }
+    return facts;
 }

@@ -1,18 +1,16 @@
 #include "host/tools/tool.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTimer>
 
 #ifdef Q_OS_LINUX
 #include <csignal>
 #include <sys/prctl.h>
 #endif
 
-QString ToolOutcome::firstError() const
+QString ToolRun::firstError() const
 {
     if (excess != None) {
         return excess == OfTime ? tr("%1 took too long").arg(program)
@@ -30,70 +28,86 @@ QString ToolOutcome::firstError() const
     return tr("%1 stopped without saying why").arg(program);
 }
 
-QString ToolOutcome::notStartedText() const
+Result<QByteArray> cleanOutput(const Result<ToolRun> &run)
 {
-    if (QStandardPaths::findExecutable(program).isEmpty()) {
-        return tr("%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try "
-                  "again")
-            .arg(program);
+    if (!run) {
+        return tl::make_unexpected(run.error());
     }
-    return tr("%1 couldn't be started (%2); close other programs or raise your limits on open "
-              "files and processes (ulimit -n, ulimit -u), and try again")
-        .arg(program, startError);
+    if (!run->exitedCleanly) {
+        return failed(run->firstError());
+    }
+    return run->output;
 }
 
-Tool::Tool(const QString &program, const QStringList &arguments, const Done &done, QObject *parent,
-           const ToolLimits &limits)
-    : QProcess(parent)
-    , m_done(done)
+Tool::Tool(QObject *parent)
+    : QObject(parent)
 {
-    m_outcome.program = program;
-    connect(this, &QProcess::readyReadStandardError, this, &Tool::readErrors);
-    connect(this, &QProcess::readyReadStandardOutput, this, [this, limits] {
-        if (bytesAvailable() > limits.unreadBytes) {
-            exceed(ToolOutcome::OfOutput);
+    connect(&m_process, &QProcess::readyReadStandardError, this, &Tool::readErrors);
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, [this] {
+        Q_EMIT outputReady();
+        if (m_process.bytesAvailable() > m_limits.unreadBytes) {
+            exceed(ToolRun::OfOutput);
         }
     });
-    connect(this, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        // Short of file descriptors it may tell so several times.
-        if (error == QProcess::FailedToStart && m_outcome.startError.isEmpty()) {
-            m_outcome.startError = errorString();
-            // Queued, so that the caller has the tool in its hands before it hears of its end.
-            QMetaObject::invokeMethod(
-                this, [this] { finish(false, false); }, Qt::QueuedConnection);
-        }
-    });
-    connect(this, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+    connect(&m_process, &QProcess::errorOccurred, this, &Tool::noteError);
+    connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             [this](int exitCode, QProcess::ExitStatus status) {
-                finish(true, status == QProcess::NormalExit && exitCode == 0);
+                finishRun(status == QProcess::NormalExit && exitCode == 0);
             });
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("SVT_LOG"), QStringLiteral("1")); // errors only
-    setProcessEnvironment(environment);
-    setStandardInputFile(QProcess::nullDevice());
-    start(program, arguments, QIODevice::ReadOnly);
-    if (processId() != 0) {
-        m_group.watch(processId());
-    }
-    if (limits.milliseconds > 0) {
-        QTimer::singleShot(limits.milliseconds, this, [this] { exceed(ToolOutcome::OfTime); });
-    }
+    m_deadline.setSingleShot(true);
+    connect(&m_deadline, &QTimer::timeout, this, [this] { exceed(ToolRun::OfTime); });
+    m_startFailure.setSingleShot(true);
+    connect(&m_startFailure, &QTimer::timeout, this, [this] { finish(failed(notStartedText())); });
+
+    m_process.setStandardInputFile(QProcess::nullDevice());
 }
 
 Tool::~Tool()
 {
-    disconnect();
-    stop();
-    waitForFinished();
+    abandon();
+}
+
+void Tool::start(const ToolCall &call, const ToolLimits &limits)
+{
+    abandon();
+    m_limits = limits;
+    m_isStopped = false;
+    m_startError.clear();
+    m_run = {};
+    m_run.program = call.program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("SVT_LOG"), QStringLiteral("1")); // errors only
+    m_process.setProcessEnvironment(environment);
+    m_group.emplace();
+    m_process.start(call.program, call.arguments, QIODevice::ReadOnly);
+    if (m_process.processId() != 0) {
+        m_group->watch(m_process.processId());
+    }
+    if (limits.milliseconds > 0) {
+        m_deadline.start(limits.milliseconds);
+    }
 }
 
 void Tool::stop()
 {
-    m_group.end();
-    kill();
+    if (m_group) {
+        m_isStopped = true;
+        m_group->end();
+        m_process.kill();
+    }
 }
 
-void Tool::setupChildProcess()
+void Tool::abandon()
+{
+    const QSignalBlocker silence(m_process);
+    m_deadline.stop();
+    m_startFailure.stop();
+    m_group.reset();
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void Tool::Process::setupChildProcess()
 {
     ProcessGroup::lead();
 #ifdef Q_OS_LINUX
@@ -102,11 +116,22 @@ void Tool::setupChildProcess()
 #endif
 }
 
-void Tool::exceed(ToolOutcome::Excess excess)
+void Tool::noteError(QProcess::ProcessError error)
 {
-    if (state() != QProcess::NotRunning) {
-        m_outcome.excess = excess;
-        stop();
+    // Short of file descriptors it may tell so several times. The caller hears of it later, so that
+    // start() has returned by then.
+    if (error == QProcess::FailedToStart && m_startError.isEmpty()) {
+        m_startError = m_process.errorString();
+        m_startFailure.start(0);
+    }
+}
+
+void Tool::exceed(ToolRun::Excess excess)
+{
+    if (m_process.state() != QProcess::NotRunning) {
+        m_run.excess = excess;
+        m_group->end();
+        m_process.kill();
     }
 }
 
@@ -114,25 +139,41 @@ void Tool::readErrors()
 {
     // The first errors tell the cause, the last ones how it ended; a broken source makes many.
     constexpr int half = 16 * 1024;
-    QByteArray &errors = m_outcome.errors;
-    errors += readAllStandardError();
+    QByteArray &errors = m_run.errors;
+    errors += m_process.readAllStandardError();
     if (errors.size() > 2 * half) {
         errors.remove(half, errors.size() - 2 * half);
     }
 }
 
-void Tool::finish(bool started, bool exitedCleanly)
+void Tool::finishRun(bool exitedCleanly)
 {
-    m_group.end();
     readErrors();
-    m_outcome.started = started;
-    m_outcome.exitedCleanly = exitedCleanly;
-    m_outcome.output = readAllStandardOutput();
-    deleteLater();
-    m_done(m_outcome);
+    m_run.exitedCleanly = exitedCleanly;
+    m_run.output = m_process.readAllStandardOutput();
+    finish(m_run);
 }
 
-QString fileArgument(const QString &path)
+void Tool::finish(const Result<ToolRun> &run)
 {
-    return QStringLiteral("file:") + QFileInfo(path).absoluteFilePath();
+    m_deadline.stop();
+    m_startFailure.stop();
+    m_group.reset();
+    if (m_isStopped) {
+        Q_EMIT finished(failed({}, Error::Cancelled));
+    } else {
+        Q_EMIT finished(run);
+    }
+}
+
+QString Tool::notStartedText() const
+{
+    if (QStandardPaths::findExecutable(m_run.program).isEmpty()) {
+        return tr("%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try "
+                  "again")
+            .arg(m_run.program);
+    }
+    return tr("%1 couldn't be started (%2); close other programs or raise your limits on open "
+              "files and processes (ulimit -n, ulimit -u), and try again")
+        .arg(m_run.program, m_startError);
 }

@@ -1,15 +1,16 @@
 #ifndef TOOLS_TOOL_H
 #define TOOLS_TOOL_H
 
+#include "host/error.h"
 #include "host/tools/processgroup.h"
+#include "host/tools/toolcall.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QProcess>
-#include <QString>
-#include <QStringList>
+#include <QTimer>
 
-#include <functional>
+#include <optional>
 
 /*! What a tool may take; one that goes beyond is ended. */
 struct ToolLimits
@@ -19,65 +20,78 @@ struct ToolLimits
 };
 
 /*! How a run of ffmpeg or ffprobe ended. */
-struct ToolOutcome
+struct ToolRun
 {
-    Q_DECLARE_TR_FUNCTIONS(ToolOutcome)
+    Q_DECLARE_TR_FUNCTIONS(ToolRun)
 public:
     enum Excess { None, OfOutput, OfTime };
 
     QString program;
-    bool started = false;
     bool exitedCleanly = false; //!< exit code 0, not by a signal
     Excess excess = None;       //!< the limit that it was ended for
     QByteArray output;          //!< what nobody read from standard output before
     QByteArray errors;          //!< head and tail of standard error
-    QString startError;         //!< the system's words; empty when it started
 
     /*! Why it failed: the first line of errors in plain words, without ffmpeg's
      *  "[name @ address]", or the limit that it went beyond. */
     [[nodiscard]] QString firstError() const;
-    /*! Why a tool that didn't start couldn't, and what to do about it. */
-    [[nodiscard]] QString notStartedText() const;
 };
 
-/*! A running tool. Ctrl-C in the terminal reaches the host alone, which then stops the tool. */
-class Tool : public QProcess
+/*! What the program printed; an error where it didn't start or didn't exit cleanly. */
+[[nodiscard]] Result<QByteArray> cleanOutput(const Result<ToolRun> &run);
+
+/*!
+ * Runs ffmpeg or ffprobe without waiting, any number of times, one after another. Whatever the
+ * program started ends with it, at the latest with this object. Ctrl-C in the terminal reaches the
+ * host alone, which then stops the tool.
+ */
+class Tool : public QObject
 {
     Q_OBJECT
+    Q_DISABLE_COPY(Tool)
 
 public:
-    using Done = std::function<void(const ToolOutcome &)>;
-
-    /*!
-     * Runs \a program (a name on the PATH) without waiting; \a done is called once from the event
-     * loop, also when the program can't start, and the tool deletes itself. Destroying it earlier
-     * kills the program without calling \a done. Whatever the program started ends with it.
-     */
-    Tool(const QString &program, const QStringList &arguments, const Done &done, QObject *parent,
-         const ToolLimits &limits = {});
+    explicit Tool(QObject *parent = nullptr);
     ~Tool() override;
 
-    /*! Kills the program and whatever it started; \a done follows from the event loop. */
+    /*! finished() follows from the event loop, once, also when the program can't start. A program
+     *  that runs already is abandoned first. */
+    void start(const ToolCall &call, const ToolLimits &limits = {});
+    /*! Kills the program and whatever it started; finished() follows with Error::Cancelled. */
     void stop();
+    /*! Kills the program and whatever it started; no finished() follows. */
+    void abandon();
 
-protected:
-    void setupChildProcess() override;
+    /*! What the program has printed since the last call. */
+    [[nodiscard]] QByteArray readOutput() { return m_process.readAllStandardOutput(); }
+
+Q_SIGNALS:
+    void outputReady();
+    /*! An error tells that the program couldn't start, or was stopped. */
+    void finished(const Result<ToolRun> &run);
 
 private:
-    // They reach the program alone, which may be a script in front of the real one.
-    using QProcess::kill;
-    using QProcess::terminate;
+    class Process : public QProcess
+    {
+    protected:
+        void setupChildProcess() override;
+    };
 
-    void exceed(ToolOutcome::Excess excess);
+    void noteError(QProcess::ProcessError error);
+    void exceed(ToolRun::Excess excess);
     void readErrors();
-    void finish(bool started, bool exitedCleanly);
+    void finishRun(bool exitedCleanly);
+    void finish(const Result<ToolRun> &run);
+    [[nodiscard]] QString notStartedText() const;
 
-    Done m_done;
-    ToolOutcome m_outcome;
-    ProcessGroup m_group;
+    Process m_process;
+    std::optional<ProcessGroup> m_group; // there while a run isn't finished
+    QTimer m_deadline;
+    QTimer m_startFailure; // tells it from the event loop
+    ToolLimits m_limits;
+    ToolRun m_run;
+    QString m_startError; // the system's words
+    bool m_isStopped = false;
 };
-
-/*! The form of a file's path that ffmpeg takes for a file whatever characters are in it. */
-[[nodiscard]] QString fileArgument(const QString &path);
 
 #endif

@@ -830,6 +830,9 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>eine .%1-Datei kann kein Video enthalten; wählen Sie ein Audioformat</translation>
     </message>
+</context>
+<context>
+    <name>EncoderChoice</name>
     <message>
         <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
         <translation>braucht für %2 den Encoder %1, der diesem ffmpeg fehlt; wählen Sie ein Format mit einem anderen Encoder oder installieren Sie ein ffmpeg, das ihn hat</translation>
@@ -837,6 +840,13 @@
     <message>
         <source> or </source>
         <translation> oder </translation>
+    </message>
+</context>
+<context>
+    <name>EncoderList</name>
+    <message>
+        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <translation>%1 nennt seine Encoder nicht (%2); prüfen Sie, ob „%1 -encoders“ sie auflistet, oder installieren Sie ein anderes ffmpeg</translation>
     </message>
 </context>
 <context>
@@ -946,14 +956,21 @@
     </message>
 </context>
 <context>
-    <name>ToolOutcome</name>
-    <message>
-        <source>%1 stopped without saying why</source>
-        <translation>%1 ist ohne Begründung stehen geblieben</translation>
-    </message>
+    <name>Tool</name>
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 ist nicht im PATH; installieren Sie ffmpeg (Debian: apt-get install ffmpeg) und versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>%1 konnte nicht gestartet werden (%2); schließen Sie andere Programme oder erhöhen Sie die Grenzen für offene Dateien und Prozesse (ulimit -n, ulimit -u) und versuchen Sie es noch einmal</translation>
+    </message>
+</context>
+<context>
+    <name>ToolRun</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 ist ohne Begründung stehen geblieben</translation>
     </message>
     <message>
         <source>%1 took too long</source>
@@ -962,10 +979,6 @@
     <message>
         <source>%1 printed too much</source>
         <translation>%1 hat zu viel ausgegeben</translation>
-    </message>
-    <message>
-        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
-        <translation>%1 konnte nicht gestartet werden (%2); schließen Sie andere Programme oder erhöhen Sie die Grenzen für offene Dateien und Prozesse (ulimit -n, ulimit -u) und versuchen Sie es noch einmal</translation>
     </message>
 </context>
 <context>

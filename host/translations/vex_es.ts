@@ -830,6 +830,9 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>un archivo .%1 no admite vídeo; elige un formato de audio</translation>
     </message>
+</context>
+<context>
+    <name>EncoderChoice</name>
     <message>
         <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
         <translation>necesita el codificador %1 para %2, que este ffmpeg no tiene; elige un formato con otro codificador o instala un ffmpeg que lo tenga</translation>
@@ -837,6 +840,13 @@
     <message>
         <source> or </source>
         <translation> o </translation>
+    </message>
+</context>
+<context>
+    <name>EncoderList</name>
+    <message>
+        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <translation>%1 no indica sus codificadores (%2); compruebe que «%1 -encoders» los muestre o instale otro ffmpeg</translation>
     </message>
 </context>
 <context>
@@ -946,14 +956,21 @@
     </message>
 </context>
 <context>
-    <name>ToolOutcome</name>
-    <message>
-        <source>%1 stopped without saying why</source>
-        <translation>%1 se detuvo sin decir por qué</translation>
-    </message>
+    <name>Tool</name>
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 no está en el PATH; instala ffmpeg (Debian: apt-get install ffmpeg) e inténtalo de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>no se ha podido iniciar %1 (%2); cierre otros programas o aumente los límites de archivos abiertos y procesos (ulimit -n, ulimit -u) e inténtelo de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>ToolRun</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 se detuvo sin decir por qué</translation>
     </message>
     <message>
         <source>%1 took too long</source>
@@ -962,10 +979,6 @@
     <message>
         <source>%1 printed too much</source>
         <translation>%1 ha generado demasiada salida</translation>
-    </message>
-    <message>
-        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
-        <translation>no se ha podido iniciar %1 (%2); cierre otros programas o aumente los límites de archivos abiertos y procesos (ulimit -n, ulimit -u) e inténtelo de nuevo</translation>
     </message>
 </context>
 <context>

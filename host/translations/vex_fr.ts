@@ -830,6 +830,9 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>un fichier .%1 ne peut pas contenir de vidéo ; choisissez un format audio</translation>
     </message>
+</context>
+<context>
+    <name>EncoderChoice</name>
     <message>
         <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
         <translation>a besoin de l’encodeur %1 pour %2, absent de ce ffmpeg ; choisissez un format avec un autre encodeur ou installez un ffmpeg qui en dispose</translation>
@@ -837,6 +840,13 @@
     <message>
         <source> or </source>
         <translation> ou </translation>
+    </message>
+</context>
+<context>
+    <name>EncoderList</name>
+    <message>
+        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <translation>%1 n’indique pas ses encodeurs (%2) ; vérifiez que « %1 -encoders » les affiche, ou installez un autre ffmpeg</translation>
     </message>
 </context>
 <context>
@@ -946,14 +956,21 @@
     </message>
 </context>
 <context>
-    <name>ToolOutcome</name>
-    <message>
-        <source>%1 stopped without saying why</source>
-        <translation>%1 s’est arrêté sans dire pourquoi</translation>
-    </message>
+    <name>Tool</name>
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 n’est pas dans le PATH ; installez ffmpeg (Debian : apt-get install ffmpeg) et réessayez</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>%1 n’a pas pu démarrer (%2) ; fermez d’autres programmes ou relevez les limites de fichiers ouverts et de processus (ulimit -n, ulimit -u), puis réessayez</translation>
+    </message>
+</context>
+<context>
+    <name>ToolRun</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 s’est arrêté sans dire pourquoi</translation>
     </message>
     <message>
         <source>%1 took too long</source>
@@ -962,10 +979,6 @@
     <message>
         <source>%1 printed too much</source>
         <translation>%1 a produit trop de texte</translation>
-    </message>
-    <message>
-        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
-        <translation>%1 n’a pas pu démarrer (%2) ; fermez d’autres programmes ou relevez les limites de fichiers ouverts et de processus (ulimit -n, ulimit -u), puis réessayez</translation>
     </message>
 </context>
 <context>

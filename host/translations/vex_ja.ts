@@ -830,6 +830,9 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>.%1 ファイルに動画は入りません。音声の形式を選んでください</translation>
     </message>
+</context>
+<context>
+    <name>EncoderChoice</name>
     <message>
         <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
         <translation>%2 にはエンコーダー %1 が必要ですが、この ffmpeg にはありません。別のエンコーダーの形式を選ぶか、対応する ffmpeg をインストールしてください</translation>
@@ -837,6 +840,13 @@
     <message>
         <source> or </source>
         <translation> または </translation>
+    </message>
+</context>
+<context>
+    <name>EncoderList</name>
+    <message>
+        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <translation>%1 がエンコーダーの一覧を返しません（%2）。「%1 -encoders」で一覧が表示されるか確認するか、別の ffmpeg をインストールしてください</translation>
     </message>
 </context>
 <context>
@@ -946,14 +956,21 @@
     </message>
 </context>
 <context>
-    <name>ToolOutcome</name>
-    <message>
-        <source>%1 stopped without saying why</source>
-        <translation>%1 は理由を示さずに止まりました</translation>
-    </message>
+    <name>Tool</name>
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>%1 が PATH にありません。ffmpeg をインストール（Debian: apt-get install ffmpeg）してやり直してください</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>%1 を起動できませんでした（%2）。他のプログラムを閉じるか、開けるファイル数とプロセス数の上限（ulimit -n、ulimit -u）を上げて、もう一度お試しください</translation>
+    </message>
+</context>
+<context>
+    <name>ToolRun</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 は理由を示さずに止まりました</translation>
     </message>
     <message>
         <source>%1 took too long</source>
@@ -962,10 +979,6 @@
     <message>
         <source>%1 printed too much</source>
         <translation>%1 の出力が多すぎます</translation>
-    </message>
-    <message>
-        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
-        <translation>%1 を起動できませんでした（%2）。他のプログラムを閉じるか、開けるファイル数とプロセス数の上限（ulimit -n、ulimit -u）を上げて、もう一度お試しください</translation>
     </message>
 </context>
 <context>

@@ -830,6 +830,9 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>.%1 文件不能包含视频；请选择音频预设</translation>
     </message>
+</context>
+<context>
+    <name>EncoderChoice</name>
     <message>
         <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
         <translation>%2 需要编码器 %1，但此 ffmpeg 没有；请选择使用其他编码器的预设，或安装带有它的 ffmpeg</translation>
@@ -837,6 +840,13 @@
     <message>
         <source> or </source>
         <translation> 或 </translation>
+    </message>
+</context>
+<context>
+    <name>EncoderList</name>
+    <message>
+        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <translation>%1 未列出其编码器（%2）；请检查“%1 -encoders”能否列出它们，或安装其他 ffmpeg</translation>
     </message>
 </context>
 <context>
@@ -946,14 +956,21 @@
     </message>
 </context>
 <context>
-    <name>ToolOutcome</name>
-    <message>
-        <source>%1 stopped without saying why</source>
-        <translation>%1 已停止，未说明原因</translation>
-    </message>
+    <name>Tool</name>
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
         <translation>PATH 中没有 %1；请安装 ffmpeg（Debian：apt-get install ffmpeg）后重试</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
+        <translation>无法启动 %1（%2）；请关闭其他程序，或提高打开文件数和进程数的限制（ulimit -n、ulimit -u），然后重试</translation>
+    </message>
+</context>
+<context>
+    <name>ToolRun</name>
+    <message>
+        <source>%1 stopped without saying why</source>
+        <translation>%1 已停止，未说明原因</translation>
     </message>
     <message>
         <source>%1 took too long</source>
@@ -962,10 +979,6 @@
     <message>
         <source>%1 printed too much</source>
         <translation>%1 的输出过多</translation>
-    </message>
-    <message>
-        <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
-        <translation>无法启动 %1（%2）；请关闭其他程序，或提高打开文件数和进程数的限制（ulimit -n、ulimit -u），然后重试</translation>
     </message>
 </context>
 <context>

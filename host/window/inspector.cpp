@@ -7,10 +7,11 @@
 
 #include <algorithm>
 
-Inspector::~Inspector()
+Inspector::Inspector(QObject *parent)
+    : QObject(parent)
 {
-    // ffmpeg stops before the folder that it writes into is removed.
-    delete m_tool;
+    connect(&m_probe, &MediaProbe::finished, this, &Inspector::take);
+    connect(&m_ffmpeg, &Tool::finished, this, &Inspector::takePicture);
 }
 
 void Inspector::inspect(int id, const QString &path)
@@ -32,7 +33,8 @@ void Inspector::forget(int id)
     m_questions.erase(found);
     if (isAsked) {
         // A tool that hangs mustn't keep the other files waiting.
-        delete m_tool;
+        m_probe.abandon();
+        m_ffmpeg.abandon();
         askNext();
     }
 }
@@ -40,21 +42,20 @@ void Inspector::forget(int id)
 void Inspector::askNext()
 {
     if (!m_questions.isEmpty()) {
-        m_tool = probeMedia(m_questions.head().path, this,
-                            [this](const ProbeOutcome &outcome) { take(outcome); });
+        m_probe.start(m_questions.head().path);
     }
 }
 
-void Inspector::take(const ProbeOutcome &outcome)
+void Inspector::take(const Result<MediaFacts> &facts)
 {
     const Question question = m_questions.head();
-    if (outcome.facts.picture() != nullptr || outcome.facts.cover() != nullptr) {
-        picture(question, outcome.facts);
+    if (facts && (facts->picture() != nullptr || facts->cover() != nullptr)) {
+        picture(question, *facts);
     } else {
         m_questions.dequeue();
         askNext();
     }
-    Q_EMIT read(question.id, outcome);
+    Q_EMIT read(question.id, facts);
 }
 
 void Inspector::picture(const Question &question, const MediaFacts &facts)
@@ -62,25 +63,28 @@ void Inspector::picture(const Question &question, const MediaFacts &facts)
     // The very first frames of films are often black.
     const double moment = facts.picture() == nullptr ? 0 : facts.duration / 10;
     const VideoTrack *track = facts.picture() == nullptr ? facts.cover() : facts.picture();
-    const QString file = m_pictures.filePath(QStringLiteral("%1.png").arg(question.id));
-    const QStringList arguments =
-        QStringList{QStringLiteral("-nostdin"), QStringLiteral("-v"),
-                    QStringLiteral("error"),    QStringLiteral("-y"),
-                    QStringLiteral("-ss"),      QString::number(moment, 'f', 3)} +
-        inputArguments(question.path, facts.container) +
-        QStringList{QStringLiteral("-map"),      QStringLiteral("0:%1").arg(track->index),
-                    QStringLiteral("-frames:v"), QStringLiteral("1"),
-                    QStringLiteral("-vf"),       QStringLiteral("scale=256:-2"),
-                    QStringLiteral("-update"), // else "%d" in the path is a number
-                    QStringLiteral("1"),         fileArgument(file)};
-    m_tool = new Tool(
-        QStringLiteral("ffmpeg"), arguments,
-        [this, file](const ToolOutcome &outcome) {
-            const int id = m_questions.dequeue().id;
-            askNext();
-            if (outcome.exitedCleanly && QFile::exists(file)) {
-                Q_EMIT pictured(id, QUrl::fromLocalFile(file).toString());
-            }
-        },
-        this, probeLimits);
+    m_ffmpeg.start(
+        ffmpegCall(QStringList{QStringLiteral("-y"), QStringLiteral("-ss"),
+                               QString::number(moment, 'f', 3)} +
+                   inputArguments(question.path, facts.container) +
+                   QStringList{QStringLiteral("-map"), QStringLiteral("0:%1").arg(track->index),
+                               QStringLiteral("-frames:v"), QStringLiteral("1"),
+                               QStringLiteral("-vf"), QStringLiteral("scale=256:-2"),
+                               QStringLiteral("-update"), // else "%d" in the path is a number
+                               QStringLiteral("1"), fileArgument(pictureFile(question.id))}),
+        probeLimits);
+}
+
+void Inspector::takePicture(const Result<ToolRun> &run)
+{
+    const int id = m_questions.dequeue().id;
+    askNext();
+    if (cleanOutput(run) && QFile::exists(pictureFile(id))) {
+        Q_EMIT pictured(id, QUrl::fromLocalFile(pictureFile(id)).toString());
+    }
+}
+
+QString Inspector::pictureFile(int id) const
+{
+    return m_pictures.filePath(QStringLiteral("%1.png").arg(id));
 }

@@ -5,7 +5,6 @@
 #include "host/media/mediaprobe.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QQueue>
 
 /*!
@@ -17,8 +16,7 @@ class Inspector : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
-    ~Inspector() override;
+    explicit Inspector(QObject *parent = nullptr);
 
     /*! \a id names the file in the signals. */
     void inspect(int id, const QString &path);
@@ -26,7 +24,7 @@ public:
     void forget(int id);
 
 Q_SIGNALS:
-    void read(int id, const ProbeOutcome &outcome);
+    void read(int id, const Result<MediaFacts> &facts);
     /*! After read(), for a file with a picture. \a url is there as long as this object. */
     void pictured(int id, const QString &url);
 
@@ -38,12 +36,16 @@ private:
     };
 
     void askNext();
-    void take(const ProbeOutcome &outcome);
+    void take(const Result<MediaFacts> &facts);
     void picture(const Question &question, const MediaFacts &facts);
+    void takePicture(const Result<ToolRun> &run);
+    QString pictureFile(int id) const;
 
     QQueue<Question> m_questions;
-    QPointer<Tool> m_tool; // works on the first question
     WorkFolder m_pictures;
+    // They work on the first question, and stop before the folder is removed.
+    MediaProbe m_probe;
+    Tool m_ffmpeg;
 };
 
 #endif

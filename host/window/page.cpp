@@ -27,12 +27,12 @@ Page::Page(PageKind kind, Settings &settings, Presets &presets, QObject *parent)
     , m_settings(settings)
     , m_presets(presets)
 {
-    connect(&m_inspector, &Inspector::read, this, [this](int id, const ProbeOutcome &outcome) {
-        m_tasks.update(id, [&outcome](Task &task) {
-            task.facts = outcome.facts;
+    connect(&m_inspector, &Inspector::read, this, [this](int id, const Result<MediaFacts> &facts) {
+        m_tasks.update(id, [&facts](Task &task) {
+            task.facts = facts.value_or(MediaFacts());
             if (task.state == Task::Reading) {
-                task.state = outcome.error.isEmpty() ? Task::Ready : Task::Failed;
-                task.error = outcome.error;
+                task.state = facts ? Task::Ready : Task::Failed;
+                task.error = facts ? QString() : facts.error().text;
             }
         });
     });
@@ -280,17 +280,16 @@ void Page::runNext()
     m_conversion->start();
 }
 
-void Page::finish(const ConversionOutcome &outcome)
+void Page::finish(const Result<ConversionOutcome> &outcome)
 {
     m_conversion->deleteLater();
     const int id = m_runningTask;
     m_runningTask = 0;
-    const bool isConverted = outcome.result == ConversionOutcome::Converted;
-    const bool isCancelled = outcome.result == ConversionOutcome::Cancelled;
-    setState(id, isConverted ? Task::Converted : isCancelled ? Task::Cancelled : Task::Failed);
+    const bool isCancelled = !outcome && outcome.error().kind == Error::Cancelled;
+    setState(id, outcome ? Task::Converted : isCancelled ? Task::Cancelled : Task::Failed);
     m_tasks.update(id, [&outcome](Task &task) {
-        task.error = outcome.error;
-        task.target = outcome.target;
+        task.error = outcome ? QString() : outcome.error().text;
+        task.target = outcome ? outcome->target : QString();
     });
     runNext();
 }

@@ -79,7 +79,7 @@ private:
     void choose(int taskId, const QString &format);
     void followPresets();
     void runNext();
-    void finish(const ConversionOutcome &outcome);
+    void finish(const Result<ConversionOutcome> &outcome);
 
     const PageKind m_kind;
     Settings &m_settings;

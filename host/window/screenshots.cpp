@@ -164,17 +164,15 @@ QUrl Screenshots::clip(const QString &name, const QString &arguments)
 {
     const QString path = m_work.filePath(name);
     bool isMade = false;
-    new Tool(
-        QStringLiteral("ffmpeg"),
-        QStringList{QStringLiteral("-nostdin"), QStringLiteral("-v"), QStringLiteral("error")} +
-            arguments.split(QLatin1Char(' ')) + QStringList{path},
-        [this, &isMade](const ToolOutcome &outcome) {
-            isMade = true;
-            if (!outcome.started) {
-                m_result = failed(outcome.notStartedText());
-            }
-        },
-        &m_window);
+    Tool ffmpeg;
+    QObject::connect(&ffmpeg, &Tool::finished, &m_window,
+                     [this, &isMade](const Result<ToolRun> &made) {
+                         isMade = true;
+                         if (!made) {
+                             m_result = failed(made);
+                         }
+                     });
+    ffmpeg.start(ffmpegCall(arguments.split(QLatin1Char(' ')) + QStringList{path}));
     waitUntil([&isMade] { return isMade; });
     return QUrl::fromLocalFile(path);
 }

@@ -71,17 +71,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray input = inputBytes(data, size);
     const int lineEnd = input.indexOf('\n');
     const QVariantMap preset = QJsonDocument::fromJson(input.left(lineEnd)).object().toVariantMap();
-    const FfmpegArguments formed = FfmpegArguments::form(
+    const Result<QStringList> formed = ffmpegArguments(
         OutputSettings::fromPreset(preset), MediaFacts::fromProbe(input.mid(lineEnd + 1)),
         encoders(), QStringLiteral("/in"), QStringLiteral("/out"));
-    require(formed.error.isEmpty() != formed.arguments.isEmpty());
-    for (int i = 0; i < formed.arguments.size(); ++i) {
-        const QString &argument = formed.arguments.at(i);
+    if (!formed) {
+        require(!formed.error().text.isEmpty());
+        return 0;
+    }
+    for (int i = 0; i < formed->size(); ++i) {
+        const QString &argument = formed->at(i);
         require(!argument.isEmpty() && !argument.contains(QChar::Null));
-        require(isValid(argument, formed.arguments.value(i + 1)));
+        require(isValid(argument, formed->value(i + 1)));
     }
-    if (formed.error.isEmpty()) {
-        require(formed.arguments.constLast() == QLatin1String("file:/out"));
-    }
+    require(formed->constLast() == QLatin1String("file:/out"));
     return 0;
 }

@@ -1,5 +1,5 @@
 #include "host/check/writtenfile.h"
-#include "host/convert/codecs.h"
+#include "host/tools/encoderlist.h"
 #include "tests/fuzz/fuzzing.h"
 
 /*! The lists that ffmpeg prints of its encoders, and ffprobe of a file's packets. */

@@ -1,7 +1,7 @@
 #include "tests/host/mediaclips.h"
 
-#include "host/convert/codecs.h"
 #include "host/media/mediaprobe.h"
+#include "host/tools/encoderlist.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -43,13 +43,15 @@ bool MediaClips::makeSong(const QString &path)
 
 MediaFacts MediaClips::factsOf(const QString &path)
 {
-    QObject owner;
+    MediaProbe probe;
     QEventLoop loop;
     MediaFacts facts;
-    probeMedia(path, &owner, [&facts, &loop](const ProbeOutcome &outcome) {
-        facts = outcome.facts;
-        loop.quit();
-    });
+    QObject::connect(&probe, &MediaProbe::finished, &loop,
+                     [&facts, &loop](const Result<MediaFacts> &probed) {
+                         facts = probed.value_or(MediaFacts());
+                         loop.quit();
+                     });
+    probe.start(path);
     loop.exec();
     return facts;
 }

@@ -62,6 +62,7 @@ void TestPictureFit::anOddSizeLosesALine_data()
     QTest::newRow("even") << QSize(320, 240) << QSize(320, 240);
     QTest::newRow("odd width") << QSize(321, 240) << QSize(320, 240);
     QTest::newRow("odd height") << QSize(322, 243) << QSize(322, 242);
+    QTest::newRow("at least two pixels") << QSize(1, 3) << QSize(2, 2);
     QTest::newRow("never larger") << QSize(323, 5) << QSize(322, 4);
 }
 
@@ -90,6 +91,11 @@ void TestPictureFit::aStudioFrameIsFilledAsFarAsItGoes_data()
                                      << QStringLiteral("32/27") << QSize(720, 480);
     QTest::newRow("24 fps is nearer to 25") << QSize(1280, 720) << Ratio{24, 1} << QSize(720, 576)
                                             << QStringLiteral("64/45") << QSize(720, 576);
+    QTest::newRow("60 fps is nearer to 29.97")
+        << QSize(1280, 720) << Ratio{60, 1} << QSize(720, 480) << QStringLiteral("32/27")
+        << QSize(720, 480);
+    QTest::newRow("4:3, 29.97 fps")
+        << QSize(640, 480) << ntsc << QSize(720, 480) << QStringLiteral("8/9") << QSize(720, 480);
     QTest::newRow("portrait leaves the sides")
         << QSize(720, 1280) << pal << QSize(720, 576) << QStringLiteral("16/15") << QSize(304, 576);
     QTest::newRow("cinema leaves top and bottom")

@@ -58,6 +58,9 @@ void TestRatio::aFrameRateIsReadAsPeopleWriteIt_data()
     QTest::newRow("23.98") << QStringLiteral("23.98") << Ratio{24000, 1001};
     QTest::newRow("29.97") << QStringLiteral("29.97") << Ratio{30000, 1001};
     QTest::newRow("59.94") << QStringLiteral("59.94") << Ratio{60000, 1001};
+    QTest::newRow("119.88") << QStringLiteral("119.88") << Ratio{120000, 1001};
+    // A whole number is meant as it stands, however near to a slowed one.
+    QTest::newRow("5") << QStringLiteral("5") << Ratio{5, 1};
     QTest::newRow("24") << QStringLiteral("24") << Ratio{24, 1};
     QTest::newRow("25.0") << QStringLiteral("25.0") << Ratio{25, 1};
     QTest::newRow("12.5") << QStringLiteral("12.5") << Ratio{25, 2};

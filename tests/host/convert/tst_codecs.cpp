@@ -1,6 +1,5 @@
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
-#include "host/convert/textlist.h"
 
 #include <QtTest>
 
@@ -11,8 +10,7 @@ class TestCodecs : public QObject
 private Q_SLOTS:
     void aKnownCodecNamesItsEncoders();
     void anUnknownCodecHasNoLimits();
-    void encodersStandBelowTheRuleOfTheListing();
-    void aListingWithoutARuleHasNoEncoders();
+    void aCodecThatIsOnlyCopiedHasNoEncoder();
     void aContainerIsFoundByItsExtension_data();
     void aContainerIsFoundByItsExtension();
     void anUnknownExtensionHasNoContainer();
@@ -21,36 +19,32 @@ private Q_SLOTS:
 
 void TestCodecs::aKnownCodecNamesItsEncoders()
 {
-    const VideoCodec &av1 = videoCodec(QStringLiteral("av1"));
+    const VideoCodec av1 = videoCodec(QStringLiteral("av1"));
     QCOMPARE(av1.encoders.size(), 2);
-    QCOMPARE(av1.encoders.at(0).name, "libsvtav1");
-    QCOMPARE(av1.encoders.at(1).name, "libaom-av1");
-    QCOMPARE(audioCodec(QStringLiteral("mp3")).encoders.constFirst(), "libmp3lame");
+    QCOMPARE(av1.encoderNames(),
+             (QStringList{QStringLiteral("libsvtav1"), QStringLiteral("libaom-av1")}));
+    QCOMPARE(audioCodec(QStringLiteral("mp3")).encoderNames(),
+             QStringList{QStringLiteral("libmp3lame")});
     QCOMPARE(audioCodec(QStringLiteral("mp3")).maxChannels, 2);
 }
 
 void TestCodecs::anUnknownCodecHasNoLimits()
 {
-    const AudioCodec &codec = audioCodec(QStringLiteral("pcm_s24be"));
+    const AudioCodec codec = audioCodec(QStringLiteral("pcm_s24be"));
     QVERIFY(codec.encoders.isEmpty());
-    QVERIFY(words(codec.sampleRates).isEmpty());
+    QVERIFY(codec.sampleRates.isEmpty());
     QVERIFY(!codec.takesBitrate);
     QVERIFY(videoCodec(QString()).encoders.isEmpty());
+    // ffmpeg's encoder has the codec's name then.
+    QCOMPARE(codec.encoderNames(), QStringList{QStringLiteral("pcm_s24be")});
+    QCOMPARE(videoCodec(QStringLiteral("ffv1")).encoderNames(),
+             QStringList{QStringLiteral("ffv1")});
 }
 
-void TestCodecs::encodersStandBelowTheRuleOfTheListing()
+void TestCodecs::aCodecThatIsOnlyCopiedHasNoEncoder()
 {
-    const QByteArray listing = "Encoders:\n V..... = Video\n A..... = Audio\n ------\n"
-                               " V....D libx264              H.264 (codec h264)\n"
-                               " A....D aac                  AAC\n\n";
-    QCOMPARE(encodersInListing(listing),
-             (QSet<QString>{QStringLiteral("libx264"), QStringLiteral("aac")}));
-}
-
-void TestCodecs::aListingWithoutARuleHasNoEncoders()
-{
-    QVERIFY(encodersInListing(" V....D libx264  H.264\n").isEmpty());
-    QVERIFY(encodersInListing({}).isEmpty());
+    QVERIFY(audioCodec(QStringLiteral("truehd")).isOnlyCopied);
+    QCOMPARE(audioCodec(QStringLiteral("truehd")).encoderNames(), QStringList());
 }
 
 void TestCodecs::aContainerIsFoundByItsExtension_data()
@@ -70,7 +64,7 @@ void TestCodecs::aContainerIsFoundByItsExtension()
     QFETCH(QString, muxer);
     const Container *container = Container::find(extension);
     QVERIFY(container != nullptr);
-    QCOMPARE(QString::fromLatin1(container->muxer), muxer);
+    QCOMPARE(container->muxer, muxer);
 }
 
 void TestCodecs::anUnknownExtensionHasNoContainer()
@@ -83,11 +77,11 @@ void TestCodecs::anUnknownExtensionHasNoContainer()
 void TestCodecs::aVideoContainerHasAUsualCodec()
 {
     const Container *mkv = Container::find(QStringLiteral("mkv"));
-    QCOMPARE(words(mkv->videoCodecs).constFirst(), QStringLiteral("h264"));
-    QVERIFY(mkv->has(Container::SeveralAudioTracks));
-    QVERIFY(!mkv->has(Container::TakesCover));
-    QVERIFY(words(Container::find(QStringLiteral("mp3"))->videoCodecs).isEmpty());
-    QVERIFY(words(Container::find(QStringLiteral("gif"))->audioCodecs).isEmpty());
+    QCOMPARE(mkv->videoCodecs.constFirst(), QStringLiteral("h264"));
+    QVERIFY(mkv->holdsSeveralAudioTracks);
+    QVERIFY(!mkv->takesCover);
+    QVERIFY(Container::find(QStringLiteral("mp3"))->videoCodecs.isEmpty());
+    QVERIFY(Container::find(QStringLiteral("gif"))->audioCodecs.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestCodecs)

@@ -22,7 +22,11 @@ private Q_SLOTS:
     void whatIsNoProbeHoldsNothing();
     void theShownSizeIsUprightWithSquarePixels_data();
     void theShownSizeIsUprightWithSquarePixels();
+    void theRotationIsTheTurnToTheRight_data();
+    void theRotationIsTheTurnToTheRight();
     void aVariableRateIsTheAverage();
+    void aRateFasterThanCamerasIsNoSteadyOne_data();
+    void aRateFasterThanCamerasIsNoSteadyOne();
     void theRateIsUnknownWhenTheFileDoesNotSay();
     void aCoverIsNoPicture();
     void theDefaultTrackComesFirst();
@@ -138,6 +142,43 @@ void TestMediaFacts::theShownSizeIsUprightWithSquarePixels()
     QCOMPARE(facts.picture()->storedSize, QSize(720, 480));
 }
 
+void TestMediaFacts::theRotationIsTheTurnToTheRight_data()
+{
+    QTest::addColumn<QByteArray>("said");
+    QTest::addColumn<int>("rotation");
+    // The matrix counts to the left, the tag to the right.
+    QTest::newRow("matrix, right") << QByteArray(R"("side_data_list": [{"rotation": -90}])") << 90;
+    QTest::newRow("matrix, left") << QByteArray(R"("side_data_list": [{"rotation": 90}])") << 270;
+    QTest::newRow("matrix, over") << QByteArray(R"("side_data_list": [{"rotation": -180}])") << 180;
+    QTest::newRow("tag, right") << QByteArray(R"("tags": {"rotate": "90"})") << 90;
+    QTest::newRow("tag, left") << QByteArray(R"("tags": {"rotate": "270"})") << 270;
+    QTest::newRow("tag, left, negative") << QByteArray(R"("tags": {"rotate": "-90"})") << 270;
+}
+
+void TestMediaFacts::theRotationIsTheTurnToTheRight()
+{
+    QFETCH(QByteArray, said);
+    QTEST(probe(R"({"codec_type": "video", )" + said + "}").picture()->rotation, "rotation");
+}
+
+void TestMediaFacts::aRateFasterThanCamerasIsNoSteadyOne_data()
+{
+    QTest::addColumn<QByteArray>("nominal");
+    QTest::addColumn<bool>("isSteady");
+    QTest::newRow("fastest") << QByteArray("240/1") << true;
+    QTest::newRow("faster") << QByteArray("241/1") << false;
+}
+
+void TestMediaFacts::aRateFasterThanCamerasIsNoSteadyOne()
+{
+    QFETCH(QByteArray, nominal);
+    QFETCH(bool, isSteady);
+    const MediaFacts facts = probe(R"({"codec_type": "video", "r_frame_rate": ")" + nominal +
+                                   R"(", "avg_frame_rate": "30/1"})");
+    QCOMPARE(facts.picture()->hasSteadyRate, isSteady);
+    QCOMPARE(facts.picture()->frameRate.value(), isSteady ? 240.0 : 30.0);
+}
+
 void TestMediaFacts::aVariableRateIsTheAverage()
 {
     const MediaFacts facts = probe(
@@ -244,6 +285,8 @@ void TestMediaFacts::aClockTellsHoursOnlyWhenThereAreSome_data()
     QTest::newRow("rounded") << 0.98 << QStringLiteral("0:01");
     QTest::newRow("minutes") << 754.0 << QStringLiteral("12:34");
     QTest::newRow("an hour less one") << 3599.0 << QStringLiteral("59:59");
+    QTest::newRow("an hour") << 3600.0 << QStringLiteral("1:00:00");
+    QTest::newRow("rounded up to an hour") << 3599.6 << QStringLiteral("1:00:00");
     QTest::newRow("hours") << 3723.0 << QStringLiteral("1:02:03");
 }
 

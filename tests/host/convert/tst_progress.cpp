@@ -10,7 +10,11 @@ class TestProgress : public QObject
 private Q_SLOTS:
     void aReportIsReadWhole();
     void piecesMayBeCutAnywhere();
+    void aLongLineIsReadAllTheSame();
     void aLineWithoutEndIsForgotten();
+    void aNumberIsReadHoweverItIsWritten_data();
+    void aNumberIsReadHoweverItIsWritten();
+    void aReportThatIsNotCompleteChangesNothing();
     void whatIsNotKnownYetIsZero_data();
     void whatIsNotKnownYetIsZero();
     void thePercentageStaysInBounds_data();
@@ -55,6 +59,43 @@ void TestProgress::piecesMayBeCutAnywhere()
         QCOMPARE(reader.progress().done, 4.0);
         QCOMPARE(reader.progress().speed, 1.25);
     }
+}
+
+void TestProgress::aLongLineIsReadAllTheSame()
+{
+    ProgressReader reader(10);
+    QVERIFY(!reader.feed("out_time_us=4000000" + QByteArray(60000, ' ')));
+    QVERIFY(reader.feed("\nprogress=continue\n"));
+    QCOMPARE(reader.progress().done, 4.0);
+}
+
+void TestProgress::aNumberIsReadHoweverItIsWritten_data()
+{
+    QTest::addColumn<QByteArray>("report");
+    QTest::newRow("with a unit") << QByteArray("out_time_us=4000000\nspeed=12x\nprogress=end\n");
+    QTest::newRow("without one") << QByteArray("out_time_us=4000000\nspeed=12\nprogress=end\n");
+    QTest::newRow("with blanks") << QByteArray(
+        " out_time_us= 4000000 \n speed= 12x \n progress=end \n");
+    QTest::newRow("with carriage returns")
+        << QByteArray("out_time_us=4000000\r\nspeed=12x\r\nprogress=end\r\n");
+}
+
+void TestProgress::aNumberIsReadHoweverItIsWritten()
+{
+    QFETCH(QByteArray, report);
+    ProgressReader reader(10);
+    QVERIFY(reader.feed(report));
+    QCOMPARE(reader.progress().done, 4.0);
+    QCOMPARE(reader.progress().speed, 12.0);
+}
+
+void TestProgress::aReportThatIsNotCompleteChangesNothing()
+{
+    ProgressReader reader(10);
+    QVERIFY(reader.feed("out_time_us=2000000\nspeed=1x\nprogress=continue\n"));
+    QVERIFY(!reader.feed("out_time_us=4000000\nspeed=2x\nprogress"));
+    QCOMPARE(reader.progress().done, 2.0);
+    QCOMPARE(reader.progress().speed, 1.0);
 }
 
 void TestProgress::aLineWithoutEndIsForgotten()

@@ -244,7 +244,9 @@ void TestOutputSettings::whatNoFileCanHaveIsNamed_data()
 void TestOutputSettings::whatNoFileCanHaveIsNamed()
 {
     QFETCH(QVariantMap, map);
-    QTEST(OutputSettings::fromPreset(map).problem(), "problem");
+    const Result<> checked = OutputSettings::fromPreset(map).check();
+    QVERIFY(!checked);
+    QTEST(checked.error().text, "problem");
 }
 
 void TestOutputSettings::whatFilesCanHaveIsNoProblem_data()
@@ -275,7 +277,8 @@ void TestOutputSettings::whatFilesCanHaveIsNoProblem_data()
 void TestOutputSettings::whatFilesCanHaveIsNoProblem()
 {
     QFETCH(QVariantMap, map);
-    QCOMPARE(OutputSettings::fromPreset(map).problem(), QString());
+    const Result<> checked = OutputSettings::fromPreset(map).check();
+    QVERIFY2(checked, qPrintable(checked ? QString() : checked.error().text));
 }
 
 void TestOutputSettings::aCutMustHoldSomething_data()
@@ -306,10 +309,13 @@ void TestOutputSettings::aCutMustHoldSomething()
     OutputSettings settings = OutputSettings::fromPreset(preset());
     settings.start = start;
     settings.end = end;
-    QCOMPARE(settings.problem(), isPossible
-                                     ? QString()
-                                     : QStringLiteral("the part to keep must begin at 0 or later "
-                                                      "and end after that; choose another part"));
+    const Result<> checked = settings.check();
+    QCOMPARE(checked.has_value(), isPossible);
+    if (!isPossible) {
+        QCOMPARE(checked.error().text,
+                 QStringLiteral("the part to keep must begin at 0 or later and end after that; "
+                                "choose another part"));
+    }
 }
 
 void TestOutputSettings::settingsAreTheSameWhenAllValuesAre_data()

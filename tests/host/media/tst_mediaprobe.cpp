@@ -1,6 +1,7 @@
 #include "host/media/mediaprobe.h"
 #include "tests/host/mediaclips.h"
 #include "tests/support/messagelog.h"
+#include "tests/support/patience.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void whatOnlyNamesOtherFilesIsRefused();
     void whatHoldsItsMediaIsRead_data();
     void whatHoldsItsMediaIsRead();
+    void aQuestionThatIsStoppedIsCancelled();
+    void oneProbeReadsSeveralFiles();
     void anAnswerThatNeverComesIsGivenUp();
     void anAnswerWithoutEndIsGivenUp();
 
@@ -35,20 +38,23 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly));
         QCOMPARE(file.write(content), qint64(content.size()));
     }
-    ProbeOutcome probe(const QString &name, const ToolLimits &limits = probeLimits) const
+    Result<MediaFacts> probe(const QString &name, const ToolLimits &limits = probeLimits) const
     {
-        QObject owner;
+        MediaProbe probe;
         QEventLoop loop;
-        ProbeOutcome outcome;
-        probeMedia(
-            path(name), &owner,
-            [&outcome, &loop](const ProbeOutcome &probed) {
-                outcome = probed;
-                loop.quit();
-            },
-            limits);
+        Result<MediaFacts> facts;
+        connect(&probe, &MediaProbe::finished, &loop,
+                [&facts, &loop](const Result<MediaFacts> &probed) {
+                    facts = probed;
+                    loop.quit();
+                });
+        probe.start(path(name), limits);
         loop.exec();
-        return outcome;
+        return facts;
+    }
+    QString errorOf(const Result<MediaFacts> &facts) const
+    {
+        return facts ? QString() : facts.error().text;
     }
 
     QByteArray m_path;
@@ -134,9 +140,7 @@ void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused()
     QFETCH(QByteArray, content);
     QFETCH(QString, error);
     write(name, content);
-    const ProbeOutcome outcome = probe(name);
-    QCOMPARE(outcome.error, error);
-    QVERIFY(outcome.facts.isEmpty());
+    QCOMPARE(errorOf(probe(name)), error);
 }
 
 void TestMediaProbe::whatHoldsItsMediaIsRead_data()
@@ -192,9 +196,40 @@ void TestMediaProbe::whatHoldsItsMediaIsRead()
     if (!MediaClips::make(path(file), arguments)) {
         QSKIP("this ffmpeg can't write it");
     }
-    const ProbeOutcome outcome = probe(file);
-    QCOMPARE(outcome.error, QString());
-    QVERIFY(!outcome.facts.isEmpty());
+    const Result<MediaFacts> facts = probe(file);
+    QCOMPARE(errorOf(facts), QString());
+    QVERIFY(!facts->isEmpty());
+}
+
+void TestMediaProbe::aQuestionThatIsStoppedIsCancelled()
+{
+    MediaProbe probe;
+    std::optional<Result<MediaFacts>> facts;
+    connect(&probe, &MediaProbe::finished, this,
+            [&facts](const Result<MediaFacts> &probed) { facts = probed; });
+    probe.start(path(QStringLiteral("film.mp4")));
+    probe.stop();
+    QVERIFY(!facts);
+    QTRY_VERIFY_WITH_TIMEOUT(facts, patience);
+    QCOMPARE(facts->error().kind, Error::Cancelled);
+}
+
+void TestMediaProbe::oneProbeReadsSeveralFiles()
+{
+    MediaProbe probe;
+    QStringList codecs;
+    connect(&probe, &MediaProbe::finished, this,
+            [this, &codecs, &probe](const Result<MediaFacts> &facts) {
+                codecs << (facts ? facts->videoTracks.constFirst().codec : facts.error().text);
+                if (codecs.size() == 1) {
+                    probe.start(path(QStringLiteral("other1.png")));
+                }
+            });
+    probe.start(path(QStringLiteral("no such film.mp4")));
+    // The next question takes the place of one that is still open.
+    probe.start(path(QStringLiteral("film.mp4")));
+    QTRY_COMPARE_WITH_TIMEOUT(codecs.size(), 2, patience);
+    QCOMPARE(codecs, (QStringList{QStringLiteral("h264"), QStringLiteral("png")}));
 }
 
 void TestMediaProbe::anAnswerThatNeverComesIsGivenUp()
@@ -203,7 +238,7 @@ void TestMediaProbe::anAnswerThatNeverComesIsGivenUp()
     QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("sleep 1000; exit 0"),
                                     QStringLiteral("nothing"), QStringLiteral("ffprobe")));
     qputenv("PATH", MediaClips::pathWith(tools.path()));
-    QCOMPARE(probe(QStringLiteral("film.mp4"), {1000000, 200}).error,
+    QCOMPARE(errorOf(probe(QStringLiteral("film.mp4"), {1000000, 200})),
              QStringLiteral("takes too long to read; check the disk or network that it is on"));
 }
 
@@ -213,7 +248,7 @@ void TestMediaProbe::anAnswerWithoutEndIsGivenUp()
     QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("exec yes"),
                                     QStringLiteral("nothing"), QStringLiteral("ffprobe")));
     qputenv("PATH", MediaClips::pathWith(tools.path()));
-    QCOMPARE(probe(QStringLiteral("film.mp4")).error,
+    QCOMPARE(errorOf(probe(QStringLiteral("film.mp4"))),
              QStringLiteral("describes itself without end; check that it is a complete video or "
                             "audio file"));
 }

@@ -1,0 +1,32 @@
+#ifndef CONVERT_ENCODERCHOICE_H
+#define CONVERT_ENCODERCHOICE_H
+
+#include "host/convert/containers.h"
+#include "host/convert/outputsettings.h"
+#include "host/error.h"
+
+#include <QSet>
+#include <QStringList>
+
+/*! What a stream is written for. */
+struct StreamTarget
+{
+    const OutputSettings &settings;
+    const Container &container;
+    const QSet<QString> &encoders; //!< those that ffmpeg has
+
+    /*! Not where the start is cut off: a copied stream can begin only at a key frame. */
+    [[nodiscard]] bool allowsCopies() const { return settings.start <= 0; }
+};
+
+/*! The name of the codec that the preset has \a chosen, else the source's \a own where \a held has
+ *  it and ffmpeg one of \a ownEncoders, else the usual one. */
+[[nodiscard]] QString codecToWrite(const QString &chosen, const QString &own,
+                                   const QStringList &ownEncoders, const QStringList &held,
+                                   const StreamTarget &target);
+
+/*! The first encoder of \a names that ffmpeg has, with which it writes \a codec. */
+[[nodiscard]] Result<QString> availableEncoder(const QStringList &names, const QString &codec,
+                                               const StreamTarget &target);
+
+#endif

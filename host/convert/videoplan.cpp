@@ -1,0 +1,157 @@
+#include "host/convert/videoplan.h"
+
+#include "host/convert/codecs.h"
+#include "host/convert/nearest.h"
+#include "host/convert/picturefit.h"
+
+namespace {
+
+/*! The size that the preset's box asks for; empty where the picture may stay as it is. */
+QSize boxedSize(const VideoTrack &track, const QSize &box)
+{
+    const QSize shown = track.displaySize();
+    if (box.isEmpty() || shown.isEmpty()) {
+        return {};
+    }
+    const QSize fitted = fitIntoBox(shown, box);
+    const bool isSquare = track.pixelAspect == Ratio{1, 1};
+    return fitted == shown && isSquare ? QSize() : fitted;
+}
+
+Ratio wantedRate(const VideoTrack &track, const OutputSettings &settings)
+{
+    return settings.frameRate.isValid() ? settings.frameRate : track.frameRate;
+}
+
+/*! The rate to encode with; one that isn't valid is left to ffmpeg. */
+Ratio encodedRate(const VideoTrack &track, const VideoCodec &codec, const OutputSettings &settings)
+{
+    // Without a rate of its own ffmpeg would repeat frames to fill the clock of the time stamps.
+    static const QVector<Ratio> usual = {
+        {10, 1},       {12, 1}, {15, 1}, {20, 1}, {24000, 1001}, {24, 1}, {25, 1},
+        {30000, 1001}, {30, 1}, {48, 1}, {50, 1}, {60000, 1001}, {60, 1}, {120, 1}};
+    const Ratio wanted = wantedRate(track, settings);
+    if (!wanted.isValid()) {
+        return wanted;
+    }
+    const bool isAverage = !settings.frameRate.isValid() && !track.hasSteadyRate;
+    return nearestAllowed(isAverage ? nearestAllowed(wanted, usual) : wanted, codec.frameRates);
+}
+
+bool canBeCopied(const VideoTrack &track, const StreamTarget &target)
+{
+    const OutputSettings &settings = target.settings;
+    const bool turnIsKept = track.rotation == 0 || target.container.keepsRotation;
+    return target.allowsCopies() && settings.videoCodec.isEmpty() &&
+           target.container.videoCodecs.contains(track.codec) && settings.videoKbps == 0 &&
+           wantedRate(track, settings) == track.frameRate &&
+           boxedSize(track, settings.box).isEmpty() && turnIsKept;
+}
+
+QString scaleTo(const QSize &size)
+{
+    return QStringLiteral("scale=%1:%2").arg(size.width()).arg(size.height());
+}
+
+/*! The size as ffmpeg decodes the picture: turned, its pixels as they are. */
+QSize uprightSize(const VideoTrack &track)
+{
+    return track.rotation % 180 == 0 ? track.storedSize : track.storedSize.transposed();
+}
+
+/*! Puts the picture in the middle of the frame, of those that the codec has, that fits it best. */
+void fillFrame(VideoPlan &plan, const VideoTrack &track, const QVector<VideoCodec::Frame> &frames)
+{
+    const FrameFit fit = fitIntoFrame(track.displaySize(), plan.frameRate, frames);
+    plan.filters << scaleTo(fit.picture)
+                 << QStringLiteral("pad=%1:%2:(ow-iw)/2:(oh-ih)/2")
+                        .arg(fit.frame.size.width())
+                        .arg(fit.frame.size.height())
+                 << QStringLiteral("setsar=%1").arg(fit.frame.pixelAspect.toText());
+    plan.frameRate = fit.frame.frameRate;
+    plan.pixelFormat = fit.frame.pixelFormat;
+}
+
+void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &codec,
+                 const OutputSettings &settings)
+{
+    plan.pixelFormat = codec.pixelFormat;
+    plan.frameRate = encodedRate(track, codec, settings);
+    const QSize boxed = boxedSize(track, settings.box);
+    const QSize upright = uprightSize(track);
+    if (!codec.frames.isEmpty() && !upright.isEmpty()) {
+        fillFrame(plan, track, codec.frames);
+    } else if (!boxed.isEmpty()) {
+        plan.filters << scaleTo(boxed) << QStringLiteral("setsar=1");
+    } else if (!plan.pixelFormat.isEmpty() && !upright.isEmpty() && evenSize(upright) != upright) {
+        plan.filters << scaleTo(evenSize(upright));
+    }
+    if (!codec.lastFilter.isEmpty()) {
+        plan.filters << codec.lastFilter;
+    }
+    if (plan.frameRate == track.frameRate && track.hasSteadyRate) {
+        plan.frameRate = {};
+    }
+}
+
+void planQuality(VideoPlan &plan, const VideoCodec &codec, double kbps)
+{
+    plan.kbps = codec.takesBitrate ? kbps : 0;
+    for (const VideoCodec::Encoder &encoder : codec.encoders) {
+        if (encoder.name == plan.encoder) {
+            plan.options = encoder.options;
+            if (plan.kbps == 0) {
+                plan.options += encoder.quality;
+            }
+        }
+    }
+}
+
+} // namespace
+
+Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &target)
+{
+    const OutputSettings &settings = target.settings;
+    const bool isCopied = canBeCopied(track, target);
+    const VideoCodec codec =
+        videoCodec(isCopied ? track.codec
+                            : codecToWrite(settings.videoCodec, track.codec,
+                                           videoCodec(track.codec).encoderNames(),
+                                           target.container.videoCodecs, target));
+    VideoPlan plan{QStringLiteral("copy")};
+    if (!isCopied) {
+        const Result<QString> encoder = availableEncoder(codec.encoderNames(), codec.name, target);
+        if (!encoder) {
+            return tl::make_unexpected(encoder.error());
+        }
+        plan.encoder = *encoder;
+        planPicture(plan, track, codec, settings);
+        planQuality(plan, codec, settings.videoKbps);
+    }
+    if (codec.name == QLatin1String("hevc") && target.container.tagsHevcAsHvc1) {
+        plan.tag = QStringLiteral("hvc1");
+    }
+    return plan;
+}
+
+QStringList VideoPlan::arguments() const
+{
+    ToolOptions all = {{QStringLiteral("c"), encoder}};
+    if (!filters.isEmpty()) {
+        all.append({QStringLiteral("filter"), filters.join(QLatin1Char(','))});
+    }
+    if (frameRate.isValid()) {
+        all.append({QStringLiteral("r"), frameRate.toText()});
+    }
+    if (!pixelFormat.isEmpty()) {
+        all.append({QStringLiteral("pix_fmt"), pixelFormat});
+    }
+    all += options;
+    if (kbps > 0) {
+        all.append({QStringLiteral("b"), kbpsText(kbps)});
+    }
+    if (!tag.isEmpty()) {
+        all.append({QStringLiteral("tag"), tag});
+    }
+    return toArguments(all, QStringLiteral("v:0"));
+}

@@ -1,0 +1,27 @@
+#ifndef CONVERT_VIDEOPLAN_H
+#define CONVERT_VIDEOPLAN_H
+
+#include "host/convert/encoderchoice.h"
+#include "host/convert/tooloptions.h"
+#include "host/media/mediafacts.h"
+
+/*! How ffmpeg is to write the picture of a file. */
+struct VideoPlan
+{
+    QString encoder; //!< "copy" takes the stream over as it is
+    QStringList filters = {};
+    Ratio frameRate = {};     //!< not valid: as the frames come
+    QString pixelFormat = {}; //!< empty: the encoder's choice
+    ToolOptions options = {}; //!< the encoder's
+    double kbps = 0;          //!< 0: as good as the options say
+    QString tag = {};         //!< of the codec in the file; empty: the usual one
+
+    /*! The plan for \a track. Depends on nothing but its arguments. */
+    [[nodiscard]] static Result<VideoPlan> make(const VideoTrack &track,
+                                                const StreamTarget &target);
+
+    /*! The arguments of ffmpeg for its first video stream. */
+    [[nodiscard]] QStringList arguments() const;
+};
+
+#endif

@@ -1,0 +1,95 @@
+#include "host/tools/encoderlist.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QHash>
+#include <QStandardPaths>
+
+namespace {
+
+/*! The lists by the file of their ffmpeg; see identityOf(). */
+QHash<QString, QSet<QString>> &knownLists()
+{
+    static QHash<QString, QSet<QString>> lists;
+    return lists;
+}
+
+/*! Another text for each other file, also for one that takes its place; empty without a file. */
+QString identityOf(const QString &program)
+{
+    const QFileInfo file(QStandardPaths::findExecutable(program));
+    return file.exists() ? QStringLiteral("%1 %2 %3")
+                               .arg(file.lastModified().toMSecsSinceEpoch())
+                               .arg(file.size())
+                               .arg(file.canonicalFilePath())
+                         : QString();
+}
+
+/*! Far more than any ffmpeg needs to print a list. */
+constexpr ToolLimits listingLimits{1024 * 1024, 60000};
+
+} // namespace
+
+EncoderList::EncoderList(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_tool, &Tool::finished, this, &EncoderList::take);
+    m_answer.setSingleShot(true);
+    connect(&m_answer, &QTimer::timeout, this, [this] {
+        if (m_isStopped) {
+            Q_EMIT finished(failed({}, Error::Cancelled));
+        } else {
+            Q_EMIT finished(knownLists().value(m_program));
+        }
+    });
+}
+
+void EncoderList::start()
+{
+    const ToolCall call = ffmpegCall({QStringLiteral("-encoders")});
+    m_isStopped = false;
+    m_program = identityOf(call.program);
+    if (knownLists().contains(m_program)) {
+        m_answer.start(0);
+    } else {
+        m_tool.start(call, listingLimits);
+    }
+}
+
+void EncoderList::stop()
+{
+    m_isStopped = true;
+    m_tool.stop();
+}
+
+void EncoderList::take(const Result<ToolRun> &run)
+{
+    if (!run) {
+        Q_EMIT finished(tl::make_unexpected(run.error()));
+        return;
+    }
+    const QSet<QString> encoders = encodersInListing(run->output);
+    if (!run->exitedCleanly || encoders.isEmpty()) {
+        Q_EMIT finished(failed(tr("%1 doesn't tell its encoders (%2); check that \"%1 -encoders\" "
+                                  "lists them, or install another ffmpeg")
+                                   .arg(run->program, run->firstError())));
+        return;
+    }
+    knownLists().insert(m_program, encoders);
+    Q_EMIT finished(encoders);
+}
+
+QSet<QString> encodersInListing(const QByteArray &listing)
+{
+    QSet<QString> encoders;
+    bool inTable = false;
+    const QStringList lines = QString::fromLatin1(listing).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (inTable && words.size() > 1) {
+            encoders.insert(words.at(1));
+        }
+        inTable = inTable || line.trimmed() == QLatin1String("------");
+    }
+    return encoders;
+}

@@ -1,0 +1,41 @@
+#ifndef TOOLS_ENCODERLIST_H
+#define TOOLS_ENCODERLIST_H
+
+#include "host/tools/tool.h"
+
+#include <QSet>
+
+/*!
+ * Asks which encoders the ffmpeg on the PATH has. Each ffmpeg is asked until it has answered once:
+ * the answer is kept as long as this process runs and the program stays the same file.
+ */
+class EncoderList : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(EncoderList)
+
+public:
+    explicit EncoderList(QObject *parent = nullptr);
+
+    /*! finished() follows from the event loop, once. */
+    void start();
+    /*! Gives the question up; finished() follows with Error::Cancelled. */
+    void stop();
+
+Q_SIGNALS:
+    /*! The names of the encoders, as ffmpeg takes them for -c. */
+    void finished(const Result<QSet<QString>> &encoders);
+
+private:
+    void take(const Result<ToolRun> &run);
+
+    Tool m_tool;
+    QTimer m_answer; // tells what is known already from the event loop
+    QString m_program;
+    bool m_isStopped = false;
+};
+
+/*! The encoders' names in the list that ffmpeg prints for -encoders. */
+[[nodiscard]] QSet<QString> encodersInListing(const QByteArray &listing);
+
+#endif

@@ -1,0 +1,101 @@
+#include "tests/host/convert/plannedcommand.h"
+
+using namespace PlannedCommand;
+
+class TestAudioPlan : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theSoundIsAsAskedAndAsItsCodecAllows_data();
+    void theSoundIsAsAskedAndAsItsCodecAllows() { compareWithRow(); }
+};
+
+void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
+{
+    addColumns();
+    const MediaFacts dubbed = facts(film(), [](MediaFacts &f) {
+        f.audioTracks = {sound(QStringLiteral("aac"), 1),
+                         sound(QStringLiteral("opus"), 2, 48000, 6),
+                         sound(QStringLiteral("mp3"), 3, 22050, 1)};
+        f.audioTracks[1].isDefault = true;
+    });
+    const std::function<void(OutputSettings &)> allTracks = [](OutputSettings &s) {
+        s.audioCodec = QStringLiteral("ac3");
+        s.allAudioTracks = true;
+    };
+    row("one track: the default one", video("mp4"), dubbed,
+        "-map 0:0 -map 0:2 -c:v:0 copy -c:a:0 copy -movflags +faststart -f mp4");
+    row("all tracks, each with its own settings", with(video("mp4"), allTracks), dubbed,
+        "-map 0:0 -map 0:1 -map 0:2 -map 0:3 -c:v:0 copy -c:a:0 ac3 -b:a:0 192k "
+        "-c:a:1 ac3 -b:a:1 576k -c:a:2 ac3 -ar:a:2 32000 -b:a:2 96k -movflags +faststart -f mp4");
+    row("all tracks where the file holds one", with(video("flv"), allTracks), dubbed,
+        "-map 0:0 -map 0:2 -c:v:0 copy -c:a:0 ac3 -b:a:0 576k -f flv");
+    row("a film without sound", video("mp4"),
+        facts(film(), [](MediaFacts &f) { f.audioTracks.clear(); }),
+        "-map 0:0 -c:v:0 copy -movflags +faststart -f mp4");
+    row("the sound of a film", audio("mp3", "mp3"), film(),
+        "-map 0:1 -c:a:0 libmp3lame -q:a:0 2 -f mp3");
+    row("only as many channels as the codec has", audio("mp3", "mp3"),
+        song(QStringLiteral("flac"), 96000, 6),
+        "-map 0:0 -c:a:0 libmp3lame -ar:a:0 48000 -ac:a:0 2 -q:a:0 2 -f mp3");
+    row("as asked",
+        with(audio("m4a", "aac"),
+             [](OutputSettings &s) {
+                 s.sampleRate = 22050;
+                 s.channels = 1;
+                 s.audioKbps = 64;
+             }),
+        song(QStringLiteral("flac")),
+        "-map 0:0 -c:a:0 aac -ar:a:0 22050 -ac:a:0 1 -b:a:0 64k -movflags +faststart -f ipod");
+    row("kept sound", audio("m4a"), song(QStringLiteral("alac")),
+        "-map 0:0 -c:a:0 copy -movflags +faststart -f ipod");
+    row("kept codec, other rate of samples",
+        with(audio("flac"), [](OutputSettings &s) { s.sampleRate = 44100; }),
+        song(QStringLiteral("flac"), 96000), "-map 0:0 -c:a:0 flac -ar:a:0 44100 -f flac");
+    row("copied sound of a codec that isn't written", audio("mka"), song(QStringLiteral("truehd")),
+        "-map 0:0 -c:a:0 copy -f matroska");
+    row("another codec than one that isn't written",
+        with(audio("mka"), [](OutputSettings &s) { s.channels = 1; }),
+        song(QStringLiteral("truehd")), "-map 0:0 -c:a:0 aac -ac:a:0 1 -b:a:0 96k -f matroska");
+    row("the nearest rate that the codec has", audio("opus", "opus"), song(QStringLiteral("mp3")),
+        "-map 0:0 -c:a:0 libopus -ar:a:0 48000 -b:a:0 128k -f opus");
+    row("the container's only rate", video("mxf", "mpeg2video", "pcm_s16le"),
+        facts(film(), [](MediaFacts &f) { f.audioTracks[0].sampleRate = 44100; }),
+        "-map 0:0 -map 0:1 -c:v:0 mpeg2video -pix_fmt:v:0 yuv420p -q:v:0 4 -c:a:0 pcm_s16le "
+        "-ar:a:0 48000 -f mxf");
+    row("the container's only number of channels", video("dv"),
+        facts(film(), [](MediaFacts &f) { f.audioTracks[0].channels = 1; }),
+        "-map 0:0 -map 0:1 -c:v:0 dvvideo -filter:v:0 "
+        "scale=720:576,pad=720:576:(ow-iw)/2:(oh-ih)/2,setsar=64/45 -pix_fmt:v:0 yuv420p "
+        "-c:a:0 pcm_s16le -ac:a:0 2 -filter:a:0 apad,asetpts=PTS-0.04/TB -shortest -f dv");
+    row("more bits than the encoder starts with",
+        with(audio("ogg", "vorbis"), [](OutputSettings &s) { s.audioKbps = 320; }),
+        song(QStringLiteral("mp3"), 22050, 1), "-map 0:0 -c:a:0 libvorbis -b:a:0 85k -f ogg");
+    row("fewer bits than the encoder starts with",
+        with(audio("ogg", "vorbis"), [](OutputSettings &s) { s.audioKbps = 16; }),
+        song(QStringLiteral("mp3")), "-map 0:0 -c:a:0 libvorbis -b:a:0 67k -f ogg");
+    row("sound that isn't stereo needs more",
+        with(audio("ogg", "vorbis"), [](OutputSettings &s) { s.audioKbps = 16; }),
+        song(QStringLiteral("mp3"), 44100, 1), "-map 0:0 -c:a:0 libvorbis -b:a:0 49k -f ogg");
+    row("lossless knows no bitrate",
+        with(audio("wav", "pcm_s24le"), [](OutputSettings &s) { s.audioKbps = 320; }),
+        song(QStringLiteral("mp3")), "-map 0:0 -c:a:0 pcm_s24le -f wav");
+    row("channels without a layout get the usual one", audio("m4a", "aac"),
+        facts(song(QStringLiteral("tta")),
+              [](MediaFacts &f) { f.audioTracks[0].hasLayout = false; }),
+        "-map 0:0 -c:a:0 aac -ac:a:0 2 -b:a:0 192k -movflags +faststart -f ipod");
+    row("unknown rate and channels are left to ffmpeg", audio("m4a", "aac"),
+        song(QStringLiteral("mp3"), 0, 0), "-map 0:0 -c:a:0 aac -movflags +faststart -f ipod");
+
+    row("of two rates as near the higher one",
+        with(audio("m4a", "aac"), [](OutputSettings &s) { s.sampleRate = 28000; }),
+        song(QStringLiteral("flac")),
+        "-map 0:0 -c:a:0 aac -ar:a:0 32000 -b:a:0 192k -movflags +faststart -f ipod");
+    row("of two bitrates as near the higher one",
+        with(audio("mp3", "mp3"), [](OutputSettings &s) { s.audioKbps = 36; }),
+        song(QStringLiteral("flac")), "-map 0:0 -c:a:0 libmp3lame -b:a:0 40k -f mp3");
+}
+
+QTEST_GUILESS_MAIN(TestAudioPlan)
+#include "tst_audioplan.moc"

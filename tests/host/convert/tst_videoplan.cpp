@@ -1,0 +1,141 @@
+#include "tests/host/convert/plannedcommand.h"
+
+using namespace PlannedCommand;
+
+class TestVideoPlan : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void thePictureHasTheAskedSize_data();
+    void thePictureHasTheAskedSize() { compareWithRow(); }
+    void thePictureHasARateOfItsCodec_data();
+    void thePictureHasARateOfItsCodec() { compareWithRow(); }
+    void theEncoderGetsItsOptions_data();
+    void theEncoderGetsItsOptions() { compareWithRow(); }
+};
+
+void TestVideoPlan::thePictureHasTheAskedSize_data()
+{
+    addColumns();
+    const MediaFacts turned = facts(film(), [](MediaFacts &f) { f.videoTracks[0].rotation = 90; });
+    row("portrait by its turn",
+        with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(1280, 720); }), turned,
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -filter:v:0 scale=720:1280,setsar=1 "
+        "-pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart "
+        "-f mp4");
+    row("wide pixels become square in a box",
+        with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(1920, 1080); }),
+        facts(film(),
+              [](MediaFacts &f) {
+                  f.videoTracks[0].storedSize = QSize(720, 576);
+                  f.videoTracks[0].pixelAspect = {64, 45};
+              }),
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -filter:v:0 scale=1024:576,setsar=1 "
+        "-pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart "
+        "-f mp4");
+    const MediaFacts odd =
+        facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(321, 241); });
+    row("an odd size is made even", video("mp4", "h264"), odd,
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -filter:v:0 scale=320:240 -pix_fmt:v:0 yuv420p "
+        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart -f mp4");
+    row("an odd size stays where it may", video("gif"), odd,
+        "-map 0:0 -c:v:0 gif -filter:v:0 split[picture][sample];[sample]palettegen[palette];"
+        "[picture][palette]paletteuse -f gif");
+    row("an unknown size is left alone",
+        with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(640, 360); }),
+        facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(); }),
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 "
+        "-c:a:0 copy -movflags +faststart -f mp4");
+    row("a fixed frame keeps the picture's shape", video("dv"),
+        facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(1920, 800); }),
+        "-map 0:0 -map 0:1 -c:v:0 dvvideo -filter:v:0 "
+        "scale=720:426,pad=720:576:(ow-iw)/2:(oh-ih)/2,setsar=64/45 -pix_fmt:v:0 yuv420p "
+        "-c:a:0 pcm_s16le -filter:a:0 apad,asetpts=PTS-0.04/TB -shortest -f dv");
+
+    row("an odd size is made even as it is shown", video("mkv", "h264"),
+        facts(odd,
+              [](MediaFacts &f) {
+                  f.videoTracks[0].storedSize = QSize(320, 241);
+                  f.videoTracks[0].rotation = 90;
+              }),
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -filter:v:0 scale=240:320 -pix_fmt:v:0 yuv420p "
+        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -f matroska");
+}
+
+void TestVideoPlan::thePictureHasARateOfItsCodec_data()
+{
+    addColumns();
+    row("the nearest rate that the codec has", video("mpg"),
+        facts(film(),
+              [](MediaFacts &f) {
+                  f.videoTracks[0].frameRate = {15, 1};
+              }),
+        "-map 0:0 -map 0:1 -c:v:0 mpeg2video -r:v:0 24000/1001 -pix_fmt:v:0 yuv420p -q:v:0 4 "
+        "-c:a:0 mp2 -b:a:0 256k -f mpeg");
+    row("an asked rate that the codec lacks",
+        with(video("mpg"),
+             [](OutputSettings &s) {
+                 s.frameRate = {48, 1};
+             }),
+        film(),
+        "-map 0:0 -map 0:1 -c:v:0 mpeg2video -r:v:0 50 -pix_fmt:v:0 yuv420p -q:v:0 4 "
+        "-c:a:0 mp2 -b:a:0 256k -f mpeg");
+    row("an average becomes a usual rate", video("avi", "mpeg4"),
+        facts(film(),
+              [](MediaFacts &f) {
+                  f.videoTracks[0].frameRate = {359640, 11999};
+                  f.videoTracks[0].hasSteadyRate = false;
+              }),
+        "-map 0:0 -map 0:1 -c:v:0 mpeg4 -r:v:0 30000/1001 -pix_fmt:v:0 yuv420p -q:v:0 4 "
+        "-c:a:0 copy -f avi");
+    row("an unknown rate is left to ffmpeg", video("mpg", "mpeg2video"),
+        facts(film(),
+              [](MediaFacts &f) {
+                  f.videoTracks[0].frameRate = Ratio();
+                  f.videoTracks[0].hasSteadyRate = false;
+                  f.audioTracks.clear();
+              }),
+        "-map 0:0 -c:v:0 mpeg2video -pix_fmt:v:0 yuv420p -q:v:0 4 -f mpeg");
+
+    row("of two rates as near the higher one", video("gif"),
+        facts(film(),
+              [](MediaFacts &f) {
+                  f.videoTracks[0].frameRate = {27, 2};
+              }),
+        "-map 0:0 -c:v:0 gif -filter:v:0 split[picture][sample];[sample]palettegen[palette];"
+        "[picture][palette]paletteuse -r:v:0 15 -f gif");
+}
+
+void TestVideoPlan::theEncoderGetsItsOptions_data()
+{
+    addColumns();
+    row("hevc", video("mp4", "hevc", "aac"), film(),
+        "-map 0:0 -map 0:1 -c:v:0 libx265 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "
+        "-x265-params:v:0 log-level=error -crf:v:0 23 -tag:v:0 hvc1 -c:a:0 aac -b:a:0 192k "
+        "-movflags +faststart -f mp4");
+    row("hevc outside of mp4 has no tag", video("mkv", "hevc"), film(),
+        "-map 0:0 -map 0:1 -c:v:0 libx265 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "
+        "-x265-params:v:0 log-level=error -crf:v:0 23 -c:a:0 copy -f matroska");
+    row("prores knows no bitrate",
+        with(video("mov", "prores", "pcm_s16le"),
+             [](OutputSettings &s) {
+                 s.videoKbps = 8000;
+                 s.audioKbps = 192;
+             }),
+        film(),
+        "-map 0:0 -map 0:1 -c:v:0 prores -pix_fmt:v:0 yuv422p10le -c:a:0 pcm_s16le "
+        "-movflags +faststart -f mov");
+    row("a bitrate replaces the quality",
+        with(video("wmv", "wmv2", "wmav2"),
+             [](OutputSettings &s) {
+                 s.videoKbps = 2000;
+                 s.audioKbps = 100;
+             }),
+        film(),
+        "-map 0:0 -map 0:1 -c:v:0 wmv2 -pix_fmt:v:0 yuv420p -b:v:0 2000k -c:a:0 wmav2 "
+        "-b:a:0 96k -f asf");
+}
+
+QTEST_GUILESS_MAIN(TestVideoPlan)
+#include "tst_videoplan.moc"
