@@ -1,9 +1,10 @@
 #ifndef UTILITY_CATALOGUEREADER_H
 #define UTILITY_CATALOGUEREADER_H
 
+#include "utility/cataloguesource.h"
+#include "utility/settingsreader.h"
 #include "utilityglobal.h"
 
-#include <QByteArray>
 #include <QHash>
 #include <QPair>
 #include <QString>
@@ -18,38 +19,9 @@ struct ExportCatalogue
     QHash<QPair<QString, QString>, QVariantList> presets; //!< by category and group name
 };
 
-/*! One catalogue file. */
-struct CatalogueSource
-{
-    QString name; //!< as mistakes show it
-    QByteArray json;
-    QString unreadable = {}; //!< why there are no bytes
-};
-
-/*! Where something stands in the catalogue's files. */
-struct CataloguePlace
-{
-    QString source;
-    QString path;          //!< "groups[0].presets[2].id"; empty: the whole file
-    QString position = {}; //!< "line:column", counted from 1, of what is no JSON; else empty
-};
-
-struct CatalogueMistake
-{
-    CataloguePlace place;
-    QString reason;
-    bool isServed = false; //!< served as it is; else left out, with what it stands in
-
-    /*! One line: the source's name, the place in it and the reason. */
-    [[nodiscard]] VEX_UTILITY_EXPORT QString text() const;
-};
-
-/*! By key, "id" or "videoParam.encoder": where a preset's value stands, inherited or not. */
-using PresetPlaces = QHash<QString, CataloguePlace>;
-
 struct CatalogueResult
 {
-    ExportCatalogue catalogue;          //!< what is sound
+    ExportCatalogue catalogue;          //!< what is right
     QVector<CatalogueMistake> mistakes; //!< in the order of the files
 
     QHash<QPair<QString, QString>, CataloguePlace> groupPlaces; //!< by category and group name

@@ -1,0 +1,162 @@
+#include "utility/cataloguesettings.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QString keepsSource = QStringLiteral("0");
+
+/*! A regular expression of the whole numbers from 1 to \a most: of those that are shorter, those
+ *  that fall below in one digit, and the number itself. */
+QString numbersUpTo(int most)
+{
+    const QString digits = QString::number(most);
+    QStringList forms{QStringLiteral("[1-9][0-9]{0,%1}").arg(digits.size() - 2)};
+    for (int i = 0; i < digits.size(); ++i) {
+        const int least = i == 0 ? 1 : 0;
+        const int below = digits.at(i).digitValue() - 1;
+        if (below >= least) {
+            forms << QStringLiteral("%1[%2-%3][0-9]{%4}")
+                         .arg(digits.left(i))
+                         .arg(least)
+                         .arg(below)
+                         .arg(digits.size() - 1 - i);
+        }
+    }
+    return QStringLiteral("(%1|%2)").arg(forms.join(QLatin1Char('|')), digits);
+}
+
+QString joined(QLatin1String block, QLatin1String key)
+{
+    return block + QLatin1Char('.') + key;
+}
+
+} // namespace
+
+const std::array<CatalogueText, 3> &CatalogueText::all()
+{
+    static const std::array<CatalogueText, 3> texts{{
+        {QLatin1String("id"), QLatin1String("[A-Za-z]+_[A-Z0-9]+_[0-9]{3}"), false},
+        {QLatin1String("extension"), QLatin1String("[a-z0-9]+"), true},
+        {QLatin1String("title"), QLatin1String(), true},
+    }};
+    return texts;
+}
+
+// The bounds are those of the converter, which refuses a preset beyond them.
+const std::array<CatalogueSetting, CatalogueSetting::Count> &CatalogueSetting::all()
+{
+    using namespace CatalogueBlock;
+    static const std::array<CatalogueSetting, Count> settings{{
+        {VideoEncoder, videoParam, QLatin1String("encoder"), videoOptions,
+         QLatin1String("encoderList"), CodecName,
+         QLatin1String("ffmpeg's name of the codec, or \"0\" for the source's")},
+        {Resolution, videoParam, QLatin1String("resolution"), videoOptions,
+         QLatin1String("resolutionList"), Size,
+         QLatin1String("The box that the picture is fitted into, in pixels, or \"0\" for the "
+                       "source's size"),
+         1, 16384},
+        {FrameRate, videoParam, QLatin1String("frameRate"), videoOptions,
+         QLatin1String("frameRateList"), Number,
+         QLatin1String("Frames per second, or 0 for the source's"), 1, 300},
+        {VideoBitrate, videoParam, QLatin1String("bitrateKbps"), videoOptions,
+         QLatin1String("bitrateKbpsList"), WholeNumber,
+         QLatin1String("kbps, or 0 for the encoder's own good quality"), 1, 1000000},
+        {VideoLevels, videoParam, QLatin1String(), videoOptions, QLatin1String("levelList"),
+         WholeNumber, QLatin1String("The high, the middle and the low bitrate in kbps"), 1, 1000000,
+         3},
+        {AudioEncoder, audioParam, QLatin1String("encoder"), audioOptions,
+         QLatin1String("encoderList"), CodecName,
+         QLatin1String("ffmpeg's name of the codec, or \"0\" for the source's")},
+        {Channels, audioParam, QLatin1String("channel"), audioOptions, QLatin1String("channelList"),
+         WholeNumber, QLatin1String("The number of channels, or 0 for the source's"), 1, 64},
+        {SampleRate, audioParam, QLatin1String("sampleRate"), audioOptions,
+         QLatin1String("sampleRateList"), WholeNumber,
+         QLatin1String("Hz, or 0 for the source's sample rate"), 1000, 768000},
+        {AudioBitrate, audioParam, QLatin1String("bitrateKbps"), audioOptions,
+         QLatin1String("bitrateKbpsList"), WholeNumber,
+         QLatin1String("kbps, or 0 for the encoder's own good quality"), 1, 100000},
+    }};
+    return settings;
+}
+
+const CatalogueSetting &CatalogueSetting::of(Id id)
+{
+    return all().at(id);
+}
+
+const CatalogueSetting *CatalogueSetting::find(QLatin1String block, const QString &key)
+{
+    const auto row = std::find_if(all().begin(), all().end(), [&](const CatalogueSetting &setting) {
+        const QLatin1String own = setting.keyIn(block);
+        return !own.isEmpty() && own == key;
+    });
+    return row == all().end() ? nullptr : &*row;
+}
+
+QLatin1String CatalogueSetting::keyIn(QLatin1String block) const
+{
+    return block == param ? key : block == options ? listKey : QLatin1String();
+}
+
+QString CatalogueSetting::paramPath() const
+{
+    return joined(param, key);
+}
+
+QString CatalogueSetting::optionsPath() const
+{
+    return joined(options, listKey);
+}
+
+QJsonValue::Type CatalogueSetting::type() const
+{
+    return form == CodecName || form == Size ? QJsonValue::String : QJsonValue::Double;
+}
+
+QString CatalogueSetting::pattern() const
+{
+    switch (form) {
+    case CodecName:
+        return QStringLiteral("0|[a-z][a-z0-9_]*");
+    case Size:
+        return QStringLiteral("0|%1x%1").arg(numbersUpTo(most));
+    case Number:
+    case WholeNumber:
+        break;
+    }
+    return {};
+}
+
+bool CatalogueSetting::accepts(const QString &value) const
+{
+    if (value == keepsSource) {
+        return true;
+    }
+    if (type() == QJsonValue::String) {
+        const QRegularExpression whole(QRegularExpression::anchoredPattern(pattern()));
+        return whole.match(value).hasMatch();
+    }
+    const double number = value.toDouble();
+    const bool isWhole = number == std::floor(number);
+    return number >= least && number <= most && (isWhole || form == Number);
+}
+
+QString CatalogueSetting::acceptedText() const
+{
+    switch (form) {
+    case CodecName:
+        return QStringLiteral("\"0\" or ffmpeg's name of a codec, like \"h264\"");
+    case Size:
+        return QStringLiteral("\"0\" or a size like \"1920x1080\", up to \"%1x%1\"").arg(most);
+    case Number:
+        return QStringLiteral("0 or a number from %1 to %2").arg(least).arg(most);
+    case WholeNumber:
+        break;
+    }
+    return QStringLiteral("0 or a whole number from %1 to %2").arg(least).arg(most);
+}
