@@ -1,4 +1,6 @@
 #include "host/check/cataloguelint.h"
+#include "host/convert/outputsettings.h"
+#include "utility/cataloguesettings.h"
 
 #include <QtTest>
 
@@ -62,15 +64,17 @@ QByteArray changed(const QList<QByteArray> &exchanges)
 
 } // namespace
 
-/*! Everything that a catalogue can say and that can't be had is named with its place. */
+/*! What is wrong with presets that can be served is named with its place. */
 class TestCatalogueLint : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void aRightCatalogueHasNoMistake();
-    void whatCannotBeHadIsNamed_data();
-    void whatCannotBeHadIsNamed();
+    void whatIsWrongIsNamed_data();
+    void whatIsWrongIsNamed();
+    void offeredValuesHaveTheBoundsOfTheConverter_data();
+    void offeredValuesHaveTheBoundsOfTheConverter();
     void thePresetIsNamedWhereItsOwnValueClashes();
     void onlyAContainerWithoutSoundDoesWithoutSettings();
     void aCategoryIsATag();
@@ -84,7 +88,7 @@ void TestCatalogueLint::aRightCatalogueHasNoMistake()
     QCOMPARE(mistakesIn({right}), QStringList());
 }
 
-void TestCatalogueLint::whatCannotBeHadIsNamed_data()
+void TestCatalogueLint::whatIsWrongIsNamed_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("mistake");
@@ -136,26 +140,39 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
         "audioOptions.bitrateKbpsList offers");
 
     row("a size that is none", {R"(["0", "1280x720"])", R"(["0", "1280x720", "720p"])"},
-        "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", "
-        "not 720p");
+        "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", up "
+        "to \"16384x16384\", not 720p");
     row("an id with a line break", {R"("Video_MPEG2_001")", R"("Video_MPEG2_001\n")"},
         "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
     row("a size with a line break", {R"(["0", "1280x720"])", R"(["0", "1280x720", "640x360\n"])"},
-        "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", "
-        "not 640x360 ");
+        "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", up "
+        "to \"16384x16384\", not 640x360 ");
     row("too many frames", {"[0, 25, 30]", "[0, 301]"},
-        "lists.rates[1]: must be 0 or frames a second from 1 to 300, not 301");
+        "lists.rates[1]: must be 0 or a number from 1 to 300, not 301");
     row("too few frames", {"[0, 25, 30]", "[0, 0.5]"},
-        "lists.rates[1]: must be 0 or frames a second from 1 to 300, not 0.5");
+        "lists.rates[1]: must be 0 or a number from 1 to 300, not 0.5");
     row("negative channels", {"[0, 1, 2]", "[-1, 0, 1, 2]"},
-        "groups[0].audioOptions.channelList[0]: must be a whole number from 0 to 9999999, not -1");
+        "groups[0].audioOptions.channelList[0]: must be 0 or a whole number from 1 to 64, not -1");
     row("half a channel", {"[0, 1, 2]", "[0, 1, 2, 2.5]"},
-        "groups[0].audioOptions.channelList[3]: must be a whole number from 0 to 9999999, not 2.5");
+        "groups[0].audioOptions.channelList[3]: must be 0 or a whole number from 1 to 64, not 2.5");
     row("a huge number", {"[0, 192]", "[0, 192, 1e300]"},
-        "groups[0].audioOptions.bitrateKbpsList[2]: must be a whole number from 0 to 9999999, not "
+        "groups[0].audioOptions.bitrateKbpsList[2]: must be 0 or a whole number from 1 to 100000, "
+        "not "
         "1e+300");
+    row("a side of too many pixels", {R"(["0", "1280x720"])", R"(["0", "1280x720", "2x16385"])"},
+        "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", up "
+        "to \"16384x16384\", not 2x16385");
+    row("a codec's name in another case", {R"(["mp2"])", R"(["mp2", "AC3"])"},
+        "groups[0].audioOptions.encoderList[1]: must be \"0\" or ffmpeg's name of a codec, like "
+        "\"h264\", not AC3");
+    row("too low a sample rate", {"[0, 44100, 48000]", "[0, 999, 44100, 48000]"},
+        "groups[0].audioOptions.sampleRateList[1]: must be 0 or a whole number from 1000 to "
+        "768000, not 999");
+    row("too high a video bitrate", {"[0, 1000, 2000, 4000]", "[0, 1000, 2000, 4000, 1000001]"},
+        "groups[0].videoOptions.bitrateKbpsList[4]: must be 0 or a whole number from 1 to "
+        "1000000, not 1000001");
     row("an option twice", {"[0, 1, 2]", "[0, 1, 2, 1]"},
-        "groups[0].audioOptions.channelList[3]: 1 stands there twice");
+        "groups[0].audioOptions.channelList[3]: 1 is listed twice");
     row("a level that isn't offered", {"[4000, 2000, 1000]", "[4000, 3000, 1000]"},
         "groups[0].videoOptions.levelList[1]: 3000 is none of the values that "
         "videoOptions.bitrateKbpsList offers");
@@ -163,7 +180,7 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
          {"[1000, 2000, 4000]", "[2000, 4000, 1000]", "[4000, 1000, 2000]", "[1000, 0, 2000]"}) {
         row(levels, {"[4000, 2000, 1000]", levels},
             "groups[0].videoOptions.levelList: must descend from the high to the low bitrate; only "
-            "the middle one may be 0 all the same");
+            "the middle one may be 0 regardless");
     }
     row("the middle level is the source's", {"[4000, 2000, 1000]", "[4000, 0, 1000]"}, "");
 
@@ -278,13 +295,58 @@ void TestCatalogueLint::whatCannotBeHadIsNamed_data()
         "groups[0].audioOptions.channelList[0]: a .dv file can't have 1-channel sound, only 2");
 }
 
-void TestCatalogueLint::whatCannotBeHadIsNamed()
+void TestCatalogueLint::whatIsWrongIsNamed()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, mistake);
     const QStringList expected =
         mistake.isEmpty() ? QStringList() : QStringList{QStringLiteral("file1.json: ") + mistake};
     QCOMPARE(mistakesIn({json}), expected);
+}
+
+void TestCatalogueLint::offeredValuesHaveTheBoundsOfTheConverter_data()
+{
+    QTest::addColumn<int>("setting");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<bool>("isPossible");
+
+    const auto rows = [](CatalogueSetting::Id setting, std::initializer_list<const char *> possible,
+                         std::initializer_list<const char *> impossible) {
+        const QString path = CatalogueSetting::of(setting).paramPath();
+        for (const auto &values : {possible, impossible}) {
+            for (const char *value : values) {
+                QTest::addRow("%s %s", qPrintable(path), value)
+                    << int(setting) << QString::fromLatin1(value)
+                    << (values.begin() == possible.begin());
+            }
+        }
+    };
+    rows(CatalogueSetting::Resolution, {"0", "1x1", "16384x16384", "9999x16299", "10000x8000"},
+         {"0x720", "1280x0", "16385x2", "2x16385", "2x16390", "2x20000", "100000x2", "-1x2"});
+    rows(CatalogueSetting::FrameRate, {"0", "1", "23.976", "300"}, {"-1", "0.5", "0.99", "301"});
+    rows(CatalogueSetting::VideoBitrate, {"0", "1", "1000000"}, {"-1", "1000001"});
+    rows(CatalogueSetting::Channels, {"0", "1", "64"}, {"-1", "65"});
+    rows(CatalogueSetting::SampleRate, {"0", "1000", "768000"}, {"-1", "1", "999", "768001"});
+    rows(CatalogueSetting::AudioBitrate, {"0", "1", "100000"}, {"-1", "100001"});
+}
+
+void TestCatalogueLint::offeredValuesHaveTheBoundsOfTheConverter()
+{
+    QFETCH(int, setting);
+    QFETCH(QString, value);
+    QFETCH(bool, isPossible);
+    const CatalogueSetting &row = CatalogueSetting::of(CatalogueSetting::Id(setting));
+    QCOMPARE(row.accepts(value), isPossible);
+
+    const bool isOfVideo = row.param == CatalogueBlock::videoParam;
+    const bool isAudioBitrate = row.id == CatalogueSetting::AudioBitrate;
+    const QVariantMap settings{
+        {isAudioBitrate ? QStringLiteral("bitrate") : QString(row.key), value}};
+    const QVariantMap preset{
+        {QStringLiteral("extension"), QStringLiteral("mkv")},
+        {isOfVideo ? QStringLiteral("video") : QStringLiteral("audio"), settings},
+        {QStringLiteral("outPutNode"), QVariantMap{{row.param, settings}}}};
+    QCOMPARE(OutputSettings::fromPreset(preset).problem().isEmpty(), isPossible);
 }
 
 void TestCatalogueLint::thePresetIsNamedWhereItsOwnValueClashes()

@@ -1,0 +1,39 @@
+#ifndef CHECK_CHECKEDPRESET_H
+#define CHECK_CHECKEDPRESET_H
+
+#include "host/check/mistakecollector.h"
+#include "utility/cataloguereader.h"
+#include "utility/cataloguesettings.h"
+
+#include <QStringList>
+
+/*! A preset of the catalogue whose mistakes are noted where the values stand. */
+class CheckedPreset
+{
+public:
+    CheckedPreset(const QVariantMap &preset, const PresetPlaces &places,
+                  MistakeCollector &collector);
+
+    [[nodiscard]] QString id() const;
+    [[nodiscard]] QString extension() const;
+    /*! The chosen value, invalid where the preset has no such setting. */
+    [[nodiscard]] QVariant chosen(const CatalogueSetting &setting) const;
+    [[nodiscard]] QStringList offered(const CatalogueSetting &setting) const;
+
+    /*! Notes a mistake of the value under a key such as "id" or "videoParam.encoder". Where it
+     *  clashes with the one under \a otherKey, which stands elsewhere, the preset is named. */
+    void note(const QString &key, const QString &reason, const QString &otherKey = {});
+    /*! The same for the offered value at \a index. */
+    void noteOffered(const CatalogueSetting &setting, int index, const QString &reason,
+                     const QString &otherKey = {});
+
+private:
+    [[nodiscard]] QString holderOf(const QString &key) const;
+    [[nodiscard]] QString nameWhereApart(const QString &key, const QString &otherKey) const;
+
+    const QVariantMap m_preset;
+    const PresetPlaces m_places;
+    MistakeCollector &m_collector;
+};
+
+#endif

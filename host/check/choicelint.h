@@ -1,0 +1,10 @@
+#ifndef CHECK_CHOICELINT_H
+#define CHECK_CHOICELINT_H
+
+#include "host/check/checkedpreset.h"
+
+/*! Notes offered values beyond their bounds, repeated ones, and chosen values and levels that
+ *  aren't offered. */
+void lintChoices(CheckedPreset &preset);
+
+#endif

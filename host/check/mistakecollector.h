@@ -1,0 +1,23 @@
+#ifndef CHECK_MISTAKECOLLECTOR_H
+#define CHECK_MISTAKECOLLECTOR_H
+
+#include "utility/cataloguemistake.h"
+
+#include <QSet>
+#include <QVector>
+
+/*! Collects mistakes that keep nothing from being served, each once. */
+class MistakeCollector
+{
+public:
+    /*! The same reason at the same place is the same mistake, whatever the \a addition. */
+    void note(const CataloguePlace &place, const QString &reason, const QString &addition = {});
+
+    [[nodiscard]] QVector<CatalogueMistake> mistakes() const { return m_mistakes; }
+
+private:
+    QVector<CatalogueMistake> m_mistakes;
+    QSet<QString> m_noted;
+};
+
+#endif
