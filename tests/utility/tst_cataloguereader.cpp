@@ -128,6 +128,7 @@ private slots:
     void whatIsWrongIsLeftOutAndTheRestServed_data();
     void whatIsWrongIsLeftOutAndTheRestServed();
     void furtherKeysAreNamedButServed();
+    void everyKeyOfTheSchemaIsKnown();
     void itIsKnownWhereAValueStands_data();
     void itIsKnownWhereAValueStands();
 };
@@ -682,6 +683,41 @@ void tst_CatalogueReader::furtherKeysAreNamedButServed()
                             "file1.json: groups[0].presets[0].audioParam.vbr: is none of the known "
                             "keys"));
     QCOMPARE(valueAt(presetOf(result, "Audio", "MP3"), "audioParam", "vbr"), QVariant(4));
+}
+
+void tst_CatalogueReader::everyKeyOfTheSchemaIsKnown()
+{
+    QFile schemaFile(QStringLiteral(VEX_CATALOGUE_FOLDER "/catalogue.schema.json"));
+    QVERIFY(schemaFile.open(QIODevice::ReadOnly));
+    const QJsonObject schema = QJsonDocument::fromJson(schemaFile.readAll()).object();
+    const QJsonObject definitions = schema[QStringLiteral("definitions")].toObject();
+    // An object with each key of an object in the schema, without a value.
+    const auto keysOf = [](const QJsonValue &object) {
+        QJsonObject nulls;
+        for (const QString &key : object[QStringLiteral("properties")].toObject().keys()) {
+            nulls.insert(key, QJsonValue());
+        }
+        return nulls;
+    };
+    const auto settingsOf = [&](const QString &name) {
+        QJsonObject settings = keysOf(definitions[name]);
+        for (const QString &block :
+             {QStringLiteral("videoParam"), QStringLiteral("videoOptions"),
+              QStringLiteral("audioParam"), QStringLiteral("audioOptions")}) {
+            settings.insert(block, keysOf(definitions[block]));
+        }
+        return settings;
+    };
+    QJsonObject group = settingsOf(QStringLiteral("group"));
+    group.insert(QStringLiteral("presets"), QJsonArray{settingsOf(QStringLiteral("preset"))});
+    QJsonObject all = keysOf(schema);
+    all.insert(QStringLiteral("groups"), QJsonArray{group});
+    all.insert(QStringLiteral("templates"),
+               QJsonObject{{QStringLiteral("t"), settingsOf(QStringLiteral("template"))}});
+
+    const CatalogueResult result = readCatalogue(sources({QJsonDocument(all).toJson()}));
+    QVERIFY(!mistakesIn(result).isEmpty());
+    QCOMPARE(mistakesIn(result, true), QString());
 }
 
 void tst_CatalogueReader::itIsKnownWhereAValueStands_data()

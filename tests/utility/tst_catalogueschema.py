@@ -1,14 +1,20 @@
 #!/usr/bin/python3
-"""Holds the built-in catalogue to its schema, and the schema to refusing what is wrong."""
+"""Holds the built-in catalogue to its schema, and the schema to refusing what is wrong.
+
+Usage: tst_catalogueschema.py TOOL, where TOOL is the program that writes the schema.
+"""
 
 import json
 import pathlib
+import subprocess
+import sys
 import unittest
 
 from jsonschema import Draft7Validator
 
 CATALOGUE = pathlib.Path(__file__).resolve().parents[2] / "utility/catalogue"
-SCHEMA = json.loads((CATALOGUE / "catalogue.schema.json").read_text())
+FILE = CATALOGUE / "catalogue.schema.json"
+SCHEMA = json.loads(FILE.read_text())
 
 RIGHT = {
     "category": "Video",
@@ -83,7 +89,11 @@ WRONG = [
     (PRESET + ("videoParam", "resolution"), "1280x720p"),
     (PRESET + ("videoParam", "resolution"), "0x720"),
     (PRESET + ("videoParam", "frameRate"), "29.97"),
+    (PRESET + ("videoParam", "resolution"), "1280x16385"),
     (PRESET + ("videoParam", "frameRate"), -1),
+    (PRESET + ("videoParam", "frameRate"), 0.5),
+    (PRESET + ("videoParam", "frameRate"), 301),
+    (PRESET + ("videoParam", "bitrateKbps"), 1000001),
     (PRESET + ("videoParam", "bitrateKbps"), "4000"),
     (PRESET + ("videoParam", "bitrateKbps"), 4000.5),
     (PRESET + ("videoOptions", "encoders"), ["h264"]),
@@ -97,13 +107,28 @@ WRONG = [
     (PRESET + ("videoOptions", "levelList"), [8000, 4000]),
     (PRESET + ("videoOptions", "levelList"), [8000, 4000, 2000, 1000]),
     (PRESET + ("videoOptions", "levelList"), [8000, "4000", 2000]),
+    (PRESET + ("videoOptions", "levelList"), [1000001, 4000, 2000]),
     (PRESET + ("audioParam", "channels"), 2),
     (PRESET + ("audioParam", "channel"), "2"),
+    (PRESET + ("audioParam", "channel"), 65),
     (PRESET + ("audioParam", "sampleRate"), 44.1),
+    (PRESET + ("audioParam", "sampleRate"), 999),
+    (PRESET + ("audioParam", "sampleRate"), 768001),
+    (PRESET + ("audioParam", "bitrateKbps"), 100001),
     (PRESET + ("audioParam", "bitrateKbps"), 12.2),
     (PRESET + ("audioOptions", "channels"), [2]),
     (PRESET + ("audioOptions", "channelList"), [1, -2]),
     (PRESET + ("audioOptions", "sampleRateList"), [0, "48000"]),
+]
+
+BOUNDS = [
+    ("videoParam", "resolution", ["0", "1x1", "16384x16384"]),
+    ("videoParam", "frameRate", [0, 1, 300]),
+    ("videoParam", "bitrateKbps", [0, 1, 1000000]),
+    ("videoOptions", "levelList", [[1000000, 0, 0]]),
+    ("audioParam", "channel", [0, 1, 64]),
+    ("audioParam", "sampleRate", [0, 1000, 768000]),
+    ("audioParam", "bitrateKbps", [0, 1, 100000]),
 ]
 
 
@@ -128,9 +153,14 @@ class CatalogueSchema(unittest.TestCase):
         return [(tuple(error.absolute_path), error.message)
                 for error in self.validator.iter_errors(catalogue)]
 
+    def test_it_is_what_the_tables_of_the_reader_say(self):
+        written = subprocess.run([TOOL], check=True, stdout=subprocess.PIPE).stdout
+        self.assertEqual(written.decode(), FILE.read_text(),
+                         f"it is out of date; run {TOOL} > {FILE}")
+
     def test_the_built_in_files_are_right(self):
         files = sorted(CATALOGUE.glob("*.json"))
-        files.remove(CATALOGUE / "catalogue.schema.json")
+        files.remove(FILE)
         self.assertEqual(len(files), 4)
         for file in files:
             with self.subTest(file=file.name):
@@ -138,6 +168,12 @@ class CatalogueSchema(unittest.TestCase):
 
     def test_every_key_has_its_right_value(self):
         self.assertEqual(self.errors_in(RIGHT), [])
+
+    def test_the_bounds_are_still_allowed(self):
+        for block, key, values in BOUNDS:
+            for value in values:
+                with self.subTest(key=key, value=value):
+                    self.assertEqual(self.errors_in(changed(PRESET + (block, key), value)), [])
 
     def test_what_is_wrong_is_refused_where_it_stands(self):
         for path, value in WRONG:
@@ -151,4 +187,7 @@ class CatalogueSchema(unittest.TestCase):
 
 
 if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        sys.exit(__doc__.strip())
+    TOOL = sys.argv.pop(1)
     unittest.main()
