@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QThread>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -26,8 +27,8 @@ ProvenPreset presetToProve(const FormatListModel &formats, const QVariantMap &gr
     if (preset.isShown) {
         preset.settings = OutputSettings::fromPreset(record.toVarMap());
     } else {
-        preset.outcome.reason =
-            CatalogueProof::tr("the library shows no such preset in this format");
+        preset.outcome =
+            failed(CatalogueProof::tr("the library shows no such preset in this format"));
     }
     return preset;
 }
@@ -72,11 +73,13 @@ CatalogueProof::CatalogueProof(const QVector<ProvenPreset> &presets, QObject *pa
 
 void CatalogueProof::start()
 {
-    if (m_folder.isValid()) {
-        proveNextSize();
-    } else {
-        Q_EMIT finished(tr("no temporary folder: %1").arg(m_folder.errorText()));
-    }
+    QTimer::singleShot(0, this, [this] {
+        if (m_folder.isValid()) {
+            proveNextSize();
+        } else {
+            Q_EMIT finished(failed(tr("no temporary folder: %1").arg(m_folder.errorText())));
+        }
+    });
 }
 
 ProvenPreset &CatalogueProof::firstLike(const ProvenPreset &preset)
@@ -99,14 +102,13 @@ void CatalogueProof::proveNextSize()
             }
         }
         if (!m_waiting.isEmpty()) {
-            makeProofClip(size, m_folder.path(), &m_running,
-                          [this](const ProofClip &clip, const QString &error) {
-                              if (error.isEmpty()) {
-                                  proveWaitingWith(clip);
-                              } else {
-                                  Q_EMIT finished(tr("no clip to convert: %1").arg(error));
-                              }
-                          });
+            makeProofClip(size, m_folder.path(), &m_running, [this](const Result<ProofClip> &clip) {
+                if (clip) {
+                    proveWaitingWith(*clip);
+                } else {
+                    Q_EMIT finished(failed(tr("no clip to convert: %1").arg(clip.error().text)));
+                }
+            });
             return;
         }
     }
@@ -134,15 +136,14 @@ void CatalogueProof::proveNext()
     ProvenPreset &preset = *m_waiting.dequeue();
     auto *proof = new PresetProof(preset.settings, m_clip, &m_running);
     ++m_runningCount;
-    connect(proof, &PresetProof::finished, this,
-            [this, proof, &preset](const ProofOutcome &outcome) {
-                proof->deleteLater();
-                note(preset, outcome);
-            });
+    connect(proof, &PresetProof::finished, this, [this, proof, &preset](const Result<> &outcome) {
+        proof->deleteLater();
+        note(preset, outcome);
+    });
     proof->start();
 }
 
-void CatalogueProof::note(ProvenPreset &preset, const ProofOutcome &outcome)
+void CatalogueProof::note(ProvenPreset &preset, const Result<> &outcome)
 {
     preset.outcome = outcome;
     --m_runningCount;

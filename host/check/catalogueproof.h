@@ -8,15 +8,15 @@
 #include <QQueue>
 #include <QVector>
 
-/*! A preset of the catalogue, and how it did. */
+/*! A preset of the catalogue, and whether it converts as it says. */
 struct ProvenPreset
 {
     QString format;
     QString tag;
     QString id;
     OutputSettings settings = {};
-    bool isShown = false; //!< the library has it
-    ProofOutcome outcome = {};
+    bool isShown = false;  //!< the library has it
+    Result<> outcome = {}; //!< see PresetProof::finished()
 
     /*! The size of the clip: it fills the box, unless that is larger than 4K. */
     [[nodiscard]] QSize clipSize() const;
@@ -38,13 +38,14 @@ class CatalogueProof : public QObject
 public:
     explicit CatalogueProof(const QVector<ProvenPreset> &presets, QObject *parent = nullptr);
 
+    /*! finished() follows from the event loop, also where nothing can be proven. */
     void start();
     [[nodiscard]] QVector<ProvenPreset> presets() const { return m_presets; }
 
 Q_SIGNALS:
     void progressed(const QString &id, int conversionsLeft);
-    /*! With why not all are proven, or an empty text. */
-    void finished(const QString &error);
+    /*! All presets are proven; else why not. */
+    void finished(const Result<> &outcome);
 
 private:
     /*! The first preset that asks for the same, which may be this one. */
@@ -52,7 +53,7 @@ private:
     void proveNextSize();
     void proveWaitingWith(const ProofClip &clip);
     void proveNext();
-    void note(ProvenPreset &preset, const ProofOutcome &outcome);
+    void note(ProvenPreset &preset, const Result<> &outcome);
 
     QVector<ProvenPreset> m_presets;
     WorkFolder m_folder;

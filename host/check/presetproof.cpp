@@ -33,16 +33,18 @@ QStringList clipArguments(const QSize &size, const QString &path)
 } // namespace
 
 void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
-                   const std::function<void(const ProofClip &, const QString &error)> &done)
+                   const std::function<void(const Result<ProofClip> &)> &done)
 {
     const QString path = QDir(folder).filePath(
         QStringLiteral("clip-%1x%2.mkv").arg(size.width()).arg(size.height()));
     auto *probe = new MediaProbe(parent);
-    QObject::connect(
-        probe, &MediaProbe::finished, probe, [path, probe, done](const Result<MediaFacts> &facts) {
-            probe->deleteLater();
-            done({path, facts.value_or(MediaFacts())}, facts ? QString() : facts.error().text);
-        });
+    QObject::connect(probe, &MediaProbe::finished, probe,
+                     [path, probe, done](const Result<MediaFacts> &facts) {
+                         probe->deleteLater();
+                         done(facts.map([&path](const MediaFacts &known) {
+                             return ProofClip{path, known};
+                         }));
+                     });
     auto *ffmpeg = new Tool(probe);
     QObject::connect(ffmpeg, &Tool::finished, probe,
                      [path, probe, done](const Result<ToolRun> &run) {
@@ -51,7 +53,7 @@ void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
                              probe->start(path);
                          } else {
                              probe->deleteLater();
-                             done({}, made.error().text);
+                             done(failed(made));
                          }
                      });
     ffmpeg->start(ffmpegCall(clipArguments(size, path)));
@@ -88,26 +90,27 @@ void PresetProof::measure(const Result<ConversionOutcome> &outcome)
     if (outcome) {
         m_converted = *outcome;
         m_packetList.start(ffprobeCall(packetListArguments(outcome->target)));
-        return;
+    } else if (outcome.error().kind == Error::Cancelled) {
+        Q_EMIT finished(failed(tr("not done after %1 s").arg(m_limit.interval() / 1000.0)));
+    } else {
+        Q_EMIT finished(failed(outcome));
     }
-    const Error &error = outcome.error();
-    Q_EMIT finished(
-        {error.kind == Error::EncoderMissing ? ProofOutcome::LacksEncoder : ProofOutcome::Failed,
-         error.kind == Error::Cancelled ? tr("not done after %1 s").arg(m_limit.interval() / 1000.0)
-                                        : error.text});
 }
 
 void PresetProof::compare(const Result<ToolRun> &run)
 {
     const Result<QByteArray> packets = cleanOutput(run);
     if (!packets) {
-        Q_EMIT finished({ProofOutcome::Failed, packets.error().text});
+        Q_EMIT finished(failed(packets));
         return;
     }
     WrittenFile file;
     file.facts = m_converted.facts;
     file.readPackets(*packets);
     const QStringList deviations = file.deviations(m_settings, m_clip.facts);
-    Q_EMIT finished({deviations.isEmpty() ? ProofOutcome::Passed : ProofOutcome::Failed,
-                     deviations.join(QStringLiteral("; "))});
+    if (deviations.isEmpty()) {
+        Q_EMIT finished({});
+    } else {
+        Q_EMIT finished(failed(deviations.join(QStringLiteral("; "))));
+    }
 }

@@ -3,6 +3,7 @@
 
 #include "host/check/writtenfile.h"
 #include "host/convert/conversion.h"
+#include "host/error.h"
 
 #include <QTimer>
 
@@ -17,19 +18,10 @@ struct ProofClip
 
 /*!
  * Makes the clip in \a folder, with a picture of \a size in a form that no preset can copy, without
- * waiting. \a done is called once from the event loop, with the reason where that failed.
+ * waiting. \a done is called once from the event loop.
  */
 void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
-                   const std::function<void(const ProofClip &, const QString &error)> &done);
-
-/*! How a preset did. */
-struct ProofOutcome
-{
-    enum Result { Passed, LacksEncoder, Failed };
-
-    Result result = Failed;
-    QString reason; //!< one line; empty when passed
-};
+                   const std::function<void(const Result<ProofClip> &)> &done);
 
 /*!
  * Converts the clip with a preset's settings and holds the result against them, without waiting.
@@ -51,7 +43,9 @@ public:
     void start(int limit = 1800000);
 
 Q_SIGNALS:
-    void finished(const ProofOutcome &outcome);
+    /*! The preset converts as it says; else why not, of the kind EncoderMissing where only this
+     *  machine's ffmpeg is to blame. */
+    void finished(const Result<> &outcome);
 
 private:
     void measure(const Result<ConversionOutcome> &outcome);

@@ -36,14 +36,25 @@ QStringList tags()
     return names;
 }
 
-QString resultText(ProofOutcome::Result result)
+enum class Verdict { Converted, EncoderMissing, Failed };
+
+Verdict verdictOn(const ProvenPreset &preset)
 {
-    switch (result) {
-    case ProofOutcome::Passed:
+    if (preset.outcome) {
+        return Verdict::Converted;
+    }
+    return preset.outcome.error().kind == Error::EncoderMissing ? Verdict::EncoderMissing
+                                                                : Verdict::Failed;
+}
+
+QString verdictText(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Converted:
         return QStringLiteral("converted");
-    case ProofOutcome::LacksEncoder:
+    case Verdict::EncoderMissing:
         return QStringLiteral("encoder missing");
-    case ProofOutcome::Failed:
+    case Verdict::Failed:
         break;
     }
     return QStringLiteral("failed");
@@ -51,10 +62,10 @@ QString resultText(ProofOutcome::Result result)
 
 using Presets = QVector<ProvenPreset>;
 
-int countOf(Presets::ConstIterator first, Presets::ConstIterator last, ProofOutcome::Result result)
+int countOf(Presets::ConstIterator first, Presets::ConstIterator last, Verdict verdict)
 {
-    return int(std::count_if(first, last, [result](const ProvenPreset &preset) {
-        return preset.outcome.result == result;
+    return int(std::count_if(first, last, [verdict](const ProvenPreset &preset) {
+        return verdictOn(preset) == verdict;
     }));
 }
 
@@ -81,14 +92,13 @@ void printProofs(const Presets &presets)
             return other.format != first->format;
         });
         QStringList row = {first->format, first->tag, QString::number(last - first)};
-        for (const auto result :
-             {ProofOutcome::Passed, ProofOutcome::LacksEncoder, ProofOutcome::Failed}) {
-            row << QString::number(countOf(first, last, result));
+        for (const auto verdict : {Verdict::Converted, Verdict::EncoderMissing, Verdict::Failed}) {
+            row << QString::number(countOf(first, last, verdict));
         }
         table << row;
         for (; first != last; ++first) {
-            if (first->outcome.result != ProofOutcome::Passed) {
-                reasons << QStringList{first->id, first->outcome.reason};
+            if (!first->outcome) {
+                reasons << QStringList{first->id, first->outcome.error().text};
             }
         }
     }
@@ -99,21 +109,20 @@ void printProofs(const Presets &presets)
         Console::printTable(reasons);
         Console::print(QString());
     }
-    const auto count = [&presets](ProofOutcome::Result result) {
-        return countOf(presets.begin(), presets.end(), result);
+    const auto count = [&presets](Verdict verdict) {
+        return countOf(presets.begin(), presets.end(), verdict);
     };
     Console::print(
         CommandLine::tr("%1 of %2 presets convert as they say, %3 need an encoder that this ffmpeg "
                         "lacks, %4 failed.")
-            .arg(count(ProofOutcome::Passed))
+            .arg(count(Verdict::Converted))
             .arg(presets.size())
-            .arg(count(ProofOutcome::LacksEncoder))
-            .arg(count(ProofOutcome::Failed)));
+            .arg(count(Verdict::EncoderMissing))
+            .arg(count(Verdict::Failed)));
 }
 
-/*! With an error, which is why the presets aren't proven, they are left out. */
-void printAsJson(const QVector<CatalogueMistake> &mistakes, const Presets &presets,
-                 const QString &error)
+/*! With an error instead of the presets where those couldn't be proven. */
+void printAsJson(const QVector<CatalogueMistake> &mistakes, const Result<Presets> &proven)
 {
     QVariantList mistakeMaps;
     for (const CatalogueMistake &mistake : mistakes) {
@@ -124,40 +133,38 @@ void printAsJson(const QVector<CatalogueMistake> &mistakes, const Presets &prese
                                    {QStringLiteral("leftOut"), !mistake.isServed}};
     }
     QVariantList presetMaps;
-    for (const ProvenPreset &preset : presets) {
-        presetMaps << QVariantMap{{QStringLiteral("format"), preset.format},
-                                  {QStringLiteral("tag"), preset.tag},
-                                  {QStringLiteral("id"), preset.id},
-                                  {QStringLiteral("result"), resultText(preset.outcome.result)},
-                                  {QStringLiteral("reason"), preset.outcome.reason}};
+    for (const ProvenPreset &preset : proven.value_or(Presets())) {
+        presetMaps << QVariantMap{
+            {QStringLiteral("format"), preset.format},
+            {QStringLiteral("tag"), preset.tag},
+            {QStringLiteral("id"), preset.id},
+            {QStringLiteral("result"), verdictText(verdictOn(preset))},
+            {QStringLiteral("reason"), preset.outcome ? QString() : preset.outcome.error().text}};
     }
-    QVariantMap json{{QStringLiteral("mistakes"), mistakeMaps},
-                     {QStringLiteral("presets"), presetMaps}};
-    if (!error.isEmpty()) {
-        json.remove(QStringLiteral("presets"));
-        json.insert(QStringLiteral("error"), error);
+    QVariantMap json{{QStringLiteral("mistakes"), mistakeMaps}};
+    if (proven) {
+        json.insert(QStringLiteral("presets"), presetMaps);
+    } else {
+        json.insert(QStringLiteral("error"), proven.error().text);
     }
     Console::printJson(json);
 }
 
-/*! Returns why not all are proven, or an empty text. */
-QString prove(Presets &presets, bool showsProgress)
+Result<Presets> prove(const Presets &presets, bool showsProgress)
 {
     Interrupt interrupt; // still caught while the proof is taken down
     CatalogueProof proof(presets);
-    QString problem;
+    Result<> ended;
     QEventLoop loop;
-    QObject::connect(&interrupt, &Interrupt::caught, &loop, [&problem, &loop] {
-        problem = CommandLine::tr("interrupted");
+    QObject::connect(&interrupt, &Interrupt::caught, &loop, [&ended, &loop] {
+        ended = failed(CommandLine::tr("interrupted"));
         loop.quit();
     });
-    QObject::connect(
-        &proof, &CatalogueProof::finished, &loop,
-        [&problem, &loop](const QString &error) {
-            problem = error;
-            loop.quit();
-        },
-        Qt::QueuedConnection);
+    QObject::connect(&proof, &CatalogueProof::finished, &loop,
+                     [&ended, &loop](const Result<> &outcome) {
+                         ended = outcome;
+                         loop.quit();
+                     });
     if (showsProgress) {
         QObject::connect(&proof, &CatalogueProof::progressed, [](const QString &id, int left) {
             Console::overwriteLine(CommandLine::tr("%1, %2 conversions left").arg(id).arg(left));
@@ -168,8 +175,7 @@ QString prove(Presets &presets, bool showsProgress)
     if (showsProgress) {
         Console::overwriteLine(QString());
     }
-    presets = proof.presets();
-    return problem;
+    return ended.map([&proof] { return proof.presets(); });
 }
 
 Result<ExitCode> runCheck(const Call &call)
@@ -185,24 +191,22 @@ Result<ExitCode> runCheck(const Call &call)
     if (!asJson) {
         printMistakes(mistakes);
     }
-    Presets proven;
-    QString problem;
+    Result<Presets> proven;
     // Without a preset of its own the built-in catalogue is served, which isn't what is checked.
     if (!catalogue.presetPlaces.isEmpty()) {
-        proven = presetsToProve(catalogue.catalogue, call.options.isSet(quickFlag));
-        problem = prove(proven, !asJson && Console::isTerminal());
+        proven = prove(presetsToProve(catalogue.catalogue, call.options.isSet(quickFlag)),
+                       !asJson && Console::isTerminal());
     }
     if (asJson) {
-        printAsJson(mistakes, proven, problem);
-    } else if (!proven.isEmpty() && problem.isEmpty()) {
-        printProofs(proven);
+        printAsJson(mistakes, proven);
+    } else if (proven && !proven->isEmpty()) {
+        printProofs(*proven);
     }
-    if (!problem.isEmpty()) {
-        return failed(problem);
+    if (!proven) {
+        return failed(proven);
     }
-    const bool isSound =
-        mistakes.isEmpty() && countOf(proven.begin(), proven.end(), ProofOutcome::Failed) == 0;
-    return isSound ? Success : Failure;
+    const bool hasFailed = countOf(proven->begin(), proven->end(), Verdict::Failed) > 0;
+    return mistakes.isEmpty() && !hasFailed ? Success : Failure;
 }
 
 } // namespace

@@ -4,8 +4,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <optional>
-
 /*! What the command's tests can't reach: a conversion that takes too long. */
 class TestPresetProof : public QObject
 {
@@ -19,28 +17,30 @@ void TestPresetProof::aConversionThatTakesTooLongFails()
 {
     const QTemporaryDir folder;
     QEventLoop loop;
-    ProofClip clip;
+    Result<ProofClip> clip;
     makeProofClip(QSize(320, 180), folder.path(), this,
-                  [&clip, &loop](const ProofClip &made, const QString &) {
+                  [&clip, &loop](const Result<ProofClip> &made) {
                       clip = made;
                       loop.quit();
                   });
     loop.exec();
-    QCOMPARE(clip.facts.picture()->displaySize(), QSize(320, 180));
+    QVERIFY(clip);
+    QCOMPARE(clip->facts.picture()->displaySize(), QSize(320, 180));
 
     OutputSettings settings;
     settings.extension = QStringLiteral("mkv");
     settings.hasPicture = true;
-    PresetProof proof(settings, clip);
-    std::optional<ProofOutcome> ended;
-    connect(&proof, &PresetProof::finished, &loop, [&ended, &loop](const ProofOutcome &outcome) {
+    PresetProof proof(settings, *clip);
+    Result<> ended;
+    connect(&proof, &PresetProof::finished, &loop, [&ended, &loop](const Result<> &outcome) {
         ended = outcome;
         loop.quit();
     });
     proof.start(1);
     loop.exec();
-    QCOMPARE(ended->result, ProofOutcome::Failed);
-    QCOMPARE(ended->reason, QStringLiteral("not done after 0.001 s"));
+    QVERIFY(!ended);
+    QCOMPARE(ended.error().kind, Error::Failed);
+    QCOMPARE(ended.error().text, QStringLiteral("not done after 0.001 s"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList{QStringLiteral("clip-320x180.mkv")});
 }

@@ -155,6 +155,16 @@ void TestWrittenFile::deviationsAreNamed_data()
             source.audioTracks[0].sampleRate = 22050;
             source.audioTracks[0].channels = 6;
         });
+    row("nothing asked, and channels bound by the container", "",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
+            keepAll(asked, file, source);
+            asked.extension = QStringLiteral("dv");
+            file.facts.container = QStringLiteral("dv");
+            file.facts.videoTracks[0].codec = QStringLiteral("dvvideo");
+            file.facts.audioTracks[0].codec = QStringLiteral("pcm_s16le");
+            file.facts.audioTracks[0].sampleRate = 48000;
+            source.audioTracks[0].channels = 6;
+        });
     settings("unknown container", "no container has the extension .xyz",
              [](OutputSettings &asked) { asked.extension = QStringLiteral("xyz"); });
     row("another container", "the file is avi, not mp4",
@@ -169,6 +179,10 @@ void TestWrittenFile::deviationsAreNamed_data()
     };
     duration("too short", "lasts 0.7 s, not 1 s", 0.7);
     duration("too long", "lasts 1.3 s, not 1 s", 1.3);
+    duration("just too short", "lasts 0.75 s, not 1 s", 0.75);
+    duration("just too long", "lasts 1.25 s, not 1 s", 1.25);
+    duration("a little short", "", 0.76);
+    duration("a little long", "", 1.24);
     duration("of unknown length", "", 0);
 
     row("no picture", "there is no picture",
@@ -187,6 +201,26 @@ void TestWrittenFile::deviationsAreNamed_data()
           [](VideoTrack &track) { track.storedSize = QSize(960, 720); });
     video("only nearly as wide as the box, for the sake of even sizes", "",
           [](VideoTrack &track) { track.storedSize = QSize(1279, 540); });
+    video("only nearly as high as the box, for the sake of even sizes", "",
+          [](VideoTrack &track) { track.storedSize = QSize(960, 719); });
+    video("two pixels lower than the box", "960x718 isn't fitted into 1280x720",
+          [](VideoTrack &track) { track.storedSize = QSize(960, 718); });
+    video("two pixels narrower than the box", "1278x540 isn't fitted into 1280x720",
+          [](VideoTrack &track) { track.storedSize = QSize(1278, 540); });
+    video("one pixel wider than the box", "1281x720 isn't fitted into 1280x720",
+          [](VideoTrack &track) { track.storedSize = QSize(1281, 720); });
+    video("one pixel higher than the box", "1280x721 isn't fitted into 1280x720",
+          [](VideoTrack &track) { track.storedSize = QSize(1280, 721); });
+    const auto kept = [&row](const char *name, const char *deviation, const QSize &size) {
+        row(name, deviation, [size](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
+            keepAll(asked, file, source);
+            file.facts.videoTracks[0].storedSize = size;
+        });
+    };
+    kept("nothing asked, and nearly the source's size for the sake of even sizes", "",
+         QSize(1919, 1079));
+    kept("nothing asked, and narrower", "1918x1080, not 1920x1080", QSize(1918, 1080));
+    kept("nothing asked, and lower", "1920x1078, not 1920x1080", QSize(1920, 1078));
     row("a source that is smaller than the box", "",
         [](OutputSettings &, WrittenFile &file, MediaFacts &source) {
             source.videoTracks[0].storedSize = QSize(640, 360);
@@ -211,6 +245,16 @@ void TestWrittenFile::deviationsAreNamed_data()
     video("a rounded frame rate", "", [](VideoTrack &track) { track.frameRate = {30, 1}; });
     video("an unknown frame rate", "0 frames a second, not 29.97",
           [](VideoTrack &track) { track.frameRate = {}; });
+    const auto frameRate = [&video](const char *name, const char *deviation, const Ratio &rate) {
+        video(name, deviation, [rate](VideoTrack &track) { track.frameRate = rate; });
+    };
+    frameRate("a frame rate nearly one percent lower", "", {297, 10});
+    frameRate("a frame rate nearly one percent higher", "", {302, 10});
+    frameRate("a frame rate over one percent lower", "29.6 frames a second, not 29.97", {296, 10});
+    frameRate("a frame rate over one percent higher", "30.3 frames a second, not 29.97", {303, 10});
+    bytes("video of nearly three times the bitrate", "", 0, 1499000);
+    bytes("video of little over a third of the bitrate", "", 0, 167000);
+    bytes("video of less than a third of the bitrate", "video has 1328 kbps, not 4000", 0, 166000);
     bytes("far too much video", "video has 12000 kbps, not 4000", 0, 1500000);
     bytes("far too little video", "video has 1000 kbps, not 4000", 0, 125000);
     row("no video bitrate of a codec that sets its own", "",
@@ -245,6 +289,10 @@ void TestWrittenFile::deviationsAreNamed_data()
     audio("another sample rate", "44100 Hz, not 48000",
           [](AudioTrack &track) { track.sampleRate = 44100; });
     audio("other channels", "1 channels, not 2", [](AudioTrack &track) { track.channels = 1; });
+    bytes("audio of nearly twice the bitrate", "", 1, 47875);
+    bytes("audio of twice the bitrate", "audio has 384 kbps, not 192", 1, 48000);
+    bytes("audio of little over half the bitrate", "", 1, 12125);
+    bytes("audio of half the bitrate", "audio has 96 kbps, not 192", 1, 12000);
     bytes("far too much audio", "audio has 800 kbps, not 192", 1, 100000);
     bytes("far too little audio", "audio has 32 kbps, not 192", 1, 4000);
 }
