@@ -64,7 +64,7 @@ private Q_SLOTS:
     void aResultThatCannotBeMeasuredFails();
     void aFormatThatIsNeverShownFails();
     void mistakesAreNamedAndTheRestIsConverted();
-    void withoutASoundPresetNothingIsConverted();
+    void withoutAValidPresetNothingIsConverted();
     void itComesAsJson();
     void interruptingLeavesNothing();
     void whatAKilledCheckLeftGoesWithTheNext();
@@ -267,7 +267,7 @@ void TestCheckCatalogue::mistakesAreNamedAndTheRestIsConverted()
     QCOMPARE(notOffered.exitCode, 1);
 }
 
-void TestCheckCatalogue::withoutASoundPresetNothingIsConverted()
+void TestCheckCatalogue::withoutAValidPresetNothingIsConverted()
 {
     writeCatalogue("{ \"category\": \"Video\" ");
     const CommandRun told = run();

@@ -619,7 +619,7 @@ void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed_data()
     row("a group that is no object", file("Audio", {"7", right}), 1, "MP3: 1 2");
     row("the second group of a name",
         file("Audio", {right, group("MP3", {audioBlocks}, {preset("3")})}), 1, "MP3: 1 2");
-    row("a group without a sound preset",
+    row("a group without a valid preset",
         file("Audio", {group("AAC", {audioBlocks}, {preset("3", wrong)}), right}), 1, "MP3: 1 2");
     row("a template and what starts from it",
         file("Audio",

@@ -112,8 +112,8 @@ private slots:
     void theFilesOfTheBuiltInCatalogueServeItToo();
     void whatCannotBeServedIsReportedInOneLine_data();
     void whatCannotBeServedIsReportedInOneLine();
-    void whatIsSoundIsServedBesideMistakes_data();
-    void whatIsSoundIsServedBesideMistakes();
+    void whatIsValidIsServedBesideMistakes_data();
+    void whatIsValidIsServedBesideMistakes();
     void whatIsNoFileIsReported_data();
     void whatIsNoFileIsReported();
     void whatMayNotBeReadIsReported_data();
@@ -357,7 +357,7 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine()
     QCOMPARE(served.catalogue, servedCatalogue());
 }
 
-void tst_FormatCodecApi::whatIsSoundIsServedBesideMistakes_data()
+void tst_FormatCodecApi::whatIsValidIsServedBesideMistakes_data()
 {
     QTest::addColumn<Files>("files");
     QTest::addColumn<QString>("report");
@@ -381,7 +381,7 @@ void tst_FormatCodecApi::whatIsSoundIsServedBesideMistakes_data()
         << QString();
 }
 
-void tst_FormatCodecApi::whatIsSoundIsServedBesideMistakes()
+void tst_FormatCodecApi::whatIsValidIsServedBesideMistakes()
 {
     QFETCH(Files, files);
     QFETCH(QString, report);

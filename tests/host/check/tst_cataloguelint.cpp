@@ -42,7 +42,8 @@ QStringList mistakesIn(const QList<QByteArray> &files)
     QStringList lines;
     for (const CatalogueMistake &mistake :
          catalogue.mistakes + lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")},
-                                            {QStringLiteral("video"), QStringLiteral("device")})) {
+                                            {QStringLiteral("video"), QStringLiteral("audio"),
+                                             QStringLiteral("device")})) {
         lines << mistake.text();
     }
     return lines;
@@ -103,9 +104,14 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
         "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
     row("an id with two digits", {"Video_MPEG2_001", "Video_MPEG2_01"},
         "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+    row("an id with four digits", {"Video_MPEG2_001", "Video_MPEG2_0001"},
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
     row("a picture that isn't there", {"fmt_mp4", "fmt_none"},
         "groups[0].icon: there is no picture \"fmt_none\" in formats/qml/image");
     row("a video format in small letters", {"MPEG-2", "mpeg-2"},
+        "groups[0].name: must be in upper case, as video and audio formats are looked up so");
+    row("an audio format in small letters",
+        {R"("Video",)", R"("Audio",)", "Video_", "Audio_", "MPEG-2", "mpeg-2"},
         "groups[0].name: must be in upper case, as video and audio formats are looked up so");
     row("no presets", {R"({ "id": "Video_MPEG2_001", "title": "T" })", ""},
         "groups[0].presets: holds no preset");
@@ -232,6 +238,11 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
         "10, "
         "12");
     row("a frame rate that an encoder doesn't have", {"[0, 25, 30]", "[0, 15]"},
+        "lists.rates[1]: mpeg2video can't have 15 frames a second, only 24000/1001, 24, 25, "
+        "30000/1001, 30, 50, 60000/1001, 60 (in the preset Video_MPEG2_001)");
+    row("a frame rate that the container's usual encoder doesn't have",
+        {R"(["0", "mpeg2video"])", R"(["0"])", R"("encoder": "mpeg2video")", R"("encoder": "0")",
+         "[0, 25, 30]", "[0, 15]"},
         "lists.rates[1]: mpeg2video can't have 15 frames a second, only 24000/1001, 24, 25, "
         "30000/1001, 30, 50, 60000/1001, 60 (in the preset Video_MPEG2_001)");
     row("a sample rate that an encoder doesn't have", {"[0, 44100, 48000]", "[0, 22050, 48000]"},
@@ -376,9 +387,10 @@ void TestCatalogueLint::onlyAContainerWithoutSoundDoesWithoutSettings()
 void TestCatalogueLint::aCategoryIsATag()
 {
     const QByteArray json = changed({R"("Video",)", R"("Image",)", "Video_", "Image_"});
-    QCOMPARE(mistakesIn({json}),
-             QStringList({QStringLiteral("file1.json: category: must be one of video, device, in "
-                                         "whatever case, to be shown")}));
+    QCOMPARE(
+        mistakesIn({json}),
+        QStringList({QStringLiteral("file1.json: category: must be one of video, audio, device, in "
+                                    "whatever case, to be shown")}));
 }
 
 void TestCatalogueLint::aMistakeOfSeveralPresetsIsNamedOnce()
@@ -411,7 +423,7 @@ void TestCatalogueLint::mistakesKeepNothingFromBeingServed()
         readCatalogue({{QStringLiteral("f"), changed({"fmt_mp4", "fmt_none"})}});
     const QVector<CatalogueMistake> mistakes =
         lintCatalogue(catalogue, {QStringLiteral("fmt_mp4")},
-                      {QStringLiteral("video"), QStringLiteral("device")});
+                      {QStringLiteral("video"), QStringLiteral("audio"), QStringLiteral("device")});
     QCOMPARE(mistakes.size(), 1);
     QVERIFY(mistakes.constFirst().isServed);
 }
