@@ -72,9 +72,10 @@ void lintName(const CheckedGroup &group, QSet<QString> &names, MistakeCollector 
     const bool isLookedUp =
         category == QLatin1String("video") || category == QLatin1String("audio");
     if (isLookedUp && group.name != group.name.toUpper()) {
-        collector.note(group.placeOf("name"),
-                       QStringLiteral("must be in upper case, as video and audio formats are "
-                                      "looked up so"));
+        collector.note(
+            group.placeOf("name"),
+            QStringLiteral(
+                "must be in upper case: video and audio formats are looked up by such names"));
     }
 }
 

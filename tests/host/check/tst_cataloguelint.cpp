@@ -109,10 +109,12 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
     row("a picture that isn't there", {"fmt_mp4", "fmt_none"},
         "groups[0].icon: there is no picture \"fmt_none\" in formats/qml/image");
     row("a video format in small letters", {"MPEG-2", "mpeg-2"},
-        "groups[0].name: must be in upper case, as video and audio formats are looked up so");
+        "groups[0].name: must be in upper case: video and audio formats are looked up by such "
+        "names");
     row("an audio format in small letters",
         {R"("Video",)", R"("Audio",)", "Video_", "Audio_", "MPEG-2", "mpeg-2"},
-        "groups[0].name: must be in upper case, as video and audio formats are looked up so");
+        "groups[0].name: must be in upper case: video and audio formats are looked up by such "
+        "names");
     row("no presets", {R"({ "id": "Video_MPEG2_001", "title": "T" })", ""},
         "groups[0].presets: holds no preset");
     row("no picture", {R"("icon": "fmt_mp4", )", ""},
