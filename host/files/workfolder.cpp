@@ -81,6 +81,17 @@ QString WorkFolder::errorText() const
     return qt_error_string(m_error);
 }
 
+void WorkFolder::restore()
+{
+    if (!isValid() || m_lock.isAt(m_path)) {
+        return;
+    }
+    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    ::mkdir(QFile::encodeName(m_path).constData(), S_IRWXU);
+    // Where nothing can be locked, nothing is swept either.
+    static_cast<void>(m_lock.tryLock(m_path));
+}
+
 QString WorkFolder::filePath(const QString &name) const
 {
     return QDir(m_path).filePath(name);

@@ -26,6 +26,9 @@ public:
     [[nodiscard]] QString path() const { return m_path; }
     [[nodiscard]] QString filePath(const QString &name) const;
 
+    /*! Makes the folder again, empty, where somebody has removed it. */
+    void restore();
+
     /*! Removes from \a parent what dead processes of this user on this machine left there. */
     static void sweep(const QString &parent);
 

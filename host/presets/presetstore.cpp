@@ -163,6 +163,8 @@ Result<> PresetStore::save()
         {m_userPresets, m_formats.formatListModel()->toVariantListForSave()},
         {m_recently, m_formats.recentlyFormatsModel()->toVariantListForSave()},
     };
+    // The library writes only there, also after the user has removed the configuration folder.
+    m_work->restore();
     m_formats.uninit();
     for (const Part &part : parts) {
         const QByteArray written = bytesOf(workPath(part.file));

@@ -68,7 +68,7 @@ void Presets::noteUse(const QString &id)
 
 void Presets::flush()
 {
-    if (m_change.isActive()) {
+    if (m_change.isActive() || m_isUnsaved) {
         m_change.stop();
         save();
     }
@@ -77,7 +77,8 @@ void Presets::flush()
 void Presets::save()
 {
     const Result<> saved = m_store.save();
-    if (!saved) {
+    m_isUnsaved = !saved;
+    if (m_isUnsaved) {
         Q_EMIT saveFailed(saved.error().text);
     }
     Q_EMIT changed();

@@ -32,7 +32,7 @@ public:
     /*! Puts the preset at the head of the recently used ones. */
     void noteUse(const QString &id);
 
-    /*! Writes what hasn't been written yet. */
+    /*! Writes what hasn't been written yet, also where that has failed before. */
     void flush();
 
 Q_SIGNALS:
@@ -47,6 +47,7 @@ private:
 
     PresetStore &m_store;
     QTimer m_change;
+    bool m_isUnsaved = false; //!< the last save failed
 };
 
 #endif

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void itIsHiddenAndForTheUserAlone();
     void itGoesWithAllThatIsInIt();
     void itIsMadeInTheTemporaryPlaceOfTheSystem();
+    void aRemovedOneComesBackAndIsNotSwept();
     void whatADeadProcessLeftIsSwept();
     void whatALivingProcessUsesStays();
     void linksAreNeverFollowed();
@@ -89,6 +90,16 @@ void TestWorkFolder::itIsMadeInTheTemporaryPlaceOfTheSystem()
 {
     const WorkFolder folder;
     QCOMPARE(QFileInfo(folder.path()).path(), QDir::tempPath());
+}
+
+void TestWorkFolder::aRemovedOneComesBackAndIsNotSwept()
+{
+    WorkFolder work(m_place->path());
+    QVERIFY(QDir(m_place->path()).removeRecursively());
+    work.restore();
+    QVERIFY(QFileInfo(work.path()).isDir());
+    WorkFolder::sweep(m_place->path());
+    QVERIFY(QFileInfo(work.path()).isDir());
 }
 
 void TestWorkFolder::whatADeadProcessLeftIsSwept()

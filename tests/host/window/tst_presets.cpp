@@ -42,6 +42,8 @@ private Q_SLOTS:
 
     void everyChangeIsSavedAsItHappens();
     void aSaveThatFailsIsTold();
+    void whatCouldNotBeSavedIsSavedAtTheEnd();
+    void aRemovedFolderComesBackWithAllPresets();
     void aPresetThatIsGoneHasAStandIn();
     void captionsNameTheFormatAndTheTitle();
 
@@ -107,6 +109,45 @@ void TestPresets::aSaveThatFailsIsTold()
     m_store->formats().delFromRecently(QStringLiteral("Audio_MP3_002"));
     m_presets->flush();
     QCOMPARE(failures.count(), 1);
+}
+
+void TestPresets::whatCouldNotBeSavedIsSavedAtTheEnd()
+{
+    const QByteArray before = contentOf(recently());
+    QVERIFY(QFile::remove(recently()));
+    QVERIFY(QDir().mkdir(recently()));
+    QSignalSpy failures(m_presets.get(), &Presets::saveFailed);
+    m_presets->noteUse(QStringLiteral("Audio_MP3_002"));
+    QTRY_COMPARE_WITH_TIMEOUT(failures.count(), 1, patience);
+    QVERIFY(QDir().rmdir(recently()));
+    write(recently(), before);
+    m_presets->flush();
+    QCOMPARE(failures.count(), 1);
+    QCOMPARE(firstIdIn(recently()), QStringLiteral("Audio_MP3_002"));
+    m_store->formats().delFromRecently(QStringLiteral("Audio_MP3_002"));
+    m_presets->flush();
+}
+
+void TestPresets::aRemovedFolderComesBackWithAllPresets()
+{
+    QSignalSpy failures(m_presets.get(), &Presets::saveFailed);
+    FormatsProxy &formats = m_store->formats();
+    const QString tag = QStringLiteral("audio");
+    const QString title = QStringLiteral("MP3");
+    const QString base = QStringLiteral("Audio_MP3_002");
+    const QString first = formats.addUserDefineFormat(
+        tag, title, base, {{QStringLiteral("title"), QStringLiteral("First")}});
+    m_presets->flush();
+    QVERIFY(QDir(m_folder.path()).removeRecursively());
+    const QString second = formats.addUserDefineFormat(
+        tag, title, base, {{QStringLiteral("title"), QStringLiteral("Second")}});
+    m_presets->flush();
+    QCOMPARE(failures.count(), 0);
+    QVERIFY(contentOf(userPresets()).contains("\"First\""));
+    QVERIFY(contentOf(userPresets()).contains("\"Second\""));
+    formats.delUserDefineFormat(tag, title, first);
+    formats.delUserDefineFormat(tag, title, second);
+    m_presets->flush();
 }
 
 void TestPresets::aPresetThatIsGoneHasAStandIn()
