@@ -7,6 +7,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QItemSelectionModel>
+#include <QListView>
 #include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QStandardPaths>
@@ -14,6 +16,38 @@
 #include <algorithm>
 
 namespace {
+
+/*!
+ * Qt's own dialog selects each folder on the way while a path is typed, and with Return would open
+ * one of them instead of choosing the file.
+ */
+class FilesDialog : public QFileDialog
+{
+public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override
+    {
+        // A platform's dialog has no such list.
+        if (const auto *list = findChild<QListView *>(QStringLiteral("listView"))) {
+            deselectFoldersElsewhere(*list);
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    static void deselectFoldersElsewhere(const QListView &list)
+    {
+        const QModelIndexList rows = list.selectionModel()->selectedRows();
+        for (const QModelIndex &row : rows) {
+            const QString path = row.data(QFileSystemModel::FilePathRole).toString();
+            if (row.parent() != list.rootIndex() && QFileInfo(path).isDir()) {
+                list.selectionModel()->select(row, QItemSelectionModel::Deselect |
+                                                       QItemSelectionModel::Rows);
+            }
+        }
+    }
+};
 
 QStringList usualFolders()
 {
@@ -97,7 +131,7 @@ void showMediaFirst(QFileDialog *dialog)
 
 void FileChooser::chooseFiles(Page *page)
 {
-    auto *dialog = new QFileDialog(nullptr, ToolFun::text(QStringLiteral("Add files")),
+    auto *dialog = new FilesDialog(nullptr, ToolFun::text(QStringLiteral("Add files")),
                                    firstFolderOf(QStringList{m_lastFolder} + usualFolders()));
     dialog->setFileMode(QFileDialog::ExistingFiles);
     showMediaFirst(dialog);

@@ -32,16 +32,16 @@ QString xdotool(const QStringList &arguments)
     return hasEnded ? QString::fromUtf8(tool.readAllStandardOutput()).trimmed() : QString();
 }
 
-/*! The id of the process' only visible window; empty when it doesn't come. */
-QString windowOf(const QProcess &program)
+/*! The id of the process' only visible window of this title; empty when it doesn't come. */
+QString windowOf(const QProcess &program, const char *title = "VexConvert")
 {
     QString id;
     const bool isThere = QTest::qWaitFor(
-        [&program, &id] {
+        [&program, &id, title] {
             id = xdotool({QStringLiteral("search"), QStringLiteral("--all"),
                           QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
                           QString::number(program.processId()), QStringLiteral("--name"),
-                          QStringLiteral("^VexConvert$")});
+                          QStringLiteral("^%1$").arg(QLatin1String(title))});
             return !id.isEmpty() && !id.contains(QLatin1Char('\n'));
         },
         patience);
@@ -105,6 +105,7 @@ private Q_SLOTS:
     void anIgnoredHangupEndsNothing();
     void aFolderThatIsTakenIsSaidInADialog();
     void filesAreDroppedFromAnotherProgram();
+    void aFileIsAddedByTheKeysOfItsPath();
 
 private:
     QString path(const char *name) const { return m_work->filePath(QString::fromLatin1(name)); }
@@ -134,7 +135,7 @@ void TestDesktop::init()
     QVERIFY(MediaClips::makeFilm(path("films/film.mp4"), 30));
     // A conversion's process id is noted, and its pace is that of a player.
     QVERIFY(
-        MediaClips::makeStandIn(path("bin"), QStringLiteral("case \"$*\" in *.part) echo $$ >'%1'; "
+        MediaClips::makeStandIn(path("bin"), QStringLiteral("case \"$*\" in */part) echo $$ >'%1'; "
                                                             "exec $REAL -re \"$@\";; esac\n"
                                                             "exec $REAL \"$@\"")
                                                  .arg(path("converter"))));
@@ -157,7 +158,7 @@ void TestDesktop::prepare(QProcess &program, const QStringList &arguments) const
 QStringList TestDesktop::thumbnails() const
 {
     QStringList names;
-    QDirIterator files(path("tmp"), {QStringLiteral("*.png")}, QDir::Files,
+    QDirIterator files(path("tmp"), {QStringLiteral("*.png")}, QDir::Files | QDir::Hidden,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         names << QFileInfo(files.next()).fileName();
@@ -285,7 +286,7 @@ void TestDesktop::aFolderThatIsTakenIsSaidInADialog()
     QCOMPARE(second.exitStatus(), QProcess::NormalExit);
     QCOMPARE(second.exitCode(), 1);
     const QByteArray error = second.readAllStandardError();
-    QVERIFY2(error.contains("another program is writing the presets in "), error.constData());
+    QVERIFY2(error.contains(" is using the presets in "), error.constData());
     first.kill();
     QVERIFY(first.waitForFinished(patience));
 }
@@ -315,6 +316,26 @@ void TestDesktop::filesAreDroppedFromAnotherProgram()
             moveTo((from + to) / 2) + moveTo(to) + moveTo(to + QPoint(5, 5)) +
             QStringList{QStringLiteral("mouseup"), QStringLiteral("1")});
     QTRY_COMPARE_WITH_TIMEOUT(thumbnails().size(), 2, patience);
+    program.terminate();
+    QVERIFY(program.waitForFinished(patience));
+}
+
+void TestDesktop::aFileIsAddedByTheKeysOfItsPath()
+{
+    GroupProcess program;
+    prepare(program, {});
+    program.start();
+    const QString window = windowOf(program);
+    QVERIFY(!window.isEmpty());
+    xdotool(
+        {QStringLiteral("windowfocus"), window, QStringLiteral("key"), QStringLiteral("ctrl+o")});
+    const QString dialog = windowOf(program, "Add files");
+    QVERIFY(!dialog.isEmpty());
+    // At a person's pace, so that the dialog proposes names meanwhile.
+    xdotool({QStringLiteral("windowfocus"), dialog, QStringLiteral("type"),
+             QStringLiteral("--delay"), QStringLiteral("60"), path("films/film.mp4")});
+    xdotool({QStringLiteral("key"), QStringLiteral("Return")});
+    QTRY_COMPARE_WITH_TIMEOUT(thumbnails().size(), 1, patience);
     program.terminate();
     QVERIFY(program.waitForFinished(patience));
 }

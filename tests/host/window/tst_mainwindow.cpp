@@ -72,7 +72,7 @@ void TestMainWindow::initTestCase()
     opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     // A conversion's process id is noted, and its pace is that of a player.
     QVERIFY(MediaClips::makeStandIn(
-        m_work.path(), QStringLiteral("case \"$*\" in *slow*.part) echo $$ >\"$VEX_CONVERTER\"; "
+        m_work.path(), QStringLiteral("case \"$*\" in *slow*/part) echo $$ >\"$VEX_CONVERTER\"; "
                                       "exec $REAL -re \"$@\";; esac\n"
                                       "exec $REAL \"$@\"")));
     m_path = qgetenv("PATH");
