@@ -220,15 +220,15 @@ void TestMainWindow::closingTheWindowStopsItsConversion()
 {
     convertSlowly();
     const pid_t converter = contentOf(path("converter")).trimmed().toInt();
-    const QStringList piece = {QStringLiteral("*.part")};
+    const QStringList piece = {QStringLiteral(".vexconvert-*")};
     const QDir folder(m_files->path());
     QCOMPARE(::kill(converter, 0), 0);
-    QCOMPARE(folder.entryList(piece, QDir::Files | QDir::Hidden).size(), 1);
+    QCOMPARE(folder.entryList(piece, QDir::Dirs | QDir::Hidden).size(), 1);
     QTimer::singleShot(0, m_window, &QWindow::close);
     QCOMPARE(QCoreApplication::exec(), 0);
     m_main.reset();
     QVERIFY(::kill(converter, 0) != 0);
-    QCOMPARE(folder.entryList(piece, QDir::Files | QDir::Hidden), QStringList());
+    QCOMPARE(folder.entryList(piece, QDir::Dirs | QDir::Hidden), QStringList());
     QVERIFY(QFile::exists(path("film.mp4")));
 }
 
