@@ -38,13 +38,11 @@ void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
     const QString path = QDir(folder).filePath(
         QStringLiteral("clip-%1x%2.mkv").arg(size.width()).arg(size.height()));
     auto *probe = new MediaProbe(parent);
-    QObject::connect(probe, &MediaProbe::finished, probe,
-                     [path, probe, done](const Result<MediaFacts> &facts) {
-                         probe->deleteLater();
-                         done(facts.map([&path](const MediaFacts &known) {
-                             return ProofClip{path, known};
-                         }));
-                     });
+    QObject::connect(
+        probe, &MediaProbe::finished, probe, [path, probe, done](const Result<MediaFacts> &facts) {
+            probe->deleteLater();
+            done(facts.map([&path](const MediaFacts &known) { return ProofClip{path, known}; }));
+        });
     auto *ffmpeg = new Tool(probe);
     QObject::connect(ffmpeg, &Tool::finished, probe,
                      [path, probe, done](const Result<ToolRun> &run) {

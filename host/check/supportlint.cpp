@@ -2,7 +2,6 @@
 
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
-#include "host/convert/textlist.h"
 #include "host/media/mediafacts.h"
 
 namespace {
@@ -30,12 +29,29 @@ QStringList sizesOf(const VideoCodec &codec)
 QStringList bitratesOf(const AudioCodec &codec)
 {
     QStringList bitrates;
-    const QStringList exact = words(codec.bitrates);
-    for (const QString &kbps : exact) {
-        bitrates << QString::number(qRound(kbps.toDouble()));
+    for (const double kbps : codec.bitrates) {
+        bitrates << QString::number(qRound(kbps));
     }
     bitrates.removeDuplicates();
     return bitrates;
+}
+
+QStringList textsOf(const QVector<Ratio> &rates)
+{
+    QStringList texts;
+    for (const Ratio &rate : rates) {
+        texts << rate.toText();
+    }
+    return texts;
+}
+
+QStringList textsOf(const QVector<int> &numbers)
+{
+    QStringList texts;
+    for (const int number : numbers) {
+        texts << QString::number(number);
+    }
+    return texts;
 }
 
 QStringList channelsUpTo(int count)
@@ -59,7 +75,8 @@ public:
     void lintAudio();
 
 private:
-    QStringList lintEncoders(CatalogueSetting::Id encoder, const char *held, const QString &track);
+    QStringList lintEncoders(CatalogueSetting::Id encoder, const QStringList &held,
+                             const QString &track);
 
     /*! Notes each offered value that \a owner, a codec or kind of file that stands under
      *  \a ownerKey, doesn't support; an empty list allows all. In \a unit "%1" is the value. */
@@ -73,19 +90,18 @@ private:
 
 /*! The codecs that the preset may be written with; "0" may come out as the container's usual one.
  */
-QStringList SupportLint::lintEncoders(CatalogueSetting::Id encoder, const char *held,
+QStringList SupportLint::lintEncoders(CatalogueSetting::Id encoder, const QStringList &held,
                                       const QString &track)
 {
     QStringList names = m_preset.offered(setting(encoder));
-    const QStringList allowed = words(held);
-    if (allowed.isEmpty() && !names.isEmpty()) {
+    if (held.isEmpty() && !names.isEmpty()) {
         m_preset.note(setting(encoder).optionsPath(),
                       QStringLiteral("%1 holds no %2").arg(fileText(), track), extensionKey);
         return {};
     }
-    allowOnly(allowed, encoder, QStringLiteral("%1"), fileText(), extensionKey);
+    allowOnly(held, encoder, QStringLiteral("%1"), fileText(), extensionKey);
     if (names.removeAll(keepsSource) > 0) {
-        names += allowed.constFirst();
+        names += held.constFirst();
     }
     return names;
 }
@@ -99,7 +115,7 @@ void SupportLint::lintVideo()
         const VideoCodec &codec = videoCodec(name);
         takesBitrates = takesBitrates || codec.takesBitrate;
         const QString owner = setting(CatalogueSetting::VideoEncoder).optionsPath();
-        allowOnly(words(codec.frameRates), CatalogueSetting::FrameRate,
+        allowOnly(textsOf(codec.frameRates), CatalogueSetting::FrameRate,
                   QStringLiteral("%1 frames a second"), name, owner);
         allowOnly(sizesOf(codec), CatalogueSetting::Resolution, QStringLiteral("the size %1"), name,
                   owner);
@@ -116,7 +132,7 @@ void SupportLint::lintAudio()
     const QString channelUnit = QStringLiteral("%1-channel sound");
     const QString sampleRateUnit = QStringLiteral("%1 Hz");
     const QString owner = setting(CatalogueSetting::AudioEncoder).optionsPath();
-    if (*m_container.audioCodecs != '\0' &&
+    if (!m_container.audioCodecs.isEmpty() &&
         m_preset.chosen(setting(CatalogueSetting::AudioEncoder)).isNull()) {
         m_preset.note(extensionKey, QStringLiteral("%1 holds sound, but there are no audio "
                                                    "settings (in the preset %2)")
@@ -133,7 +149,7 @@ void SupportLint::lintAudio()
         }
         allowOnly(channelsUpTo(codec.maxChannels), CatalogueSetting::Channels, channelUnit, name,
                   owner);
-        allowOnly(words(codec.sampleRates), CatalogueSetting::SampleRate, sampleRateUnit, name,
+        allowOnly(textsOf(codec.sampleRates), CatalogueSetting::SampleRate, sampleRateUnit, name,
                   owner);
         allowOnly(bitratesOf(codec), CatalogueSetting::AudioBitrate, kbpsUnit, name, owner);
     }
@@ -145,7 +161,7 @@ void SupportLint::lintAudio()
         allowOnly({QString::number(m_container.channels)}, CatalogueSetting::Channels, channelUnit,
                   fileText(), extensionKey);
     }
-    allowOnly(words(m_container.sampleRates), CatalogueSetting::SampleRate, sampleRateUnit,
+    allowOnly(textsOf(m_container.sampleRates), CatalogueSetting::SampleRate, sampleRateUnit,
               fileText(), extensionKey);
 }
 
