@@ -32,8 +32,8 @@ QList<QVariant> FormatCodecApi::getExportGroupLists(const QString &category)
 
 QList<QVariant> FormatCodecApi::getExportGroupContents(const QMap<QString, QVariant> &group)
 {
-    FakeCatalogue::served().calls.append(QStringLiteral("contents ")
-                                         + group.value(QStringLiteral("name")).toString());
+    FakeCatalogue::served().calls.append(QStringLiteral("contents ") +
+                                         group.value(QStringLiteral("name")).toString());
     for (const QList<FakeCatalogue::Group> &groups : qAsConst(FakeCatalogue::served().groups)) {
         for (const FakeCatalogue::Group &candidate : groups) {
             if (candidate.map == group) {

@@ -193,7 +193,7 @@ void TestOddNames::noNameMovesTheCursorOrForgesALine()
     QCOMPARE(missing.exitCode, 1);
     QCOMPARE(missing.err,
              QStringLiteral("vexconvert: no %1: no such file; check its name\n").arg(shown));
-    const CommandRun unknown = run({QFile::decodeName(name)});
+    const CommandRun unknown = run({QFile::decodeName("no " + name)});
     QCOMPARE(unknown.err.count(QLatin1Char('\n')), 1);
     verifyVisible(unknown.err);
 }

@@ -16,7 +16,11 @@ class MessageLog
     Q_DISABLE_COPY(MessageLog)
 
 public:
-    MessageLog() : m_previous(qInstallMessageHandler(&MessageLog::keep)) { lines().clear(); }
+    MessageLog()
+        : m_previous(qInstallMessageHandler(&MessageLog::keep))
+    {
+        lines().clear();
+    }
     ~MessageLog() { qInstallMessageHandler(m_previous); }
 
     /*! The lines so far, each as "debug: text", "info: text", "warning: text", "critical: text". */
