@@ -1,4 +1,6 @@
-# Sourced by ./run, ./test and tools/fuzz.sh: installs what the machine lacks and builds a CMake preset.
+# shellcheck shell=bash disable=SC2034 # the lists are for those who source it
+# Sourced by ./run, ./test and the scripts here: installs what the machine lacks and builds a CMake
+# preset.
 # Everything said here goes to stderr: stdout belongs to the program.
 
 missing_packages() {
@@ -44,3 +46,4 @@ test_packages=(
     qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3 python3-jsonschema
 )
 fuzz_packages=(clang libclang-rt-dev)
+lint_packages=(clang-format shellcheck qtdeclarative5-dev-tools)

@@ -28,8 +28,8 @@ namespace PresetFile {
 
 /*!
  * Calls \a addPreset with each entry of each format's "group" and with the presets that
- * \a presetsOf gives for the format. An element that is no object counts as an empty one. Option lists that
- * are equal are one shared list.
+ * \a presetsOf gives for the format. An element that is no object counts as an empty one. Option
+ * lists that are equal are one shared list.
  */
 void importFormats(const QJsonArray &formats, FormatListModel &model,
                    FormatDetailModel &(*presetsOf)(FormatListModel &, const QJsonObject &),
