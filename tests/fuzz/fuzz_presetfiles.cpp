@@ -29,7 +29,7 @@ void parseWith(IFormatsParser &parser, const QString &path)
     parser.parseDevice(path, &formats, true);
     parser.parseRecently(path, &recently, true);
     formats.toVariantListForSave();
-    recently.toVariantList();
+    static_cast<void>(recently.toVariantList());
 }
 
 } // namespace
