@@ -129,7 +129,7 @@ QStringList inputArguments(const QString &path, const QString &demuxers)
     return {QStringLiteral("-protocol_whitelist"),
             QStringLiteral("file"),
             QStringLiteral("-format_whitelist"),
-            demuxers,
+            demuxers.isEmpty() ? demuxersFor(path) : demuxers,
             QStringLiteral("-i"),
             fileArgument(path)};
 }

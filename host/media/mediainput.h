@@ -13,7 +13,7 @@
 /*!
  * The arguments with which ffmpeg and ffprobe take \a path as their source, and open no other file
  * whatever it says. \a demuxers are those that may read it: demuxersFor(path), or the one that has
- * read it before.
+ * read it before; where that isn't known, an empty text is as good as demuxersFor(path).
  */
 [[nodiscard]] QStringList inputArguments(const QString &path, const QString &demuxers);
 

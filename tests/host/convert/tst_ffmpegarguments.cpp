@@ -1,3 +1,4 @@
+#include "host/media/mediainput.h"
 #include "tests/host/convert/plannedcommand.h"
 
 using namespace PlannedCommand;
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void pathsAreTakenAsFiles();
     void aCutIsReadFromTheSource_data();
     void aCutIsReadFromTheSource();
+    void aSourceOfUnknownContainerMayBeReadByAnyDemuxer();
 };
 
 void TestFfmpegArguments::whatMayStayIsKept_data()
@@ -209,6 +211,17 @@ void TestFfmpegArguments::aCutIsReadFromTheSource()
     QVERIFY2(line.contains(QStringLiteral(" -y ") + options + input), qUtf8Printable(line));
     QCOMPARE(line.contains(QStringLiteral("-c:v:0 copy")), isCopied);
     QCOMPARE(line.contains(QStringLiteral("-c:a:0 copy")), isCopied);
+}
+
+void TestFfmpegArguments::aSourceOfUnknownContainerMayBeReadByAnyDemuxer()
+{
+    const QString path = QStringLiteral("/in");
+    const Result<QStringList> formed =
+        ffmpegArguments(video("mkv"), facts(film(), [](MediaFacts &f) { f.container.clear(); }),
+                        usualEncoders(), path, QStringLiteral("/out"));
+    QVERIFY(formed);
+    const int whitelist = formed->indexOf(QStringLiteral("-format_whitelist"));
+    QCOMPARE(formed->value(whitelist + 1), demuxersFor(path));
 }
 
 QTEST_GUILESS_MAIN(TestFfmpegArguments)
