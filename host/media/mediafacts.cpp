@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -90,6 +91,13 @@ void readFrameRate(const QJsonObject &stream, VideoTrack &track)
     }
 }
 
+/*! "mov,mp4,m4a" as it is; empty for a text that names no demuxers. */
+QString demuxerNames(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("\\A[A-Za-z0-9_.,-]+\\z"));
+    return form.match(text).hasMatch() ? text : QString();
+}
+
 VideoTrack videoTrack(const QJsonObject &stream)
 {
     VideoTrack track;
@@ -162,7 +170,7 @@ MediaFacts MediaFacts::fromProbe(const QByteArray &json)
     MediaFacts facts;
     const QJsonObject probe = QJsonDocument::fromJson(json).object();
     const QJsonObject format = probe.value(QLatin1String("format")).toObject();
-    facts.container = text(format, QLatin1String("format_name"));
+    facts.container = demuxerNames(text(format, QLatin1String("format_name")));
     facts.duration = plausibleSeconds(text(format, QLatin1String("duration")).toDouble());
     facts.bytes = std::max(0LL, text(format, QLatin1String("size")).toLongLong());
 

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void soundThatCannotBeIsUnknown();
     void aLengthThatCannotBeIsUnknown_data();
     void aLengthThatCannotBeIsUnknown();
+    void aContainerThatCannotBeIsUnknown_data();
+    void aContainerThatCannotBeIsUnknown();
 
 private:
     static MediaFacts probe(const QByteArray &stream, const QByteArray &format = {})
@@ -148,6 +150,24 @@ void TestMediaFactsLimits::aLengthThatCannotBeIsUnknown()
     QTEST(inFile.duration, "seconds");
     QCOMPARE(inFile.bytes, 0);
     QTEST(probe(R"({"codec_type": "audio", )" + said + "}").duration, "seconds");
+}
+
+void TestMediaFactsLimits::aContainerThatCannotBeIsUnknown_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("container");
+    QTest::newRow("names of demuxers")
+        << QByteArray("mov,mp4,m4a,3gp") << QStringLiteral("mov,mp4,m4a,3gp");
+    QTest::newRow("none") << QByteArray() << QString();
+    QTest::newRow("control character") << QByteArray("\\u0000v,mp4") << QString();
+    QTest::newRow("line break") << QByteArray("mp4\\n") << QString();
+}
+
+void TestMediaFactsLimits::aContainerThatCannotBeIsUnknown()
+{
+    QFETCH(QByteArray, name);
+    const MediaFacts facts = probe({}, R"("format_name": ")" + name + '"');
+    QTEST(facts.container, "container");
 }
 
 QTEST_GUILESS_MAIN(TestMediaFactsLimits)
