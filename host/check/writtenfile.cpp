@@ -63,14 +63,14 @@ void Comparison::compareDuration()
 
 void Comparison::comparePicture(const Container &container)
 {
-    const VideoTrack *track = m_file.facts.picture();
-    const bool isWanted = m_asked.hasPicture && m_source.picture() != nullptr;
+    const VideoTrack *track = m_file.facts.video();
+    const bool isWanted = m_asked.hasVideo && m_source.video() != nullptr;
     if (track == nullptr || !isWanted) {
         expect(!isWanted, QStringLiteral("there is no picture"));
         expect(track == nullptr, QStringLiteral("there is a picture"));
         return;
     }
-    const VideoTrack *source = m_source.picture();
+    const VideoTrack *source = m_source.video();
     const VideoCodec codec = videoCodec(track->codec);
     compareCodec(track->codec, m_asked.videoCodec, source->codec, container.videoCodecs);
     compareSize(*track, source->displaySize());
@@ -106,8 +106,8 @@ void Comparison::compareSize(const VideoTrack &track, const QSize &sourceSize)
 
 void Comparison::compareSound(const Container &container)
 {
-    const AudioTrack *track = m_file.facts.sound();
-    const AudioTrack *source = m_source.sound();
+    const AudioTrack *track = m_file.facts.audio();
+    const AudioTrack *source = m_source.audio();
     const bool isAsked = !container.audioCodecs.isEmpty() && source != nullptr;
     if (track == nullptr || !isAsked) {
         expect(!isAsked, QStringLiteral("there is no sound"));

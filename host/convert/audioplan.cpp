@@ -72,7 +72,7 @@ Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &t
     AudioPlan plan{*encoder};
     plan.sampleRate = sampleRate == track.sampleRate ? 0 : sampleRate;
     // Channels without a layout get the usual one of their number.
-    plan.channels = channels == track.channels && track.hasLayout ? 0 : channels;
+    plan.channels = channels == track.channels && !track.layout.isEmpty() ? 0 : channels;
     plan.kbps = encodedKbps(codec, target.settings.audioKbps, sampleRate, channels);
     plan.quality = codec.quality;
     plan.isPadded = target.container.hasSoundInFrames;

@@ -123,7 +123,7 @@ void Conversion::publish(const Result<MediaFacts> &result)
         fail(result.error());
         return;
     }
-    if (!result || (m_job.settings.hasPicture && result->picture() == nullptr)) {
+    if (!result || (m_job.settings.hasVideo && result->video() == nullptr)) {
         fail({tr("ffmpeg wrote a file that can't be played; try another preset")});
         return;
     }

@@ -29,7 +29,7 @@ QStringList cutArguments(const OutputSettings &settings)
 
 QVector<AudioTrack> chosenSound(const MediaFacts &source, const StreamTarget &target)
 {
-    const AudioTrack *sound = source.sound();
+    const AudioTrack *sound = source.audio();
     if (sound == nullptr || target.container.audioCodecs.isEmpty()) {
         return {};
     }
@@ -41,7 +41,7 @@ QVector<AudioTrack> chosenSound(const MediaFacts &source, const StreamTarget &ta
 Result<> checkStreams(const VideoTrack *picture, const QVector<AudioTrack> &sound,
                       const StreamTarget &target)
 {
-    if (target.settings.hasPicture && picture == nullptr) {
+    if (target.settings.hasVideo && picture == nullptr) {
         return failed(Texts::tr("has no video; choose an audio preset"));
     }
     if (picture == nullptr && sound.isEmpty()) {
@@ -64,7 +64,7 @@ bool keepsCover(const VideoTrack *cover, const Container &container)
 /*! The streams, their codecs and the muxer. */
 Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget &target)
 {
-    const VideoTrack *picture = target.settings.hasPicture ? source.picture() : nullptr;
+    const VideoTrack *picture = target.settings.hasVideo ? source.video() : nullptr;
     const QVector<AudioTrack> sound = chosenSound(source, target);
     const Result<> possible = checkStreams(picture, sound, target);
     if (!possible) {

@@ -112,7 +112,7 @@ struct ChosenNumber
 
 auto valuesOf(const OutputSettings &settings)
 {
-    return std::tie(settings.extension, settings.hasPicture, settings.videoCodec,
+    return std::tie(settings.extension, settings.hasVideo, settings.videoCodec,
                     settings.frameRate, settings.box, settings.videoKbps, settings.audioCodec,
                     settings.sampleRate, settings.channels, settings.audioKbps,
                     settings.allAudioTracks, settings.start, settings.end);
@@ -127,8 +127,8 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
     settings.allAudioTracks = preset.value(QStringLiteral("supportMultiTrack")).toBool();
 
     // A user's audio preset has a hollow "videoParam" in its outPutNode: only this key tells.
-    settings.hasPicture = preset.contains(QStringLiteral("video"));
-    if (settings.hasPicture) {
+    settings.hasVideo = preset.contains(QStringLiteral("video"));
+    if (settings.hasVideo) {
         const QVariantMap video = preset.value(QStringLiteral("video")).toMap();
         settings.videoCodec = chosenText(video, QStringLiteral("encoder"));
         settings.frameRate = rateFromText(chosenText(video, QStringLiteral("frameRate")));

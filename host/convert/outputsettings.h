@@ -21,7 +21,7 @@ public:
     static constexpr double fastestFrameRate = 300;
 
     QString extension;
-    bool hasPicture = false;
+    bool hasVideo = false;
     QString videoCodec; //!< as ffprobe names it
     Ratio frameRate;
     QSize box;            //!< the picture is fitted into it

@@ -16,7 +16,8 @@ void MediaProbe::start(const QString &path, const ToolLimits &limits)
     m_path = path;
     m_tool.start(
         ffprobeCall(QStringList{QStringLiteral("-print_format"), QStringLiteral("json"),
-                                QStringLiteral("-show_format"), QStringLiteral("-show_streams")} +
+                                QStringLiteral("-show_format"), QStringLiteral("-show_streams"),
+                                QStringLiteral("-show_chapters")} +
                     inputArguments(path, demuxersFor(path))),
         limits);
 }

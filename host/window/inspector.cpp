@@ -49,7 +49,7 @@ void Inspector::askNext()
 void Inspector::take(const Result<MediaFacts> &facts)
 {
     const Question question = m_questions.head();
-    if (facts && (facts->picture() != nullptr || facts->cover() != nullptr)) {
+    if (facts && (facts->video() != nullptr || facts->cover() != nullptr)) {
         picture(question, *facts);
     } else {
         m_questions.dequeue();
@@ -61,8 +61,8 @@ void Inspector::take(const Result<MediaFacts> &facts)
 void Inspector::picture(const Question &question, const MediaFacts &facts)
 {
     // The very first frames of films are often black.
-    const double moment = facts.picture() == nullptr ? 0 : facts.duration / 10;
-    const VideoTrack *track = facts.picture() == nullptr ? facts.cover() : facts.picture();
+    const double moment = facts.video() == nullptr ? 0 : facts.duration / 10;
+    const VideoTrack *track = facts.video() == nullptr ? facts.cover() : facts.video();
     m_ffmpeg.start(
         ffmpegCall(QStringList{QStringLiteral("-y"), QStringLiteral("-ss"),
                                QString::number(moment, 'f', 3)} +

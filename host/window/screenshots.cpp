@@ -104,7 +104,7 @@ void Screenshots::takeTasks()
             return std::all_of(tasks.tasks().begin(), tasks.tasks().end(), [](const Task &task) {
                 return task.state == Task::Failed ||
                        (task.state == Task::Ready &&
-                        (task.facts.picture() == nullptr || !task.thumbnail.isEmpty()));
+                        (task.facts.video() == nullptr || !task.thumbnail.isEmpty()));
             });
         });
     }

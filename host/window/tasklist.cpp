@@ -19,7 +19,7 @@ int nextId()
 QString detailsOf(const MediaFacts &facts)
 {
     QStringList parts;
-    if (const VideoTrack *picture = facts.picture()) {
+    if (const VideoTrack *picture = facts.video()) {
         const QSize size = picture->displaySize();
         parts << QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
     }
@@ -35,10 +35,10 @@ QString detailsOf(const MediaFacts &facts)
 QString codecsOf(const MediaFacts &facts)
 {
     QStringList codecs;
-    if (const VideoTrack *picture = facts.picture()) {
+    if (const VideoTrack *picture = facts.video()) {
         codecs << picture->codec;
     }
-    if (const AudioTrack *sound = facts.sound()) {
+    if (const AudioTrack *sound = facts.audio()) {
         codecs << sound->codec;
     }
     return codecs.join(QStringLiteral(", "));

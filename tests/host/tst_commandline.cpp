@@ -514,7 +514,7 @@ void TestCommandLine::aFileIsConverted()
     QCOMPARE(told.exitCode, 0);
     const QString target = path(QStringLiteral("film.mkv"));
     const MediaFacts facts = MediaClips::factsOf(target);
-    QCOMPARE(facts.picture()->codec, QStringLiteral("mpeg4"));
+    QCOMPARE(facts.video()->codec, QStringLiteral("mpeg4"));
     const QStringList lines = told.out.trimmed().split(QLatin1Char('\n'));
     QVERIFY(lines.size() >= 2);
     QCOMPARE(lines.at(lines.size() - 2), QStringLiteral("film.mp4 -> ") + target);
@@ -528,7 +528,7 @@ void TestCommandLine::aFittingPresetConverts()
 {
     const CommandRun told = run("convert film.mp4 --type audio --format MP3 --target 320");
     QCOMPARE(told.exitCode, 0);
-    QCOMPARE(MediaClips::factsOf(path(QStringLiteral("film.mp3"))).sound()->codec,
+    QCOMPARE(MediaClips::factsOf(path(QStringLiteral("film.mp3"))).audio()->codec,
              QStringLiteral("mp3"));
     QCOMPARE(recentIds(), QStringList());
 }
@@ -774,9 +774,9 @@ void TestCommandLine::aUsersPresetIsMadeChangedAndDeleted()
     QVERIFY(run("show 1001").out.contains(QStringLiteral("Made by  you")));
     QCOMPARE(run("convert film.mp4 --preset 1001").exitCode, 0);
     const MediaFacts facts = MediaClips::factsOf(path(QStringLiteral("film (2).mp4")));
-    QCOMPARE(facts.picture()->codec, QStringLiteral("mpeg4"));
-    QCOMPARE(facts.picture()->frameRate.toText(), QStringLiteral("30000/1001"));
-    QCOMPARE(facts.picture()->displaySize(), QSize(120, 90));
+    QCOMPARE(facts.video()->codec, QStringLiteral("mpeg4"));
+    QCOMPARE(facts.video()->frameRate.toText(), QStringLiteral("30000/1001"));
+    QCOMPARE(facts.video()->displaySize(), QSize(120, 90));
 
     const CommandRun changed = run("user change 1001 --video-bitrate 4000 --title New");
     QCOMPARE(changed.out, QStringLiteral("1001 changed\n"));
@@ -796,7 +796,7 @@ void TestCommandLine::aUsersAudioPresetConverts()
     QCOMPARE(run("convert film.mp4 --preset 1001").exitCode, 0);
     const MediaFacts facts = MediaClips::factsOf(path(QStringLiteral("film.mp3")));
     QVERIFY(facts.videoTracks.isEmpty());
-    QCOMPARE(facts.sound()->channels, 1);
+    QCOMPARE(facts.audio()->channels, 1);
 }
 
 void TestCommandLine::aDeletedPresetIsStillUsableFromTheRecentOnes()

@@ -25,11 +25,11 @@ void TestPresetProof::aConversionThatTakesTooLongFails()
                   });
     loop.exec();
     QVERIFY(clip);
-    QCOMPARE(clip->facts.picture()->displaySize(), QSize(320, 180));
+    QCOMPARE(clip->facts.video()->displaySize(), QSize(320, 180));
 
     OutputSettings settings;
     settings.extension = QStringLiteral("mkv");
-    settings.hasPicture = true;
+    settings.hasVideo = true;
     PresetProof proof(settings, *clip);
     Result<> ended;
     connect(&proof, &PresetProof::finished, &loop, [&ended, &loop](const Result<> &outcome) {

@@ -12,7 +12,7 @@ OutputSettings askedSettings()
 {
     OutputSettings asked;
     asked.extension = QStringLiteral("mp4");
-    asked.hasPicture = true;
+    asked.hasVideo = true;
     asked.videoCodec = QStringLiteral("h264");
     asked.box = QSize(1280, 720);
     asked.frameRate = {30000, 1001};
@@ -70,7 +70,7 @@ void keepAll(OutputSettings &asked, WrittenFile &file, MediaFacts &)
     const QString extension = asked.extension;
     asked = OutputSettings();
     asked.extension = extension;
-    asked.hasPicture = true;
+    asked.hasVideo = true;
     file.facts.videoTracks[0].storedSize = QSize(1920, 1080);
     file.facts.audioTracks[0].sampleRate = 44100;
 }
@@ -190,7 +190,7 @@ void TestWrittenFile::deviationsAreNamed_data()
     row("a source without a picture", "there is a picture",
         [](OutputSettings &, WrittenFile &, MediaFacts &source) { source.videoTracks.clear(); });
     settings("a picture in an audio file", "there is a picture",
-             [](OutputSettings &asked) { asked.hasPicture = false; });
+             [](OutputSettings &asked) { asked.hasVideo = false; });
     video("another video codec", "mpeg4, not h264",
           [](VideoTrack &track) { track.codec = QStringLiteral("mpeg4"); });
     video("larger than the box", "1280x722 isn't fitted into 1280x720",

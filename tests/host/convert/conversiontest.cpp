@@ -83,7 +83,7 @@ OutputSettings ConversionTest::video(const QString &extension)
 {
     OutputSettings settings;
     settings.extension = extension;
-    settings.hasPicture = true;
+    settings.hasVideo = true;
     return settings;
 }
 

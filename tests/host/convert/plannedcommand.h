@@ -46,7 +46,7 @@ inline AudioTrack sound(const QString &codec, int index = 1, int sampleRate = 48
     track.codec = codec;
     track.sampleRate = sampleRate;
     track.channels = channels;
-    track.hasLayout = true;
+    track.layout = QStringLiteral("mono");
     return track;
 }
 
@@ -73,7 +73,7 @@ inline OutputSettings video(const char *extension, const char *videoCodec = "",
 {
     OutputSettings settings;
     settings.extension = QLatin1String(extension);
-    settings.hasPicture = true;
+    settings.hasVideo = true;
     settings.videoCodec = QLatin1String(videoCodec);
     settings.audioCodec = QLatin1String(audioCodec);
     return settings;
@@ -82,7 +82,7 @@ inline OutputSettings video(const char *extension, const char *videoCodec = "",
 inline OutputSettings audio(const char *extension, const char *audioCodec = "")
 {
     OutputSettings settings = video(extension, "", audioCodec);
-    settings.hasPicture = false;
+    settings.hasVideo = false;
     return settings;
 }
 

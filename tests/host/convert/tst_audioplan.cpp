@@ -83,7 +83,7 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
         song(QStringLiteral("mp3")), "-map 0:0 -c:a:0 pcm_s24le -f wav");
     row("channels without a layout get the usual one", audio("m4a", "aac"),
         facts(song(QStringLiteral("tta")),
-              [](MediaFacts &f) { f.audioTracks[0].hasLayout = false; }),
+              [](MediaFacts &f) { f.audioTracks[0].layout.clear(); }),
         "-map 0:0 -c:a:0 aac -ac:a:0 2 -b:a:0 192k -movflags +faststart -f ipod");
     row("unknown rate and channels are left to ffmpeg", audio("m4a", "aac"),
         song(QStringLiteral("mp3"), 0, 0), "-map 0:0 -c:a:0 aac -movflags +faststart -f ipod");

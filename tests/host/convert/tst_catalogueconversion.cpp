@@ -96,12 +96,12 @@ void TestCatalogueConversion::everyChoiceOfEncodersConverts()
     }
     QVERIFY2(outcome, outcome ? "" : qPrintable(outcome.error().text));
     QFile::remove(outcome->target);
-    QCOMPARE(outcome->facts.picture() != nullptr, settings.hasPicture);
+    QCOMPARE(outcome->facts.video() != nullptr, settings.hasVideo);
     if (!settings.videoCodec.isEmpty()) {
-        QCOMPARE(outcome->facts.picture()->codec, settings.videoCodec);
+        QCOMPARE(outcome->facts.video()->codec, settings.videoCodec);
     }
     if (!settings.audioCodec.isEmpty()) {
-        QCOMPARE(outcome->facts.sound()->codec, settings.audioCodec);
+        QCOMPARE(outcome->facts.audio()->codec, settings.audioCodec);
     }
 }
 

@@ -50,12 +50,12 @@ void TestConversion::aFilmIsConverted()
     QCOMPARE(contentOf(source), before);
 
     const MediaFacts facts = MediaClips::factsOf(outcome->target);
-    QCOMPARE(facts.picture()->codec, QStringLiteral("mpeg4"));
-    QCOMPARE(facts.picture()->displaySize(), QSize(160, 120));
-    QCOMPARE(facts.picture()->frameRate.toText(), QStringLiteral("15"));
-    QCOMPARE(facts.sound()->codec, QStringLiteral("mp3"));
-    QCOMPARE(facts.sound()->sampleRate, 48000);
-    QCOMPARE(facts.sound()->channels, 2);
+    QCOMPARE(facts.video()->codec, QStringLiteral("mpeg4"));
+    QCOMPARE(facts.video()->displaySize(), QSize(160, 120));
+    QCOMPARE(facts.video()->frameRate.toText(), QStringLiteral("15"));
+    QCOMPARE(facts.audio()->codec, QStringLiteral("mp3"));
+    QCOMPARE(facts.audio()->sampleRate, 48000);
+    QCOMPARE(facts.audio()->channels, 2);
     QVERIFY(qAbs(facts.duration - 1.0) < 0.2);
     QCOMPARE(outcome->facts.summary(), facts.summary());
 }
@@ -67,7 +67,7 @@ void TestConversion::aSilentFilmStaysSilent()
     settings.audioCodec = QStringLiteral("opus");
     const Outcome outcome = convert(job(source, settings));
     QCOMPARE(errorOf(outcome), QString());
-    QCOMPARE(outcome->facts.picture()->codec, QStringLiteral("vp9"));
+    QCOMPARE(outcome->facts.video()->codec, QStringLiteral("vp9"));
     QVERIFY(outcome->facts.audioTracks.isEmpty());
 }
 
@@ -92,7 +92,7 @@ void TestConversion::dvHoldsTheWholeFilmWhateverItsSound()
     const Outcome outcome = convert(job(source, video(QStringLiteral("dv"))));
     QCOMPARE(errorOf(outcome), QString());
     QVERIFY(qAbs(outcome->facts.duration - 2.0) < 0.05);
-    QCOMPARE(outcome->facts.sound()->channels, 2);
+    QCOMPARE(outcome->facts.audio()->channels, 2);
 }
 
 void TestConversion::theSoundOfAFilmIsTaken()
@@ -104,9 +104,9 @@ void TestConversion::theSoundOfAFilmIsTaken()
     QCOMPARE(errorOf(outcome), QString());
     QCOMPARE(outcome->target, path(QStringLiteral("film.mp3")));
     QVERIFY(outcome->facts.videoTracks.isEmpty());
-    QCOMPARE(outcome->facts.sound()->codec, QStringLiteral("mp3"));
-    QCOMPARE(outcome->facts.sound()->sampleRate, 44100);
-    QCOMPARE(outcome->facts.sound()->channels, 1);
+    QCOMPARE(outcome->facts.audio()->codec, QStringLiteral("mp3"));
+    QCOMPARE(outcome->facts.audio()->sampleRate, 44100);
+    QCOMPARE(outcome->facts.audio()->channels, 1);
 }
 
 void TestConversion::aCoverComesAlong()
@@ -116,7 +116,7 @@ void TestConversion::aCoverComesAlong()
         const Outcome outcome = convert(job(source, audio(QLatin1String(extension))));
         QCOMPARE(errorOf(outcome), QString());
         QVERIFY2(outcome->facts.cover() != nullptr, extension);
-        QVERIFY(outcome->facts.picture() == nullptr);
+        QVERIFY(outcome->facts.video() == nullptr);
     }
     QVERIFY(convert(job(source, audio(QStringLiteral("ogg")))).value().facts.videoTracks.isEmpty());
 }
@@ -124,25 +124,25 @@ void TestConversion::aCoverComesAlong()
 void TestConversion::aPortraitPictureFitsTheTurnedBox()
 {
     const QString source = copyOf(QStringLiteral("turned.mp4"), QStringLiteral("turned.mp4"));
-    QCOMPARE(MediaClips::factsOf(source).picture()->displaySize(), QSize(240, 320));
+    QCOMPARE(MediaClips::factsOf(source).video()->displaySize(), QSize(240, 320));
     OutputSettings settings = video(QStringLiteral("mkv"));
     settings.videoCodec = QStringLiteral("h264");
     settings.box = QSize(160, 90);
     const Outcome outcome = convert(job(source, settings));
     QCOMPARE(errorOf(outcome), QString());
-    QCOMPARE(outcome->facts.picture()->storedSize, QSize(90, 120));
-    QCOMPARE(outcome->facts.picture()->rotation, 0);
+    QCOMPARE(outcome->facts.video()->storedSize, QSize(90, 120));
+    QCOMPARE(outcome->facts.video()->rotation, 0);
 }
 
 void TestConversion::anUprightCopyOfATurnedPictureIsNotTurnedTwice()
 {
     const QString source = copyOf(QStringLiteral("turned.mp4"), QStringLiteral("turned.mp4"));
     const Outcome kept = convert(job(source, video(QStringLiteral("mov"))));
-    QCOMPARE(kept->facts.picture()->storedSize, QSize(320, 240));
-    QCOMPARE(kept->facts.picture()->displaySize(), QSize(240, 320));
+    QCOMPARE(kept->facts.video()->storedSize, QSize(320, 240));
+    QCOMPARE(kept->facts.video()->displaySize(), QSize(240, 320));
     const Outcome turned = convert(job(source, video(QStringLiteral("avi"))));
-    QCOMPARE(turned->facts.picture()->storedSize, QSize(240, 320));
-    QCOMPARE(turned->facts.picture()->displaySize(), QSize(240, 320));
+    QCOMPARE(turned->facts.video()->storedSize, QSize(240, 320));
+    QCOMPARE(turned->facts.video()->displaySize(), QSize(240, 320));
 }
 
 void TestConversion::widePixelsBecomeSquare()
@@ -152,8 +152,8 @@ void TestConversion::widePixelsBecomeSquare()
     settings.videoCodec = QStringLiteral("h264");
     settings.box = QSize(640, 640);
     const Outcome outcome = convert(job(source, settings));
-    QCOMPARE(outcome->facts.picture()->storedSize, QSize(640, 360));
-    QCOMPARE(outcome->facts.picture()->displaySize(), QSize(640, 360));
+    QCOMPARE(outcome->facts.video()->storedSize, QSize(640, 360));
+    QCOMPARE(outcome->facts.video()->displaySize(), QSize(640, 360));
 }
 
 void TestConversion::allAudioTracksAreKept()
@@ -175,7 +175,7 @@ void TestConversion::onlyTheDefaultTrackIsKept()
     const QString source = copyOf(QStringLiteral("dubbed.mkv"), QStringLiteral("dubbed.mkv"));
     const MediaFacts facts = convert(job(source, video(QStringLiteral("mp4")))).value().facts;
     QCOMPARE(facts.audioTracks.size(), 1);
-    QCOMPARE(facts.sound()->channels, 2);
+    QCOMPARE(facts.audio()->channels, 2);
 }
 
 void TestConversion::whatMayStayIsCopied()
@@ -183,8 +183,8 @@ void TestConversion::whatMayStayIsCopied()
     // A copy has the very pictures of its source, whatever encoder ffmpeg has.
     const QString source = copyOf(QStringLiteral("raw.mkv"), QStringLiteral("raw.mkv"));
     const MediaFacts facts = convert(job(source, video(QStringLiteral("mkv")))).value().facts;
-    QCOMPARE(facts.picture()->codec, QStringLiteral("ffv1"));
-    QCOMPARE(facts.sound()->codec, QStringLiteral("tta"));
+    QCOMPARE(facts.video()->codec, QStringLiteral("ffv1"));
+    QCOMPARE(facts.audio()->codec, QStringLiteral("tta"));
 }
 
 void TestConversion::everyContainerIsWrittenWithItsUsualCodecs_data()
@@ -213,20 +213,20 @@ void TestConversion::everyContainerIsWrittenWithItsUsualCodecs()
     }
     OutputSettings settings;
     settings.extension = extension;
-    settings.hasPicture = !videoCodec.isEmpty();
+    settings.hasVideo = !videoCodec.isEmpty();
     settings.videoCodec = videoCodec;
     settings.audioCodec = audioCodec;
     const QString source = copyOf(QStringLiteral("raw.mkv"), QStringLiteral("raw.mkv"));
 
     const Outcome outcome = convert(job(source, settings));
     QCOMPARE(errorOf(outcome), QString());
-    QCOMPARE(outcome->facts.picture() != nullptr, !videoCodec.isEmpty());
-    QCOMPARE(outcome->facts.sound() != nullptr, !audioCodec.isEmpty());
+    QCOMPARE(outcome->facts.video() != nullptr, !videoCodec.isEmpty());
+    QCOMPARE(outcome->facts.audio() != nullptr, !audioCodec.isEmpty());
     if (!videoCodec.isEmpty()) {
-        QCOMPARE(outcome->facts.picture()->codec, videoCodec);
+        QCOMPARE(outcome->facts.video()->codec, videoCodec);
     }
     if (!audioCodec.isEmpty()) {
-        QCOMPARE(outcome->facts.sound()->codec, audioCodec);
+        QCOMPARE(outcome->facts.audio()->codec, audioCodec);
     }
     // Raw streams tell no exact duration.
     QVERIFY(outcome->facts.duration > 0.5 && outcome->facts.duration < 2);
@@ -274,7 +274,7 @@ void TestConversion::bitratesBesideTheLimitsAreWritten()
     const QString source = copyOf(QStringLiteral("song.flac"), QStringLiteral("song.flac"));
     const Outcome outcome = convert(job(source, settings));
     QCOMPARE(errorOf(outcome), QString());
-    QCOMPARE(outcome->facts.sound()->codec, codec);
+    QCOMPARE(outcome->facts.audio()->codec, codec);
 }
 
 void TestConversion::metadataAndChaptersComeAlong()

@@ -38,7 +38,7 @@ void TestConversionNames::overwritingReplacesTheResult()
     const Outcome outcome = convert(overwriting);
     QCOMPARE(outcome->target, path(QStringLiteral("clip.mkv")));
     QCOMPARE(everything(), names("clip.mkv|clip.mp4"));
-    QCOMPARE(MediaClips::factsOf(outcome->target).picture()->codec, QStringLiteral("h264"));
+    QCOMPARE(MediaClips::factsOf(outcome->target).video()->codec, QStringLiteral("h264"));
 }
 
 void TestConversionNames::aSourceIsNeverOverwritten()

@@ -68,7 +68,7 @@ void TestOutputSettings::chosenValuesAreTakenFromTheMap()
 {
     const OutputSettings settings = OutputSettings::fromPreset(preset());
     QCOMPARE(settings.extension, QStringLiteral("mp4"));
-    QVERIFY(settings.hasPicture);
+    QVERIFY(settings.hasVideo);
     QCOMPARE(settings.videoCodec, QStringLiteral("h264"));
     QCOMPARE(settings.frameRate.toText(), QStringLiteral("30000/1001"));
     QCOMPARE(settings.box, QSize(1280, 720));
@@ -112,7 +112,7 @@ void TestOutputSettings::aMapWithoutVideoIsAudioOnly()
     QVariantMap map = preset();
     map.remove(QStringLiteral("video"));
     const OutputSettings settings = OutputSettings::fromPreset(map);
-    QVERIFY(!settings.hasPicture);
+    QVERIFY(!settings.hasVideo);
     QCOMPARE(settings.videoKbps, 0.0);
     QCOMPARE(settings.audioCodec, QStringLiteral("aac"));
 }
@@ -323,7 +323,7 @@ void TestOutputSettings::settingsAreTheSameWhenAllValuesAre_data()
     QTest::addColumn<Change>("change");
     const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
     row("extension", [](OutputSettings &s) { s.extension = QStringLiteral("avi"); });
-    row("picture", [](OutputSettings &s) { s.hasPicture = false; });
+    row("picture", [](OutputSettings &s) { s.hasVideo = false; });
     row("video codec", [](OutputSettings &s) { s.videoCodec = QStringLiteral("hevc"); });
     row("frame rate", [](OutputSettings &s) { s.frameRate = {30, 1}; });
     row("box", [](OutputSettings &s) { s.box = QSize(720, 1280); });

@@ -18,6 +18,11 @@ private Q_SLOTS:
     }
 
     void aProbedFilmTellsItsTracks();
+    void subtitlesAttachmentsAndChaptersAreTold();
+    void anHdrPictureTellsItsLight();
+    void theFieldOrderIsThatOfDisplay_data();
+    void theFieldOrderIsThatOfDisplay();
+    void aLosslessTrackTellsItsBits();
     void whatIsNoProbeHoldsNothing_data();
     void whatIsNoProbeHoldsNothing();
     void theShownSizeIsUprightWithSquarePixels_data();
@@ -80,7 +85,96 @@ void TestMediaFacts::aProbedFilmTellsItsTracks()
     QCOMPARE(audio.codec, QStringLiteral("aac"));
     QCOMPARE(audio.sampleRate, 44100);
     QCOMPARE(audio.channels, 2);
-    QVERIFY(audio.hasLayout);
+    QCOMPARE(audio.layout, QStringLiteral("stereo"));
+}
+
+void TestMediaFacts::subtitlesAttachmentsAndChaptersAreTold()
+{
+    const MediaFacts facts = MediaFacts::fromProbe(R"({"streams": [
+        {"index": 2, "codec_type": "subtitle", "codec_name": "subrip",
+         "disposition": {"default": 0, "forced": 1},
+         "tags": {"language": "ger", "title": "Untertitel"}},
+        {"index": 3, "codec_type": "subtitle", "codec_name": "hdmv_pgs_subtitle"},
+        {"index": 4, "codec_type": "attachment", "codec_name": "ttf",
+         "tags": {"filename": "a.ttf", "mimetype": "font/ttf"}}],
+        "chapters": [{"id": 0}, {"id": 1}]})");
+    QCOMPARE(facts.subtitleTracks.size(), 2);
+    const SubtitleTrack &text = facts.subtitleTracks.at(0);
+    QCOMPARE(text.index, 2);
+    QCOMPARE(text.language, QStringLiteral("ger"));
+    QCOMPARE(text.title, QStringLiteral("Untertitel"));
+    QVERIFY(text.isForced && text.isText());
+    QVERIFY(!facts.subtitleTracks.at(1).isForced && !facts.subtitleTracks.at(1).isText());
+    QCOMPARE(facts.attachments.size(), 1);
+    QCOMPARE(facts.attachments.at(0).name, QStringLiteral("a.ttf"));
+    QCOMPARE(facts.attachments.at(0).mimeType, QStringLiteral("font/ttf"));
+    QCOMPARE(facts.chapters, 2);
+}
+
+void TestMediaFacts::anHdrPictureTellsItsLight()
+{
+    const MediaFacts facts = probe(R"({"codec_type": "video", "codec_name": "hevc",
+        "codec_tag_string": "hvc1", "profile": "Main 10", "level": 150,
+        "pix_fmt": "yuv420p10le", "color_range": "tv", "color_space": "bt2020nc",
+        "color_transfer": "smpte2084", "color_primaries": "unknown",
+        "side_data_list": [
+            {"side_data_type": "Mastering display metadata", "red_x": "34000/50000",
+             "red_y": "16000/50000", "green_x": "13250/50000", "green_y": "34500/50000",
+             "blue_x": "7500/50000", "blue_y": "3000/50000", "white_point_x": "15635/50000",
+             "white_point_y": "16450/50000", "min_luminance": "50/10000",
+             "max_luminance": "10000000/10000"},
+            {"side_data_type": "Content light level metadata", "max_content": 1000,
+             "max_average": 400}]})");
+    const VideoTrack &track = facts.videoTracks.constFirst();
+    QCOMPARE(track.codecTag, QStringLiteral("hvc1"));
+    QCOMPARE(track.profile, QStringLiteral("Main 10"));
+    QCOMPARE(track.level, 150);
+    QCOMPARE(track.pixelFormat, QStringLiteral("yuv420p10le"));
+    QCOMPARE(track.colour.range, QStringLiteral("tv"));
+    QCOMPARE(track.colour.matrix, QStringLiteral("bt2020nc"));
+    QCOMPARE(track.colour.primaries, QString());
+    QVERIFY(track.colour.isHdr());
+    QVERIFY(track.masteringDisplay.has_value());
+    QVERIFY((track.masteringDisplay->green.y == Ratio{345, 500}));
+    QVERIFY((track.masteringDisplay->white.x == Ratio{15635, 50000}));
+    QVERIFY((track.masteringDisplay->brightest == Ratio{1000, 1}));
+    QVERIFY(track.lightLevel.has_value());
+    QCOMPARE(track.lightLevel->brightestPixel, 1000);
+    QCOMPARE(track.lightLevel->brightestFrame, 400);
+    QVERIFY(!probe(R"({"codec_type": "video"})").videoTracks.constFirst().colour.isHdr());
+}
+
+void TestMediaFacts::theFieldOrderIsThatOfDisplay_data()
+{
+    QTest::addColumn<QByteArray>("told");
+    QTest::addColumn<int>("order");
+    QTest::newRow("frames") << QByteArray("progressive") << int(VideoTrack::Progressive);
+    QTest::newRow("top") << QByteArray("tt") << int(VideoTrack::TopFieldFirst);
+    QTest::newRow("bottom") << QByteArray("bb") << int(VideoTrack::BottomFieldFirst);
+    QTest::newRow("stored top, shown bottom first")
+        << QByteArray("tb") << int(VideoTrack::BottomFieldFirst);
+    QTest::newRow("stored bottom, shown top first")
+        << QByteArray("bt") << int(VideoTrack::TopFieldFirst);
+    QTest::newRow("nothing") << QByteArray("unknown") << int(VideoTrack::UnknownOrder);
+}
+
+void TestMediaFacts::theFieldOrderIsThatOfDisplay()
+{
+    QFETCH(QByteArray, told);
+    const MediaFacts facts = probe(R"({"codec_type": "video", "field_order": ")" + told + R"("})");
+    QTEST(int(facts.videoTracks.constFirst().fieldOrder), "order");
+}
+
+void TestMediaFacts::aLosslessTrackTellsItsBits()
+{
+    const auto bits = [](const QByteArray &keys) {
+        return probe(R"({"codec_type": "audio", )" + keys + "}").audioTracks.constFirst();
+    };
+    QCOMPARE(bits(R"("bits_per_raw_sample": "24", "bits_per_sample": 0)").bitsPerSample, 24);
+    QCOMPARE(bits(R"("bits_per_sample": 16, "sample_fmt": "s16")").bitsPerSample, 16);
+    QCOMPARE(bits(R"("bits_per_sample": 0, "sample_fmt": "fltp")").bitsPerSample, 0);
+    QCOMPARE(bits(R"("bits_per_raw_sample": "99")").bitsPerSample, 0);
+    QCOMPARE(bits(R"("bit_rate": "128000")").kbps, 128.0);
 }
 
 void TestMediaFacts::whatIsNoProbeHoldsNothing_data()
@@ -99,8 +193,8 @@ void TestMediaFacts::whatIsNoProbeHoldsNothing()
     const MediaFacts facts = MediaFacts::fromProbe(json);
     QVERIFY(facts.isEmpty());
     QCOMPARE(facts.duration, 0.0);
-    QVERIFY(facts.picture() == nullptr);
-    QVERIFY(facts.sound() == nullptr);
+    QVERIFY(facts.video() == nullptr);
+    QVERIFY(facts.audio() == nullptr);
     QVERIFY(facts.cover() == nullptr);
 }
 
@@ -138,8 +232,8 @@ void TestMediaFacts::theShownSizeIsUprightWithSquarePixels()
     QFETCH(QSize, shown);
     const MediaFacts facts =
         probe(R"({"codec_type": "video", "width": 720, "height": 480, )" + more + "}");
-    QCOMPARE(facts.picture()->displaySize(), shown);
-    QCOMPARE(facts.picture()->storedSize, QSize(720, 480));
+    QCOMPARE(facts.video()->displaySize(), shown);
+    QCOMPARE(facts.video()->storedSize, QSize(720, 480));
 }
 
 void TestMediaFacts::theRotationIsTheTurnToTheRight_data()
@@ -158,7 +252,7 @@ void TestMediaFacts::theRotationIsTheTurnToTheRight_data()
 void TestMediaFacts::theRotationIsTheTurnToTheRight()
 {
     QFETCH(QByteArray, said);
-    QTEST(probe(R"({"codec_type": "video", )" + said + "}").picture()->rotation, "rotation");
+    QTEST(probe(R"({"codec_type": "video", )" + said + "}").video()->rotation, "rotation");
 }
 
 void TestMediaFacts::aRateFasterThanCamerasIsNoSteadyOne_data()
@@ -175,24 +269,24 @@ void TestMediaFacts::aRateFasterThanCamerasIsNoSteadyOne()
     QFETCH(bool, isSteady);
     const MediaFacts facts = probe(R"({"codec_type": "video", "r_frame_rate": ")" + nominal +
                                    R"(", "avg_frame_rate": "30/1"})");
-    QCOMPARE(facts.picture()->hasSteadyRate, isSteady);
-    QCOMPARE(facts.picture()->frameRate.value(), isSteady ? 240.0 : 30.0);
+    QCOMPARE(facts.video()->hasSteadyRate, isSteady);
+    QCOMPARE(facts.video()->frameRate.value(), isSteady ? 240.0 : 30.0);
 }
 
 void TestMediaFacts::aVariableRateIsTheAverage()
 {
     const MediaFacts facts = probe(
         R"({"codec_type": "video", "r_frame_rate": "90000/1", "avg_frame_rate": "2997/100"})");
-    QVERIFY(!facts.picture()->hasSteadyRate);
-    QCOMPARE(facts.picture()->frameRate.value(), 29.97);
+    QVERIFY(!facts.video()->hasSteadyRate);
+    QCOMPARE(facts.video()->frameRate.value(), 29.97);
 }
 
 void TestMediaFacts::theRateIsUnknownWhenTheFileDoesNotSay()
 {
     const MediaFacts facts =
         probe(R"({"codec_type": "video", "r_frame_rate": "0/0", "avg_frame_rate": "0/0"})");
-    QVERIFY(!facts.picture()->frameRate.isValid());
-    QVERIFY(!facts.picture()->hasSteadyRate);
+    QVERIFY(!facts.video()->frameRate.isValid());
+    QVERIFY(!facts.video()->hasSteadyRate);
 }
 
 void TestMediaFacts::aCoverIsNoPicture()
@@ -200,7 +294,7 @@ void TestMediaFacts::aCoverIsNoPicture()
     const MediaFacts facts = probe(
         R"({"index": 0, "codec_type": "audio", "codec_name": "mp3"},
            {"index": 1, "codec_type": "video", "disposition": {"attached_pic": 1, "default": 1}})");
-    QVERIFY(facts.picture() == nullptr);
+    QVERIFY(facts.video() == nullptr);
     QCOMPARE(facts.cover()->index, 1);
 }
 
@@ -211,8 +305,8 @@ void TestMediaFacts::theDefaultTrackComesFirst()
            {"index": 1, "codec_type": "audio", "disposition": {"default": 1}},
            {"index": 2, "codec_type": "video", "disposition": {"default": 0}},
            {"index": 3, "codec_type": "video", "disposition": {"default": 1}})");
-    QCOMPARE(facts.sound()->index, 1);
-    QCOMPARE(facts.picture()->index, 3);
+    QCOMPARE(facts.audio()->index, 1);
+    QCOMPARE(facts.video()->index, 3);
 }
 
 void TestMediaFacts::withoutADefaultTheFirstTrackIsTaken()
@@ -221,8 +315,8 @@ void TestMediaFacts::withoutADefaultTheFirstTrackIsTaken()
                                       {"index": 5, "codec_type": "audio"},
                                       {"index": 6, "codec_type": "video"},
                                       {"index": 7, "codec_type": "video"})");
-    QCOMPARE(facts.sound()->index, 4);
-    QCOMPARE(facts.picture()->index, 6);
+    QCOMPARE(facts.audio()->index, 4);
+    QCOMPARE(facts.video()->index, 6);
 }
 
 void TestMediaFacts::theDurationComesFromATrackWhenTheFileHasNone()

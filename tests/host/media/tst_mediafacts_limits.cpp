@@ -81,9 +81,9 @@ void TestMediaFactsLimits::aPictureThatCannotBeIsUnknown()
 {
     QFETCH(QByteArray, stream);
     const MediaFacts facts = probe(R"({"codec_type": "video", )" + stream + "}");
-    QTEST(facts.picture()->storedSize, "stored");
-    QTEST(facts.picture()->displaySize(), "shown");
-    QTEST(facts.picture()->rotation, "rotation");
+    QTEST(facts.video()->storedSize, "stored");
+    QTEST(facts.video()->displaySize(), "shown");
+    QTEST(facts.video()->rotation, "rotation");
 }
 
 void TestMediaFactsLimits::aRateThatCannotBeIsUnknown_data()
@@ -103,9 +103,9 @@ void TestMediaFactsLimits::aRateThatCannotBeIsUnknown()
     const MediaFacts facts =
         probe(R"({"codec_type": "video", "r_frame_rate": "90000/1", "avg_frame_rate": ")" +
               average + "\"}");
-    const Ratio read = facts.picture()->frameRate;
+    const Ratio read = facts.video()->frameRate;
     QCOMPARE(read.isValid() ? read.toText() : QString(), rate);
-    QVERIFY(!facts.picture()->hasSteadyRate);
+    QVERIFY(!facts.video()->hasSteadyRate);
 }
 
 void TestMediaFactsLimits::soundThatCannotBeIsUnknown_data()
@@ -126,9 +126,9 @@ void TestMediaFactsLimits::soundThatCannotBeIsUnknown()
 {
     QFETCH(QByteArray, stream);
     const MediaFacts facts = probe(R"({"codec_type": "audio", "index": -1, )" + stream + "}");
-    QTEST(facts.sound()->sampleRate, "sampleRate");
-    QTEST(facts.sound()->channels, "channels");
-    QCOMPARE(facts.sound()->index, 0);
+    QTEST(facts.audio()->sampleRate, "sampleRate");
+    QTEST(facts.audio()->channels, "channels");
+    QCOMPARE(facts.audio()->index, 0);
 }
 
 void TestMediaFactsLimits::aLengthThatCannotBeIsUnknown_data()

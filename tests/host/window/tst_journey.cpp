@@ -153,8 +153,8 @@ void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
         tasks.at(0).state == Task::Converted && tasks.at(1).state == Task::Converted, 60000);
     for (const char *result : {"film.mp3", "song.mp3"}) {
         const MediaFacts facts = MediaClips::factsOf(m_work.filePath(QString::fromLatin1(result)));
-        QVERIFY(facts.picture() == nullptr);
-        QCOMPARE(facts.sound()->codec, QStringLiteral("mp3"));
+        QVERIFY(facts.video() == nullptr);
+        QCOMPARE(facts.audio()->codec, QStringLiteral("mp3"));
     }
 }
 

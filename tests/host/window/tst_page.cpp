@@ -109,7 +109,7 @@ void TestPage::aFileIsReadAndPictured()
     const int id = m_converter->tasks()->tasks().constFirst().id;
     QCOMPARE(task(*m_converter, id).state, Task::Reading);
     QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Ready, patience);
-    QCOMPARE(task(*m_converter, id).facts.picture()->codec, QStringLiteral("h264"));
+    QCOMPARE(task(*m_converter, id).facts.video()->codec, QStringLiteral("h264"));
     QTRY_VERIFY_WITH_TIMEOUT(!task(*m_converter, id).thumbnail.isEmpty(), patience);
     const QImage picture(QUrl(task(*m_converter, id).thumbnail).toLocalFile());
     QCOMPARE(picture.size(), QSize(256, 192));
@@ -163,7 +163,7 @@ void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()
     QVERIFY(task(*m_converter, first).error.startsWith(QStringLiteral("cannot be read as media")));
     QCOMPARE(task(*m_converter, second).state, Task::Converted);
     QVERIFY(task(*m_converter, second).target.endsWith(QStringLiteral("/song.mp3")));
-    QCOMPARE(MediaClips::factsOf(task(*m_converter, second).target).sound()->codec,
+    QCOMPARE(MediaClips::factsOf(task(*m_converter, second).target).audio()->codec,
              mp3.mid(6, 3).toLower());
 }
 

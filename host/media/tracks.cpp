@@ -1,0 +1,25 @@
+#include "host/media/tracks.h"
+
+#include <QStringList>
+
+#include <cmath>
+
+bool Colour::isHdr() const
+{
+    return transfer == QLatin1String("smpte2084") || transfer == QLatin1String("arib-std-b67");
+}
+
+QSize VideoTrack::displaySize() const
+{
+    const int width = int(std::lround(storedSize.width() * pixelAspect.value()));
+    const QSize shown(width, storedSize.height());
+    return rotation % 180 == 0 ? shown : shown.transposed();
+}
+
+bool SubtitleTrack::isText() const
+{
+    static const QStringList pictures = {QStringLiteral("hdmv_pgs_subtitle"),
+                                         QStringLiteral("dvd_subtitle"),
+                                         QStringLiteral("dvb_subtitle"), QStringLiteral("xsub")};
+    return !pictures.contains(codec);
+}
