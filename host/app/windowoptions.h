@@ -7,10 +7,9 @@
 /*! What vexconvert was called with when it is called for its window. */
 struct WindowOptions
 {
-    QString configFolder;     //!< empty: the platform's
-    QString language;         //!< a code or locale; empty: the system's
-    QString screenshotFolder; //!< empty: the window is for a person
-    QStringList files;        //!< for its list: absolute paths of existing files and folders
+    QString configFolder; //!< empty: the platform's
+    QString language;     //!< one that Languages::suiting() finds; empty: the system's
+    QStringList files;    //!< for its list: absolute paths of existing files and folders
 };
 
 #endif

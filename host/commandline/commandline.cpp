@@ -1,6 +1,7 @@
 #include "host/commandline/commandline.h"
 
 #include "host/app/console.h"
+#include "host/app/languages.h"
 #include "host/files/localpath.h"
 
 #include "formats/proxy/formatsproxy.h"
@@ -11,6 +12,8 @@
 #include <algorithm>
 
 namespace {
+
+const QLatin1String languageOption("language");
 
 QVector<Subcommand> subcommands()
 {
@@ -61,14 +64,10 @@ QList<QCommandLineOption> commonOptions()
 QList<QCommandLineOption> windowOnlyOptions()
 {
     return {
-        valueOption(QStringLiteral("language"),
+        valueOption(languageOption,
                     CommandLine::tr("Language of the window, such as \"de\", instead of the "
                                     "system's."),
                     CommandLine::tr("LANG")),
-        valueOption(QStringLiteral("screenshots"),
-                    CommandLine::tr("Write pictures of all of the window's screens into DIR "
-                                    "instead of showing it."),
-                    CommandLine::tr("DIR")),
     };
 }
 
@@ -78,6 +77,13 @@ bool parseOverall(QCommandLineParser &parser, const QStringList &arguments)
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     parser.addOptions(commonOptions() + windowOnlyOptions());
     return parser.parse(QStringList{QCoreApplication::applicationName()} + arguments);
+}
+
+/*! Whether the window speaks the language that is asked for, if any is. */
+bool isLanguageSpoken(const QCommandLineParser &parser)
+{
+    const QString language = parser.value(languageOption);
+    return language.isEmpty() || !Languages::suiting(language).isEmpty();
 }
 
 /*! The parser's list of options, without its own usage line, which names the program's path. */
@@ -160,12 +166,16 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
         Console::print(QStringLiteral("vexconvert %1").arg(QCoreApplication::applicationVersion()));
         return Success;
     }
-    if (parser.isSet(QStringLiteral("help")) || (isParsed && rest.isEmpty())) {
+    if (parser.isSet(QStringLiteral("help"))) {
         Console::printLines(overviewText(parser));
         return Success;
     }
     if (!isParsed) {
         return wrongUsage(CommandLine::tr("%1; see \"vexconvert --help\"").arg(mistakeIn(parser)));
+    }
+    if (!isLanguageSpoken(parser)) {
+        return wrongUsage(CommandLine::tr("--language is one of: %1")
+                              .arg(Languages::all().join(QStringLiteral(", "))));
     }
     const QVector<Subcommand> all = subcommands();
     const Subcommand *named = findSubcommand(all, rest.constFirst());
@@ -210,12 +220,11 @@ std::optional<WindowOptions> CommandLine::windowOptions(const QStringList &argum
     const QStringList files = existingPaths(rest);
     const bool isSubcommand =
         !rest.isEmpty() && findSubcommand(subcommands(), rest.constFirst()) != nullptr;
-    if (isSubcommand || files.contains(QString())) {
+    if (isSubcommand || files.contains(QString()) || !isLanguageSpoken(parser)) {
         return std::nullopt;
     }
-    return WindowOptions{parser.value(QStringLiteral("config")),
-                         parser.value(QStringLiteral("language")),
-                         parser.value(QStringLiteral("screenshots")), files};
+    return WindowOptions{parser.value(QStringLiteral("config")), parser.value(languageOption),
+                         files};
 }
 
 ExitCode CommandLine::run(const QStringList &arguments)

@@ -75,7 +75,8 @@ Result<> FolderLock::lock(const QString &folder, int patience, const Tell &tell)
         if (sinceChange.elapsed() >= patience) {
             return failed(
                 tr("%1 is using the presets in %2; close it, or try again when it is done")
-                    .arg(holder, shownFolder));
+                    .arg(holder, shownFolder),
+                Error::InUse);
         }
         if (tell && !isTold && total.elapsed() >= unnoticed) {
             tell(tr("waiting for %1, which is using the presets in %2").arg(holder, shownFolder));

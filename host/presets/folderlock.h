@@ -19,7 +19,8 @@ public:
 
     /*!
      * Makes the folder where it is missing and locks it. Where another process has it, says so
-     * with \a tell and waits, but no longer than \a patience ms for one and the same.
+     * with \a tell and waits, but no longer than \a patience ms for one and the same. Then it is
+     * Error::InUse.
      */
     [[nodiscard]] Result<> lock(const QString &folder, int patience, const Tell &tell = {});
     void release() { m_lock.release(); }

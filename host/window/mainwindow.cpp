@@ -7,7 +7,6 @@
 
 #include "formats/proxy/formatsproxy.h"
 
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -40,8 +39,6 @@ MainWindow::~MainWindow()
 Result<> MainWindow::open()
 {
     const Result<> locked = m_store.lock(0);
-    // Nobody has a folder that isn't there or can't be written.
-    m_isFolderTaken = !locked && QFileInfo(configFolder()).isWritable();
     if (!locked) {
         return locked;
     }

@@ -32,14 +32,10 @@ public:
 
     /*!
      * Takes the configuration folder for itself, puts good copies in the place of damaged files and
-     * shows the window.
+     * shows the window. Error::InUse: another program has the folder, or another window on it, and
+     * it may be tried again.
      */
     [[nodiscard]] Result<> open();
-    /*!
-     * Whether open() was refused for another program that has the configuration folder, or another
-     * window on it. It may be tried again.
-     */
-    [[nodiscard]] bool isFolderTaken() const { return m_isFolderTaken; }
     /*! Lets that window show itself with these files. False when none answers in \a patience ms. */
     [[nodiscard]] bool handOver(const QStringList &paths, int patience) const;
     /*! Where nothing can be shown any more: saves, stops the pages' work and tidies up after it. */
@@ -63,7 +59,6 @@ private:
 
     Notices m_notices;
     PresetStore m_store;
-    bool m_isFolderTaken = false;
     ToolFun m_toolFun;
     FileChooser m_files;
     std::unique_ptr<Settings> m_settings;

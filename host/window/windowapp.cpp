@@ -1,11 +1,11 @@
 #include "host/window/windowapp.h"
 
+#include "host/app/exitcode.h"
 #include "host/app/interrupt.h"
-#include "host/commandline/commandline.h"
-#include "host/window/languages.h"
+#include "host/app/languages.h"
+#include "host/app/windowoptions.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
-#include "host/window/screenshots.h"
 #include "host/window/toolfun.h"
 
 #include <QApplication>
@@ -66,7 +66,7 @@ ExitCode showWindow(const WindowOptions &options)
     constexpr int patience = 5000;
     constexpr int pause = 100;
     const QDeadlineTimer deadline(patience);
-    while (window.isFolderTaken() && !deadline.hasExpired()) {
+    while (!opened && opened.error().kind == Error::InUse && !deadline.hasExpired()) {
         if (window.handOver(options.files, patience)) {
             return Success;
         }
@@ -84,31 +84,11 @@ ExitCode showWindow(const WindowOptions &options)
     return result == 0 ? Success : Failure;
 }
 
-ExitCode takeScreenshots(const QString &folder)
-{
-    const Result<> taken = Screenshots(folder).takeAll();
-    return taken ? Success : report(taken.error());
-}
-
 } // namespace
 
 int runWindow(int &argc, char **argv, const WindowOptions &options)
 {
-    const QString language =
-        options.language.isEmpty() ? Languages::ofSystem() : Languages::suiting(options.language);
-    if (language.isEmpty()) {
-        return report({CommandLine::tr("--language is one of: %1")
-                           .arg(Languages::all().join(QStringLiteral(", "))),
-                       Error::WrongUsage});
-    }
-    const bool isForScreenshots = !options.screenshotFolder.isEmpty();
-    if (isForScreenshots) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        qputenv("QT_QUICK_BACKEND", "software");
-    }
-    // Pictures have the scale of QT_SCALE_FACTOR, as there is no screen to follow.
-    QGuiApplication::setAttribute(isForScreenshots ? Qt::AA_DisableHighDpiScaling
-                                                   : Qt::AA_EnableHighDpiScaling);
+    QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QGuiApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -118,6 +98,7 @@ int runWindow(int &argc, char **argv, const WindowOptions &options)
     QApplication app(argc, argv);
     qInstallMessageHandler(usual);
 
-    Languages::install(language);
-    return isForScreenshots ? takeScreenshots(options.screenshotFolder) : showWindow(options);
+    Languages::install(options.language.isEmpty() ? Languages::ofSystem()
+                                                  : Languages::suiting(options.language));
+    return showWindow(options);
 }

@@ -4,9 +4,8 @@
 struct WindowOptions;
 
 /*!
- * Shows the window until it is closed, hands its files to a window that is open already, or writes
- * pictures of every screen instead. Returns the exit code; where there is no display, ends the
- * program with the one for a wrong call.
+ * Shows the window until it is closed, or hands its files to a window that is open already. Returns
+ * the exit code; where there is no display, ends the program with the one for a wrong call.
  */
 int runWindow(int &argc, char **argv, const WindowOptions &options);
 

@@ -64,7 +64,9 @@ void TestFolderLock::theHolderIsNamed()
     const auto other = holder();
     QVERIFY(!other->told().isEmpty());
     FolderLock lock;
-    QCOMPARE(lock.lock(folder(), 0).error().text,
+    const Error refusal = lock.lock(folder(), 0).error();
+    QCOMPARE(refusal.kind, Error::InUse);
+    QCOMPARE(refusal.text,
              QStringLiteral("tst_folderlock (process %1 on %2) is using the presets in %3; close "
                             "it, or try again when it is done")
                  .arg(other->told(), QSysInfo::machineHostName(), folder()));
@@ -123,7 +125,9 @@ void TestFolderLock::aWaitIsToldAndEndsWithTheHolder()
 void TestFolderLock::aFolderThatCannotBeIsSaid()
 {
     FolderLock lock;
-    QCOMPARE(lock.lock(QStringLiteral("/dev/null/config"), 0).error().text,
+    const Error refusal = lock.lock(QStringLiteral("/dev/null/config"), 0).error();
+    QCOMPARE(refusal.kind, Error::Failed);
+    QCOMPARE(refusal.text,
              QStringLiteral("can't write into the configuration folder /dev/null/config (Not a "
                             "directory); name another one"));
 }

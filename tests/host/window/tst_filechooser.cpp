@@ -1,4 +1,4 @@
-#include "host/window/languages.h"
+#include "host/app/languages.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
 #include "tests/host/mediaclips.h"

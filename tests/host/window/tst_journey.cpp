@@ -1,5 +1,5 @@
 #include "host/files/filenames.h"
-#include "host/window/languages.h"
+#include "host/app/languages.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
 #include "host/window/settings.h"

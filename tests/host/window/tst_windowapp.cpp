@@ -103,10 +103,11 @@ void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow_data()
                             << isForWindow;
     };
     row("", true);
-    row("--config /folder --language de --screenshots /pictures", true);
+    row("--config /folder --language de", true);
     row("--help", false);
     row("--version", false);
     row("--bogus", false);
+    row("--language tlh", false);
     row("--config /folder formats", false);
     row("formats", false);
 }
@@ -120,7 +121,6 @@ void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow()
     if (!arguments.isEmpty() && isForWindow) {
         QCOMPARE(options->configFolder, QStringLiteral("/folder"));
         QCOMPARE(options->language, QStringLiteral("de"));
-        QCOMPARE(options->screenshotFolder, QStringLiteral("/pictures"));
     }
 }
 
@@ -277,6 +277,9 @@ void TestWindowApp::badOptionsAreRefused_data()
     QTest::newRow("unknown language")
         << QStringList{QStringLiteral("--language"), QStringLiteral("tlh")} << 2
         << QStringLiteral("vexconvert: --language is one of: en, zh, de, es, fr, ja\n");
+    QTest::newRow("unknown language, with a file")
+        << QStringList{QStringLiteral("--language"), QStringLiteral("tlh"), QStringLiteral("/")}
+        << 2 << QStringLiteral("vexconvert: --language is one of: en, zh, de, es, fr, ja\n");
     QTest::newRow("for the window, with a subcommand")
         << QStringList{QStringLiteral("--language"), QStringLiteral("de"),
                        QStringLiteral("formats")}
@@ -297,9 +300,6 @@ void TestWindowApp::badOptionsAreRefused_data()
         << 1
         << QStringLiteral("vexconvert: can't write into the configuration folder /dev/null/x (Not "
                           "a directory); name another one\n");
-    QTest::newRow("pictures into a folder that can't be")
-        << QStringList{QStringLiteral("--screenshots"), QStringLiteral("/dev/null/x")} << 1
-        << QStringLiteral("vexconvert: can't make the folder /dev/null/x; name another one\n");
 }
 
 void TestWindowApp::badOptionsAreRefused()
@@ -316,7 +316,6 @@ void TestWindowApp::theHelpTellsOfTheWindow()
 {
     const QString help = run({QStringLiteral("--help")}).out;
     QVERIFY(help.contains(QStringLiteral("--language <LANG>")));
-    QVERIFY(help.contains(QStringLiteral("--screenshots <DIR>")));
     QVERIFY(help.contains(QStringLiteral("vexconvert [options] [FILE...]")));
 }
 

@@ -1,4 +1,4 @@
-#include "host/window/languages.h"
+#include "host/app/languages.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

@@ -1,5 +1,5 @@
-#ifndef WINDOW_LANGUAGES_H
-#define WINDOW_LANGUAGES_H
+#ifndef APP_LANGUAGES_H
+#define APP_LANGUAGES_H
 
 #include <QString>
 #include <QStringList>

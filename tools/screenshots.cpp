@@ -1,21 +1,61 @@
-#include "host/window/screenshots.h"
-
-#include "host/commandline/commandline.h"
+#include "host/app/exitcode.h"
+#include "host/app/languages.h"
+#include "host/files/workfolder.h"
 #include "host/tools/tool.h"
+#include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
 
 #include "formats/proxy/formatsproxy.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QQuickItemGrabResult>
+#include <QQuickStyle>
 #include <QQuickWindow>
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
+
+namespace {
+
+/*! Drives the window through its screens, over clips made for it, and takes a picture of each. */
+class Screenshots
+{
+public:
+    /*! \a folder is made where it is missing. */
+    explicit Screenshots(const QString &folder);
+
+    [[nodiscard]] Result<> takeAll();
+
+private:
+    void takePickers();
+    void takeDialogs();
+    void takeTasks();
+
+    QObject *picker() const;
+    void openPicker();
+    void showTag(const QString &tag);
+    void type(const QString &text);
+    void showPage(int page);
+    /*! A clip of this kind, made with ffmpeg from its own test sources. */
+    QUrl clip(const QString &name, const QString &arguments);
+    void editPreset(const QString &tag, const QString &className, const QString &id);
+
+    void waitUntil(const std::function<bool()> &isSo);
+    /*! Lets animations and late bindings come to rest. */
+    void settle(int pause = 500);
+    void take(const QString &name, QQuickWindow *window = nullptr);
+
+    const QDir m_folder;
+    WorkFolder m_work;
+    MainWindow m_window;
+    Result<> m_result;
+};
 
 Screenshots::Screenshots(const QString &folder)
     : m_folder(folder)
@@ -26,7 +66,7 @@ Result<> Screenshots::takeAll()
 {
     if (!QDir().mkpath(m_folder.path())) {
         return failed(
-            CommandLine::tr("can't make the folder %1; name another one").arg(m_folder.path()));
+            QStringLiteral("can't make the folder %1; name another one").arg(m_folder.path()));
     }
     m_result = m_window.open();
     if (!m_result) {
@@ -195,7 +235,11 @@ void Screenshots::waitUntil(const std::function<bool()> &isSo)
     constexpr int patience = 120000;
     QElapsedTimer clock;
     clock.start();
-    while (!isSo() && clock.elapsed() < patience) {
+    while (!isSo()) {
+        if (clock.elapsed() >= patience) {
+            m_result = failed(QStringLiteral("a screen didn't get ready in time"));
+            return;
+        }
         settle(20);
     }
 }
@@ -224,6 +268,32 @@ void Screenshots::take(const QString &name, QQuickWindow *window)
 
     const QString path = m_folder.absoluteFilePath(name + QStringLiteral(".png"));
     if (!image.save(path)) {
-        m_result = failed(CommandLine::tr("can't write %1; name another folder").arg(path));
+        m_result = failed(QStringLiteral("can't write %1; name another folder").arg(path));
     }
+}
+
+} // namespace
+
+/*!
+ * screenshots DIR [LANGUAGE]: writes pictures of all of the window's screens into DIR. They have
+ * the scale of QT_SCALE_FACTOR, as there is no screen to follow.
+ */
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+    QGuiApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QQuickStyle::setStyle(QStringLiteral("Default"));
+    QApplication app(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const QString language = Languages::suiting(arguments.value(2, QStringLiteral("en")));
+    if (arguments.size() < 2 || arguments.size() > 3 || language.isEmpty()) {
+        return report({QStringLiteral("usage: screenshots DIR [LANGUAGE]; the languages are %1")
+                           .arg(Languages::all().join(QStringLiteral(", "))),
+                       Error::WrongUsage});
+    }
+    Languages::install(language);
+    const Result<> taken = Screenshots(arguments.at(1)).takeAll();
+    return taken ? Success : report(taken.error());
 }
