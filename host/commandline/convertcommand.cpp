@@ -3,8 +3,8 @@
 #include "host/commandline/commandline.h"
 #include "host/commandline/fitting.h"
 #include "host/commandline/progresstext.h"
-#include "host/convert/conversion.h"
 #include "host/files/visibletext.h"
+#include "host/queue/conversionqueue.h"
 
 #include "formats/proxy/formatsproxy.h"
 #include "host/presets/presetstore.h"
@@ -12,7 +12,6 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
-#include <QPointer>
 #include <QRegularExpression>
 
 namespace {
@@ -67,24 +66,24 @@ QString shellCommand(const QString &program, const QStringList &arguments)
 }
 
 /*! Converts the files one after another and tells about it on the console. */
-class Batch
+class Batch : public QObject
 {
 public:
     Batch(const QStringList &files, const ConversionJob &prototype);
     ExitCode run();
 
 private:
-    void convert(const QString &file);
+    ConversionJob jobFor(const QString &file) const;
     void showProgress(const QString &file, const Progress &progress);
     void tell(const QString &file, const Result<ConversionOutcome> &outcome);
 
     const QStringList m_files;
     ConversionJob m_job;
     Interrupt m_interrupt;
-    QPointer<Conversion> m_running;
+    ConversionQueue m_queue; //!< a job's id is its file's place in m_files
+    QEventLoop m_loop;
     int m_toldTenths = 0;
     int m_converted = 0;
-    bool m_isInterrupted = false;
 };
 
 Batch::Batch(const QStringList &files, const ConversionJob &prototype)
@@ -92,21 +91,26 @@ Batch::Batch(const QStringList &files, const ConversionJob &prototype)
     , m_job(prototype)
 {
     m_job.keep = files;
-    QObject::connect(&m_interrupt, &Interrupt::caught, &m_interrupt, [this] {
-        m_isInterrupted = true;
-        if (m_running != nullptr) {
-            m_running->cancel();
-        }
-    });
+    connect(&m_interrupt, &Interrupt::caught, &m_queue, &ConversionQueue::stop);
+    connect(&m_queue, &ConversionQueue::started, this, [this] { m_toldTenths = 0; });
+    connect(&m_queue, &ConversionQueue::progressed, this,
+            [this](int id, const Progress &progress) { showProgress(m_files.at(id), progress); });
+    connect(&m_queue, &ConversionQueue::finished, this,
+            [this](int id, const Result<ConversionOutcome> &outcome) {
+                tell(m_files.at(id), outcome);
+                if (m_queue.isEmpty()) {
+                    m_loop.quit();
+                }
+            });
 }
 
 ExitCode Batch::run()
 {
-    for (const QString &file : m_files) {
-        if (!m_isInterrupted) {
-            convert(file);
-        }
+    for (int id = 0; id < m_files.size(); ++id) {
+        m_queue.add(id, [this, id] { return jobFor(m_files.at(id)); });
     }
+    m_queue.start();
+    m_loop.exec();
     if (m_files.size() > 1 && !m_job.planOnly) {
         Console::print(
             CommandLine::tr("%1 of %2 files converted").arg(m_converted).arg(m_files.size()));
@@ -114,22 +118,11 @@ ExitCode Batch::run()
     return m_converted == m_files.size() ? Success : Failure;
 }
 
-void Batch::convert(const QString &file)
+ConversionJob Batch::jobFor(const QString &file) const
 {
-    m_job.source = file;
-    m_toldTenths = 0;
-    Conversion conversion(m_job);
-    m_running = &conversion;
-    QEventLoop loop;
-    QObject::connect(&conversion, &Conversion::progressed, &loop,
-                     [this, &file](const Progress &progress) { showProgress(file, progress); });
-    QObject::connect(&conversion, &Conversion::finished, &loop,
-                     [this, &file, &loop](const Result<ConversionOutcome> &outcome) {
-                         tell(file, outcome);
-                         loop.quit();
-                     });
-    conversion.start();
-    loop.exec();
+    ConversionJob job = m_job;
+    job.source = file;
+    return job;
 }
 
 void Batch::showProgress(const QString &file, const Progress &progress)

@@ -1,16 +1,12 @@
 #ifndef WINDOW_PAGE_H
 #define WINDOW_PAGE_H
 
-#include "host/convert/conversion.h"
+#include "host/queue/conversionqueue.h"
 #include "host/window/inspector.h"
-#include "host/window/settings.h"
-#include "host/window/tasklist.h"
+#include "host/window/taskformats.h"
 
 #include <QList>
-#include <QPointer>
 #include <QUrl>
-
-class Presets;
 
 /*!
  * A page of the window: its list of files, its format and its folder, and the conversions, which
@@ -30,8 +26,8 @@ public:
     Page(PageKind kind, Settings &settings, Presets &presets, QObject *parent = nullptr);
 
     TaskList *tasks() { return &m_tasks; }
-    QString globalCaption() const;
-    QString globalIcon() const;
+    QString globalCaption() const { return m_formats.globalCaption(); }
+    QString globalIcon() const { return m_formats.globalIcon(); }
     /*! Where results go; empty: beside their sources. */
     QString folder() const { return m_settings.folder(m_kind); }
     /*! The same to show. */
@@ -67,27 +63,24 @@ Q_SIGNALS:
 
 protected:
     /*! The format of the page, for new files and for all in the list that aren't at work. */
-    void setGlobalFormat(const QString &id);
-    void setTaskFormat(int taskId, const QString &id);
+    void setGlobalFormat(const QString &id) { m_formats.chooseGlobal(id); }
+    void setTaskFormat(int taskId, const QString &id) { m_formats.choose(taskId, id); }
     /*! The part of the file to convert, in seconds; an \a end of 0 is the file's end. */
     void setCut(int taskId, double start, double end);
 
 private:
     void addFile(const QString &path);
-    void setState(int taskId, Task::State state);
-    void assign(int taskId, const QString &format);
-    void choose(int taskId, const QString &format);
-    void followPresets();
-    void runNext();
-    void finish(const Result<ConversionOutcome> &outcome);
+    void takeFacts(int taskId, const Result<MediaFacts> &facts);
+    void enqueue(int taskId);
+    ConversionJob jobOf(int taskId) const;
+    void takeOutcome(int taskId, const Result<ConversionOutcome> &outcome);
 
     const PageKind m_kind;
     Settings &m_settings;
-    Presets &m_presets;
     TaskList m_tasks;
+    TaskFormats m_formats;
     Inspector m_inspector;
-    QPointer<Conversion> m_conversion;
-    int m_runningTask = 0;
+    ConversionQueue m_queue;
 };
 
 #endif

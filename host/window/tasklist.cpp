@@ -165,6 +165,25 @@ void TaskList::update(int id, const std::function<void(Task &)> &change)
     Q_EMIT dataChanged(index(row), index(row));
 }
 
+void TaskList::setState(int id, Task::State state)
+{
+    update(id, [state](Task &task) {
+        task.state = state;
+        task.progress = {};
+        task.error.clear();
+        task.target.clear();
+    });
+    Q_EMIT stateChanged();
+}
+
+void TaskList::reopen(int id)
+{
+    const Task *task = find(id);
+    if (task != nullptr && task->hasEnded() && !task->facts.isEmpty()) {
+        setState(id, Task::Ready);
+    }
+}
+
 int TaskList::rowOf(int id) const
 {
     const auto found = std::find_if(m_tasks.begin(), m_tasks.end(),

@@ -80,9 +80,15 @@ public:
     void remove(int id);
     /*! Lets \a change alter the task, its id excepted. */
     void update(int id, const std::function<void(Task &)> &change);
+    /*! The task enters the state, without what it told of the last one. */
+    void setState(int id, Task::State state);
+    /*! Makes a task that has ended ready again, unless its file can't be read. */
+    void reopen(int id);
 
 Q_SIGNALS:
     void countChanged();
+    /*! setState() has changed a task. */
+    void stateChanged();
 
 private:
     int rowOf(int id) const;

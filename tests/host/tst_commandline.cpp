@@ -136,6 +136,8 @@ private Q_SLOTS:
     void aConversionDoesNotWaitForThePresets();
     void aConfigFolderThatCannotBeIsSaid();
     void theUsualConfigFolderIsThePlatforms();
+    void theConfigFolderMayFollowTheSubcommand_data();
+    void theConfigFolderMayFollowTheSubcommand();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -935,6 +937,27 @@ void TestCommandLine::theUsualConfigFolderIsThePlatforms()
     QProcess after;
     start(after, words("user list --config") << path(QStringLiteral("home/vexconvert")));
     QVERIFY(CommandRun::of(after).out.contains(QStringLiteral("1001")));
+}
+
+void TestCommandLine::theConfigFolderMayFollowTheSubcommand_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::newRow("alone") << QStringLiteral("user --config %1 add V_MP4_2 --title Mine");
+    QTest::newRow("in the place of another one")
+        << QStringLiteral("--config %2 user add V_MP4_2 --title Mine --config %1");
+}
+
+void TestCommandLine::theConfigFolderMayFollowTheSubcommand()
+{
+    QFETCH(QString, line);
+    const QString other = path(QStringLiteral("other"));
+    QProcess process;
+    start(process, line.replace(QStringLiteral("%1"), config())
+                       .replace(QStringLiteral("%2"), other)
+                       .split(QLatin1Char(' ')));
+    QCOMPARE(CommandRun::of(process).exitCode, 0);
+    QVERIFY(QFile::exists(config() + QStringLiteral("/formatCache.json")));
+    QVERIFY(!QFile::exists(other));
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)

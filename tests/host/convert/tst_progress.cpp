@@ -181,6 +181,20 @@ void TestProgress::theLineSaysWhatIsKnown_data()
                                << QStringLiteral("[########------------]");
     QTest::newRow("fast") << progress(40, 100, 2258.4) << QStringLiteral("40%, 2258x, 0:00 left")
                           << QStringLiteral("[########------------]");
+    QTest::newRow("a part of a percent and of a second")
+        << progress(49.99, 100, 4) << QStringLiteral("49%, 4.0x, 0:13 left")
+        << QStringLiteral("[#########-----------]");
+    QTest::newRow("slow") << progress(400, 10000, 0.05) << QStringLiteral("4%, 0.1x, 53:20:00 left")
+                          << QStringLiteral("[--------------------]");
+    QTest::newRow("nearly ten times real time")
+        << progress(5, 100, 9.94) << QStringLiteral("5%, 9.9x, 0:10 left")
+        << QStringLiteral("[#-------------------]");
+    QTest::newRow("ten times real time")
+        << progress(5, 100, 10) << QStringLiteral("5%, 10x, 0:10 left")
+        << QStringLiteral("[#-------------------]");
+    QTest::newRow("not quite done")
+        << progress(99.9, 100, 1) << QStringLiteral("99%, 1.0x, 0:00 left")
+        << QStringLiteral("[###################-]");
     QTest::newRow("speed unknown")
         << progress(0, 100, 0) << QStringLiteral("0%") << QStringLiteral("[--------------------]");
     QTest::newRow("length unknown")

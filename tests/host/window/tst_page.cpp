@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 #include <csignal>
 
@@ -16,6 +17,7 @@ namespace {
 const QString mp3 = QStringLiteral("Audio_MP3_003");
 const QString flac = QStringLiteral("Audio_FLAC_001");
 const QString mkv = QStringLiteral("Video_MKV_001");
+const QString mp4 = QStringLiteral("Video_MP4_001");
 
 } // namespace
 
@@ -33,9 +35,15 @@ private Q_SLOTS:
     void aFolderGivesItsMediaFiles();
     void aFolderWithoutMediaIsNamed();
     void aFileThatIsNoMediaSaysSoAndTheRestGoOn();
+    void aNewFormatDoesNotMakeAnUnreadableFileReady();
+    void whatIsReadLateChangesNoStateOfAConversion();
+    void whatIsReadOfARemovedFileIsNotTaken();
     void removingAFileThatHangsLetsTheNextOneBeRead_data();
     void removingAFileThatHangsLetsTheNextOneBeRead();
     void tasksRunOneAfterAnother();
+    void tasksRunInTheOrderOfTheList();
+    void aRunningTaskIsNotConvertedAnew();
+    void allTracksAreKeptWhereThePresetKeepsThem();
     void aStoppedTaskCanBeTriedAgain();
     void removingTheRunningTaskLetsTheNextOneRun();
     void theGlobalFormatHoldsForAllThatAreNotAtWork();
@@ -49,6 +57,7 @@ private Q_SLOTS:
 
 private:
     QUrl song(const QString &name = QStringLiteral("song.wav"));
+    QUrl noMedia();
     int addReady(Page &page, const QUrl &url);
     const Task &task(Page &page, int id) { return *page.tasks()->find(id); }
 
@@ -60,6 +69,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_files;
     std::unique_ptr<ConverterProxy> m_converter;
     std::unique_ptr<EditorProxy> m_editor;
+    QVector<int> m_runs; //!< the converter's tasks in the order in which they ran
 };
 
 void TestPage::initTestCase()
@@ -77,6 +87,13 @@ void TestPage::init()
     m_files = std::make_unique<QTemporaryDir>();
     m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets);
     m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets);
+    m_runs.clear();
+    connect(m_converter->tasks(), &TaskList::dataChanged, this, [this](const QModelIndex &row) {
+        const Task &changed = m_converter->tasks()->tasks().at(row.row());
+        if (changed.state == Task::Running && !m_runs.contains(changed.id)) {
+            m_runs << changed.id;
+        }
+    });
 }
 
 void TestPage::cleanup()
@@ -91,6 +108,15 @@ QUrl TestPage::song(const QString &name)
 {
     const QString path = m_files->filePath(name);
     return MediaClips::makeSong(path) ? QUrl::fromLocalFile(path) : QUrl();
+}
+
+/*! A file that is called like a film and is none. */
+QUrl TestPage::noMedia()
+{
+    QFile broken(m_files->filePath(QStringLiteral("broken.mp4")));
+    return broken.open(QIODevice::WriteOnly) && broken.write("no film") > 0
+               ? QUrl::fromLocalFile(broken.fileName())
+               : QUrl();
 }
 
 int TestPage::addReady(Page &page, const QUrl &url)
@@ -147,12 +173,7 @@ void TestPage::aFolderWithoutMediaIsNamed()
 
 void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()
 {
-    const QString path = m_files->filePath(QStringLiteral("broken.mp4"));
-    QFile broken(path);
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    broken.write("no film");
-    broken.close();
-    m_converter->addFiles({QUrl::fromLocalFile(path), song()});
+    m_converter->addFiles({noMedia(), song()});
     const int first = m_converter->tasks()->tasks().at(0).id;
     const int second = m_converter->tasks()->tasks().at(1).id;
     QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, first).state, Task::Failed, patience);
@@ -165,6 +186,43 @@ void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()
     QVERIFY(task(*m_converter, second).target.endsWith(QStringLiteral("/song.mp3")));
     QCOMPARE(MediaClips::factsOf(task(*m_converter, second).target).audio()->codec,
              mp3.mid(6, 3).toLower());
+}
+
+void TestPage::aNewFormatDoesNotMakeAnUnreadableFileReady()
+{
+    m_converter->addFiles({noMedia()});
+    const int id = m_converter->tasks()->tasks().constFirst().id;
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Failed, patience);
+    const QString error = task(*m_converter, id).error;
+    m_converter->setConvertingListTaskFormat(id, flac);
+    m_converter->setConverterGlobalFormat(flac);
+    QCOMPARE(task(*m_converter, id).state, Task::Failed);
+    QCOMPARE(task(*m_converter, id).error, error);
+}
+
+void TestPage::whatIsReadLateChangesNoStateOfAConversion()
+{
+    QVector<Task::State> states;
+    connect(m_converter->tasks(), &TaskList::dataChanged, this,
+            [this, &states] { states << m_converter->tasks()->tasks().constFirst().state; });
+    m_converter->addFiles({song()});
+    const int id = m_converter->tasks()->tasks().constFirst().id;
+    m_converter->convert(id);
+    QTRY_VERIFY_WITH_TIMEOUT(!task(*m_converter, id).facts.isEmpty(), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, patience);
+    QVERIFY(!states.contains(Task::Ready));
+}
+
+void TestPage::whatIsReadOfARemovedFileIsNotTaken()
+{
+    m_converter->addFiles({song(QStringLiteral("a.wav")), song(QStringLiteral("b.wav"))});
+    const int first = m_converter->tasks()->tasks().at(0).id;
+    const int second = m_converter->tasks()->tasks().at(1).id;
+    m_converter->remove(first);
+    QSignalSpy changes(m_converter->tasks(), &TaskList::dataChanged);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, second).state, Task::Ready, patience);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(m_converter->tasks()->count(), 1);
 }
 
 void TestPage::removingAFileThatHangsLetsTheNextOneBeRead_data()
@@ -215,16 +273,11 @@ void TestPage::tasksRunOneAfterAnother()
     addReady(*m_converter, song(QStringLiteral("a.wav")));
     addReady(*m_converter, song(QStringLiteral("b.wav")));
     int most = 0;
-    QVector<int> order;
-    connect(m_converter->tasks(), &TaskList::dataChanged, this, [this, &most, &order] {
-        int running = 0;
-        for (const Task &task : m_converter->tasks()->tasks()) {
-            running += task.state == Task::Running ? 1 : 0;
-            if (task.state == Task::Running && !order.contains(task.id)) {
-                order << task.id;
-            }
-        }
-        most = std::max(most, running);
+    connect(m_converter->tasks(), &TaskList::dataChanged, this, [this, &most] {
+        const QVector<Task> &all = m_converter->tasks()->tasks();
+        most = std::max(most, int(std::count_if(all.begin(), all.end(), [](const Task &task) {
+                            return task.state == Task::Running;
+                        })));
     });
     QVERIFY(m_converter->canConvert());
     QVERIFY(!m_converter->isBusy());
@@ -236,7 +289,43 @@ void TestPage::tasksRunOneAfterAnother()
     QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
     QVERIFY(!m_converter->canConvert());
     QCOMPARE(most, 1);
-    QCOMPARE(order, QVector<int>({tasks.at(0).id, tasks.at(1).id}));
+    QCOMPARE(m_runs, QVector<int>({tasks.at(0).id, tasks.at(1).id}));
+}
+
+void TestPage::tasksRunInTheOrderOfTheList()
+{
+    const int first = addReady(*m_converter, song(QStringLiteral("a.wav")));
+    const int second = addReady(*m_converter, song(QStringLiteral("b.wav")));
+    const int third = addReady(*m_converter, song(QStringLiteral("c.wav")));
+    m_converter->convert(first);
+    m_converter->convert(third);
+    m_converter->convert(second);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
+    QCOMPARE(m_runs, QVector<int>({first, second, third}));
+}
+
+void TestPage::aRunningTaskIsNotConvertedAnew()
+{
+    const int id = addReady(*m_converter, song());
+    m_converter->convert(id);
+    m_converter->convert(id);
+    QCOMPARE(task(*m_converter, id).state, Task::Running);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, patience);
+    QVERIFY(!m_converter->isBusy());
+}
+
+void TestPage::allTracksAreKeptWhereThePresetKeepsThem()
+{
+    const QString path = m_files->filePath(QStringLiteral("dubbed.mkv"));
+    QVERIFY(MediaClips::make(
+        path, QStringLiteral("-f lavfi -i testsrc2=size=320x240:rate=25:duration=1 -f lavfi -i "
+                             "sine=duration=1 -map 0 -map 1 -map 1 -c:v libx264 -preset ultrafast "
+                             "-pix_fmt yuv420p -c:a aac")));
+    m_converter->setConverterGlobalFormat(mp4);
+    const int id = addReady(*m_converter, QUrl::fromLocalFile(path));
+    m_converter->convert(id);
+    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, patience);
+    QCOMPARE(MediaClips::factsOf(task(*m_converter, id).target).audioTracks.size(), 2);
 }
 
 void TestPage::aStoppedTaskCanBeTriedAgain()

@@ -1,0 +1,45 @@
+#ifndef WINDOW_TASKFORMATS_H
+#define WINDOW_TASKFORMATS_H
+
+#include "host/convert/outputsettings.h"
+#include "host/window/settings.h"
+#include "host/window/tasklist.h"
+
+class Presets;
+
+/*! The presets that a page converts with: its own one, and those of its tasks. */
+class TaskFormats : public QObject
+{
+    Q_OBJECT
+
+public:
+    TaskFormats(PageKind page, Settings &settings, Presets &presets, TaskList &tasks);
+
+    [[nodiscard]] QString globalCaption() const;
+    [[nodiscard]] QString globalIcon() const;
+
+    /*! Gives a new task the page's preset. */
+    void assignGlobal(int taskId);
+    /*! Chooses the preset of the page, and of all tasks that aren't queued. */
+    void chooseGlobal(const QString &id);
+    /*! Chooses the preset of one task, unless it is queued. */
+    void choose(int taskId, const QString &id);
+
+    /*! What the task's preset asks of its conversion. */
+    [[nodiscard]] OutputSettings outputSettings(const Task &task) const;
+
+Q_SIGNALS:
+    void globalChanged();
+
+private:
+    QString globalId() const { return m_settings.globalId(m_page); }
+    void assign(int taskId, const QString &id);
+    void followPresets();
+
+    const PageKind m_page;
+    Settings &m_settings;
+    Presets &m_presets;
+    TaskList &m_tasks;
+};
+
+#endif

@@ -1,0 +1,286 @@
+#include "host/queue/conversionqueue.h"
+
+#include "tests/host/mediaclips.h"
+#include "tests/support/patience.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+/*! The queue over real songs; one that is called "hanging" is converted until it is stopped. */
+class TestConversionQueue : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void nothingRunsBeforeTheStart();
+    void jobsRunOneAfterAnotherInTheOrderOfTheirIds();
+    void aFailureDoesNotStopTheOthers();
+    void progressNamesItsJob();
+    void aJobIsAskedForOnlyWhenItsTurnHasCome();
+    void aJobThatIsAddedWhileOthersRunHasItsTurn();
+    void aJobCanFollowFromTheEndOfAnother();
+    void anIdCanBeUsedAgainOnceItsJobHasEnded();
+    void aWaitingJobIsCancelledAtOnce();
+    void cancellingTheRunningJobLetsTheNextOneRun();
+    void aRemovedJobIsNotHeardOfAgain_data();
+    void aRemovedJobIsNotHeardOfAgain();
+    void stoppingCancelsWhatRunsAndForgetsWhatWaits();
+    void asManyRunSideBySideAsMay();
+    void theEndOfTheQueueLeavesNothing();
+    void unknownIdsChangeNothing();
+
+private:
+    ConversionQueue::JobSource job(const char *name) const;
+    void add(int id, const char *name) { m_queue->add(id, job(name)); }
+    QStringList events(const char *list) const
+    {
+        return QString::fromLatin1(list).split(QStringLiteral(", "));
+    }
+    QStringList filesInFolder() const
+    {
+        return QDir(m_folder->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    QByteArray m_path;
+    QTemporaryDir m_tools;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<ConversionQueue> m_queue;
+    QStringList m_events; //!< "started 1", "finished 1", "cancelled 1", "failed 1"
+};
+
+void TestConversionQueue::initTestCase()
+{
+    m_path = qgetenv("PATH");
+    QVERIFY(MediaClips::makeStandIn(
+        m_tools.path(),
+        QStringLiteral("case \"$*\" in *hanging*) exec sleep 600;; esac\nexec $REAL \"$@\"")));
+}
+
+void TestConversionQueue::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    const QString song = m_folder->filePath(QStringLiteral("song.wav"));
+    QVERIFY(MediaClips::makeSong(song));
+    QVERIFY(QFile::copy(song, m_folder->filePath(QStringLiteral("hanging.wav"))));
+    qputenv("PATH", MediaClips::pathWith(m_tools.path()));
+
+    m_events.clear();
+    m_queue = std::make_unique<ConversionQueue>();
+    connect(m_queue.get(), &ConversionQueue::started, this,
+            [this](int id) { m_events << QStringLiteral("started %1").arg(id); });
+    connect(m_queue.get(), &ConversionQueue::finished, this,
+            [this](int id, const Result<ConversionOutcome> &outcome) {
+                const bool isCancelled = !outcome && outcome.error().kind == Error::Cancelled;
+                m_events << (outcome       ? QStringLiteral("finished %1")
+                             : isCancelled ? QStringLiteral("cancelled %1")
+                                           : QStringLiteral("failed %1"))
+                                .arg(id);
+            });
+}
+
+void TestConversionQueue::cleanup()
+{
+    m_queue.reset();
+    m_folder.reset();
+    qputenv("PATH", m_path);
+}
+
+ConversionQueue::JobSource TestConversionQueue::job(const char *name) const
+{
+    ConversionJob made;
+    made.source = m_folder->filePath(QString::fromLatin1(name));
+    made.settings.extension = QStringLiteral("mp3");
+    return [made] { return made; };
+}
+
+void TestConversionQueue::nothingRunsBeforeTheStart()
+{
+    add(1, "song.wav");
+    QCoreApplication::processEvents();
+    QCOMPARE(m_events, QStringList());
+    QVERIFY(!m_queue->isEmpty());
+}
+
+void TestConversionQueue::jobsRunOneAfterAnotherInTheOrderOfTheirIds()
+{
+    add(3, "song.wav");
+    add(1, "song.wav");
+    add(2, "song.wav");
+    m_queue->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events,
+             events("started 1, finished 1, started 2, finished 2, started 3, finished 3"));
+    QCOMPARE(QDir(m_folder->path()).entryList({QStringLiteral("*.mp3")}),
+             events("song (2).mp3, song (3).mp3, song.mp3"));
+}
+
+void TestConversionQueue::aFailureDoesNotStopTheOthers()
+{
+    add(1, "missing.wav");
+    add(2, "song.wav");
+    m_queue->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, failed 1, started 2, finished 2"));
+}
+
+void TestConversionQueue::progressNamesItsJob()
+{
+    QSignalSpy progress(m_queue.get(), &ConversionQueue::progressed);
+    add(7, "song.wav");
+    m_queue->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QVERIFY(!progress.isEmpty());
+    QCOMPARE(progress.constLast().at(0).toInt(), 7);
+    QCOMPARE(progress.constLast().at(1).value<Progress>().total, 1.0);
+}
+
+void TestConversionQueue::aJobIsAskedForOnlyWhenItsTurnHasCome()
+{
+    add(1, "song.wav");
+    m_queue->add(2, [this] {
+        m_events << QStringLiteral("asked");
+        return job("song.wav")();
+    });
+    m_queue->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, finished 1, asked, started 2, finished 2"));
+}
+
+void TestConversionQueue::aJobThatIsAddedWhileOthersRunHasItsTurn()
+{
+    add(1, "song.wav");
+    m_queue->start();
+    add(2, "song.wav");
+    QCOMPARE(m_events, events("started 1"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, finished 1, started 2, finished 2"));
+}
+
+void TestConversionQueue::aJobCanFollowFromTheEndOfAnother()
+{
+    connect(m_queue.get(), &ConversionQueue::finished, this, [this](int id) {
+        if (id == 1) {
+            add(2, "song.wav");
+        }
+    });
+    add(1, "song.wav");
+    m_queue->start();
+    QTRY_COMPARE_WITH_TIMEOUT(m_events, events("started 1, finished 1, started 2, finished 2"),
+                              patience);
+}
+
+void TestConversionQueue::anIdCanBeUsedAgainOnceItsJobHasEnded()
+{
+    add(1, "hanging.wav");
+    m_queue->start();
+    m_queue->cancel(1);
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    add(1, "song.wav");
+    m_queue->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, cancelled 1, started 1, finished 1"));
+}
+
+void TestConversionQueue::aWaitingJobIsCancelledAtOnce()
+{
+    add(1, "song.wav");
+    add(2, "song.wav");
+    m_queue->start();
+    m_queue->cancel(2);
+    QCOMPARE(m_events, events("started 1, cancelled 2"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, cancelled 2, finished 1"));
+}
+
+void TestConversionQueue::cancellingTheRunningJobLetsTheNextOneRun()
+{
+    add(1, "hanging.wav");
+    add(2, "song.wav");
+    m_queue->start();
+    m_queue->cancel(1);
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, cancelled 1, started 2, finished 2"));
+}
+
+void TestConversionQueue::aRemovedJobIsNotHeardOfAgain_data()
+{
+    QTest::addColumn<int>("removed");
+    QTest::addColumn<QStringList>("told");
+    QTest::newRow("running") << 1 << events("started 1, started 2, cancelled 2");
+    QTest::newRow("waiting") << 2 << events("started 1, cancelled 1");
+}
+
+void TestConversionQueue::aRemovedJobIsNotHeardOfAgain()
+{
+    QFETCH(int, removed);
+    QFETCH(QStringList, told);
+    const QStringList before = filesInFolder();
+    add(1, "hanging.wav");
+    add(2, "hanging.wav");
+    m_queue->start();
+    m_queue->remove(removed);
+    m_queue->cancel(3 - removed);
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, told);
+    QTRY_COMPARE_WITH_TIMEOUT(filesInFolder(), before, patience);
+}
+
+void TestConversionQueue::stoppingCancelsWhatRunsAndForgetsWhatWaits()
+{
+    add(1, "hanging.wav");
+    add(2, "song.wav");
+    m_queue->start();
+    m_queue->stop();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, cancelled 1"));
+}
+
+void TestConversionQueue::asManyRunSideBySideAsMay()
+{
+    m_queue->setMaxRunning(2);
+    add(1, "hanging.wav");
+    add(2, "song.wav");
+    add(3, "hanging.wav");
+    add(4, "song.wav");
+    m_queue->start();
+    QCOMPARE(m_events, events("started 1, started 2"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_events, events("started 1, started 2, finished 2, started 3"),
+                              patience);
+    m_queue->stop();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    m_events.sort();
+    QCOMPARE(m_events,
+             events("cancelled 1, cancelled 3, finished 2, started 1, started 2, started 3"));
+}
+
+void TestConversionQueue::theEndOfTheQueueLeavesNothing()
+{
+    const QStringList before = filesInFolder();
+    add(1, "hanging.wav");
+    add(2, "song.wav");
+    m_queue->start();
+    QTRY_VERIFY_WITH_TIMEOUT(filesInFolder() != before, patience);
+    m_queue.reset();
+    QCOMPARE(filesInFolder(), before);
+    QCOMPARE(m_events, events("started 1"));
+}
+
+void TestConversionQueue::unknownIdsChangeNothing()
+{
+    add(1, "song.wav");
+    m_queue->start();
+    m_queue->cancel(2);
+    m_queue->remove(2);
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, finished 1"));
+}
+
+QTEST_GUILESS_MAIN(TestConversionQueue)
+#include "tst_conversionqueue.moc"

@@ -1,0 +1,128 @@
+#include "host/window/inspector.h"
+
+#include "tests/host/mediaclips.h"
+#include "tests/support/patience.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <QUrl>
+
+#include <memory>
+
+/*! The inspector over real clips. */
+class TestInspector : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void filesAreReadInTheOrderInWhichTheyCame();
+    void aFilmIsPicturedATenthIntoIt();
+    void aSongIsPicturedByItsCover();
+    void aForgottenFileIsNotHeardOfAgain_data();
+    void aForgottenFileIsNotHeardOfAgain();
+
+private:
+    QString clip(const char *name) const { return m_clips.filePath(QLatin1String(name)); }
+    QStringList events(const char *list) const
+    {
+        return QString::fromLatin1(list).split(QStringLiteral(", "));
+    }
+    /*! The colour in the middle of the file's picture; an invalid one when there is none. */
+    QColor pictured(const QString &path);
+
+    QTemporaryDir m_clips;
+    std::unique_ptr<Inspector> m_inspector;
+    QStringList m_events; //!< "read 1", "pictured 1"
+};
+
+void TestInspector::initTestCase()
+{
+    QVERIFY(MediaClips::makeFilm(clip("film.mp4")));
+    QVERIFY(MediaClips::makeSong(clip("song.wav")));
+    // White, but red for a moment.
+    QVERIFY(MediaClips::make(
+        clip("flash.mp4"),
+        QStringLiteral("-f lavfi -i color=white:size=64x64:rate=25:duration=10 -vf "
+                       "drawbox=color=red:t=fill:enable='between(t,0.9,1.1)' -c:v libx264 -preset "
+                       "ultrafast -pix_fmt yuv420p")));
+    QVERIFY(MediaClips::make(clip("cover.png"),
+                             QStringLiteral("-f lavfi -i color=red:size=64x64 -frames:v 1")));
+    QVERIFY(
+        MediaClips::make(clip("song.flac"), QStringLiteral("-i %1 -i %2 -map 0 -map 1 -c:v copy "
+                                                           "-disposition:v attached_pic")
+                                                .arg(clip("song.wav"), clip("cover.png"))));
+}
+
+void TestInspector::init()
+{
+    m_events.clear();
+    m_inspector = std::make_unique<Inspector>();
+    connect(m_inspector.get(), &Inspector::read, this,
+            [this](int id) { m_events << QStringLiteral("read %1").arg(id); });
+    connect(m_inspector.get(), &Inspector::pictured, this,
+            [this](int id) { m_events << QStringLiteral("pictured %1").arg(id); });
+}
+
+QColor TestInspector::pictured(const QString &path)
+{
+    QSignalSpy pictures(m_inspector.get(), &Inspector::pictured);
+    m_inspector->inspect(1, path);
+    if (!QTest::qWaitFor([&pictures] { return !pictures.isEmpty(); }, patience)) {
+        return {};
+    }
+    const QImage picture(QUrl(pictures.at(0).at(1).toString()).toLocalFile());
+    return picture.pixelColor(picture.rect().center());
+}
+
+void TestInspector::filesAreReadInTheOrderInWhichTheyCame()
+{
+    m_inspector->inspect(2, clip("song.wav"));
+    m_inspector->inspect(1, clip("film.mp4"));
+    m_inspector->inspect(3, clip("song.wav"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_events, events("read 2, read 1, pictured 1, read 3"), patience);
+}
+
+void TestInspector::aFilmIsPicturedATenthIntoIt()
+{
+    const QColor colour = pictured(clip("flash.mp4"));
+    QVERIFY2(colour.red() > 200 && colour.green() < 60, qPrintable(colour.name()));
+}
+
+void TestInspector::aSongIsPicturedByItsCover()
+{
+    const QColor colour = pictured(clip("song.flac"));
+    QVERIFY2(colour.red() > 200 && colour.green() < 60, qPrintable(colour.name()));
+}
+
+void TestInspector::aForgottenFileIsNotHeardOfAgain_data()
+{
+    QTest::addColumn<QString>("forgetAt"); // empty: at once
+    QTest::addColumn<int>("forgotten");
+    QTest::addColumn<QStringList>("told");
+    QTest::newRow("while it is read") << QString() << 1 << events("read 2, read 3");
+    QTest::newRow("while it waits") << QString() << 2 << events("read 1, pictured 1, read 3");
+    QTest::newRow("while it is pictured")
+        << QStringLiteral("read 1") << 1 << events("read 1, read 2, read 3");
+}
+
+void TestInspector::aForgottenFileIsNotHeardOfAgain()
+{
+    QFETCH(QString, forgetAt);
+    QFETCH(int, forgotten);
+    QFETCH(QStringList, told);
+    m_inspector->inspect(1, clip("film.mp4"));
+    m_inspector->inspect(2, clip("song.wav"));
+    m_inspector->inspect(3, clip("song.wav"));
+    QVERIFY(QTest::qWaitFor(
+        [this, &forgetAt] { return forgetAt.isEmpty() || m_events.contains(forgetAt); }, patience));
+    m_inspector->forget(forgotten);
+    QTRY_VERIFY_WITH_TIMEOUT(m_events.contains(QStringLiteral("read 3")), patience);
+    QCOMPARE(m_events, told);
+}
+
+QTEST_GUILESS_MAIN(TestInspector)
+#include "tst_inspector.moc"
