@@ -4,7 +4,7 @@
 #include "formats/models/formatdetailmodel.h"
 #include "formats/proxy/formatsproxy.h"
 #include "host/window/mainwindow.h"
-#include "host/window/settings.h"
+#include "host/window/windowsettings.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -2,8 +2,8 @@
 
 #include "host/window/pageproxies.h"
 #include "host/window/presets.h"
-#include "host/window/settings.h"
 #include "host/window/singleinstance.h"
+#include "host/window/windowsettings.h"
 
 #include "formats/proxy/formatsproxy.h"
 
@@ -46,7 +46,8 @@ Result<> MainWindow::open()
     if (!opened) {
         m_notices.add(opened.error().text);
     }
-    m_settings = std::make_unique<Settings>(m_store.filePath(QStringLiteral("vexconvert.ini")));
+    m_settings =
+        std::make_unique<WindowSettings>(m_store.filePath(QStringLiteral("vexconvert.ini")));
     m_presets = std::make_unique<Presets>(m_store);
     m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets);
     m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets);

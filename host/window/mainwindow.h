@@ -17,7 +17,7 @@ class ConverterProxy;
 class EditorProxy;
 class Presets;
 class QQuickWindow;
-class Settings;
+class WindowSettings;
 class SingleInstance;
 
 /*! The window with its two pages, and everything that the QML files find in their context. */
@@ -47,7 +47,7 @@ public:
     DialogFrame *dialog() const { return m_dialog; }
     ConverterProxy &converter() const { return *m_converter; }
     EditorProxy &editor() const { return *m_editor; }
-    Settings &settings() const { return *m_settings; }
+    WindowSettings &settings() const { return *m_settings; }
 
 private:
     /*! Brings the window to the front, with these files added to the converter page. */
@@ -61,7 +61,7 @@ private:
     PresetStore m_store;
     ToolFun m_toolFun;
     FileChooser m_files;
-    std::unique_ptr<Settings> m_settings;
+    std::unique_ptr<WindowSettings> m_settings;
     std::unique_ptr<Presets> m_presets;
     std::unique_ptr<ConverterProxy> m_converter;
     std::unique_ptr<EditorProxy> m_editor;

@@ -20,7 +20,7 @@ bool isConvertible(const Task &task)
 
 } // namespace
 
-Page::Page(PageKind kind, Settings &settings, Presets &presets, QObject *parent)
+Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *parent)
     : QObject(parent)
     , m_kind(kind)
     , m_settings(settings)

@@ -23,7 +23,7 @@ class Page : public QObject
     Q_PROPERTY(bool canConvert READ canConvert NOTIFY queueChanged)
 
 public:
-    Page(PageKind kind, Settings &settings, Presets &presets, QObject *parent = nullptr);
+    Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *parent = nullptr);
 
     TaskList *tasks() { return &m_tasks; }
     QString globalCaption() const { return m_formats.globalCaption(); }
@@ -76,7 +76,7 @@ private:
     void takeOutcome(int taskId, const Result<ConversionOutcome> &outcome);
 
     const PageKind m_kind;
-    Settings &m_settings;
+    WindowSettings &m_settings;
     TaskList m_tasks;
     TaskFormats m_formats;
     Inspector m_inspector;

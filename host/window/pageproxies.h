@@ -11,7 +11,7 @@ class ConverterProxy : public Page
     Q_OBJECT
 
 public:
-    ConverterProxy(Settings &settings, Presets &presets, QObject *parent = nullptr)
+    ConverterProxy(WindowSettings &settings, Presets &presets, QObject *parent = nullptr)
         : Page(PageKind::Converter, settings, presets, parent)
     {}
 
@@ -42,7 +42,7 @@ class EditorProxy : public Page
     Q_OBJECT
 
 public:
-    EditorProxy(Settings &settings, Presets &presets, QObject *parent = nullptr)
+    EditorProxy(WindowSettings &settings, Presets &presets, QObject *parent = nullptr)
         : Page(PageKind::Editor, settings, presets, parent)
     {}
 

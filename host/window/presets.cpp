@@ -1,6 +1,6 @@
 #include "host/window/presets.h"
 
-#include "host/window/settings.h"
+#include "host/window/defaultpreset.h"
 #include "host/window/toolfun.h"
 
 #include "formats/proxy/formatsproxy.h"
@@ -23,7 +23,7 @@ Presets::Presets(PresetStore &store, QObject *parent)
 
 QString Presets::usable(const QString &id, const QString &standIn) const
 {
-    for (const QString &candidate : {id, standIn, Settings::defaultPreset()}) {
+    for (const QString &candidate : {id, standIn, defaultPresetId()}) {
         if (find(candidate)) {
             return candidate;
         }

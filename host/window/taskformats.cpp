@@ -2,7 +2,7 @@
 
 #include "host/window/presets.h"
 
-TaskFormats::TaskFormats(PageKind page, Settings &settings, Presets &presets, TaskList &tasks)
+TaskFormats::TaskFormats(PageKind page, WindowSettings &settings, Presets &presets, TaskList &tasks)
     : m_page(page)
     , m_settings(settings)
     , m_presets(presets)

@@ -2,8 +2,8 @@
 #define WINDOW_TASKFORMATS_H
 
 #include "host/convert/outputsettings.h"
-#include "host/window/settings.h"
 #include "host/window/tasklist.h"
+#include "host/window/windowsettings.h"
 
 class Presets;
 
@@ -13,7 +13,7 @@ class TaskFormats : public QObject
     Q_OBJECT
 
 public:
-    TaskFormats(PageKind page, Settings &settings, Presets &presets, TaskList &tasks);
+    TaskFormats(PageKind page, WindowSettings &settings, Presets &presets, TaskList &tasks);
 
     [[nodiscard]] QString globalCaption() const;
     [[nodiscard]] QString globalIcon() const;
@@ -37,7 +37,7 @@ private:
     void followPresets();
 
     const PageKind m_page;
-    Settings &m_settings;
+    WindowSettings &m_settings;
     Presets &m_presets;
     TaskList &m_tasks;
 };

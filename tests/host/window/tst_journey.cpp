@@ -1,8 +1,8 @@
-#include "host/files/filenames.h"
 #include "host/app/languages.h"
+#include "host/files/filenames.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
-#include "host/window/settings.h"
+#include "host/window/windowsettings.h"
 
 #include "formats/proxy/formatsproxy.h"
 #include "tests/host/mediaclips.h"
@@ -87,7 +87,7 @@ void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
     QQuickWindow *window = main.window();
     QVERIFY(QTest::qWaitForWindowActive(window));
     const FormatsProxy &formats = *FormatsProxy::getInstance();
-    const Settings &settings = main.settings();
+    const WindowSettings &settings = main.settings();
 
     // Two files are dropped.
     QVERIFY(

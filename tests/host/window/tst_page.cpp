@@ -63,7 +63,7 @@ private:
 
     QTemporaryDir m_config;
     std::unique_ptr<PresetStore> m_store;
-    std::unique_ptr<Settings> m_settings;
+    std::unique_ptr<WindowSettings> m_settings;
     std::unique_ptr<Presets> m_presets;
 
     std::unique_ptr<QTemporaryDir> m_files;
@@ -76,7 +76,8 @@ void TestPage::initTestCase()
 {
     m_store = std::make_unique<PresetStore>(*FormatsProxy::getInstance(), m_config.path());
     QVERIFY(m_store->open(PresetStore::ReadWrite));
-    m_settings = std::make_unique<Settings>(m_config.filePath(QStringLiteral("vexconvert.ini")));
+    m_settings =
+        std::make_unique<WindowSettings>(m_config.filePath(QStringLiteral("vexconvert.ini")));
     m_presets = std::make_unique<Presets>(*m_store);
 }
 

@@ -1,6 +1,6 @@
 #include "host/window/presets.h"
 
-#include "host/window/settings.h"
+#include "host/window/windowsettings.h"
 
 #include "formats/proxy/formatsproxy.h"
 #include "tests/support/patience.h"
@@ -177,18 +177,18 @@ void TestPresets::settingsSurviveARestart()
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("vexconvert.ini"));
     {
-        Settings settings(path);
+        WindowSettings settings(path);
         QCOMPARE(settings.converterGlobalId(), QStringLiteral("Video_MP4_001"));
         QCOMPARE(settings.editorGlobalId(), QStringLiteral("Video_MP4_001"));
-        QSignalSpy converter(&settings, &Settings::converterGlobalIdChanged);
-        QSignalSpy editor(&settings, &Settings::editorGlobalIdChanged);
+        QSignalSpy converter(&settings, &WindowSettings::converterGlobalIdChanged);
+        QSignalSpy editor(&settings, &WindowSettings::editorGlobalIdChanged);
         settings.setConverterGlobalId(QStringLiteral("1001"));
         settings.setConverterGlobalId(QStringLiteral("1001"));
         settings.setFolder(PageKind::Editor, QStringLiteral("/films"));
         QCOMPARE(converter.count(), 1);
         QCOMPARE(editor.count(), 0);
     }
-    Settings settings(path);
+    WindowSettings settings(path);
     QCOMPARE(settings.converterGlobalId(), QStringLiteral("1001"));
     QCOMPARE(settings.editorGlobalId(), QStringLiteral("Video_MP4_001"));
     QCOMPARE(settings.folder(PageKind::Converter), QString());

@@ -1,5 +1,5 @@
-#ifndef WINDOW_SETTINGS_H
-#define WINDOW_SETTINGS_H
+#ifndef WINDOW_WINDOWSETTINGS_H
+#define WINDOW_WINDOWSETTINGS_H
 
 #include <QObject>
 #include <QSettings>
@@ -8,7 +8,7 @@
 enum class PageKind { Converter, Editor };
 
 /*! What the window remembers from one start to the next; the QML files call it "O_Setting". */
-class Settings : public QObject
+class WindowSettings : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString converterGlobalId READ converterGlobalId WRITE setConverterGlobalId NOTIFY
@@ -17,12 +17,10 @@ class Settings : public QObject
                    editorGlobalIdChanged)
 
 public:
-    /*! The preset that a page starts with, and that stands in for one that is gone. */
-    static QString defaultPreset() { return QStringLiteral("Video_MP4_001"); }
-
     /*! \a path is the ini file. */
-    explicit Settings(const QString &path, QObject *parent = nullptr);
+    explicit WindowSettings(const QString &path, QObject *parent = nullptr);
 
+    /*! The preset that the page converts with, where the user chose no other for a task. */
     QString globalId(PageKind page) const;
     void setGlobalId(PageKind page, const QString &id);
     /*! Where the page's results go; empty: beside their sources. */

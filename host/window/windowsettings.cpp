@@ -1,4 +1,6 @@
-#include "host/window/settings.h"
+#include "host/window/windowsettings.h"
+
+#include "host/window/defaultpreset.h"
 
 namespace {
 
@@ -10,17 +12,17 @@ QString key(PageKind page, const char *name)
 
 } // namespace
 
-Settings::Settings(const QString &path, QObject *parent)
+WindowSettings::WindowSettings(const QString &path, QObject *parent)
     : QObject(parent)
     , m_file(path, QSettings::IniFormat)
 {}
 
-QString Settings::globalId(PageKind page) const
+QString WindowSettings::globalId(PageKind page) const
 {
-    return m_file.value(key(page, "globalId"), defaultPreset()).toString();
+    return m_file.value(key(page, "globalId"), defaultPresetId()).toString();
 }
 
-void Settings::setGlobalId(PageKind page, const QString &id)
+void WindowSettings::setGlobalId(PageKind page, const QString &id)
 {
     if (id == globalId(page)) {
         return;
@@ -34,12 +36,12 @@ void Settings::setGlobalId(PageKind page, const QString &id)
     }
 }
 
-QString Settings::folder(PageKind page) const
+QString WindowSettings::folder(PageKind page) const
 {
     return m_file.value(key(page, "folder")).toString();
 }
 
-void Settings::setFolder(PageKind page, const QString &folder)
+void WindowSettings::setFolder(PageKind page, const QString &folder)
 {
     m_file.setValue(key(page, "folder"), folder);
     m_file.sync();

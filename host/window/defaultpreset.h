@@ -1,0 +1,12 @@
+#ifndef WINDOW_DEFAULTPRESET_H
+#define WINDOW_DEFAULTPRESET_H
+
+#include <QString>
+
+/*! The id of the preset that a page starts with, and that stands in for one that is gone. */
+inline QString defaultPresetId()
+{
+    return QStringLiteral("Video_MP4_001");
+}
+
+#endif
