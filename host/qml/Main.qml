@@ -3,19 +3,20 @@ import QtQuick.Window 2.15
 import QtQuick.Controls 2.5
 import Controls 1.0
 import Converter 1.0
-import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
+import "qrc:/formats"
 
 /*! The window: its two pages, and the picker that both use. */
 ApplicationWindow {
     id: root
 
-    readonly property var shownPage: tabs.current === 0 ? converterPage : editorPage
+    readonly property TaskPage shownPage: tabs.current === 0 ? converterPage : editorPage
     property alias currentPage: tabs.current
-    property alias picker: pickerLoader.item
+    property alias picker: picker
 
     /*! Opens the picker at \a button, above it where there is room. */
     function openPicker(button, taskId, formatId) {
-        const picker = pickerLoader.item
         picker.fromPage = tabs.current === 0 ? "Converter" : "Editor"
         picker.openWay = taskId === null
         picker.listId = taskId
@@ -43,11 +44,11 @@ ApplicationWindow {
     minimumHeight: 480
     visible: true
     title: "VexConvert"
-    color: VexThemeMgr.curTheme.basics_gradeTone2
+    color: Theme.basics_gradeTone2
 
     Shortcut {
-        sequence: StandardKey.Open
-        onActivated: O_Files.chooseFiles(root.shownPage.page)
+        sequence: "Ctrl+O"
+        onActivated: FileChooser.chooseFiles(root.shownPage.page)
     }
 
     Rectangle {
@@ -55,14 +56,14 @@ ApplicationWindow {
 
         width: parent.width
         height: 60
-        color: VexThemeMgr.curTheme.basics_gradeTone1
+        color: Theme.basics_gradeTone1
 
         PageTabs {
             id: tabs
 
             anchors {
                 left: parent.left
-                leftMargin: 16
+                leftMargin: Theme.margin
                 verticalCenter: parent.verticalCenter
             }
             captions: [ToolFun.tr("Converter"), ToolFun.tr("Editor")]
@@ -71,18 +72,18 @@ ApplicationWindow {
         VEXButton {
             anchors {
                 right: parent.right
-                rightMargin: 24
+                rightMargin: Theme.wideMargin
                 verticalCenter: parent.verticalCenter
             }
             text: ToolFun.tr("Add files")
-            onClicked: O_Files.chooseFiles(root.shownPage.page)
+            onClicked: FileChooser.chooseFiles(root.shownPage.page)
         }
 
         Rectangle {
             anchors.bottom: parent.bottom
             width: parent.width
             height: 1
-            color: VexThemeMgr.curTheme.rule
+            color: Theme.rule
         }
     }
 
@@ -91,43 +92,47 @@ ApplicationWindow {
 
         anchors.top: top.bottom
         width: parent.width
-        text: O_Notices.text
-        onDismissed: O_Notices.dismiss()
+        text: Notices.text
+        onDismissed: Notices.dismiss()
     }
 
-    component Place: TaskPage {
+    Item {
         anchors {
             top: notice.bottom
             bottom: parent.bottom
         }
         width: parent.width
-        onPickerAsked: root.openPicker(button, taskId, formatId)
+
+        TaskPage {
+            id: converterPage
+
+            anchors.fill: parent
+            visible: tabs.current === 0
+            page: ConverterProxy
+            canCut: false
+            formatLabel: ToolFun.tr("Convert all to")
+            formatLabelWidth: picker.converterButtonWidth()
+            onPickerAsked: function (button, taskId, formatId) {
+                root.openPicker(button, taskId, formatId)
+            }
+        }
+
+        TaskPage {
+            id: editorPage
+
+            anchors.fill: parent
+            visible: tabs.current === 1
+            page: EditorProxy
+            canCut: true
+            formatLabel: ToolFun.tr("Format")
+            formatLabelWidth: picker.editorButtonWidth()
+            onPickerAsked: function (button, taskId, formatId) {
+                root.openPicker(button, taskId, formatId)
+            }
+        }
     }
 
-    Place {
-        id: converterPage
-
-        visible: tabs.current === 0
-        page: O_ConverterProxy
-        canCut: false
-        formatLabel: ToolFun.tr("Convert all to")
-        formatLabelWidth: root.picker ? root.picker.converterButtonWidth() : 0
-    }
-
-    Place {
-        id: editorPage
-
-        visible: tabs.current === 1
-        page: O_EditorProxy
-        canCut: true
-        formatLabel: ToolFun.tr("Format")
-        formatLabelWidth: root.picker ? root.picker.editorButtonWidth() : 0
-    }
-
-    Loader {
-        id: pickerLoader
-
-        source: "qrc:/formats/ParameterconversionPage.qml"
-        onLoaded: item.parent = root.contentItem
+    ParameterconversionPage {
+        id: picker
     }
 }

@@ -17,7 +17,8 @@ DialogFrame::DialogFrame(QQmlEngine &engine, const QUrl &content, const QVariant
     auto *context = new QQmlContext(engine.rootContext(), this);
     context->setContextProperty(QStringLiteral("O_Frame"), this);
     QQmlComponent component(&engine, content);
-    m_content.reset(qobject_cast<QQuickItem *>(component.create(context)));
+    m_content.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(
+        {{QStringLiteral("frame"), QVariant::fromValue(this)}}, context)));
     if (m_content == nullptr) {
         qFatal("%s", qUtf8Printable(component.errorString()));
     }

@@ -11,8 +11,8 @@
 class QQmlEngine;
 
 /*!
- * A dialog in a window of its own. The QML file that is its content calls it "O_Frame", and its
- * window follows the content's size.
+ * A dialog in a window of its own. The QML file that is its content has it as its "frame" and knows
+ * it as "O_Frame"; the window follows the content's size.
  */
 class DialogFrame : public QObject
 {

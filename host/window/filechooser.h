@@ -11,7 +11,7 @@
 
 class QFileDialog;
 
-/*! The system's dialogs for files and folders; the QML files call it "O_Files". */
+/*! The system's dialogs for files and folders. */
 class FileChooser : public QObject
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 #include "host/window/mainwindow.h"
 
-#include "host/window/pageproxies.h"
 #include "host/window/presets.h"
+#include "host/window/qmltypes.h"
 #include "host/window/singleinstance.h"
 #include "host/window/windowsettings.h"
 
@@ -49,8 +49,8 @@ Result<> MainWindow::open()
     m_settings =
         std::make_unique<WindowSettings>(m_store.filePath(QStringLiteral("vexconvert.ini")));
     m_presets = std::make_unique<Presets>(m_store);
-    m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets);
-    m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets);
+    m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets, this);
+    m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets, this);
     connect(m_presets.get(), &Presets::saveFailed, &m_notices, &Notices::add);
     connect(m_converter.get(), &Page::noticed, &m_notices, &Notices::add);
     connect(m_editor.get(), &Page::noticed, &m_notices, &Notices::add);
@@ -116,26 +116,25 @@ QQuickWindow *MainWindow::window() const
 
 void MainWindow::publish()
 {
-    m_engine = std::make_unique<QQmlApplicationEngine>();
+    m_engine = std::make_unique<QQmlApplicationEngine>(this);
     m_engine->addImportPath(QStringLiteral("qrc:/modules"));
-    qmlRegisterUncreatableMetaObject(Task::staticMetaObject, "Tasks", 1, 0, "Task",
-                                     QStringLiteral("holds the states of a task"));
+    registerQmlTypes();
     // The scene is scaled as a whole for dense screens: sizes are the same everywhere.
     m_engine->globalObject().setProperty(QStringLiteral("dpi"),
                                          m_engine->evaluate(QStringLiteral("(function (n) { "
                                                                            "return n })")));
+    // The names by which the library's screens know these.
     QQmlContext *context = m_engine->rootContext();
     const QVector<QQmlContext::PropertyPair> objects = {
         {QStringLiteral("O_FormatsProxy"), QVariant::fromValue(&m_store.formats())},
         {QStringLiteral("O_ConverterProxy"), QVariant::fromValue(m_converter.get())},
         {QStringLiteral("O_EditorProxy"), QVariant::fromValue(m_editor.get())},
         {QStringLiteral("O_Setting"), QVariant::fromValue(m_settings.get())},
-        {QStringLiteral("O_Notices"), QVariant::fromValue(&m_notices)},
-        {QStringLiteral("O_Files"), QVariant::fromValue(&m_files)},
         {QStringLiteral("ToolFun"), QVariant::fromValue(&m_toolFun)},
     };
     context->setContextProperties(objects);
-    QQmlComponent theme(m_engine.get(), QUrl(QStringLiteral("qrc:/modules/VexTheme/Theme.qml")));
+    QQmlComponent theme(m_engine.get(),
+                        QUrl(QStringLiteral("qrc:/modules/VexTheme/ThemeManager.qml")));
     QObject *themeObject = theme.create(context);
     themeObject->setParent(m_engine.get());
     context->setContextProperty(QStringLiteral("VexThemeMgr"), themeObject);

@@ -57,10 +57,10 @@ private:
     void editPreset(const QVariantMap &info);
     void openDialog(const QUrl &content, const QVariantMap &info);
 
-    Notices m_notices;
+    Notices m_notices{this};
     PresetStore m_store;
-    ToolFun m_toolFun;
-    FileChooser m_files;
+    ToolFun m_toolFun{this};
+    FileChooser m_files{this};
     std::unique_ptr<WindowSettings> m_settings;
     std::unique_ptr<Presets> m_presets;
     std::unique_ptr<ConverterProxy> m_converter;

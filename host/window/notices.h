@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
-/*! What the user ought to know, until it is dismissed; the QML files call it "O_Notices". */
+/*! What the user ought to know, until it is dismissed. */
 class Notices : public QObject
 {
     Q_OBJECT

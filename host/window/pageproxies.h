@@ -5,7 +5,7 @@
 
 #include <QVariantMap>
 
-/*! The converter page; the QML files call it "O_ConverterProxy". */
+/*! The converter page; the library's screens call it "O_ConverterProxy". */
 class ConverterProxy : public Page
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ Q_SIGNALS:
     void signalCreateNewFormatMsgClose(const QString &id);
 };
 
-/*! The editor page; the QML files call it "O_EditorProxy". */
+/*! The editor page; the library's screens call it "O_EditorProxy". */
 class EditorProxy : public Page
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 #include <QJSValue>
 #include <QObject>
 
-/*! What the QML files call "ToolFun". */
+/*! Texts and a timer for the QML files. */
 class ToolFun : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,8 @@
 
 enum class PageKind { Converter, Editor };
 
-/*! What the window remembers from one start to the next; the QML files call it "O_Setting". */
+/*! What the window remembers from one start to the next; the library's screens call it
+ *  "O_Setting". */
 class WindowSettings : public QObject
 {
     Q_OBJECT

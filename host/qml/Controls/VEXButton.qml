@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Public 1.0
+import VexTheme 1.0
 
 /*! A button with a text; the one that does the window's main work is \a primary. */
 T.Button {
@@ -8,14 +9,13 @@ T.Button {
 
     property bool primary: false
     property int minWidth: 88
-    readonly property QtObject theme: VexThemeMgr.curTheme
 
     implicitWidth: Math.max(root.minWidth, implicitContentWidth + leftPadding + rightPadding)
-    implicitHeight: 36
-    leftPadding: 16
-    rightPadding: 16
+    implicitHeight: Theme.controlHeight
+    leftPadding: Theme.margin
+    rightPadding: Theme.margin
     focusPolicy: Qt.StrongFocus
-    font.pixelSize: 13
+    font.pixelSize: Theme.text
     hoverEnabled: true
     Accessible.role: Accessible.Button
     Accessible.name: root.text
@@ -30,27 +30,27 @@ T.Button {
         verticalAlignment: Text.AlignVCenter
         font.pixelSize: root.font.pixelSize
         font.weight: root.primary ? Font.DemiBold : Font.Normal
-        color: !root.enabled ? root.theme.font_color_disabled
-                             : root.primary ? "#FFFFFF" : root.theme.font_color_grade1
+        color: !root.enabled ? Theme.font_color_disabled
+                             : root.primary ? Theme.onAccent : Theme.font_color_grade1
     }
 
     background: Rectangle {
-        radius: root.theme.radius_1
+        radius: Theme.radius_1
         border.width: root.primary ? 0 : 1
-        border.color: !root.enabled ? root.theme.rule
-                                    : root.hovered ? root.theme.font_color_grade3
-                                                   : root.theme.frame
+        border.color: !root.enabled ? Theme.rule
+                                    : root.hovered ? Theme.font_color_grade3
+                                                   : Theme.frame
         color: {
             if (!root.enabled) {
-                return root.theme.secondary_gradeTone4
+                return Theme.secondary_gradeTone4
             }
             if (root.primary) {
-                return root.down ? root.theme.accentPressed
-                                 : root.hovered ? root.theme.accentHover
-                                                : root.theme.font_color_grade3
+                return root.down ? Theme.accentPressed
+                                 : root.hovered ? Theme.accentHover
+                                                : Theme.font_color_grade3
             }
-            return root.down ? root.theme.pressed
-                             : root.hovered ? root.theme.hover : root.theme.basics_gradeTone1
+            return root.down ? Theme.pressed
+                             : root.hovered ? Theme.hover : Theme.basics_gradeTone1
         }
 
         VEXFocusFrame {

@@ -1,12 +1,12 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Public 1.0
+import VexTheme 1.0
 
 /*! A box to choose one of a few values from. Its user says through transText() how they read. */
 T.ComboBox {
     id: root
 
-    readonly property QtObject theme: VexThemeMgr.curTheme
 
     function transText(text) {
         return String(text)
@@ -17,12 +17,12 @@ T.ComboBox {
     }
 
     implicitWidth: 170
-    implicitHeight: 32
+    implicitHeight: Theme.smallControlHeight
     leftPadding: 10
     rightPadding: 28
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    font.pixelSize: 12
+    font.pixelSize: Theme.smallText
     displayText: root.shownAt(root.currentIndex)
     Accessible.role: Accessible.ComboBox
     Accessible.description: root.displayText
@@ -33,26 +33,26 @@ T.ComboBox {
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
         font: root.font
-        color: root.enabled ? root.theme.font_color_grade2 : root.theme.font_color_disabled
+        color: root.enabled ? Theme.font_color_grade2 : Theme.font_color_disabled
     }
 
     indicator: VEXIcon {
         x: root.width - width - 8
         y: (root.height - height) / 2
-        size: 16
+        size: Theme.smallIcon
         source: "qrc:/window/images/arrow_down.svg"
         rotation: root.popup.visible ? 180 : 0
-        opacity: root.enabled ? 1 : 0.4
+        opacity: root.enabled ? 1 : Theme.disabledOpacity
     }
 
     background: Rectangle {
-        radius: root.theme.radius_1
+        radius: Theme.radius_1
         border.width: 1
-        border.color: !root.enabled ? root.theme.rule
+        border.color: !root.enabled ? Theme.rule
                                     : root.hovered || root.popup.visible
-                                      ? root.theme.font_color_grade3 : root.theme.frame
-        color: !root.enabled ? root.theme.secondary_gradeTone4
-                             : root.down ? root.theme.hover : root.theme.basics_gradeTone1
+                                      ? Theme.font_color_grade3 : Theme.frame
+        color: !root.enabled ? Theme.secondary_gradeTone4
+                             : root.down ? Theme.hover : Theme.basics_gradeTone1
 
         VEXFocusFrame {
             visible: root.visualFocus
@@ -82,12 +82,12 @@ T.ComboBox {
             elide: Text.ElideRight
             verticalAlignment: Text.AlignVCenter
             font.pixelSize: root.font.pixelSize
-            color: root.currentIndex === entry.index ? root.theme.font_color_grade3
-                                                     : root.theme.font_color_grade2
+            color: root.currentIndex === entry.index ? Theme.font_color_grade3
+                                                     : Theme.font_color_grade2
         }
 
         background: Rectangle {
-            color: entry.highlighted ? root.theme.basics_gradeTone7 : root.theme.basics_gradeTone1
+            color: entry.highlighted ? Theme.basics_gradeTone7 : Theme.basics_gradeTone1
         }
     }
 
@@ -109,10 +109,10 @@ T.ComboBox {
         }
 
         background: Rectangle {
-            radius: root.theme.radius_1
+            radius: Theme.radius_1
             border.width: 1
-            border.color: root.theme.frame
-            color: root.theme.basics_gradeTone1
+            border.color: Theme.frame
+            color: Theme.basics_gradeTone1
         }
     }
 }

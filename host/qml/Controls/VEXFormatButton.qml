@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Public 1.0
+import VexTheme 1.0
 
 /*! Shows the chosen format; a click opens the picker. */
 T.Button {
@@ -9,15 +10,15 @@ T.Button {
     property url iconSource
     /*! What the format is for, for those who can't see where the button stands. */
     required property string purpose
-    readonly property QtObject theme: VexThemeMgr.curTheme
+    readonly property int iconWidth: root.iconSource === "" ? 0 : 20
 
     implicitWidth: 220
-    implicitHeight: 36
+    implicitHeight: Theme.controlHeight
     leftPadding: 10
     rightPadding: 10
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    font.pixelSize: 13
+    font.pixelSize: Theme.text
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: root.purpose + ": " + root.text
     Keys.onReturnPressed: root.clicked()
@@ -25,54 +26,49 @@ T.Button {
 
     contentItem: Item {
         VEXIcon {
-            id: formatIcon
-
             anchors.verticalCenter: parent.verticalCenter
-            width: root.iconSource === "" ? 0 : 20
+            width: root.iconWidth
             size: 20
-            height: 20
             source: root.iconSource
-            opacity: root.enabled ? 1 : 0.4
+            opacity: root.enabled ? 1 : Theme.disabledOpacity
         }
 
         VEXLabel {
             anchors {
-                left: formatIcon.right
-                leftMargin: 8
-                right: arrow.left
-                rightMargin: 8
+                left: parent.left
+                leftMargin: root.iconWidth + Theme.spacing
+                right: parent.right
+                rightMargin: Theme.smallIcon + Theme.spacing
                 verticalCenter: parent.verticalCenter
             }
             text: root.text
             elide: Text.ElideMiddle
             font.pixelSize: root.font.pixelSize
-            color: root.enabled ? root.theme.font_color_grade1 : root.theme.font_color_disabled
+            color: root.enabled ? Theme.font_color_grade1 : Theme.font_color_disabled
             Accessible.ignored: true
         }
 
         VEXIcon {
-            id: arrow
-
             anchors {
                 right: parent.right
                 verticalCenter: parent.verticalCenter
             }
-            size: 16
+            size: Theme.smallIcon
             source: "qrc:/window/images/arrow_down.svg"
-            opacity: root.enabled ? 1 : 0.4
+            opacity: root.enabled ? 1 : Theme.disabledOpacity
         }
     }
 
     background: Rectangle {
-        radius: root.theme.radius_1
+        radius: Theme.radius_1
         border.width: 1
-        border.color: !root.enabled ? root.theme.rule
-                                    : root.hovered || root.down ? root.theme.font_color_grade3
-                                                                : root.theme.frame
-        color: !root.enabled ? root.theme.secondary_gradeTone4
-                             : root.down ? root.theme.accentPale
-                                         : root.hovered ? root.theme.hover
-                                                        : root.theme.basics_gradeTone1
+        border.color: !root.enabled ? Theme.rule
+                                    : root.hovered || root.down ? Theme.font_color_grade3
+                                                                : Theme.frame
+        color: !root.enabled ? Theme.secondary_gradeTone4
+                             : root.down ? Theme.accentPale
+                                         : root.hovered ? Theme.hover
+                                                        : Theme.basics_gradeTone1
 
         VEXFocusFrame {
             visible: root.visualFocus

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Public 1.0
+import VexTheme 1.0
 
 /*! A button that is only an icon; its name shows as a tool tip. */
 T.AbstractButton {
@@ -8,9 +9,8 @@ T.AbstractButton {
 
     /*! As AbstractButton.display. */
     property int mode: T.AbstractButton.IconOnly
-    property int iconSize: 16
+    property int iconSize: Theme.smallIcon
     property url iconSource
-    readonly property QtObject theme: VexThemeMgr.curTheme
 
     implicitWidth: root.iconSize
     implicitHeight: root.iconSize
@@ -34,8 +34,8 @@ T.AbstractButton {
         Rectangle {
             anchors.fill: parent
             anchors.margins: -Math.max(0, Math.min(4, (24 - root.width) / 2))
-            radius: root.theme.radius_1
-            color: root.down ? root.theme.secondary_gradeTone3 : root.theme.accentPale
+            radius: Theme.radius_1
+            color: root.down ? Theme.secondary_gradeTone3 : Theme.accentPale
             visible: root.enabled && (root.hovered || root.down)
         }
 

@@ -1,11 +1,33 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
+import VexTheme 1.0
 
 /*! How far something is, from 0 to 1; for an unknown way a piece that runs along. */
 T.ProgressBar {
     id: root
 
-    readonly property QtObject theme: VexThemeMgr.curTheme
+
+    component Piece: Rectangle {
+        id: piece
+
+        required property T.ProgressBar bar
+
+        width: piece.bar.indeterminate ? parent.width / 4
+                                  : Math.max(height, parent.width * piece.bar.visualPosition)
+        height: parent.height
+        radius: height / 2
+        color: Theme.font_color_grade3
+        visible: piece.bar.indeterminate || piece.bar.visualPosition > 0
+
+        NumberAnimation on x {
+            running: piece.bar.indeterminate && piece.bar.visible
+            from: -piece.width
+            to: piece.bar.width
+            duration: 1400
+            loops: Animation.Infinite
+            onStopped: piece.x = 0
+        }
+    }
 
     implicitWidth: 160
     implicitHeight: 6
@@ -13,32 +35,14 @@ T.ProgressBar {
 
     background: Rectangle {
         radius: height / 2
-        color: root.theme.secondary_gradeTone4
+        color: Theme.secondary_gradeTone4
     }
 
     contentItem: Item {
         clip: true
 
-        Rectangle {
-            id: piece
-
-            width: root.indeterminate ? parent.width / 4
-                                      : Math.max(height, parent.width * root.visualPosition)
-            height: parent.height
-            radius: height / 2
-            color: root.theme.font_color_grade3
-            visible: root.indeterminate || root.visualPosition > 0
-        }
-
-        NumberAnimation {
-            target: piece
-            property: "x"
-            running: root.indeterminate && root.visible
-            from: -piece.width
-            to: root.width
-            duration: 1400
-            loops: Animation.Infinite
-            onStopped: piece.x = 0
+        Piece {
+            bar: root
         }
     }
 }

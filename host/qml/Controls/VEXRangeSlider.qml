@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Public 1.0
+import VexTheme 1.0
 
 /*! Two handles on a line, for the two ends of a part. */
 T.RangeSlider {
@@ -8,25 +9,27 @@ T.RangeSlider {
 
     required property string firstName
     required property string secondName
-    readonly property QtObject theme: VexThemeMgr.curTheme
 
     component Handle: Rectangle {
+        id: handle
+
+        required property T.RangeSlider slider
         property bool marked: false
         property bool held: false
 
-        y: (root.height - height) / 2
+        y: (handle.slider.height - height) / 2
         width: 14
         height: 14
-        radius: 7
+        radius: width / 2
         border.width: 2
-        border.color: root.enabled ? root.theme.font_color_grade3 : root.theme.font_color_disabled
-        color: held ? root.theme.accentPale : root.theme.basics_gradeTone1
-        activeFocusOnTab: root.activeFocusOnTab || activeFocus
+        border.color: handle.slider.enabled ? Theme.font_color_grade3 : Theme.font_color_disabled
+        color: handle.held ? Theme.accentPale : Theme.basics_gradeTone1
+        activeFocusOnTab: handle.slider.activeFocusOnTab || handle.activeFocus
         Accessible.role: Accessible.Slider
 
         VEXFocusFrame {
-            radius: 10
-            visible: parent.marked
+            controlRadius: handle.radius
+            visible: handle.marked
         }
     }
 
@@ -38,6 +41,7 @@ T.RangeSlider {
     hoverEnabled: true
 
     first.handle: Handle {
+        slider: root
         x: root.leftPadding - 7 + root.first.visualPosition * root.availableWidth
         marked: activeFocus
         held: root.first.pressed || root.first.hovered
@@ -45,6 +49,7 @@ T.RangeSlider {
     }
 
     second.handle: Handle {
+        slider: root
         x: root.leftPadding - 7 + root.second.visualPosition * root.availableWidth
         marked: activeFocus
         held: root.second.pressed || root.second.hovered
@@ -57,14 +62,14 @@ T.RangeSlider {
         width: root.availableWidth
         height: 4
         radius: 2
-        color: root.theme.secondary_gradeTone4
+        color: Theme.secondary_gradeTone4
 
         Rectangle {
             x: root.first.visualPosition * parent.width
             width: (root.second.visualPosition - root.first.visualPosition) * parent.width
             height: parent.height
             radius: parent.radius
-            color: root.enabled ? root.theme.font_color_grade3 : root.theme.font_color_disabled
+            color: root.enabled ? Theme.font_color_grade3 : Theme.font_color_disabled
         }
     }
 }

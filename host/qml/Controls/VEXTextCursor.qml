@@ -1,14 +1,15 @@
 import QtQuick 2.15
+import VexTheme 1.0
 
-/*! The blinking cursor of the text in \a field; 0 for \a shownHeight is the line's own height. */
+/*! The cursor of a text, which blinks in the field with the focus; 0 for \a shownHeight is the line's own height. */
 Item {
     id: root
 
-    required property Item field
+    required property bool blinks
     property int shownWidth: 1
     property int shownHeight: 0
+    readonly property var styleHints: Qt.styleHints
 
-    visible: root.field.cursorVisible
     width: root.shownWidth
 
     Rectangle {
@@ -17,12 +18,12 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: root.shownWidth
         height: root.shownHeight > 0 ? root.shownHeight : parent.height
-        color: VexThemeMgr.curTheme.font_color_grade3
+        color: Theme.font_color_grade3
     }
 
     Timer {
-        interval: Math.max(1, Qt.styleHints.cursorFlashTime / 2)
-        running: root.field.activeFocus && Qt.styleHints.cursorFlashTime > 0
+        interval: Math.max(1, root.styleHints.cursorFlashTime / 2)
+        running: root.blinks && root.styleHints.cursorFlashTime > 0
         repeat: true
         onTriggered: bar.visible = !bar.visible
         onRunningChanged: bar.visible = true

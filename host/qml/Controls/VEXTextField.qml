@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
+import VexTheme 1.0
 
 /*! A field to type in; it brings its place-holder, and no frame. */
 T.TextField {
@@ -9,26 +10,27 @@ T.TextField {
     property bool isCostomCursor: false
 
     implicitWidth: 130
-    implicitHeight: 32
+    implicitHeight: Theme.smallControlHeight
     leftPadding: 4
     rightPadding: 4
     verticalAlignment: Text.AlignVCenter
-    font.pixelSize: 13
-    color: VexThemeMgr.curTheme.font_color_grade1
-    placeholderTextColor: VexThemeMgr.curTheme.font_color_disabled
+    font.pixelSize: Theme.text
+    color: Theme.font_color_grade1
+    placeholderTextColor: Theme.font_color_disabled
     selectByMouse: true
-    selectionColor: VexThemeMgr.curTheme.font_color_grade3
-    selectedTextColor: "#FFFFFF"
+    selectionColor: Theme.font_color_grade3
+    selectedTextColor: Theme.onAccent
     Accessible.role: Accessible.EditableText
 
     cursorDelegate: VEXTextCursor {
-        field: root
+        visible: root.cursorVisible
+        blinks: root.activeFocus
         shownHeight: root.isCostomCursor ? 15 : 0
     }
 
     Text {
         x: root.leftPadding
-        width: root.availableWidth
+        width: root.width - root.leftPadding - root.rightPadding
         height: root.height
         visible: root.length === 0 && root.preeditText === ""
         text: root.placeholderText

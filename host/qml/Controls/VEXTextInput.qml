@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import VexTheme 1.0
 
 /*! A line to type in, without a frame of its own. */
 TextInput {
@@ -11,17 +12,18 @@ TextInput {
     property int cursorHeight: 15
 
     selectByMouse: true
-    selectionColor: VexThemeMgr.curTheme.font_color_grade3
-    selectedTextColor: "#FFFFFF"
+    selectionColor: Theme.font_color_grade3
+    selectedTextColor: Theme.onAccent
     inputMethodHints: root.isSearch ? Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase : Qt.ImhNone
     onActiveFocusChanged: {
-        if (!activeFocus) {
-            deselect()
+        if (!root.activeFocus) {
+            root.deselect()
         }
     }
 
     cursorDelegate: VEXTextCursor {
-        field: root
+        visible: root.cursorVisible
+        blinks: root.activeFocus
         shownWidth: root.isCostomCursor ? root.cursorWidth : 1
         shownHeight: root.isCostomCursor ? root.cursorHeight : 0
     }

@@ -1,12 +1,14 @@
 import QtQuick 2.15
 import Controls 1.0
 import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! What holds for the whole page: its format, where the results go, and the start of it all. */
 Rectangle {
     id: root
 
-    required property QtObject page
+    required property PageProxy page
     required property string formatLabel
     required property int formatLabelWidth
 
@@ -20,12 +22,12 @@ Rectangle {
     }
 
     implicitHeight: 72
-    color: VexThemeMgr.curTheme.basics_gradeTone1
+    color: Theme.basics_gradeTone1
 
     Rectangle {
         width: parent.width
         height: 1
-        color: VexThemeMgr.curTheme.rule
+        color: Theme.rule
     }
 
     Row {
@@ -33,7 +35,7 @@ Rectangle {
 
         anchors {
             left: parent.left
-            leftMargin: 24
+            leftMargin: Theme.wideMargin
             verticalCenter: parent.verticalCenter
         }
 
@@ -41,8 +43,8 @@ Rectangle {
             width: root.formatLabelWidth
             height: parent.height
             text: root.formatLabel + ":"
-            font.pixelSize: 12
-            color: VexThemeMgr.curTheme.font_color_grade4
+            font.pixelSize: Theme.smallText
+            color: Theme.font_color_grade4
         }
 
         VEXFormatButton {
@@ -61,12 +63,12 @@ Rectangle {
 
         anchors {
             left: format.right
-            leftMargin: 24
+            leftMargin: Theme.wideMargin
             verticalCenter: parent.verticalCenter
         }
         text: ToolFun.tr("Save to") + ":"
-        font.pixelSize: 12
-        color: VexThemeMgr.curTheme.font_color_grade4
+        font.pixelSize: Theme.smallText
+        color: Theme.font_color_grade4
     }
 
     VEXButton {
@@ -76,12 +78,12 @@ Rectangle {
             left: folderLabel.right
             leftMargin: 12
             right: besideButton.visible ? besideButton.left : convertButton.left
-            rightMargin: besideButton.visible ? 8 : 24
+            rightMargin: besideButton.visible ? Theme.spacing : Theme.wideMargin
             verticalCenter: parent.verticalCenter
         }
         text: root.folderName(root.page.folder)
         Accessible.name: folderLabel.text + " " + folderButton.text
-        onClicked: O_Files.chooseFolder(root.page)
+        onClicked: FileChooser.chooseFolder(root.page)
 
         VEXHint {
             shown: folderButton.hovered
@@ -94,7 +96,7 @@ Rectangle {
 
         anchors {
             right: convertButton.left
-            rightMargin: 24
+            rightMargin: Theme.wideMargin
             verticalCenter: parent.verticalCenter
         }
         width: 24
@@ -110,7 +112,7 @@ Rectangle {
 
         anchors {
             right: parent.right
-            rightMargin: 24
+            rightMargin: Theme.wideMargin
             verticalCenter: parent.verticalCenter
         }
         minWidth: 136

@@ -1,12 +1,12 @@
 import QtQuick 2.15
 import Controls 1.0
-import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! The part of a film or song that is kept, from its start to its end. */
 Row {
     id: root
 
-    required property QtObject page
     required property int taskId
     required property real seconds
     required property real start
@@ -17,7 +17,7 @@ Row {
 
     function keep(start, end) {
         if (start >= 0 && end <= root.seconds && end - start >= 0.01) {
-            root.page.cut(root.taskId, start, end === root.seconds ? 0 : end)
+            EditorProxy.cut(root.taskId, start, end === root.seconds ? 0 : end)
         }
         root.moveHandles()
     }
@@ -31,23 +31,24 @@ Row {
     onStartChanged: root.moveHandles()
     onShownEndChanged: root.moveHandles()
     Component.onCompleted: root.moveHandles()
-    spacing: 8
+    spacing: Theme.spacing
     enabled: root.seconds > 0
 
     CutMoment {
-        page: root.page
-        inTabOrder: root.inTabOrder
+        id: startMoment
+
         anchors.verticalCenter: parent.verticalCenter
+        inTabOrder: root.inTabOrder
         name: ToolFun.tr("Start")
         value: root.start
-        onAsked: root.keep(seconds, root.shownEnd)
+        onAsked: function (seconds) { root.keep(seconds, root.shownEnd) }
     }
 
     VEXRangeSlider {
         id: slider
 
         anchors.verticalCenter: parent.verticalCenter
-        width: root.width - 2 * 84 - 2 * root.spacing
+        width: root.width - startMoment.width - endMoment.width - 2 * root.spacing
         focusPolicy: root.inTabOrder ? Qt.StrongFocus : Qt.ClickFocus
         firstName: ToolFun.tr("Start")
         secondName: ToolFun.tr("End")
@@ -57,11 +58,12 @@ Row {
     }
 
     CutMoment {
-        page: root.page
-        inTabOrder: root.inTabOrder
+        id: endMoment
+
         anchors.verticalCenter: parent.verticalCenter
+        inTabOrder: root.inTabOrder
         name: ToolFun.tr("End")
         value: root.shownEnd
-        onAsked: root.keep(root.start, seconds)
+        onAsked: function (seconds) { root.keep(root.start, seconds) }
     }
 }

@@ -1,11 +1,12 @@
 import QtQuick 2.15
 import Controls 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! A moment to type in: one end of the part that is kept. */
 Rectangle {
     id: root
 
-    required property QtObject page
     required property string name
     required property real value
     required property bool inTabOrder
@@ -13,11 +14,11 @@ Rectangle {
     signal asked(real seconds)
 
     function show() {
-        field.text = root.page.clockOf(root.value)
+        field.text = EditorProxy.clockOf(root.value)
     }
 
     function take() {
-        const typed = root.page.secondsOf(field.text)
+        const typed = EditorProxy.secondsOf(field.text)
         if (typed >= 0 && typed !== root.value) {
             root.asked(typed)
         }
@@ -26,10 +27,10 @@ Rectangle {
 
     width: 84
     height: 28
-    radius: VexThemeMgr.curTheme.radius_1
+    radius: Theme.radius_1
     border.width: 1
-    border.color: field.activeFocus ? VexThemeMgr.curTheme.font_color_grade3
-                                    : VexThemeMgr.curTheme.frame
+    border.color: field.activeFocus ? Theme.font_color_grade3
+                                    : Theme.frame
     opacity: root.enabled ? 1 : 0.5
     onValueChanged: root.show()
     Component.onCompleted: root.show()
@@ -39,7 +40,7 @@ Rectangle {
 
         anchors.fill: parent
         horizontalAlignment: Text.AlignHCenter
-        font.pixelSize: 12
+        font.pixelSize: Theme.smallText
         activeFocusOnTab: root.inTabOrder || activeFocus
         Accessible.name: root.name
         onEditingFinished: root.take()

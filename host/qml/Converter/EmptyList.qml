@@ -1,6 +1,8 @@
 import QtQuick 2.15
 import Controls 1.0
 import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! Invites to drop files, where there are none yet. */
 Item {
@@ -12,22 +14,22 @@ Item {
 
     Rectangle {
         anchors.centerIn: parent
-        width: Math.min(560, parent.width - 48)
-        height: Math.min(300, parent.height - 48)
-        radius: 12
-        color: root.isDropOver ? VexThemeMgr.curTheme.accentPale
-                               : VexThemeMgr.curTheme.basics_gradeTone1
+        width: Math.min(560, parent.width - 2 * Theme.wideMargin)
+        height: Math.min(300, parent.height - 2 * Theme.wideMargin)
+        radius: Theme.radius_3
+        color: root.isDropOver ? Theme.accentPale
+                               : Theme.basics_gradeTone1
 
         VEXDashedFrame {
             anchors.fill: parent
             radius: parent.radius
-            color: root.isDropOver ? VexThemeMgr.curTheme.font_color_grade3
-                                   : VexThemeMgr.curTheme.frame
+            color: root.isDropOver ? Theme.font_color_grade3
+                                   : Theme.frame
         }
 
         Column {
             anchors.centerIn: parent
-            width: parent.width - 48
+            width: parent.width - 2 * Theme.wideMargin
             spacing: 12
 
             VEXIcon {
@@ -40,7 +42,7 @@ Item {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 text: ToolFun.tr("Drop videos or songs here")
-                font.pixelSize: 18
+                font.pixelSize: Theme.largeText
                 font.weight: Font.DemiBold
             }
 
@@ -50,7 +52,7 @@ Item {
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 text: ToolFun.tr("Then choose a format and press Convert All")
-                color: VexThemeMgr.curTheme.font_color_grade4
+                color: Theme.font_color_grade4
             }
 
             VEXButton {

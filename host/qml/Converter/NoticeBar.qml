@@ -1,6 +1,8 @@
 import QtQuick 2.15
 import Controls 1.0
 import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! What the user ought to know, until it is dismissed. */
 Rectangle {
@@ -12,7 +14,7 @@ Rectangle {
 
     implicitHeight: root.text === "" ? 0 : Math.max(44, words.implicitHeight + 24)
     visible: root.text !== ""
-    color: VexThemeMgr.curTheme.noticePale
+    color: Theme.noticePale
     Accessible.role: Accessible.AlertMessage
     Accessible.name: root.text
 
@@ -21,15 +23,15 @@ Rectangle {
 
         anchors {
             left: parent.left
-            leftMargin: 24
+            leftMargin: Theme.wideMargin
             right: closeButton.left
-            rightMargin: 16
+            rightMargin: Theme.margin
             verticalCenter: parent.verticalCenter
         }
         text: root.text
         elide: Text.ElideNone
         wrapMode: Text.Wrap
-        color: VexThemeMgr.curTheme.noticeText
+        color: Theme.noticeText
     }
 
     VEXImageButton {
@@ -37,7 +39,7 @@ Rectangle {
 
         anchors {
             right: parent.right
-            rightMargin: 24
+            rightMargin: Theme.wideMargin
             verticalCenter: parent.verticalCenter
         }
         width: 20

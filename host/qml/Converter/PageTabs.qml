@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import Public 1.0
+import VexTheme 1.0
 
 /*! The window's pages, one of them shown. */
 Row {
@@ -17,7 +18,7 @@ Row {
         }
     }
 
-    spacing: 8
+    spacing: Theme.spacing
     Accessible.role: Accessible.PageTabList
 
     Repeater {
@@ -32,8 +33,10 @@ Row {
             required property int index
             readonly property bool isCurrent: root.current === tab.index
 
-            implicitWidth: caption.implicitWidth + 32
+            implicitWidth: implicitContentWidth + leftPadding + rightPadding
             implicitHeight: 34
+            leftPadding: Theme.margin
+            rightPadding: Theme.margin
             hoverEnabled: true
             focusPolicy: tab.isCurrent || tab.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             text: tab.modelData
@@ -45,25 +48,23 @@ Row {
             Keys.onRightPressed: root.step(tab.index + 1)
 
             contentItem: Text {
-                id: caption
-
                 text: tab.text
                 textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
-                font.pixelSize: 14
+                font.pixelSize: Theme.mediumText
                 font.weight: Font.DemiBold
-                color: tab.isCurrent ? VexThemeMgr.curTheme.font_color_grade3
-                                     : VexThemeMgr.curTheme.font_color_grade2
+                color: tab.isCurrent ? Theme.font_color_grade3
+                                     : Theme.font_color_grade2
             }
 
             background: Rectangle {
-                radius: 17
-                color: tab.isCurrent ? VexThemeMgr.curTheme.accentPale
-                                     : tab.hovered ? VexThemeMgr.curTheme.hover : "transparent"
+                radius: Theme.radius_7
+                color: tab.isCurrent ? Theme.accentPale
+                                     : tab.hovered ? Theme.hover : "transparent"
 
                 VEXFocusFrame {
-                    radius: 20
+                    controlRadius: Theme.radius_7
                     visible: tab.visualFocus
                 }
             }

@@ -1,12 +1,12 @@
 import QtQuick 2.15
 import Controls 1.0
-import Tasks 1.0
+import VexWindow 1.0
 
 /*! The buttons of a task: those that make sense in its state. */
 Row {
     id: root
 
-    required property QtObject page
+    required property PageProxy page
     required property int taskId
     required property int taskState
     required property bool inTabOrder
@@ -17,16 +17,19 @@ Row {
                                      || root.taskState === Task.Cancelled
 
     component Action: VEXImageButton {
+        required property bool inTabOrder
+
         width: 28
         height: 28
         iconSize: 18
-        focusPolicy: root.inTabOrder || activeFocus ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: inTabOrder || activeFocus ? Qt.TabFocus : Qt.NoFocus
     }
 
     spacing: 4
 
     Action {
         visible: root.taskState === Task.Converted
+        inTabOrder: root.inTabOrder
         iconSource: "qrc:/window/images/folder.svg"
         Accessible.name: ToolFun.tr("Show in folder")
         onClicked: root.page.showInFolder(root.taskId)
@@ -34,6 +37,7 @@ Row {
 
     Action {
         visible: root.taskState === Task.Ready
+        inTabOrder: root.inTabOrder
         iconSource: "qrc:/window/images/start.svg"
         Accessible.name: ToolFun.tr("Convert")
         onClicked: root.page.convert(root.taskId)
@@ -41,6 +45,7 @@ Row {
 
     Action {
         visible: root.canRetry
+        inTabOrder: root.inTabOrder
         iconSource: "qrc:/window/images/retry.svg"
         Accessible.name: ToolFun.tr("Try again")
         onClicked: root.page.convert(root.taskId)
@@ -48,12 +53,14 @@ Row {
 
     Action {
         visible: root.isQueued
+        inTabOrder: root.inTabOrder
         iconSource: "qrc:/window/images/stop.svg"
         Accessible.name: ToolFun.tr("Stop")
         onClicked: root.page.cancel(root.taskId)
     }
 
     Action {
+        inTabOrder: root.inTabOrder
         iconSource: "qrc:/window/images/remove.svg"
         Accessible.name: ToolFun.tr("Remove from the list")
         onClicked: root.page.remove(root.taskId)

@@ -1,12 +1,14 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.5
 import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! A page of the window: its files, and below them what holds for all of them. */
 Item {
     id: root
 
-    required property QtObject page
+    required property PageProxy page
     required property bool canCut
     required property string formatLabel
     required property int formatLabelWidth
@@ -24,7 +26,7 @@ Item {
         }
         visible: list.count === 0
         isDropOver: drop.containsDrag
-        onAddClicked: O_Files.chooseFiles(root.page)
+        onAddClicked: FileChooser.chooseFiles(root.page)
     }
 
     ListView {
@@ -34,9 +36,9 @@ Item {
             fill: parent
             bottomMargin: bottom.height
         }
-        topMargin: 16
-        bottomMargin: 16
-        spacing: 8
+        topMargin: Theme.margin
+        bottomMargin: Theme.margin
+        spacing: Theme.spacing
         clip: true
         visible: list.count > 0
         model: root.page.tasks
@@ -52,11 +54,13 @@ Item {
         delegate: TaskRow {
             id: row
 
-            x: 24
-            width: list.width - 48
+            x: Theme.wideMargin
+            width: list.width - 2 * Theme.wideMargin
             page: root.page
             canCut: root.canCut
-            onFormatClicked: root.pickerAsked(button, row.taskId, row.format)
+            onFormatClicked: function (button) {
+                root.pickerAsked(button, row.taskId, row.format)
+            }
             onPressed: list.currentIndex = row.index
         }
     }
@@ -64,13 +68,13 @@ Item {
     Rectangle {
         anchors {
             fill: list
-            margins: 8
+            margins: Theme.spacing
         }
         visible: drop.containsDrag && list.count > 0
-        radius: 12
+        radius: Theme.radius_3
         color: "transparent"
         border.width: 2
-        border.color: VexThemeMgr.curTheme.font_color_grade3
+        border.color: Theme.font_color_grade3
     }
 
     DropArea {

@@ -1,7 +1,8 @@
 import QtQuick 2.15
 import Controls 1.0
 import Public 1.0
-import Tasks 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! Where a task stands: in words, and as a bar while it is at work. */
 Item {
@@ -33,14 +34,14 @@ Item {
     }
 
     function runningWords() {
-        const parts = [root.percent < 0 ? ToolFun.tr("Converting …") : root.percent + " %"]
+        let words = root.percent < 0 ? ToolFun.tr("Converting …") : root.percent + " %"
         if (root.speed > 0) {
-            parts.push(root.speed.toFixed(root.speed < 10 ? 1 : 0) + "×")
+            words += "  ·  " + root.speed.toFixed(root.speed < 10 ? 1 : 0) + "×"
         }
         if (root.timeLeft !== "") {
-            parts.push(ToolFun.tr("%1 left").arg(root.timeLeft))
+            words += "  ·  " + ToolFun.tr("%1 left").arg(root.timeLeft)
         }
-        return parts.join("  ·  ")
+        return words
     }
 
     implicitHeight: Math.max(20, wordsLabel.implicitHeight)
@@ -61,7 +62,7 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         visible: root.taskState === Task.Converted || root.taskState === Task.Failed
-        size: 16
+        size: Theme.smallIcon
         source: root.taskState === Task.Converted ? "qrc:/window/images/done.svg"
                                                   : "qrc:/window/images/failed.svg"
     }
@@ -78,11 +79,11 @@ Item {
         wrapMode: Text.Wrap
         maximumLineCount: root.taskState === Task.Failed ? 2 : 1
         text: root.words
-        font.pixelSize: 12
-        color: root.taskState === Task.Failed ? VexThemeMgr.curTheme.danger
+        font.pixelSize: Theme.smallText
+        color: root.taskState === Task.Failed ? Theme.danger
                                               : root.taskState === Task.Converted
-                                                ? VexThemeMgr.curTheme.success
-                                                : VexThemeMgr.curTheme.font_color_grade4
+                                                ? Theme.success
+                                                : Theme.font_color_grade4
 
         HoverHandler {
             id: hover

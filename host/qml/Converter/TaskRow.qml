@@ -1,13 +1,14 @@
 import QtQuick 2.15
 import Controls 1.0
 import Public 1.0
-import Tasks 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! One file: what it is, what becomes of it and how far that is. */
 Rectangle {
     id: root
 
-    required property QtObject page
+    required property PageProxy page
     required property bool canCut
 
     required property int index
@@ -43,15 +44,19 @@ Rectangle {
         }
     }
 
+    function joined(texts, separator) {
+        return texts.filter(Boolean).join(separator)
+    }
+
     implicitHeight: root.canCut ? 128 : 96
     activeFocusOnTab: root.isCurrent || root.activeFocus
-    radius: VexThemeMgr.curTheme.radius_2
-    color: hover.hovered ? VexThemeMgr.curTheme.hover : VexThemeMgr.curTheme.basics_gradeTone1
+    radius: Theme.radius_2
+    color: hover.hovered ? Theme.hover : Theme.basics_gradeTone1
     border.width: 1
-    border.color: VexThemeMgr.curTheme.rule
+    border.color: Theme.rule
     Accessible.role: Accessible.ListItem
-    Accessible.name: [root.name, root.details, root.formatCaption,
-                      progress.words].filter(Boolean).join(", ")
+    Accessible.name: root.joined([root.name, root.details, root.formatCaption, progress.words],
+                                 ", ")
     Accessible.focusable: true
     Accessible.onPressAction: root.activate()
 
@@ -67,9 +72,11 @@ Rectangle {
     }
 
     TapHandler {
+        id: tap
+
         gesturePolicy: TapHandler.DragThreshold
         onPressedChanged: {
-            if (pressed) {
+            if (tap.pressed) {
                 root.pressed()
                 root.forceActiveFocus(Qt.MouseFocusReason)
             }
@@ -77,24 +84,24 @@ Rectangle {
     }
 
     VEXFocusFrame {
-        radius: parent.radius + 3
+        controlRadius: root.radius
         visible: root.activeFocus
     }
 
     Thumbnail {
         id: thumbnail
 
-        x: 16
-        y: 16
+        x: Theme.margin
+        y: Theme.margin
         source: root.thumbnail
     }
 
     Column {
         anchors {
             left: thumbnail.right
-            leftMargin: 16
+            leftMargin: Theme.margin
             right: formatButton.left
-            rightMargin: 24
+            rightMargin: Theme.wideMargin
             top: thumbnail.top
         }
         spacing: 2
@@ -104,7 +111,7 @@ Rectangle {
             height: 20
             text: root.name
             elide: Text.ElideMiddle
-            font.pixelSize: 14
+            font.pixelSize: Theme.mediumText
             font.weight: Font.DemiBold
         }
 
@@ -112,9 +119,9 @@ Rectangle {
             width: parent.width
             height: 18
             visible: text !== ""
-            text: [root.details, root.codecs].filter(Boolean).join("  ·  ")
-            font.pixelSize: 12
-            color: VexThemeMgr.curTheme.font_color_grade4
+            text: root.joined([root.details, root.codecs], "  ·  ")
+            font.pixelSize: Theme.smallText
+            color: Theme.font_color_grade4
         }
 
         TaskProgress {
@@ -134,7 +141,7 @@ Rectangle {
 
         anchors {
             right: actions.left
-            rightMargin: 16
+            rightMargin: Theme.margin
             verticalCenter: thumbnail.verticalCenter
         }
         width: 208
@@ -151,7 +158,7 @@ Rectangle {
 
         anchors {
             right: parent.right
-            rightMargin: 16
+            rightMargin: Theme.margin
             verticalCenter: thumbnail.verticalCenter
         }
         width: 60
@@ -171,13 +178,12 @@ Rectangle {
         anchors {
             left: thumbnail.left
             right: parent.right
-            rightMargin: 16
+            rightMargin: Theme.margin
             top: thumbnail.bottom
-            topMargin: 8
+            topMargin: Theme.spacing
         }
 
         sourceComponent: CutBar {
-            page: root.page
             taskId: root.taskId
             seconds: root.seconds
             start: root.start

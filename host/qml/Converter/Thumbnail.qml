@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import Public 1.0
+import VexTheme 1.0
 
 /*! A picture from the file, or a note where it has none. */
 Rectangle {
@@ -9,8 +10,8 @@ Rectangle {
 
     width: 112
     height: 64
-    radius: VexThemeMgr.curTheme.radius_1
-    color: VexThemeMgr.curTheme.secondary_gradeTone4
+    radius: Theme.radius_1
+    color: Theme.secondary_gradeTone4
     clip: true
     Accessible.ignored: true
 

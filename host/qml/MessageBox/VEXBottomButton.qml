@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import Controls 1.0
+import VexTheme 1.0
 
 /*!
  * The buttons at the bottom of the dialog \a control, which says in okFunc() and cancelFunc() what
@@ -8,41 +9,41 @@ import Controls 1.0
 Row {
     id: root
 
-    required property Item control
+    required property VEXContent control
     property int buttonMinWidth: 104
     property string cancelText: ""
     property string okText: ""
 
     function okFunc() {
-        O_Frame.cancelClicked()
+        root.control.frame.cancelClicked()
     }
 
     function cancelFunc() {
-        O_Frame.cancelClicked()
+        root.control.frame.cancelClicked()
     }
 
     spacing: 12
 
     VEXButton {
-        implicitHeight: 32
+        implicitHeight: Theme.smallControlHeight
         minWidth: root.buttonMinWidth
         leftPadding: 5
         rightPadding: 5
         visible: text !== ""
         text: root.cancelText
-        font.pixelSize: 12
+        font.pixelSize: Theme.smallText
         onClicked: root.cancelFunc()
     }
 
     VEXButton {
-        implicitHeight: 32
+        implicitHeight: Theme.smallControlHeight
         minWidth: root.buttonMinWidth
         leftPadding: 5
         rightPadding: 5
         visible: text !== ""
         primary: true
         text: root.okText
-        font.pixelSize: 12
+        font.pixelSize: Theme.smallText
         onClicked: root.okFunc()
     }
 }

@@ -1,9 +1,14 @@
 import QtQuick 2.15
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! The framed ground of a dialog. */
 Rectangle {
-    color: VexThemeMgr.curTheme.basics_gradeTone1
-    radius: VexThemeMgr.curTheme.radius_2
+    /*! The window that the dialog is shown in. */
+    required property DialogFrame frame
+
+    color: Theme.basics_gradeTone1
+    radius: Theme.radius_2
     border.width: 1
-    border.color: VexThemeMgr.curTheme.frame
+    border.color: Theme.frame
 }

@@ -1,19 +1,22 @@
 import QtQuick 2.15
 import MessageBox 1.0
 import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
-/*! A dialog that says O_Frame.info["showText"]. */
+/*! A dialog that says \a info["showText"]. */
 VEXContent {
     id: root
 
-    readonly property string message: O_Frame.info["showText"]
+    readonly property var info: root.frame.info
+    readonly property string message: root.info["showText"]
 
     function close() {
-        O_Frame.cancelClicked()
+        root.frame.cancelClicked()
     }
 
     width: 420
-    height: message.implicitHeight + 40 + 24 + 24 + 56
+    height: words.implicitHeight + 40 + 24 + 24 + 56
     focus: true
     Accessible.role: Accessible.AlertMessage
     Accessible.name: root.message
@@ -29,15 +32,15 @@ VEXContent {
     }
 
     VEXLabel {
-        id: message
+        id: words
 
         anchors {
             left: parent.left
-            leftMargin: 24
+            leftMargin: Theme.wideMargin
             right: parent.right
-            rightMargin: 24
+            rightMargin: Theme.wideMargin
             top: titleBar.bottom
-            topMargin: 24
+            topMargin: Theme.wideMargin
         }
         text: root.message
         wrapMode: Text.WordWrap

@@ -1,13 +1,14 @@
 import QtQuick 2.15
-import QtQuick.Templates 2.15 as T
 import Controls 1.0
 import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
 
 /*! The title of the dialog \a control, with a button to close it; the mouse can move it here. */
 Item {
     id: root
 
-    required property Item control
+    required property VEXContent control
     property string text: ""
 
     width: root.control.width
@@ -15,19 +16,19 @@ Item {
 
     MouseArea {
         anchors.fill: parent
-        onPressed: O_Frame.startMoving()
+        onPressed: root.control.frame.startMoving()
     }
 
     VEXLabel {
         anchors {
             left: parent.left
-            leftMargin: 16
+            leftMargin: Theme.margin
             right: closeButton.left
-            rightMargin: 8
+            rightMargin: Theme.spacing
             verticalCenter: parent.verticalCenter
         }
         text: root.text
-        font.pixelSize: 14
+        font.pixelSize: Theme.mediumText
         font.weight: Font.DemiBold
     }
 
@@ -44,7 +45,7 @@ Item {
         iconSource: "qrc:/window/images/close.svg"
         focusPolicy: Qt.NoFocus
         Accessible.name: ToolFun.tr("Close")
-        onClicked: O_Frame.cancelClicked()
+        onClicked: root.control.frame.cancelClicked()
     }
 
     Rectangle {
@@ -52,6 +53,6 @@ Item {
         x: 1
         width: root.width - 2
         height: 1
-        color: VexThemeMgr.curTheme.rule
+        color: Theme.rule
     }
 }

@@ -1,12 +1,18 @@
 import QtQuick 2.15
+import VexTheme 1.0
 
 /*! Marks the control that the keyboard is at, just outside of its edge. */
 Rectangle {
+    id: root
+
+    property int controlRadius: Theme.radius_1
+    readonly property int gap: 3
+
     anchors.fill: parent
-    anchors.margins: -3
+    anchors.margins: -root.gap
     color: "transparent"
-    radius: VexThemeMgr.curTheme.radius_1 + 3
+    radius: root.controlRadius + root.gap
     border.width: 2
-    border.color: VexThemeMgr.curTheme.font_color_grade3
+    border.color: Theme.font_color_grade3
     opacity: 0.6
 }

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.5
+import VexTheme 1.0
 
 /*! A tool tip: the whole of a text that is cut off, or what a control does. */
 ToolTip {
@@ -9,7 +10,7 @@ ToolTip {
 
     visible: root.shown && root.text !== ""
     delay: 600
-    font.pixelSize: 12
+    font.pixelSize: Theme.smallText
     padding: 8
     contentWidth: Math.min(metrics.advanceWidth + 1, 420)
 
@@ -18,12 +19,12 @@ ToolTip {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         font: root.font
-        color: "#FFFFFF"
+        color: Theme.onAccent
     }
 
     background: Rectangle {
-        radius: VexThemeMgr.curTheme.radius_1
-        color: VexThemeMgr.curTheme.font_color_grade1
+        radius: Theme.radius_1
+        color: Theme.font_color_grade1
     }
 
     TextMetrics {

@@ -1,12 +1,13 @@
 import QtQuick 2.15
+import VexTheme 1.0
 
 /*! A line of text that ends in dots where there is no room for it. */
 Text {
     textFormat: Text.PlainText
     elide: Text.ElideRight
     verticalAlignment: Text.AlignVCenter
-    color: VexThemeMgr.curTheme.font_color_grade1
-    font.pixelSize: 13
+    color: Theme.font_color_grade1
+    font.pixelSize: Theme.text
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 }

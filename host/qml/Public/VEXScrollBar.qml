@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.5
+import VexTheme 1.0
 
 ScrollBar {
     id: root
@@ -12,7 +13,7 @@ ScrollBar {
         implicitWidth: 6
         implicitHeight: 6
         radius: 3
-        color: VexThemeMgr.curTheme.font_color_grade4
+        color: Theme.font_color_grade4
         opacity: root.pressed ? 0.7 : root.hovered ? 0.5 : 0.3
     }
 }

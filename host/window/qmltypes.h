@@ -1,0 +1,92 @@
+#ifndef WINDOW_QMLTYPES_H
+#define WINDOW_QMLTYPES_H
+
+#include "host/window/dialogframe.h"
+#include "host/window/filechooser.h"
+#include "host/window/notices.h"
+#include "host/window/pageproxies.h"
+#include "host/window/toolfun.h"
+
+#include <QQmlEngine>
+
+/*!
+ * \file
+ * What the window's QML files import as "VexWindow 1.0". tools/lint.sh checks them against the
+ * types that this file names.
+ */
+
+struct ExposedToolFun
+{
+    Q_GADGET
+    QML_FOREIGN(ToolFun)
+    QML_NAMED_ELEMENT(ToolFun)
+    QML_SINGLETON
+};
+
+struct ExposedFileChooser
+{
+    Q_GADGET
+    QML_FOREIGN(FileChooser)
+    QML_NAMED_ELEMENT(FileChooser)
+    QML_SINGLETON
+};
+
+struct ExposedNotices
+{
+    Q_GADGET
+    QML_FOREIGN(Notices)
+    QML_NAMED_ELEMENT(Notices)
+    QML_SINGLETON
+};
+
+struct ExposedConverterProxy
+{
+    Q_GADGET
+    QML_FOREIGN(ConverterProxy)
+    QML_NAMED_ELEMENT(ConverterProxy)
+    QML_SINGLETON
+};
+
+struct ExposedEditorProxy
+{
+    Q_GADGET
+    QML_FOREIGN(EditorProxy)
+    QML_NAMED_ELEMENT(EditorProxy)
+    QML_SINGLETON
+};
+
+struct ExposedPage
+{
+    Q_GADGET
+    QML_FOREIGN(Page)
+    QML_NAMED_ELEMENT(PageProxy)
+    QML_UNCREATABLE("is one of the two pages")
+};
+
+struct ExposedTaskList
+{
+    Q_GADGET
+    QML_FOREIGN(TaskList)
+    QML_ANONYMOUS
+};
+
+struct ExposedTask
+{
+    Q_GADGET
+    QML_FOREIGN(Task)
+    QML_NAMED_ELEMENT(Task)
+    QML_UNCREATABLE("holds the states of a task")
+};
+
+struct ExposedDialogFrame
+{
+    Q_GADGET
+    QML_FOREIGN(DialogFrame)
+    QML_NAMED_ELEMENT(DialogFrame)
+    QML_UNCREATABLE("is made for each dialog")
+};
+
+/*! The singletons are children of the object that is the QML engine's parent. */
+void registerQmlTypes();
+
+#endif
