@@ -11,7 +11,7 @@ struct Error
     enum Kind {
         Failed,
         WrongUsage,     //!< the caller asked for what can't be: nothing was tried
-        InUse,          //!< another program has it: it may be tried again
+        InUse,          //!< another process has it: it may be free later
         EncoderMissing, //!< the encoder exists, but this ffmpeg lacks it
         Cancelled       //!< on demand: there is nothing to tell
     };

@@ -27,8 +27,8 @@ namespace {
 class Screenshots
 {
 public:
-    /*! \a folder is made where it is missing. */
-    explicit Screenshots(const QString &folder);
+    /*! \a folder is made where it is missing; \a work takes the clips and the settings. */
+    Screenshots(const QString &folder, const WorkFolder &work);
 
     [[nodiscard]] Result<> takeAll();
 
@@ -52,13 +52,14 @@ private:
     void take(const QString &name, QQuickWindow *window = nullptr);
 
     const QDir m_folder;
-    WorkFolder m_work;
+    const WorkFolder &m_work;
     MainWindow m_window;
     Result<> m_result;
 };
 
-Screenshots::Screenshots(const QString &folder)
+Screenshots::Screenshots(const QString &folder, const WorkFolder &work)
     : m_folder(folder)
+    , m_work(work)
     , m_window(m_work.filePath(QStringLiteral("config")))
 {}
 
@@ -294,6 +295,10 @@ int main(int argc, char **argv)
                        Error::WrongUsage});
     }
     Languages::install(language);
-    const Result<> taken = Screenshots(arguments.at(1)).takeAll();
+    const Result<WorkFolder> work = WorkFolder::make();
+    if (!work) {
+        return report({QStringLiteral("no temporary folder: %1").arg(work.error().text)});
+    }
+    const Result<> taken = Screenshots(arguments.at(1), *work).takeAll();
     return taken ? Success : report(taken.error());
 }

@@ -74,10 +74,10 @@ CatalogueProof::CatalogueProof(const QVector<ProvenPreset> &presets, QObject *pa
 void CatalogueProof::start()
 {
     QTimer::singleShot(0, this, [this] {
-        if (m_folder.isValid()) {
+        if (m_folder) {
             proveNextSize();
         } else {
-            Q_EMIT finished(failed(tr("no temporary folder: %1").arg(m_folder.errorText())));
+            Q_EMIT finished(failed(tr("no temporary folder: %1").arg(m_folder.error().text)));
         }
     });
 }
@@ -102,13 +102,15 @@ void CatalogueProof::proveNextSize()
             }
         }
         if (!m_waiting.isEmpty()) {
-            makeProofClip(size, m_folder.path(), &m_running, [this](const Result<ProofClip> &clip) {
-                if (clip) {
-                    proveWaitingWith(*clip);
-                } else {
-                    Q_EMIT finished(failed(tr("no clip to convert: %1").arg(clip.error().text)));
-                }
-            });
+            makeProofClip(size, m_folder->path(), &m_running,
+                          [this](const Result<ProofClip> &clip) {
+                              if (clip) {
+                                  proveWaitingWith(*clip);
+                              } else {
+                                  Q_EMIT finished(
+                                      failed(tr("no clip to convert: %1").arg(clip.error().text)));
+                              }
+                          });
             return;
         }
     }

@@ -56,7 +56,7 @@ private:
     void note(ProvenPreset &preset, const Result<> &outcome);
 
     QVector<ProvenPreset> m_presets;
-    WorkFolder m_folder;
+    const Result<WorkFolder> m_folder = WorkFolder::make();
     QQueue<QSize> m_sizes; //!< of the clips still to come
     ProofClip m_clip;
     QQueue<ProvenPreset *> m_waiting;

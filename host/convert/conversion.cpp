@@ -93,9 +93,9 @@ void Conversion::convertWith(const Result<QSet<QString>> &encoders)
         Q_EMIT finished(ConversionOutcome{target, {}, ffmpegCall(*planned)});
         return;
     }
-    const QString refusal = m_pending.create(folder());
-    if (!refusal.isEmpty()) {
-        fail({refusal});
+    const Result<> created = m_pending.create(folder());
+    if (!created) {
+        fail(created.error());
         return;
     }
     m_progress = ProgressReader(m_job.settings.cutDuration(m_source.duration));
@@ -128,18 +128,14 @@ void Conversion::publish(const Result<MediaFacts> &result)
         return;
     }
     const QString replaced = fileToReplace();
-    QString target = replaced;
-    if (replaced.isEmpty()) {
-        target = m_pending.publish(baseName(), m_job.settings.extension);
-    } else if (!m_pending.publishOver(replaced)) {
-        target.clear();
-    }
-    if (target.isEmpty()) {
-        fail({tr("the result couldn't get its name in %1; choose another folder")
-                  .arg(QDir::toNativeSeparators(folder()))});
+    const Result<QString> target =
+        replaced.isEmpty() ? m_pending.publish(baseName(), m_job.settings.extension)
+                           : m_pending.publishOver(replaced).map([&replaced] { return replaced; });
+    if (!target) {
+        fail(target.error());
         return;
     }
-    Q_EMIT finished(ConversionOutcome{target, *result});
+    Q_EMIT finished(ConversionOutcome{*target, *result});
 }
 
 QString Conversion::folder() const

@@ -59,11 +59,11 @@ Result<> writeAtomically(const QString &path, const QByteArray &content, const Q
     if (QFileInfo::exists(target) && !QFileInfo(target).isWritable()) {
         return failed(qt_error_string(EACCES));
     }
-    const WorkFolder work(folder);
-    if (!work.isValid()) {
-        return failed(work.errorText());
+    const Result<WorkFolder> work = WorkFolder::make(folder);
+    if (!work) {
+        return failed(work);
     }
-    QFile file(work.filePath(QStringLiteral("new")));
+    QFile file(work->filePath(QStringLiteral("new")));
     if (!file.open(QIODevice::WriteOnly)) {
         return failed(file.errorString());
     }

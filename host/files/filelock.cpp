@@ -21,19 +21,19 @@ int openToLock(const QByteArray &path)
 
 } // namespace
 
-FileLock::Result FileLock::tryLock(const QString &path)
+Result<> FileLock::tryLock(const QString &path)
 {
     release();
     const int descriptor = openToLock(QFile::encodeName(path));
     if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
         m_descriptor = descriptor;
-        return Locked;
+        return {};
     }
-    m_error = errno;
+    const int reason = errno;
     if (descriptor >= 0) {
         ::close(descriptor);
     }
-    return m_error == EWOULDBLOCK ? HeldByAnother : Failed;
+    return failed(qt_error_string(reason), reason == EWOULDBLOCK ? Error::InUse : Error::Failed);
 }
 
 void FileLock::release()
@@ -51,9 +51,4 @@ bool FileLock::isAt(const QString &path) const
     return isLocked() && ::fstat(m_descriptor, &locked) == 0 &&
            ::stat(QFile::encodeName(path).constData(), &named) == 0 &&
            locked.st_dev == named.st_dev && locked.st_ino == named.st_ino;
-}
-
-QString FileLock::errorText() const
-{
-    return qt_error_string(m_error);
 }

@@ -1,7 +1,11 @@
 #ifndef FILES_FILELOCK_H
 #define FILES_FILELOCK_H
 
+#include "host/error.h"
+
 #include <QString>
+
+#include <utility>
 
 /*!
  * Keeps other processes from what a file or folder stands for. The kernel drops the lock with the
@@ -12,28 +16,31 @@ class FileLock
     Q_DISABLE_COPY(FileLock)
 
 public:
-    enum Result {
-        Locked,
-        HeldByAnother, //!< another process, or another lock of this one
-        Failed         //!< it can't be opened or the file system has no locks: see errorText()
-    };
-
     FileLock() = default;
+    FileLock(FileLock &&other) noexcept
+        : m_descriptor(std::exchange(other.m_descriptor, -1))
+    {}
+    FileLock &operator=(FileLock &&other) noexcept
+    {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
     ~FileLock() { release(); }
 
-    /*! Locks the file or folder at \a path, which exists, without waiting. */
-    [[nodiscard]] Result tryLock(const QString &path);
+    /*!
+     * Locks the file or folder at \a path, which exists, without waiting. Fails with Error::InUse
+     * where another process, or another lock of this one, has it; else the failure's text is the
+     * system's reason alone.
+     */
+    [[nodiscard]] Result<> tryLock(const QString &path);
     void release();
 
     [[nodiscard]] bool isLocked() const { return m_descriptor >= 0; }
     /*! Whether \a path still names what is locked: it may have been removed or replaced. */
     [[nodiscard]] bool isAt(const QString &path) const;
-    /*! Why the last tryLock() Failed, in the system's words. */
-    [[nodiscard]] QString errorText() const;
 
 private:
     int m_descriptor = -1;
-    int m_error = 0;
 };
 
 #endif

@@ -4,8 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
-#include <system_error>
+#include <cerrno>
+#include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -13,14 +14,6 @@ bool isTaken(const QString &path)
 {
     const QFileInfo file(path);
     return file.exists() || file.isSymLink();
-}
-
-bool moveOver(const QString &from, const QString &to)
-{
-    std::error_code error;
-    std::filesystem::rename(QFile::encodeName(from).toStdString(),
-                            QFile::encodeName(to).toStdString(), error);
-    return !error;
 }
 
 /*! The longest beginning of \a text that takes no more than \a bytes in a file's name. */
@@ -44,38 +37,46 @@ QString numberedName(const QString &baseName, int number, const QString &extensi
     return beginningOf(baseName, longestName - QFile::encodeName(tail).size()) + tail;
 }
 
+Error nameRefused(const QString &path, const QString &reason)
+{
+    const QString folder = QDir::toNativeSeparators(QFileInfo(path).absolutePath());
+    return {PendingFile::tr("the result couldn't get its name in %1 (%2); choose another folder")
+                .arg(folder, reason)};
+}
+
 } // namespace
 
-QString PendingFile::create(const QString &folder)
+Result<> PendingFile::create(const QString &folder)
 {
     if (!QFileInfo(folder).isDir()) {
-        return tr("the folder %1 doesn't exist; make it or choose another one")
-            .arg(QDir::toNativeSeparators(folder));
+        return failed(tr("the folder %1 doesn't exist; make it or choose another one")
+                          .arg(QDir::toNativeSeparators(folder)));
     }
-    m_work = std::make_unique<WorkFolder>(folder);
-    if (!m_work->isValid()) {
-        return tr("can't write into the folder %1 (%2); choose another one")
-            .arg(QDir::toNativeSeparators(folder), m_work->errorText());
+    Result<WorkFolder> work = WorkFolder::make(folder);
+    if (!work) {
+        return failed(tr("can't write into the folder %1 (%2); choose another one")
+                          .arg(QDir::toNativeSeparators(folder), work.error().text));
     }
+    m_work = std::move(*work);
     return {};
 }
 
 QString PendingFile::path() const
 {
-    return m_work == nullptr || !m_work->isValid() ? QString()
-                                                   : m_work->filePath(QStringLiteral("part"));
+    return m_work ? m_work->filePath(QStringLiteral("part")) : QString();
 }
 
-bool PendingFile::publishOver(const QString &path)
+Result<> PendingFile::publishOver(const QString &path)
 {
-    if (!moveOver(this->path(), path)) {
-        return false;
+    if (std::rename(QFile::encodeName(this->path()).constData(),
+                    QFile::encodeName(path).constData()) != 0) {
+        return tl::make_unexpected(nameRefused(path, qt_error_string(errno)));
     }
     discard();
-    return true;
+    return {};
 }
 
-QString PendingFile::publish(const QString &baseName, const QString &extension)
+Result<QString> PendingFile::publish(const QString &baseName, const QString &extension)
 {
     const QString folder = QFileInfo(m_work->path()).absolutePath();
     for (;;) {
@@ -84,14 +85,15 @@ QString PendingFile::publish(const QString &baseName, const QString &extension)
         QFile claim(path);
         if (claim.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
             claim.close();
-            if (publishOver(path)) {
-                return path;
+            const Result<> published = publishOver(path);
+            if (!published) {
+                claim.remove();
+                return failed(published);
             }
-            claim.remove();
-            return {};
+            return path;
         }
         if (!isTaken(path)) {
-            return {};
+            return tl::make_unexpected(nameRefused(path, claim.errorString()));
         }
     }
 }

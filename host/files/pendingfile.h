@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-#include <memory>
+#include <optional>
 
 /*!
  * A file that is hidden until it is complete: it is written in a folder of its own. That folder is
@@ -20,23 +20,23 @@ class PendingFile
 public:
     PendingFile() = default;
 
-    /*! Makes the place for it in \a folder. Returns why that can't be, or an empty text. */
-    [[nodiscard]] QString create(const QString &folder);
+    /*! Makes the place for it in \a folder. */
+    [[nodiscard]] Result<> create(const QString &folder);
     /*! Where the file is to be written; empty when there is no place for it. */
     [[nodiscard]] QString path() const;
     /*! Removes the file, so that nothing half-written stays; so does the destructor. */
     void discard() { m_work.reset(); }
 
-    /*! Takes the place of \a path, whatever is there. False leaves all as it was. */
-    [[nodiscard]] bool publishOver(const QString &path);
+    /*! Takes the place of \a path, whatever is there. A failure leaves all as it was. */
+    [[nodiscard]] Result<> publishOver(const QString &path);
     /*!
-     * Takes the first free name of freeName() in its folder and returns the path, or an empty text
-     * when there is none to be had. A file that appears there at the same time is left alone.
+     * Takes the first free name of freeName() in its folder and returns the path. A file that
+     * appears there at the same time is left alone.
      */
-    [[nodiscard]] QString publish(const QString &baseName, const QString &extension);
+    [[nodiscard]] Result<QString> publish(const QString &baseName, const QString &extension);
 
 private:
-    std::unique_ptr<WorkFolder> m_work;
+    std::optional<WorkFolder> m_work;
 };
 
 /*! "name.ext" in \a folder where that is free, else "name (2).ext", "name (3).ext" and so on. */

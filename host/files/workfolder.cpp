@@ -53,37 +53,37 @@ void removeFolder(const QString &path)
 
 } // namespace
 
-WorkFolder::WorkFolder(const QString &parent)
+Result<WorkFolder> WorkFolder::make(const QString &parent)
 {
     const QDir place(parent.isEmpty() ? QDir::tempPath() : QFileInfo(parent).absoluteFilePath());
     sweep(place.path());
-    // Until it is locked, another process may take the new folder for a dead one's and sweep it.
-    do {
-        m_path = place.filePath(namePrefix() + QUuid::createUuid().toString(QUuid::Id128));
-        if (::mkdir(QFile::encodeName(m_path).constData(), S_IRWXU) != 0) {
-            m_error = errno;
-            m_path.clear();
-            return;
+    for (;;) {
+        const QString path =
+            place.filePath(namePrefix() + QUuid::createUuid().toString(QUuid::Id128));
+        if (::mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0) {
+            return failed(qt_error_string(errno));
         }
-        // Where nothing can be locked, nothing is swept either.
-    } while (m_lock.tryLock(m_path) == FileLock::HeldByAnother || !isOwnFolder(m_path));
+        // Until it is locked, another process may take the new folder for a dead one's and sweep
+        // it. Where nothing can be locked, nothing is swept either.
+        FileLock lock;
+        const Result<> locked = lock.tryLock(path);
+        const bool isBeingSwept = !locked && locked.error().kind == Error::InUse;
+        if (!isBeingSwept && isOwnFolder(path)) {
+            return WorkFolder(path, std::move(lock));
+        }
+    }
 }
 
 WorkFolder::~WorkFolder()
 {
-    if (isValid()) {
+    if (!m_path.isEmpty()) {
         removeFolder(m_path);
     }
 }
 
-QString WorkFolder::errorText() const
-{
-    return qt_error_string(m_error);
-}
-
 void WorkFolder::restore()
 {
-    if (!isValid() || m_lock.isAt(m_path)) {
+    if (m_lock.isAt(m_path)) {
         return;
     }
     QDir().mkpath(QFileInfo(m_path).absolutePath());
@@ -105,7 +105,7 @@ void WorkFolder::sweep(const QString &parent)
     for (const QString &name : names) {
         const QString path = place.filePath(name);
         FileLock lock;
-        if (isName(name) && isOwnFolder(path) && lock.tryLock(path) == FileLock::Locked) {
+        if (isName(name) && isOwnFolder(path) && lock.tryLock(path)) {
             removeFolder(path);
         }
     }

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <utility>
+
 /*!
  * A hidden temporary folder that goes with the object. What a process that was killed leaves is
  * swept as soon as another folder is made beside it; what a living one works with never is.
@@ -14,15 +16,16 @@ class WorkFolder
     Q_DISABLE_COPY(WorkFolder)
 
 public:
-    /*! Makes the folder, for the user alone, in \a parent or else where the system has such. */
-    explicit WorkFolder(const QString &parent = {});
+    /*!
+     * Makes a folder, for the user alone, in \a parent or else where the system has such. A
+     * failure's text is the system's reason alone.
+     */
+    [[nodiscard]] static Result<WorkFolder> make(const QString &parent = {});
+    WorkFolder(WorkFolder &&) noexcept = default;
+    WorkFolder &operator=(WorkFolder &&) noexcept = default;
     ~WorkFolder();
 
-    /*! False when it couldn't be made: see errorText(). */
-    [[nodiscard]] bool isValid() const { return !m_path.isEmpty(); }
-    /*! Why it couldn't be made, in the system's words. */
-    [[nodiscard]] QString errorText() const;
-    /*! Absolute; empty when it couldn't be made. */
+    /*! Absolute. */
     [[nodiscard]] QString path() const { return m_path; }
     [[nodiscard]] QString filePath(const QString &name) const;
 
@@ -33,9 +36,13 @@ public:
     static void sweep(const QString &parent);
 
 private:
-    QString m_path;
+    WorkFolder(const QString &path, FileLock lock)
+        : m_path(path)
+        , m_lock(std::move(lock))
+    {}
+
+    QString m_path; //!< empty once it has moved elsewhere
     FileLock m_lock;
-    int m_error = 0;
 };
 
 #endif

@@ -58,14 +58,14 @@ Result<> FolderLock::lock(const QString &folder, int patience, const Tell &tell)
     QString holder;
     bool isTold = false;
     for (;;) {
-        const FileLock::Result result = m_lock.tryLock(path);
-        if (result == FileLock::Locked) {
+        const Result<> locked = m_lock.tryLock(path);
+        if (locked) {
             writeHolder(path);
             return {};
         }
-        if (result == FileLock::Failed) {
+        if (locked.error().kind != Error::InUse) {
             return failed(tr("can't write into the configuration folder %1 (%2); name another one")
-                              .arg(shownFolder, m_lock.errorText()));
+                              .arg(shownFolder, locked.error().text));
         }
         const QString current = holderIn(path);
         if (current != holder) {

@@ -4,6 +4,7 @@
 #include "formats/models/formatdetailmodeldata.h"
 #include "formats/models/formatlistmodel.h"
 #include "formats/proxy/formatsproxy.h"
+#include "host/files/atomicwrite.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +12,8 @@
 #include <QJsonDocument>
 #include <QProcess>
 #include <QStandardPaths>
+
+#include <utility>
 
 namespace {
 
@@ -28,16 +31,9 @@ QByteArray bytesOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/*! False unless all of it can be read again: a full disk may take a part without an error. */
-bool write(const QString &path, const QByteArray &content)
+QString copyIn(const WorkFolder &work, const UserFile &file)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    file.write(content);
-    file.close();
-    return bytesOf(path) == content;
+    return work.filePath(QFileInfo(file.path()).fileName());
 }
 
 QJsonArray listIn(const UserFile &file)
@@ -80,7 +76,7 @@ Result<> PresetStore::open(Access access, UserFile::Hopeless hopeless)
     // The library would wait for a pipe, and read a file of any size.
     const bool isReadable = m_userPresets.content() && m_recently.content();
     const QString nothing = QProcess::nullDevice();
-    m_formats.init(m_work != nullptr ? m_work->path() : isReadable ? m_folder : nothing);
+    m_formats.init(m_work ? m_work->path() : isReadable ? m_folder : nothing);
     return m_opened;
 }
 
@@ -128,30 +124,35 @@ Result<> PresetStore::putRight(UserFile::Hopeless hopeless) const
 
 Result<> PresetStore::copyIntoWorkFolder()
 {
-    m_work = std::make_unique<WorkFolder>(m_folder);
-    bool isCopied = m_work->isValid();
+    const auto refused = [this](const Error &reason) {
+        return failed(tr("can't write into the configuration folder %1 (%2); check its disk and "
+                         "its permissions")
+                          .arg(QDir::toNativeSeparators(m_folder), reason.text));
+    };
+    Result<WorkFolder> work = WorkFolder::make(m_folder);
+    if (!work) {
+        return refused(work.error());
+    }
     for (const UserFile *file : {&m_userPresets, &m_recently}) {
         const Result<Content> content = file->content();
-        isCopied = isCopied && content &&
-                   (content->state != Content::Good || write(workPath(*file), content->json));
+        if (!content) {
+            return failed(content);
+        }
+        if (content->state != Content::Good) {
+            continue;
+        }
+        const Result<> written = writeAtomically(copyIn(*work, *file), content->json, {});
+        if (!written) {
+            return refused(written.error());
+        }
     }
-    if (isCopied) {
-        return {};
-    }
-    m_work.reset();
-    return failed(
-        tr("can't write into the configuration folder %1; check its disk and its permissions")
-            .arg(QDir::toNativeSeparators(m_folder)));
-}
-
-QString PresetStore::workPath(const UserFile &file) const
-{
-    return m_work->filePath(QFileInfo(file.path()).fileName());
+    m_work = std::move(*work);
+    return {};
 }
 
 Result<> PresetStore::save()
 {
-    if (m_work == nullptr) {
+    if (!m_work) {
         return m_opened;
     }
     struct Part
@@ -167,7 +168,7 @@ Result<> PresetStore::save()
     m_work->restore();
     m_formats.uninit();
     for (const Part &part : parts) {
-        const QByteArray written = bytesOf(workPath(part.file));
+        const QByteArray written = bytesOf(copyIn(*m_work, part.file));
         if (written != QJsonDocument::fromVariant(part.list).toJson()) {
             return failed(
                 tr("can't write %1, which is as before; check its disk and its permissions")

@@ -11,7 +11,6 @@
 #include <QString>
 #include <QVariantMap>
 
-#include <memory>
 #include <optional>
 
 class FormatsProxy;
@@ -80,7 +79,6 @@ private:
     Result<> tellNote(const Result<QString> &note) const;
     Result<> putRight(UserFile::Hopeless hopeless) const;
     Result<> copyIntoWorkFolder();
-    QString workPath(const UserFile &file) const;
 
     FormatsProxy &m_formats;
     const QString m_folder;
@@ -88,8 +86,8 @@ private:
     const UserFile m_userPresets;
     const UserFile m_recently;
     FolderLock m_lock;
-    std::unique_ptr<WorkFolder> m_work; //!< what the library reads and writes; null: read in place
-    Result<> m_opened;                  //!< a failure: nothing is saved
+    std::optional<WorkFolder> m_work; //!< what the library reads and writes; none: read in place
+    Result<> m_opened;                //!< a failure: nothing is saved
 };
 
 #endif

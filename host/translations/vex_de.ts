@@ -863,10 +863,6 @@
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg hat eine nicht abspielbare Datei geschrieben; versuchen Sie ein anderes Format</translation>
     </message>
-    <message>
-        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
-        <translation>das Ergebnis konnte in %1 seinen Namen nicht bekommen; wählen Sie einen anderen Ordner</translation>
-    </message>
 </context>
 <context>
     <name>MediaInput</name>
@@ -943,12 +939,16 @@
         <source>can&apos;t write into the folder %1 (%2); choose another one</source>
         <translation>in den Ordner %1 kann nicht geschrieben werden (%2); wählen Sie einen anderen</translation>
     </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1 (%2); choose another folder</source>
+        <translation>das Ergebnis konnte in %1 seinen Namen nicht bekommen (%2); wählen Sie einen anderen Ordner</translation>
+    </message>
 </context>
 <context>
     <name>PresetStore</name>
     <message>
-        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
-        <translation>in den Konfigurationsordner %1 kann nicht geschrieben werden; prüfen Sie Datenträger und Rechte</translation>
+        <source>can&apos;t write into the configuration folder %1 (%2); check its disk and its permissions</source>
+        <translation>in den Konfigurationsordner %1 kann nicht geschrieben werden (%2); prüfen Sie Datenträger und Rechte</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>

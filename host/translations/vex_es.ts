@@ -863,10 +863,6 @@
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg escribió un archivo que no se puede reproducir; prueba otro formato</translation>
     </message>
-    <message>
-        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
-        <translation>no se pudo dar nombre al resultado en %1; elige otra carpeta</translation>
-    </message>
 </context>
 <context>
     <name>MediaInput</name>
@@ -943,12 +939,16 @@
         <source>can&apos;t write into the folder %1 (%2); choose another one</source>
         <translation>no se puede escribir en la carpeta %1 (%2); elige otra</translation>
     </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1 (%2); choose another folder</source>
+        <translation>no se pudo dar nombre al resultado en %1 (%2); elige otra carpeta</translation>
+    </message>
 </context>
 <context>
     <name>PresetStore</name>
     <message>
-        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
-        <translation>no se puede escribir en la carpeta de configuración %1; revisa el disco y los permisos</translation>
+        <source>can&apos;t write into the configuration folder %1 (%2); check its disk and its permissions</source>
+        <translation>no se puede escribir en la carpeta de configuración %1 (%2); revisa el disco y los permisos</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>

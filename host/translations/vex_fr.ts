@@ -863,10 +863,6 @@
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg a écrit un fichier illisible ; essayez un autre format</translation>
     </message>
-    <message>
-        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
-        <translation>impossible de nommer le résultat dans %1 ; choisissez un autre dossier</translation>
-    </message>
 </context>
 <context>
     <name>MediaInput</name>
@@ -943,12 +939,16 @@
         <source>can&apos;t write into the folder %1 (%2); choose another one</source>
         <translation>impossible d’écrire dans le dossier %1 (%2) ; choisissez-en un autre</translation>
     </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1 (%2); choose another folder</source>
+        <translation>impossible de nommer le résultat dans %1 (%2) ; choisissez un autre dossier</translation>
+    </message>
 </context>
 <context>
     <name>PresetStore</name>
     <message>
-        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
-        <translation>impossible d’écrire dans le dossier de configuration %1 ; vérifiez le disque et les droits</translation>
+        <source>can&apos;t write into the configuration folder %1 (%2); check its disk and its permissions</source>
+        <translation>impossible d’écrire dans le dossier de configuration %1 (%2) ; vérifiez le disque et les droits</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>

@@ -863,10 +863,6 @@
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>再生できないファイルができました。別の形式をお試しください</translation>
     </message>
-    <message>
-        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
-        <translation>%1 に結果を置けませんでした。別のフォルダーを選んでください</translation>
-    </message>
 </context>
 <context>
     <name>MediaInput</name>
@@ -943,12 +939,16 @@
         <source>can&apos;t write into the folder %1 (%2); choose another one</source>
         <translation>フォルダー %1 に書き込めません（%2）。別のフォルダーを選んでください</translation>
     </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1 (%2); choose another folder</source>
+        <translation>%1 に結果を置けませんでした（%2）。別のフォルダーを選んでください</translation>
+    </message>
 </context>
 <context>
     <name>PresetStore</name>
     <message>
-        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
-        <translation>設定フォルダー %1 に書き込めません。ディスクと権限を確認してください</translation>
+        <source>can&apos;t write into the configuration folder %1 (%2); check its disk and its permissions</source>
+        <translation>設定フォルダー %1 に書き込めません（%2）。ディスクと権限を確認してください</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>

@@ -863,10 +863,6 @@
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg 写出的文件无法播放；请尝试其他预设</translation>
     </message>
-    <message>
-        <source>the result couldn&apos;t get its name in %1; choose another folder</source>
-        <translation>无法在 %1 中为结果命名；请选择其他文件夹</translation>
-    </message>
 </context>
 <context>
     <name>MediaInput</name>
@@ -943,12 +939,16 @@
         <source>can&apos;t write into the folder %1 (%2); choose another one</source>
         <translation>无法写入文件夹 %1（%2）；请选择其他文件夹</translation>
     </message>
+    <message>
+        <source>the result couldn&apos;t get its name in %1 (%2); choose another folder</source>
+        <translation>无法在 %1 中为结果命名（%2）；请选择其他文件夹</translation>
+    </message>
 </context>
 <context>
     <name>PresetStore</name>
     <message>
-        <source>can&apos;t write into the configuration folder %1; check its disk and its permissions</source>
-        <translation>无法写入配置文件夹 %1；请检查磁盘和权限</translation>
+        <source>can&apos;t write into the configuration folder %1 (%2); check its disk and its permissions</source>
+        <translation>无法写入配置文件夹 %1（%2）；请检查磁盘和权限</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>

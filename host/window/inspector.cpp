@@ -49,7 +49,7 @@ void Inspector::askNext()
 void Inspector::take(const Result<MediaFacts> &facts)
 {
     const Question question = m_questions.head();
-    if (facts && (facts->video() != nullptr || facts->cover() != nullptr)) {
+    if (m_pictures && facts && (facts->video() != nullptr || facts->cover() != nullptr)) {
         picture(question, *facts);
     } else {
         m_questions.dequeue();
@@ -86,5 +86,5 @@ void Inspector::takePicture(const Result<ToolRun> &run)
 
 QString Inspector::pictureFile(int id) const
 {
-    return m_pictures.filePath(QStringLiteral("%1.png").arg(id));
+    return m_pictures->filePath(QStringLiteral("%1.png").arg(id));
 }

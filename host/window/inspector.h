@@ -42,7 +42,7 @@ private:
     QString pictureFile(int id) const;
 
     QQueue<Question> m_questions;
-    WorkFolder m_pictures;
+    const Result<WorkFolder> m_pictures = WorkFolder::make();
     // They work on the first question, and stop before the folder is removed.
     MediaProbe m_probe;
     Tool m_ffmpeg;

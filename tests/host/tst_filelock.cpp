@@ -44,13 +44,13 @@ void TestFileLock::oneHolderAtATime()
     QFETCH(QString, path);
     FileLock first;
     FileLock second;
-    QCOMPARE(first.tryLock(path), FileLock::Locked);
+    QVERIFY(first.tryLock(path));
     QVERIFY(first.isLocked());
-    QCOMPARE(second.tryLock(path), FileLock::HeldByAnother);
+    QCOMPARE(second.tryLock(path).error().kind, Error::InUse);
     QVERIFY(!second.isLocked());
     first.release();
     QVERIFY(!first.isLocked());
-    QCOMPARE(second.tryLock(path), FileLock::Locked);
+    QVERIFY(second.tryLock(path));
 }
 
 void TestFileLock::theContentMeansNothing()
@@ -60,29 +60,29 @@ void TestFileLock::theContentMeansNothing()
     file.write("1\nsomeone\nsomewhere else\n");
     file.close();
     FileLock lock;
-    QCOMPARE(lock.tryLock(m_file), FileLock::Locked);
+    QVERIFY(lock.tryLock(m_file));
 }
 
 void TestFileLock::aProcessThatIsKilledHoldsNothing()
 {
     ForkedProcess holder([this](const auto &tell) {
         FileLock lock;
-        if (lock.tryLock(m_file) == FileLock::Locked) {
+        if (lock.tryLock(m_file)) {
             tell(QStringLiteral("locked"));
         }
     });
     QCOMPARE(holder.told(), QStringLiteral("locked"));
     FileLock lock;
-    QCOMPARE(lock.tryLock(m_file), FileLock::HeldByAnother);
+    QCOMPARE(lock.tryLock(m_file).error().kind, Error::InUse);
     holder.endWithoutGoodbye();
-    QCOMPARE(lock.tryLock(m_file), FileLock::Locked);
+    QVERIFY(lock.tryLock(m_file));
 }
 
 void TestFileLock::whatWasRemovedOrReplacedIsKnown()
 {
     FileLock lock;
     QVERIFY(!lock.isAt(m_file));
-    QCOMPARE(lock.tryLock(m_file), FileLock::Locked);
+    QVERIFY(lock.tryLock(m_file));
     QVERIFY(lock.isAt(m_file));
     QVERIFY(QFile::remove(m_file));
     QVERIFY(!lock.isAt(m_file));
@@ -93,8 +93,10 @@ void TestFileLock::whatWasRemovedOrReplacedIsKnown()
 void TestFileLock::whatCannotBeOpenedIsSaid()
 {
     FileLock lock;
-    QCOMPARE(lock.tryLock(m_folder.filePath(QStringLiteral("missing"))), FileLock::Failed);
-    QCOMPARE(lock.errorText(), qt_error_string(ENOENT));
+    const Result<> locked = lock.tryLock(m_folder.filePath(QStringLiteral("missing")));
+    QVERIFY(!locked);
+    QCOMPARE(locked.error().kind, Error::Failed);
+    QCOMPARE(locked.error().text, qt_error_string(ENOENT));
 }
 
 QTEST_GUILESS_MAIN(TestFileLock)

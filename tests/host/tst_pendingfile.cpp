@@ -65,7 +65,7 @@ void TestPendingFile::aPendingFileIsHidden()
 {
     PendingFile pending;
     QCOMPARE(pending.path(), QString());
-    QCOMPARE(pending.create(m_folder->path()), QString());
+    QVERIFY(pending.create(m_folder->path()));
     write(pending.path(), "half");
     QCOMPARE(everything().size(), 1);
     QVERIFY(everything().constFirst().startsWith(QLatin1Char('.')));
@@ -76,17 +76,17 @@ void TestPendingFile::whatADeadProcessWroteIsSwept()
 {
     ForkedProcess process([this](const auto &tell) {
         PendingFile pending;
-        if (pending.create(m_folder->path()).isEmpty()) {
+        if (pending.create(m_folder->path())) {
             write(pending.path(), "half");
             tell(pending.path());
         }
     });
     PendingFile first;
-    QCOMPARE(first.create(m_folder->path()), QString());
+    QVERIFY(first.create(m_folder->path()));
     QCOMPARE(content(process.told()), QByteArray("half"));
     process.endWithoutGoodbye();
     PendingFile second;
-    QCOMPARE(second.create(m_folder->path()), QString());
+    QVERIFY(second.create(m_folder->path()));
     QCOMPARE(everything().size(), 2);
     QVERIFY(!QFile::exists(process.told()));
 }
@@ -95,7 +95,7 @@ void TestPendingFile::droppingItLeavesNothing()
 {
     {
         PendingFile pending;
-        QCOMPARE(pending.create(m_folder->path()), QString());
+        QVERIFY(pending.create(m_folder->path()));
         write(pending.path(), "half");
     }
     QCOMPARE(everything(), QStringList());
@@ -104,7 +104,7 @@ void TestPendingFile::droppingItLeavesNothing()
 void TestPendingFile::discardingItLeavesNothing()
 {
     PendingFile pending;
-    QCOMPARE(pending.create(m_folder->path()), QString());
+    QVERIFY(pending.create(m_folder->path()));
     write(pending.path(), "half");
     pending.discard();
     QCOMPARE(everything(), QStringList());
@@ -114,9 +114,9 @@ void TestPendingFile::discardingItLeavesNothing()
 void TestPendingFile::publishedItHasItsName()
 {
     PendingFile pending;
-    QCOMPARE(pending.create(m_folder->path()), QString());
+    QVERIFY(pending.create(m_folder->path()));
     write(pending.path(), "whole");
-    QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
+    QCOMPARE(*pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip.mp4")));
     QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
     QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("whole"));
@@ -127,9 +127,9 @@ void TestPendingFile::aTakenNameIsNumbered()
     write(path(QStringLiteral("clip.mp4")), "first");
     write(path(QStringLiteral("clip (2).mp4")), "second");
     PendingFile pending;
-    QCOMPARE(pending.create(m_folder->path()), QString());
+    QVERIFY(pending.create(m_folder->path()));
     write(pending.path(), "whole");
-    QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
+    QCOMPARE(*pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip (3).mp4")));
     QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("first"));
     QCOMPARE(content(QStringLiteral("clip (2).mp4")), QByteArray("second"));
@@ -146,9 +146,9 @@ void TestPendingFile::aFolderTakesTheNameToo()
 {
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("clip.mp4")));
     PendingFile pending;
-    QCOMPARE(pending.create(m_folder->path()), QString());
+    QVERIFY(pending.create(m_folder->path()));
     write(pending.path(), "whole");
-    QCOMPARE(pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
+    QCOMPARE(*pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip (2).mp4")));
 }
 
@@ -161,9 +161,10 @@ void TestPendingFile::filesPublishedAtTheSameTimeGetNamesOfTheirOwn()
         threads.emplace_back([this] {
             for (int j = 0; j < filesEach; ++j) {
                 PendingFile pending;
-                if (pending.create(m_folder->path()).isEmpty()) {
+                if (pending.create(m_folder->path())) {
                     write(pending.path(), "whole");
-                    (void)pending.publish(QStringLiteral("clip"), QStringLiteral("mp4"));
+                    static_cast<void>(
+                        pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")));
                 }
             }
         });
@@ -178,7 +179,7 @@ void TestPendingFile::publishOverReplacesTheFile()
 {
     write(path(QStringLiteral("clip.mp4")), "old");
     PendingFile pending;
-    QCOMPARE(pending.create(m_folder->path()), QString());
+    QVERIFY(pending.create(m_folder->path()));
     write(pending.path(), "new");
     QVERIFY(pending.publishOver(path(QStringLiteral("clip.mp4"))));
     QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
@@ -190,9 +191,14 @@ void TestPendingFile::publishOverAFolderLeavesAllAsItWas()
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("clip.mp4")));
     {
         PendingFile pending;
-        QCOMPARE(pending.create(m_folder->path()), QString());
+        QVERIFY(pending.create(m_folder->path()));
         write(pending.path(), "whole");
-        QVERIFY(!pending.publishOver(path(QStringLiteral("clip.mp4"))));
+        const Result<> published = pending.publishOver(path(QStringLiteral("clip.mp4")));
+        QVERIFY(!published);
+        QCOMPARE(published.error().text,
+                 QStringLiteral("the result couldn't get its name in %1 (Is a directory); choose "
+                                "another folder")
+                     .arg(m_folder->path()));
     }
     QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
 }
@@ -202,7 +208,7 @@ void TestPendingFile::aFolderThatIsNotThereIsRefused()
     PendingFile pending;
     const QString folder = path(QStringLiteral("missing"));
     QCOMPARE(
-        pending.create(folder),
+        pending.create(folder).error().text,
         QStringLiteral("the folder %1 doesn't exist; make it or choose another one").arg(folder));
     QCOMPARE(everything(), QStringList());
 }
@@ -211,7 +217,7 @@ void TestPendingFile::aFileInPlaceOfTheFolderIsRefused()
 {
     write(path(QStringLiteral("file")), "content");
     PendingFile pending;
-    QVERIFY(!pending.create(path(QStringLiteral("file"))).isEmpty());
+    QVERIFY(!pending.create(path(QStringLiteral("file"))));
     QCOMPARE(everything(), QStringList{QStringLiteral("file")});
 }
 

@@ -51,11 +51,11 @@ private:
     QString leftover() const
     {
         ForkedProcess process([this](const auto &tell) {
-            const WorkFolder folder(m_place->path());
-            QDir(folder.path()).mkdir(QStringLiteral("inner"));
-            QFile file(folder.filePath(QStringLiteral("inner/file")));
+            const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
+            QDir(folder->path()).mkdir(QStringLiteral("inner"));
+            QFile file(folder->filePath(QStringLiteral("inner/file")));
             file.open(QIODevice::WriteOnly);
-            tell(folder.path());
+            tell(folder->path());
         });
         return process.told();
     }
@@ -65,63 +65,63 @@ private:
 
 void TestWorkFolder::itIsHiddenAndForTheUserAlone()
 {
-    const WorkFolder folder(m_place->path());
-    QVERIFY(folder.isValid());
+    const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
+    QVERIFY(folder);
     QCOMPARE(everything().size(), 1);
     QVERIFY(everything().constFirst().startsWith(QLatin1Char('.')));
-    QCOMPARE(folder.path(), m_place->filePath(everything().constFirst()));
+    QCOMPARE(folder->path(), m_place->filePath(everything().constFirst()));
     struct stat found = {};
-    QCOMPARE(stat(QFile::encodeName(folder.path()).constData(), &found), 0);
+    QCOMPARE(stat(QFile::encodeName(folder->path()).constData(), &found), 0);
     QCOMPARE(found.st_mode & 07777U, unsigned(S_IRWXU));
 }
 
 void TestWorkFolder::itGoesWithAllThatIsInIt()
 {
     {
-        const WorkFolder folder(m_place->path());
-        write(folder.filePath(QStringLiteral("file")));
-        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("inner")));
-        write(folder.filePath(QStringLiteral("inner/file")));
+        const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
+        write(folder->filePath(QStringLiteral("file")));
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("inner")));
+        write(folder->filePath(QStringLiteral("inner/file")));
     }
     QCOMPARE(everything(), QStringList());
 }
 
 void TestWorkFolder::itIsMadeInTheTemporaryPlaceOfTheSystem()
 {
-    const WorkFolder folder;
-    QCOMPARE(QFileInfo(folder.path()).path(), QDir::tempPath());
+    const Result<WorkFolder> folder = WorkFolder::make();
+    QCOMPARE(QFileInfo(folder->path()).path(), QDir::tempPath());
 }
 
 void TestWorkFolder::aRemovedOneComesBackAndIsNotSwept()
 {
-    WorkFolder work(m_place->path());
+    Result<WorkFolder> work = WorkFolder::make(m_place->path());
     QVERIFY(QDir(m_place->path()).removeRecursively());
-    work.restore();
-    QVERIFY(QFileInfo(work.path()).isDir());
+    work->restore();
+    QVERIFY(QFileInfo(work->path()).isDir());
     WorkFolder::sweep(m_place->path());
-    QVERIFY(QFileInfo(work.path()).isDir());
+    QVERIFY(QFileInfo(work->path()).isDir());
 }
 
 void TestWorkFolder::whatADeadProcessLeftIsSwept()
 {
     const QString left = leftover();
     QVERIFY(QFile::exists(left + QStringLiteral("/inner/file")));
-    const WorkFolder next(m_place->path());
+    const Result<WorkFolder> next = WorkFolder::make(m_place->path());
     QVERIFY(!QFile::exists(left));
-    QVERIFY(QFile::exists(next.path()));
+    QVERIFY(QFile::exists(next->path()));
 }
 
 void TestWorkFolder::whatALivingProcessUsesStays()
 {
-    const WorkFolder own(m_place->path());
+    const Result<WorkFolder> own = WorkFolder::make(m_place->path());
     ForkedProcess other([this](const auto &tell) {
-        const WorkFolder folder(m_place->path());
-        tell(folder.path());
+        const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
+        tell(folder->path());
     });
-    const WorkFolder next(m_place->path());
-    QVERIFY(QFile::exists(own.path()));
+    const Result<WorkFolder> next = WorkFolder::make(m_place->path());
+    QVERIFY(QFile::exists(own->path()));
     QVERIFY(QFile::exists(other.told()));
-    QVERIFY(QFile::exists(next.path()));
+    QVERIFY(QFile::exists(next->path()));
     QCOMPARE(everything().size(), 3);
 }
 
@@ -185,8 +185,8 @@ void TestWorkFolder::foldersMadeAtTheSameTimeAllStay()
     for (int i = 0; i < makers; ++i) {
         threads.emplace_back([this, &lost] {
             for (int j = 0; j < foldersEach; ++j) {
-                const WorkFolder folder(m_place->path());
-                QFile file(folder.filePath(QStringLiteral("file")));
+                const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
+                QFile file(folder->filePath(QStringLiteral("file")));
                 if (!file.open(QIODevice::WriteOnly) || !file.exists()) {
                     ++lost;
                 }
@@ -202,10 +202,10 @@ void TestWorkFolder::foldersMadeAtTheSameTimeAllStay()
 
 void TestWorkFolder::whyItCannotBeMadeIsSaid()
 {
-    const WorkFolder folder(m_place->filePath(QStringLiteral("missing")));
-    QVERIFY(!folder.isValid());
-    QCOMPARE(folder.errorText(), qt_error_string(ENOENT));
-    QCOMPARE(folder.path(), QString());
+    const Result<WorkFolder> folder =
+        WorkFolder::make(m_place->filePath(QStringLiteral("missing")));
+    QVERIFY(!folder);
+    QCOMPARE(folder.error().text, qt_error_string(ENOENT));
 }
 
 QTEST_GUILESS_MAIN(TestWorkFolder)

@@ -249,7 +249,9 @@ void TestWindowApp::whatAKilledProgramLeftGoesWithTheNextWindow()
     for (const QString &place : places) {
         const QString path = folder.filePath(place);
         QVERIFY(QDir().mkdir(path));
-        left << ForkedProcess([&path](const auto &tell) { tell(WorkFolder(path).path()); }).told();
+        left << ForkedProcess([&path](const auto &tell) {
+                    tell(WorkFolder::make(path)->path());
+                }).told();
         QVERIFY(QFile::exists(left.constLast()));
     }
     QSettings settings(folder.filePath(QStringLiteral("vexconvert.ini")), QSettings::IniFormat);
