@@ -14,7 +14,7 @@ class Interrupt : public QObject
 
 public:
     explicit Interrupt(QObject *parent = nullptr);
-    /*! The signals do again what they did before. */
+    /*! Restores what the signals did before. */
     ~Interrupt() override;
 
 Q_SIGNALS:

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/*! Moments of a film as people write them. */
+/*! Times in a video, as people write them. */
 namespace Clock {
 
 /*! Seconds of "1:02:03.5", "2:03" or "7.25"; -1 for anything else. */

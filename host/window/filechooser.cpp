@@ -72,15 +72,15 @@ QStringList mediaPatterns()
 {
     QStringList patterns;
     for (const QString &extension : mediaExtensions()) {
-        // Cameras write capitals, and not every dialog takes them for the same.
+        // Cameras write capitals, and not every dialog ignores case.
         patterns << QStringLiteral("*.") + extension << QStringLiteral("*.") + extension.toUpper();
     }
     return patterns;
 }
 
 /*!
- * Hides what is no media from Qt's own dialog. Its name filters do that too, but take seconds for a
- * thousand files when there are so many patterns.
+ * Hides files other than media in Qt's own dialog. Its name filters do that too, but take seconds
+ * for a thousand files when there are so many patterns.
  */
 class MediaOnly : public QSortFilterProxyModel
 {

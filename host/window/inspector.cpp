@@ -10,55 +10,55 @@
 Inspector::Inspector(QObject *parent)
     : QObject(parent)
 {
-    connect(&m_probe, &MediaProbe::finished, this, &Inspector::take);
-    connect(&m_ffmpeg, &Tool::finished, this, &Inspector::takePicture);
+    connect(&m_probe, &MediaProbe::finished, this, &Inspector::takeFacts);
+    connect(&m_ffmpeg, &Tool::finished, this, &Inspector::takeThumbnail);
 }
 
 void Inspector::inspect(int id, const QString &path)
 {
-    m_questions.enqueue({id, path});
-    if (m_questions.size() == 1) {
-        askNext();
+    m_requests.enqueue({id, path});
+    if (m_requests.size() == 1) {
+        readNext();
     }
 }
 
 void Inspector::forget(int id)
 {
-    const auto found = std::find_if(m_questions.begin(), m_questions.end(),
-                                    [id](const Question &question) { return question.id == id; });
-    if (found == m_questions.end()) {
+    const auto found = std::find_if(m_requests.begin(), m_requests.end(),
+                                    [id](const Request &request) { return request.id == id; });
+    if (found == m_requests.end()) {
         return;
     }
-    const bool isAsked = found == m_questions.begin();
-    m_questions.erase(found);
-    if (isAsked) {
+    const bool isBeingRead = found == m_requests.begin();
+    m_requests.erase(found);
+    if (isBeingRead) {
         // A tool that hangs mustn't keep the other files waiting.
         m_probe.abandon();
         m_ffmpeg.abandon();
-        askNext();
+        readNext();
     }
 }
 
-void Inspector::askNext()
+void Inspector::readNext()
 {
-    if (!m_questions.isEmpty()) {
-        m_probe.start(m_questions.head().path);
+    if (!m_requests.isEmpty()) {
+        m_probe.start(m_requests.head().path);
     }
 }
 
-void Inspector::take(const Result<MediaFacts> &facts)
+void Inspector::takeFacts(const Result<MediaFacts> &facts)
 {
-    const Question question = m_questions.head();
-    if (m_pictures && facts && (facts->video() != nullptr || facts->cover() != nullptr)) {
-        picture(question, *facts);
+    const Request request = m_requests.head();
+    if (m_thumbnails && facts && (facts->video() != nullptr || facts->cover() != nullptr)) {
+        makeThumbnail(request, *facts);
     } else {
-        m_questions.dequeue();
-        askNext();
+        m_requests.dequeue();
+        readNext();
     }
-    Q_EMIT read(question.id, facts);
+    Q_EMIT read(request.id, facts);
 }
 
-void Inspector::picture(const Question &question, const MediaFacts &facts)
+void Inspector::makeThumbnail(const Request &request, const MediaFacts &facts)
 {
     // The very first frames of films are often black.
     const double moment = facts.video() == nullptr ? 0 : facts.duration / 10;
@@ -66,25 +66,25 @@ void Inspector::picture(const Question &question, const MediaFacts &facts)
     m_ffmpeg.start(
         ffmpegCall(QStringList{QStringLiteral("-y"), QStringLiteral("-ss"),
                                QString::number(moment, 'f', 3)} +
-                   inputArguments(question.path, facts.container) +
+                   inputArguments(request.path, facts.container) +
                    QStringList{QStringLiteral("-map"), QStringLiteral("0:%1").arg(track->index),
                                QStringLiteral("-frames:v"), QStringLiteral("1"),
                                QStringLiteral("-vf"), QStringLiteral("scale=256:-2"),
                                QStringLiteral("-update"), // else "%d" in the path is a number
-                               QStringLiteral("1"), fileArgument(pictureFile(question.id))}),
+                               QStringLiteral("1"), fileArgument(thumbnailFile(request.id))}),
         probeLimits);
 }
 
-void Inspector::takePicture(const Result<ToolRun> &run)
+void Inspector::takeThumbnail(const Result<ToolRun> &run)
 {
-    const int id = m_questions.dequeue().id;
-    askNext();
-    if (cleanOutput(run) && QFile::exists(pictureFile(id))) {
-        Q_EMIT pictured(id, QUrl::fromLocalFile(pictureFile(id)).toString());
+    const int id = m_requests.dequeue().id;
+    readNext();
+    if (cleanOutput(run) && QFile::exists(thumbnailFile(id))) {
+        Q_EMIT thumbnailReady(id, QUrl::fromLocalFile(thumbnailFile(id)).toString());
     }
 }
 
-QString Inspector::pictureFile(int id) const
+QString Inspector::thumbnailFile(int id) const
 {
-    return m_pictures->filePath(QStringLiteral("%1.png").arg(id));
+    return m_thumbnails->filePath(QStringLiteral("%1.png").arg(id));
 }

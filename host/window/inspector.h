@@ -8,8 +8,8 @@
 #include <QQueue>
 
 /*!
- * Looks into files, one after another and without ever waiting: what they hold, and a picture of
- * each film. Any number of files may stand in the queue.
+ * Reads files one after another, without blocking: what they hold, and a thumbnail of each video or
+ * cover. Any number of files may wait.
  */
 class Inspector : public QObject
 {
@@ -25,25 +25,25 @@ public:
 
 Q_SIGNALS:
     void read(int id, const Result<MediaFacts> &facts);
-    /*! After read(), for a file with a picture. \a url is there as long as this object. */
-    void pictured(int id, const QString &url);
+    /*! After read(), for a file with a picture. The file at \a url lives as long as this object. */
+    void thumbnailReady(int id, const QString &url);
 
 private:
-    struct Question
+    struct Request
     {
         int id = 0;
         QString path;
     };
 
-    void askNext();
-    void take(const Result<MediaFacts> &facts);
-    void picture(const Question &question, const MediaFacts &facts);
-    void takePicture(const Result<ToolRun> &run);
-    QString pictureFile(int id) const;
+    void readNext();
+    void takeFacts(const Result<MediaFacts> &facts);
+    void makeThumbnail(const Request &request, const MediaFacts &facts);
+    void takeThumbnail(const Result<ToolRun> &run);
+    QString thumbnailFile(int id) const;
 
-    QQueue<Question> m_questions;
-    const Result<WorkFolder> m_pictures = WorkFolder::make();
-    // They work on the first question, and stop before the folder is removed.
+    QQueue<Request> m_requests;
+    const Result<WorkFolder> m_thumbnails = WorkFolder::make();
+    // They work on the first request, and stop before the folder is removed.
     MediaProbe m_probe;
     Tool m_ffmpeg;
 };

@@ -65,7 +65,7 @@ Result<> MainWindow::open()
         return failed(ToolFun::text(QStringLiteral("The window can't be made")));
     }
     m_files.setWindow(window());
-    // Another program may call a log-out off: the window stays and only saves.
+    // Another program may cancel the log-out: the window stays open and only saves.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
         m_presets->flush();

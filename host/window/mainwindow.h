@@ -31,14 +31,15 @@ public:
     ~MainWindow() override;
 
     /*!
-     * Takes the configuration folder for itself, puts good copies in the place of damaged files and
-     * shows the window. Error::InUse: another program has the folder, or another window on it, and
+     * Locks the configuration folder, restores damaged files from good copies and shows the
+     * window. Error::InUse: another program has the folder, or another window on it, and
      * it may be tried again.
      */
     [[nodiscard]] Result<> open();
-    /*! Lets that window show itself with these files. False when none answers in \a patience ms. */
+    /*! Hands the files to that window. False when none answers within \a patience ms. */
     [[nodiscard]] bool handOver(const QStringList &paths, int patience) const;
-    /*! Where nothing can be shown any more: saves, stops the pages' work and tidies up after it. */
+    /*! Where nothing can be shown any more: saves, stops the conversions and removes what they
+     * left. */
     void stopWork();
 
     /*! Null before open(). */
@@ -67,7 +68,7 @@ private:
     std::unique_ptr<EditorProxy> m_editor;
     std::unique_ptr<SingleInstance> m_instance;
     QPointer<DialogFrame> m_dialog;
-    // Goes first: what it shows is all of the above.
+    // Destroyed first, as it shows all of the above.
     std::unique_ptr<QQmlApplicationEngine> m_engine;
 };
 

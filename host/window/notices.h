@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
-/*! What the user ought to know, until it is dismissed. */
+/*! What the user should know, until it is dismissed. */
 class Notices : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
 
     /*! One line a notice; empty when there is none. */
     QString text() const { return m_lines.join(QLatin1Char('\n')); }
-    /*! Shows the line and writes it to the log; a line that is shown already isn't repeated. */
+    /*! Shows the line and writes it to the log; a line already shown isn't repeated. */
     void add(const QString &line);
     Q_INVOKABLE void dismiss();
 

@@ -30,7 +30,7 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     connect(&m_tasks, &TaskList::stateChanged, this, &Page::queueChanged);
     connect(&m_formats, &TaskFormats::globalChanged, this, &Page::globalFormatChanged);
     connect(&m_inspector, &Inspector::read, this, &Page::takeFacts);
-    connect(&m_inspector, &Inspector::pictured, this, [this](int id, const QString &url) {
+    connect(&m_inspector, &Inspector::thumbnailReady, this, [this](int id, const QString &url) {
         m_tasks.update(id, [&url](Task &task) { task.thumbnail = url; });
     });
     connect(&m_queue, &ConversionQueue::started, this,

@@ -30,7 +30,7 @@ public:
     QString globalIcon() const { return m_formats.globalIcon(); }
     /*! Where results go; empty: beside their sources. */
     QString folder() const { return m_settings.folder(m_kind); }
-    /*! The same to show. */
+    /*! The same, for display. */
     QString folderText() const;
     void setFolder(const QString &folder);
     /*! Whether any task is converted or waits for its turn. */
@@ -38,7 +38,7 @@ public:
     /*! Whether convertAll() would do anything. */
     bool canConvert() const;
 
-    /*! Appends the files, and of folders the films and songs in them. Only file: URLs count. */
+    /*! Appends the files, and the media files in folders. Only file: URLs count. */
     Q_INVOKABLE void addFiles(const QList<QUrl> &urls);
     void addPaths(const QStringList &paths);
     /*! A running task is stopped first. */
@@ -58,7 +58,7 @@ Q_SIGNALS:
     void globalFormatChanged();
     void folderChanged();
     void queueChanged();
-    /*! One line that the user ought to know. */
+    /*! One line that the user should know. */
     void noticed(const QString &line);
 
 protected:

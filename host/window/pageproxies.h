@@ -52,7 +52,7 @@ public:
         setTaskFormat(listId, id);
     }
 
-    /*! Seconds for a moment such as "1:02.5"; -1 for what is none. */
+    /*! Seconds for a moment such as "1:02.5"; -1 for anything else. */
     Q_INVOKABLE double secondsOf(const QString &text) const;
     Q_INVOKABLE QString clockOf(double seconds) const;
     /*! Cuts the task to the part between these seconds; an \a end of 0 is the file's end. */

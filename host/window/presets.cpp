@@ -28,7 +28,7 @@ QString Presets::usable(const QString &id, const QString &standIn) const
             return candidate;
         }
     }
-    // In a catalogue of one's own the default preset may be missing.
+    // A custom catalogue may lack the default preset.
     const FormatListModel &formats = *m_store.formats().formatListModel();
     FormatDetailModelData first;
     for (int row = 0; row < formats.rowCount(); ++row) {

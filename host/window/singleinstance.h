@@ -18,11 +18,11 @@ public:
     /*! \a configFolder exists. */
     explicit SingleInstance(const QString &configFolder, QObject *parent = nullptr);
 
-    /*! Answers later starts. For the one that has locked the folder: no other can be alive. */
+    /*! Answers later starts. Only for the process that has locked the folder. */
     void listen();
     /*!
-     * Gives the paths to the one that listens, which may be none: then it only shows itself. False
-     * when there is none that answers within \a patience ms.
+     * Hands the paths, if any, to the window that listens, which comes to the front. False when
+     * none answers within \a patience ms.
      */
     [[nodiscard]] bool handOver(const QStringList &paths, int patience) const;
 

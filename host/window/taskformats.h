@@ -7,7 +7,7 @@
 
 class Presets;
 
-/*! The presets that a page converts with: its own one, and those of its tasks. */
+/*! The presets that a page converts with: its own, and those of its tasks. */
 class TaskFormats : public QObject
 {
     Q_OBJECT

@@ -48,9 +48,9 @@ public:
         TaskIdRole = Qt::UserRole + 1,
         NameRole,
         SourceRole,
-        DetailsRole, //!< size of the picture, length, bytes
+        DetailsRole, //!< resolution, duration, file size
         CodecsRole,
-        SecondsRole, //!< length of the source
+        SecondsRole, //!< duration of the source
         ThumbnailRole,
         FormatRole,
         FormatCaptionRole,
@@ -80,7 +80,7 @@ public:
     void remove(int id);
     /*! Lets \a change alter the task, its id excepted. */
     void update(int id, const std::function<void(Task &)> &change);
-    /*! The task enters the state, without what it told of the last one. */
+    /*! Clears the progress, error and target of the state before. */
     void setState(int id, Task::State state);
     /*! Makes a task that has ended ready again, unless its file can't be read. */
     void reopen(int id);

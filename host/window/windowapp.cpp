@@ -42,7 +42,7 @@ void endWithDisplay()
     }
 }
 
-/*! Says it on standard error and, as a window's user may not see that, in a dialog. */
+/*! Reports it on standard error and, as a user of the window may not see that, in a dialog. */
 ExitCode refuse(const Error &error)
 {
     const ExitCode exitCode = report(error);
@@ -58,11 +58,11 @@ ExitCode refuse(const Error &error)
 
 ExitCode showWindow(const WindowOptions &options)
 {
-    Interrupt interrupt; // still caught while all is taken down
+    Interrupt interrupt; // signals are caught until all is shut down
     QObject::connect(&interrupt, &Interrupt::caught, qApp, &QCoreApplication::quit);
     MainWindow window(options.configFolder);
     Result<> opened = window.open();
-    // Who has the folder may be about to end, or about to open its window.
+    // Whoever has the folder may be about to quit, or about to open its window.
     constexpr int patience = 5000;
     constexpr int pause = 100;
     const QDeadlineTimer deadline(patience);

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void cancellingTheRunningJobLetsTheNextOneRun();
     void aRemovedJobIsNotHeardOfAgain_data();
     void aRemovedJobIsNotHeardOfAgain();
+    void aJobRemovedBeforeItFailsIsNotHeardOfAgain();
     void stoppingCancelsWhatRunsAndForgetsWhatWaits();
     void asManyRunSideBySideAsMay();
     void theEndOfTheQueueLeavesNothing();
@@ -230,6 +231,15 @@ void TestConversionQueue::aRemovedJobIsNotHeardOfAgain()
     QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
     QCOMPARE(m_events, told);
     QTRY_COMPARE_WITH_TIMEOUT(filesInFolder(), before, patience);
+}
+
+void TestConversionQueue::aJobRemovedBeforeItFailsIsNotHeardOfAgain()
+{
+    m_queue->add(1, [] { return ConversionJob(); });
+    m_queue->start();
+    m_queue->remove(1);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_events, events("started 1"));
 }
 
 void TestConversionQueue::stoppingCancelsWhatRunsAndForgetsWhatWaits()

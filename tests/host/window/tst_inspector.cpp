@@ -20,8 +20,8 @@ private Q_SLOTS:
     void init();
 
     void filesAreReadInTheOrderInWhichTheyCame();
-    void aFilmIsPicturedATenthIntoIt();
-    void aSongIsPicturedByItsCover();
+    void aVideosThumbnailIsTakenATenthIntoIt();
+    void aSongsThumbnailIsItsCover();
     void aForgottenFileIsNotHeardOfAgain_data();
     void aForgottenFileIsNotHeardOfAgain();
 
@@ -31,12 +31,12 @@ private:
     {
         return QString::fromLatin1(list).split(QStringLiteral(", "));
     }
-    /*! The colour in the middle of the file's picture; an invalid one when there is none. */
-    QColor pictured(const QString &path);
+    /*! The colour in the middle of the file's thumbnail; an invalid one when there is none. */
+    QColor thumbnailColour(const QString &path);
 
     QTemporaryDir m_clips;
     std::unique_ptr<Inspector> m_inspector;
-    QStringList m_events; //!< "read 1", "pictured 1"
+    QStringList m_events; //!< "read 1", "thumbnail 1"
 };
 
 void TestInspector::initTestCase()
@@ -63,19 +63,19 @@ void TestInspector::init()
     m_inspector = std::make_unique<Inspector>();
     connect(m_inspector.get(), &Inspector::read, this,
             [this](int id) { m_events << QStringLiteral("read %1").arg(id); });
-    connect(m_inspector.get(), &Inspector::pictured, this,
-            [this](int id) { m_events << QStringLiteral("pictured %1").arg(id); });
+    connect(m_inspector.get(), &Inspector::thumbnailReady, this,
+            [this](int id) { m_events << QStringLiteral("thumbnail %1").arg(id); });
 }
 
-QColor TestInspector::pictured(const QString &path)
+QColor TestInspector::thumbnailColour(const QString &path)
 {
-    QSignalSpy pictures(m_inspector.get(), &Inspector::pictured);
+    QSignalSpy thumbnails(m_inspector.get(), &Inspector::thumbnailReady);
     m_inspector->inspect(1, path);
-    if (!QTest::qWaitFor([&pictures] { return !pictures.isEmpty(); }, patience)) {
+    if (!QTest::qWaitFor([&thumbnails] { return !thumbnails.isEmpty(); }, patience)) {
         return {};
     }
-    const QImage picture(QUrl(pictures.at(0).at(1).toString()).toLocalFile());
-    return picture.pixelColor(picture.rect().center());
+    const QImage thumbnail(QUrl(thumbnails.at(0).at(1).toString()).toLocalFile());
+    return thumbnail.pixelColor(thumbnail.rect().center());
 }
 
 void TestInspector::filesAreReadInTheOrderInWhichTheyCame()
@@ -83,18 +83,18 @@ void TestInspector::filesAreReadInTheOrderInWhichTheyCame()
     m_inspector->inspect(2, clip("song.wav"));
     m_inspector->inspect(1, clip("film.mp4"));
     m_inspector->inspect(3, clip("song.wav"));
-    QTRY_COMPARE_WITH_TIMEOUT(m_events, events("read 2, read 1, pictured 1, read 3"), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_events, events("read 2, read 1, thumbnail 1, read 3"), patience);
 }
 
-void TestInspector::aFilmIsPicturedATenthIntoIt()
+void TestInspector::aVideosThumbnailIsTakenATenthIntoIt()
 {
-    const QColor colour = pictured(clip("flash.mp4"));
+    const QColor colour = thumbnailColour(clip("flash.mp4"));
     QVERIFY2(colour.red() > 200 && colour.green() < 60, qPrintable(colour.name()));
 }
 
-void TestInspector::aSongIsPicturedByItsCover()
+void TestInspector::aSongsThumbnailIsItsCover()
 {
-    const QColor colour = pictured(clip("song.flac"));
+    const QColor colour = thumbnailColour(clip("song.flac"));
     QVERIFY2(colour.red() > 200 && colour.green() < 60, qPrintable(colour.name()));
 }
 
@@ -104,8 +104,8 @@ void TestInspector::aForgottenFileIsNotHeardOfAgain_data()
     QTest::addColumn<int>("forgotten");
     QTest::addColumn<QStringList>("told");
     QTest::newRow("while it is read") << QString() << 1 << events("read 2, read 3");
-    QTest::newRow("while it waits") << QString() << 2 << events("read 1, pictured 1, read 3");
-    QTest::newRow("while it is pictured")
+    QTest::newRow("while it waits") << QString() << 2 << events("read 1, thumbnail 1, read 3");
+    QTest::newRow("while its thumbnail is made")
         << QStringLiteral("read 1") << 1 << events("read 1, read 2, read 3");
 }
 

@@ -37,7 +37,6 @@ private Q_SLOTS:
     void aFileThatIsNoMediaSaysSoAndTheRestGoOn();
     void aNewFormatDoesNotMakeAnUnreadableFileReady();
     void whatIsReadLateChangesNoStateOfAConversion();
-    void whatIsReadOfARemovedFileIsNotTaken();
     void removingAFileThatHangsLetsTheNextOneBeRead_data();
     void removingAFileThatHangsLetsTheNextOneBeRead();
     void tasksRunOneAfterAnother();
@@ -212,18 +211,6 @@ void TestPage::whatIsReadLateChangesNoStateOfAConversion()
     QTRY_VERIFY_WITH_TIMEOUT(!task(*m_converter, id).facts.isEmpty(), patience);
     QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Converted, patience);
     QVERIFY(!states.contains(Task::Ready));
-}
-
-void TestPage::whatIsReadOfARemovedFileIsNotTaken()
-{
-    m_converter->addFiles({song(QStringLiteral("a.wav")), song(QStringLiteral("b.wav"))});
-    const int first = m_converter->tasks()->tasks().at(0).id;
-    const int second = m_converter->tasks()->tasks().at(1).id;
-    m_converter->remove(first);
-    QSignalSpy changes(m_converter->tasks(), &TaskList::dataChanged);
-    QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, second).state, Task::Ready, patience);
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(m_converter->tasks()->count(), 1);
 }
 
 void TestPage::removingAFileThatHangsLetsTheNextOneBeRead_data()
