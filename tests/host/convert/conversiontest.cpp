@@ -1,6 +1,6 @@
 #include "tests/host/convert/conversiontest.h"
 
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/patience.h"
 
 #include <QEventLoop>

@@ -2,7 +2,7 @@
 #define HOST_CONVERT_CONVERSIONTEST_H
 
 #include "host/convert/conversion.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/messagelog.h"
 
 #include <QTemporaryDir>

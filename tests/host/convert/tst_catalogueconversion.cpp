@@ -3,7 +3,7 @@
 #include "formats/models/formatlistmodel.h"
 #include "formats/proxy/formatsproxy.h"
 #include "host/convert/conversion.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 
 #include <QEventLoop>
 #include <QTemporaryDir>

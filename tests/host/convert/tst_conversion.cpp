@@ -1,6 +1,6 @@
 #include "host/convert/containers.h"
 #include "tests/host/convert/conversiontest.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 
 /*! What a conversion makes of real clips. */
 class TestConversion : public ConversionTest

@@ -1,6 +1,6 @@
 #include "host/convert/ffmpegarguments.h"
 #include "tests/host/convert/conversiontest.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/patience.h"
 
 /*! Whatever goes wrong, nothing half-written is left. */

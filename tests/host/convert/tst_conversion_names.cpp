@@ -1,5 +1,5 @@
 #include "tests/host/convert/conversiontest.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 
 /*! Where results go and what they are called. */
 class TestConversionNames : public ConversionTest

@@ -1,7 +1,8 @@
 #include "host/media/mediaprobe.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/messagelog.h"
 #include "tests/support/patience.h"
+#include "tests/support/testfiles.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -32,12 +33,6 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    void write(const QString &name, const QByteArray &content) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
-    }
     Result<MediaFacts> probe(const QString &name, const ToolLimits &limits = probeLimits) const
     {
         MediaProbe probe;
@@ -139,7 +134,7 @@ void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused()
     QFETCH(QString, name);
     QFETCH(QByteArray, content);
     QFETCH(QString, error);
-    write(name, content);
+    QVERIFY(writeFile(path(name), content));
     QCOMPARE(errorOf(probe(name)), error);
 }
 

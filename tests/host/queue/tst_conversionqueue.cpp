@@ -1,6 +1,6 @@
 #include "host/queue/conversionqueue.h"
 
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/patience.h"
 
 #include <QTemporaryDir>

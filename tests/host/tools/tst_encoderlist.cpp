@@ -1,5 +1,5 @@
 #include "host/tools/encoderlist.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/messagelog.h"
 #include "tests/support/patience.h"
 

@@ -1,7 +1,7 @@
 #include "host/tools/tool.h"
-#include "tests/host/mediaclips.h"
-#include "tests/host/runningprocess.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/messagelog.h"
+#include "tests/support/runningprocess.h"
 
 #include <QFile>
 #include <QTemporaryDir>

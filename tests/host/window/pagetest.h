@@ -5,7 +5,7 @@
 #include "host/window/presets.h"
 
 #include "formats/proxy/formatsproxy.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/patience.h"
 
 #include <QTemporaryDir>

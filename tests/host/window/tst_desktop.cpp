@@ -1,5 +1,5 @@
-#include "tests/host/commandrun.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/commandrun.h"
+#include "tests/support/mediaclips.h"
 
 #include <QApplication>
 #include <QDir>
@@ -13,8 +13,6 @@
 #include <csignal>
 
 namespace {
-
-constexpr int patience = CommandRun::patience;
 
 QByteArray contentOf(const QString &path)
 {

@@ -1,8 +1,8 @@
 #include "host/app/languages.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
-#include "tests/host/mediaclips.h"
 #include "tests/host/window/windowuser.h"
+#include "tests/support/mediaclips.h"
 
 #include <QApplication>
 #include <QComboBox>

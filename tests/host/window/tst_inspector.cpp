@@ -1,6 +1,6 @@
 #include "host/window/inspector.h"
 
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 #include "tests/support/patience.h"
 
 #include <QImage>

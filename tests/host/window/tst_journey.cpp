@@ -5,8 +5,8 @@
 #include "host/window/windowsettings.h"
 
 #include "formats/proxy/formatsproxy.h"
-#include "tests/host/mediaclips.h"
 #include "tests/host/window/windowuser.h"
+#include "tests/support/mediaclips.h"
 
 #include <QProcess>
 #include <QQuickItem>

@@ -3,8 +3,8 @@
 #include "host/window/pageproxies.h"
 
 #include "formats/proxy/formatsproxy.h"
-#include "tests/host/mediaclips.h"
 #include "tests/host/window/windowuser.h"
+#include "tests/support/mediaclips.h"
 
 #include <QGuiApplication>
 #include <QProcess>

@@ -1,7 +1,7 @@
 #include "host/commandline/commandline.h"
 #include "host/files/workfolder.h"
 
-#include "tests/host/forkedprocess.h"
+#include "tests/support/forkedprocess.h"
 
 #include <QDir>
 #include <QLocalSocket>

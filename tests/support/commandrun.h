@@ -1,5 +1,7 @@
-#ifndef HOST_COMMANDRUN_H
-#define HOST_COMMANDRUN_H
+#ifndef TESTS_SUPPORT_COMMANDRUN_H
+#define TESTS_SUPPORT_COMMANDRUN_H
+
+#include "tests/support/patience.h"
 
 #include <QProcess>
 #include <QString>
@@ -11,8 +13,6 @@
 /*! A finished run of vexconvert. */
 struct CommandRun
 {
-    static constexpr int patience = 60000; //!< ms, on a busy machine
-
     int exitCode = -1; //!< -1: not in time, or crashed
     QString out;
     QString err;

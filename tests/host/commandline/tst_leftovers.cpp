@@ -1,5 +1,5 @@
-#include "tests/host/commandrun.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/commandrun.h"
+#include "tests/support/mediaclips.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -42,7 +42,7 @@ private:
     {
         start(process, QStringLiteral("long.mp4"), MediaClips::pathWith(m_tools.path()));
         // The output's first line tells that ffmpeg writes.
-        QVERIFY(process.waitForReadyRead(CommandRun::patience));
+        QVERIFY(process.waitForReadyRead(patience));
     }
     CommandRun convertFilm() const
     {

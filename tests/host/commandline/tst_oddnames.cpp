@@ -1,7 +1,7 @@
 #include "host/files/filenames.h"
 
-#include "tests/host/commandrun.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/commandrun.h"
+#include "tests/support/mediaclips.h"
 
 #include <QDir>
 #include <QJsonArray>

@@ -1,5 +1,5 @@
-#ifndef HOST_TRACEDRUN_H
-#define HOST_TRACEDRUN_H
+#ifndef HOST_PRESETS_TRACEDRUN_H
+#define HOST_PRESETS_TRACEDRUN_H
 
 #include <QString>
 #include <QStringList>

@@ -1,4 +1,5 @@
 #include "host/presets/userfile.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,19 +13,6 @@ namespace {
 
 const QByteArray good = "[ { \"id\": \"1001\" } ]";
 const QByteArray other = "[ { \"id\": \"1002\" } ]";
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-}
-
-void make(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
 
 QJsonArray list(const QByteArray &json)
 {
@@ -97,9 +85,9 @@ void TestUserFile::aDamagedFileGivesWayToItsGoodCopy()
     QFETCH(QByteArray, damage);
     QFETCH(QString, note);
     const UserFile file(m_path);
-    make(file.copyPath(), good);
+    QVERIFY(writeFile(file.copyPath(), good));
     if (damage != "missing") {
-        make(m_path, damage);
+        QVERIFY(writeFile(m_path, damage));
     }
     const QString complaint = file.check().error().text;
     QVERIFY(complaint.startsWith(m_path + QStringLiteral(" is ")));
@@ -131,8 +119,8 @@ void TestUserFile::withoutAGoodCopyItStaysAndIsSaid()
     QFETCH(QByteArray, damage);
     QFETCH(QString, complaint);
     const UserFile file(m_path);
-    make(m_path, damage);
-    make(file.copyPath(), "[");
+    QVERIFY(writeFile(m_path, damage));
+    QVERIFY(writeFile(file.copyPath(), "["));
     QCOMPARE(file.check().error().text, m_path + complaint);
     QCOMPARE(file.recover(UserFile::StaysInPlace).error().text, m_path + complaint);
     QCOMPARE(contentOf(m_path), damage);
@@ -142,7 +130,7 @@ void TestUserFile::withoutAGoodCopyItStaysAndIsSaid()
 void TestUserFile::withoutAGoodCopyItIsPutAsideOnDemand()
 {
     const UserFile file(m_path);
-    make(m_path, "[");
+    QVERIFY(writeFile(m_path, "["));
     QCOMPARE(file.recover(UserFile::IsPutAside).value(),
              m_path + QStringLiteral(" was damaged and there is no good copy of "
                                      "it; it is kept as formatCache.json.damaged"));
@@ -154,7 +142,7 @@ void TestUserFile::whatWasPutAsideBeforeStays()
 {
     const UserFile file(m_path);
     for (const QByteArray &damage : {QByteArray("[1"), QByteArray("[2"), QByteArray("[3")}) {
-        make(m_path, damage);
+        QVERIFY(writeFile(m_path, damage));
         QVERIFY(file.recover(UserFile::IsPutAside));
     }
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("[1"));
@@ -165,7 +153,7 @@ void TestUserFile::whatWasPutAsideBeforeStays()
 void TestUserFile::aDamagedCopyOfAMissingFileIsSaidAndKept()
 {
     const UserFile file(m_path);
-    make(file.copyPath(), "[");
+    QVERIFY(writeFile(file.copyPath(), "["));
     QCOMPARE(file.recover(UserFile::StaysInPlace).error().text,
              file.copyPath() + QStringLiteral(" is damaged and there is no good copy of it; fix "
                                               "it, or move it away to start anew"));
@@ -184,8 +172,8 @@ void TestUserFile::goodAndMissingFilesNeedNothing()
     QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
     QCOMPARE(names(), QStringList());
 
-    make(m_path, "[]");
-    make(file.copyPath(), good);
+    QVERIFY(writeFile(m_path, "[]"));
+    QVERIFY(writeFile(file.copyPath(), good));
     QVERIFY(file.check());
     QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
     QCOMPARE(contentOf(m_path), QByteArray("[]"));
@@ -194,7 +182,7 @@ void TestUserFile::goodAndMissingFilesNeedNothing()
 void TestUserFile::aFolderInItsPlaceIsRefused()
 {
     const UserFile file(m_path);
-    make(file.copyPath(), good);
+    QVERIFY(writeFile(file.copyPath(), good));
     QVERIFY(QDir().mkdir(m_path));
     const QString refusal = m_path + QStringLiteral(" is no file; move it away");
     QCOMPARE(file.check().error().text, refusal);
@@ -229,7 +217,7 @@ void TestUserFile::whatAnotherProgramWroteIsKept()
     QFETCH(QString, keptAs);
     const UserFile file(m_path);
     QVERIFY(file.replace(good));
-    make(m_path, written);
+    QVERIFY(writeFile(m_path, written));
     QVERIFY(file.replace(other));
     QCOMPARE(contentOf(m_path), other);
     QCOMPARE(contentOf(aside(keptAs)), written);
@@ -238,7 +226,7 @@ void TestUserFile::whatAnotherProgramWroteIsKept()
 void TestUserFile::permissionsAreKept()
 {
     const UserFile file(m_path);
-    make(m_path, good);
+    QVERIFY(writeFile(m_path, good));
     const auto userOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
     QVERIFY(QFile::setPermissions(m_path, userOnly));
     QVERIFY(file.recover(UserFile::StaysInPlace));
@@ -250,7 +238,7 @@ void TestUserFile::permissionsAreKept()
 void TestUserFile::unusablePresetsAreKeptOnce()
 {
     const UserFile file(m_path);
-    make(m_path, good);
+    QVERIFY(writeFile(m_path, good));
     QCOMPARE(file.keepUnusable({}).value(), QString());
     QCOMPARE(names().size(), 1);
 
@@ -263,7 +251,7 @@ void TestUserFile::unusablePresetsAreKeptOnce()
     QCOMPARE(file.keepUnusable(list("[2, 3]")).value(), note);
     QCOMPARE(list(contentOf(beside)), list("[1, 2, 3]"));
 
-    make(beside, "damaged");
+    QVERIFY(writeFile(beside, "damaged"));
     QVERIFY(file.keepUnusable(list("[4]")).error().text.startsWith(beside));
     QCOMPARE(contentOf(beside), QByteArray("damaged"));
 }

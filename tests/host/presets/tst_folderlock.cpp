@@ -1,5 +1,6 @@
 #include "host/presets/folderlock.h"
-#include "tests/host/forkedprocess.h"
+#include "tests/support/forkedprocess.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -87,11 +88,8 @@ void TestFolderLock::whatTheFileSaysLocksNobodyOut()
 {
     QFETCH(QByteArray, content);
     QVERIFY(QDir().mkpath(folder()));
-    QFile file(lockFile());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-    file.close();
-    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(writeFile(lockFile(), content));
+    QVERIFY(QFile::setPermissions(lockFile(), QFile::ReadOwner | QFile::WriteOwner));
     FolderLock lock;
     QVERIFY(lock.lock(folder(), 0));
 }

@@ -1,6 +1,7 @@
 #include "host/files/pendingfile.h"
 
-#include "tests/host/forkedprocess.h"
+#include "tests/support/forkedprocess.h"
+#include "tests/support/testfiles.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -46,18 +47,6 @@ private:
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                        QDir::Name);
     }
-    void write(const QString &filePath, const QByteArray &content) const
-    {
-        QFile file(filePath);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
-    }
-    QByteArray content(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
-
     std::optional<QTemporaryDir> m_folder;
 };
 
@@ -66,7 +55,7 @@ void TestPendingFile::aPendingFileIsHidden()
     PendingFile pending;
     QCOMPARE(pending.path(), QString());
     QVERIFY(pending.create(m_folder->path()));
-    write(pending.path(), "half");
+    QVERIFY(writeFile(pending.path(), "half"));
     QCOMPARE(everything().size(), 1);
     QVERIFY(everything().constFirst().startsWith(QLatin1Char('.')));
     QCOMPARE(QFileInfo(pending.path()).path(), path(everything().constFirst()));
@@ -77,13 +66,13 @@ void TestPendingFile::whatADeadProcessWroteIsSwept()
     ForkedProcess process([this](const auto &tell) {
         PendingFile pending;
         if (pending.create(m_folder->path())) {
-            write(pending.path(), "half");
+            QVERIFY(writeFile(pending.path(), "half"));
             tell(pending.path());
         }
     });
     PendingFile first;
     QVERIFY(first.create(m_folder->path()));
-    QCOMPARE(content(process.told()), QByteArray("half"));
+    QCOMPARE(contentOf(process.told()), QByteArray("half"));
     process.endWithoutGoodbye();
     PendingFile second;
     QVERIFY(second.create(m_folder->path()));
@@ -96,7 +85,7 @@ void TestPendingFile::droppingItLeavesNothing()
     {
         PendingFile pending;
         QVERIFY(pending.create(m_folder->path()));
-        write(pending.path(), "half");
+        QVERIFY(writeFile(pending.path(), "half"));
     }
     QCOMPARE(everything(), QStringList());
 }
@@ -105,7 +94,7 @@ void TestPendingFile::discardingItLeavesNothing()
 {
     PendingFile pending;
     QVERIFY(pending.create(m_folder->path()));
-    write(pending.path(), "half");
+    QVERIFY(writeFile(pending.path(), "half"));
     pending.discard();
     QCOMPARE(everything(), QStringList());
     QCOMPARE(pending.path(), QString());
@@ -115,24 +104,24 @@ void TestPendingFile::publishedItHasItsName()
 {
     PendingFile pending;
     QVERIFY(pending.create(m_folder->path()));
-    write(pending.path(), "whole");
+    QVERIFY(writeFile(pending.path(), "whole"));
     QCOMPARE(*pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip.mp4")));
     QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
-    QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("whole"));
+    QCOMPARE(contentOf(path(QStringLiteral("clip.mp4"))), QByteArray("whole"));
 }
 
 void TestPendingFile::aTakenNameIsNumbered()
 {
-    write(path(QStringLiteral("clip.mp4")), "first");
-    write(path(QStringLiteral("clip (2).mp4")), "second");
+    QVERIFY(writeFile(path(QStringLiteral("clip.mp4")), "first"));
+    QVERIFY(writeFile(path(QStringLiteral("clip (2).mp4")), "second"));
     PendingFile pending;
     QVERIFY(pending.create(m_folder->path()));
-    write(pending.path(), "whole");
+    QVERIFY(writeFile(pending.path(), "whole"));
     QCOMPARE(*pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip (3).mp4")));
-    QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("first"));
-    QCOMPARE(content(QStringLiteral("clip (2).mp4")), QByteArray("second"));
+    QCOMPARE(contentOf(path(QStringLiteral("clip.mp4"))), QByteArray("first"));
+    QCOMPARE(contentOf(path(QStringLiteral("clip (2).mp4"))), QByteArray("second"));
 }
 
 void TestPendingFile::aDanglingLinkTakesTheNameToo()
@@ -147,7 +136,7 @@ void TestPendingFile::aFolderTakesTheNameToo()
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("clip.mp4")));
     PendingFile pending;
     QVERIFY(pending.create(m_folder->path()));
-    write(pending.path(), "whole");
+    QVERIFY(writeFile(pending.path(), "whole"));
     QCOMPARE(*pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")),
              path(QStringLiteral("clip (2).mp4")));
 }
@@ -162,7 +151,7 @@ void TestPendingFile::filesPublishedAtTheSameTimeGetNamesOfTheirOwn()
             for (int j = 0; j < filesEach; ++j) {
                 PendingFile pending;
                 if (pending.create(m_folder->path())) {
-                    write(pending.path(), "whole");
+                    QVERIFY(writeFile(pending.path(), "whole"));
                     static_cast<void>(
                         pending.publish(QStringLiteral("clip"), QStringLiteral("mp4")));
                 }
@@ -177,13 +166,13 @@ void TestPendingFile::filesPublishedAtTheSameTimeGetNamesOfTheirOwn()
 
 void TestPendingFile::publishOverReplacesTheFile()
 {
-    write(path(QStringLiteral("clip.mp4")), "old");
+    QVERIFY(writeFile(path(QStringLiteral("clip.mp4")), "old"));
     PendingFile pending;
     QVERIFY(pending.create(m_folder->path()));
-    write(pending.path(), "new");
+    QVERIFY(writeFile(pending.path(), "new"));
     QVERIFY(pending.publishOver(path(QStringLiteral("clip.mp4"))));
     QCOMPARE(everything(), QStringList{QStringLiteral("clip.mp4")});
-    QCOMPARE(content(QStringLiteral("clip.mp4")), QByteArray("new"));
+    QCOMPARE(contentOf(path(QStringLiteral("clip.mp4"))), QByteArray("new"));
 }
 
 void TestPendingFile::publishOverAFolderLeavesAllAsItWas()
@@ -192,7 +181,7 @@ void TestPendingFile::publishOverAFolderLeavesAllAsItWas()
     {
         PendingFile pending;
         QVERIFY(pending.create(m_folder->path()));
-        write(pending.path(), "whole");
+        QVERIFY(writeFile(pending.path(), "whole"));
         const Result<> published = pending.publishOver(path(QStringLiteral("clip.mp4")));
         QVERIFY(!published);
         QCOMPARE(published.error().text,
@@ -215,7 +204,7 @@ void TestPendingFile::aFolderThatIsNotThereIsRefused()
 
 void TestPendingFile::aFileInPlaceOfTheFolderIsRefused()
 {
-    write(path(QStringLiteral("file")), "content");
+    QVERIFY(writeFile(path(QStringLiteral("file")), "content"));
     PendingFile pending;
     QVERIFY(!pending.create(path(QStringLiteral("file"))));
     QCOMPARE(everything(), QStringList{QStringLiteral("file")});
@@ -260,7 +249,7 @@ void TestPendingFile::noNameIsTooLong()
         QVERIFY2(bytes <= 255 && bytes > 251, qPrintable(QString::number(bytes)));
         QCOMPARE(QString::fromUtf8(name.toUtf8()), name); // no half character
         QCOMPARE(name.contains(QStringLiteral(" (2).")), i == 1);
-        write(path(name), "taken");
+        QVERIFY(writeFile(path(name), "taken"));
     }
 }
 

@@ -1,4 +1,5 @@
 #include "host/files/atomicwrite.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,23 +8,6 @@
 
 #include <optional>
 #include <sys/stat.h>
-
-namespace {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-}
-
-void make(const QString &path, const QByteArray &content = {})
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
-} // namespace
 
 class TestAtomicWrite : public QObject
 {
@@ -52,7 +36,7 @@ private:
 void TestAtomicWrite::aFileIsReplacedNotWrittenOver()
 {
     const QString file = path(QStringLiteral("file"));
-    make(file, "old");
+    QVERIFY(writeFile(file, "old"));
     QFile reader(file);
     QVERIFY(reader.open(QIODevice::ReadOnly));
     QVERIFY(writeAtomically(file, "new", file));
@@ -65,7 +49,7 @@ void TestAtomicWrite::permissionsAreThoseOfTheModel()
 {
     const QString model = path(QStringLiteral("model"));
     const QString file = path(QStringLiteral("file"));
-    make(model);
+    QVERIFY(writeFile(model));
     const auto userOnly = QFile::ReadOwner | QFile::WriteOwner;
     QVERIFY(QFile::setPermissions(model, userOnly));
     QVERIFY(writeAtomically(file, "new", model));
@@ -88,7 +72,7 @@ void TestAtomicWrite::aSymbolicLinkStays()
     const QString link = path(QStringLiteral("link"));
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("elsewhere")));
     if (leadsSomewhere) {
-        make(target, "old");
+        QVERIFY(writeFile(target, "old"));
     }
     const QString middle = path(QStringLiteral("middle"));
     QVERIFY(QFile::link(target, middle));
@@ -113,7 +97,7 @@ void TestAtomicWrite::filesBesideStay()
     const QStringList beside = {QStringLiteral("file.AbCdEf"), QStringLiteral("file.backup"),
                                 QStringLiteral("file.bak.before")};
     for (const QString &name : beside) {
-        make(path(name));
+        QVERIFY(writeFile(path(name)));
     }
     QVERIFY(writeAtomically(path(QStringLiteral("file")), "new", {}));
     QCOMPARE(names(), QStringList{QStringLiteral("file")} + beside);

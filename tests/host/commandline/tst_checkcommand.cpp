@@ -1,5 +1,6 @@
-#include "tests/host/commandrun.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/commandrun.h"
+#include "tests/support/mediaclips.h"
+#include "tests/support/testfiles.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -48,7 +49,7 @@ const char catalogue[] = R"({
 } // namespace
 
 /*! The subcommand "check-catalogue", run over a small catalogue of its own. */
-class TestCheckCatalogue : public QObject
+class TestCheckCommand : public QObject
 {
     Q_OBJECT
 
@@ -74,9 +75,7 @@ private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     void writeCatalogue(const QByteArray &json) const
     {
-        QFile file(path(QStringLiteral("own.json")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(json), qint64(json.size()));
+        QVERIFY(writeFile(path(QStringLiteral("own.json")), json));
     }
     /*! The catalogue with one text in it exchanged. */
     void writeCatalogue(const QByteArray &before, const QByteArray &after) const
@@ -114,7 +113,7 @@ private:
     std::optional<QTemporaryDir> m_folder;
 };
 
-void TestCheckCatalogue::init()
+void TestCheckCommand::init()
 {
     m_folder.emplace();
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("tmp")));
@@ -127,13 +126,13 @@ void TestCheckCatalogue::init()
     putInPlaceOfFfmpeg(QStringLiteral("exec $REAL \"$@\""));
 }
 
-void TestCheckCatalogue::cleanup()
+void TestCheckCommand::cleanup()
 {
     QCOMPARE(temporaryFiles(), QStringList());
     m_folder.reset();
 }
 
-void TestCheckCatalogue::everyPresetIsConverted()
+void TestCheckCommand::everyPresetIsConverted()
 {
     const CommandRun told = run();
     QCOMPARE(told.out,
@@ -153,7 +152,7 @@ void TestCheckCatalogue::everyPresetIsConverted()
     QCOMPARE(told.exitCode, 0);
 }
 
-void TestCheckCatalogue::presetsThatAskForTheSameShareAConversion()
+void TestCheckCommand::presetsThatAskForTheSameShareAConversion()
 {
     const QString conversions = path(QStringLiteral("conversions"));
     putInPlaceOfFfmpeg(QStringLiteral("case \"$*\" in *libmp3lame*) echo x >> %1;; esac\n"
@@ -170,7 +169,7 @@ void TestCheckCatalogue::presetsThatAskForTheSameShareAConversion()
     QCOMPARE(conversionsOf(R"(, "audioParam": { "channel": 2 })"), 2);
 }
 
-void TestCheckCatalogue::quickTakesTheLastPresetOfEachFormat()
+void TestCheckCommand::quickTakesTheLastPresetOfEachFormat()
 {
     const QJsonObject json =
         QJsonDocument::fromJson(
@@ -183,7 +182,7 @@ void TestCheckCatalogue::quickTakesTheLastPresetOfEachFormat()
     QCOMPARE(ids, QStringList({QStringLiteral("Video_AVI_002"), QStringLiteral("Video_AMR_001")}));
 }
 
-void TestCheckCatalogue::whatFailsIsNamedWithItsReason_data()
+void TestCheckCommand::whatFailsIsNamedWithItsReason_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("reason");
@@ -202,7 +201,7 @@ void TestCheckCatalogue::whatFailsIsNamedWithItsReason_data()
         << QStringLiteral("64x36 isn't fitted into 160x90; 44100 Hz, not 48000");
 }
 
-void TestCheckCatalogue::whatFailsIsNamedWithItsReason()
+void TestCheckCommand::whatFailsIsNamedWithItsReason()
 {
     QFETCH(QString, script);
     QFETCH(QString, reason);
@@ -219,7 +218,7 @@ void TestCheckCatalogue::whatFailsIsNamedWithItsReason()
         "failed.\n")));
 }
 
-void TestCheckCatalogue::aResultThatCannotBeMeasuredFails()
+void TestCheckCommand::aResultThatCannotBeMeasuredFails()
 {
     QVERIFY(MediaClips::makeStandIn(
         m_folder->path(),
@@ -231,7 +230,7 @@ void TestCheckCatalogue::aResultThatCannotBeMeasuredFails()
     QVERIFY2(told.out.contains(QStringLiteral("\nVideo_AVI_002  no luck\n")), qPrintable(told.out));
 }
 
-void TestCheckCatalogue::aFormatThatIsNeverShownFails()
+void TestCheckCommand::aFormatThatIsNeverShownFails()
 {
     writeCatalogue(R"("name": "AMR")", R"("name": "优酷")");
     const CommandRun told = run({QStringLiteral("--quick")});
@@ -241,7 +240,7 @@ void TestCheckCatalogue::aFormatThatIsNeverShownFails()
              qPrintable(told.out));
 }
 
-void TestCheckCatalogue::mistakesAreNamedAndTheRestIsConverted()
+void TestCheckCommand::mistakesAreNamedAndTheRestIsConverted()
 {
     writeCatalogue(R"("title": "First" })",
                    R"("title": "First", "videoParam": { "frameRate": "25" } })");
@@ -267,7 +266,7 @@ void TestCheckCatalogue::mistakesAreNamedAndTheRestIsConverted()
     QCOMPARE(notOffered.exitCode, 1);
 }
 
-void TestCheckCatalogue::withoutAValidPresetNothingIsConverted()
+void TestCheckCommand::withoutAValidPresetNothingIsConverted()
 {
     writeCatalogue("{ \"category\": \"Video\" ");
     const CommandRun told = run();
@@ -279,7 +278,7 @@ void TestCheckCatalogue::withoutAValidPresetNothingIsConverted()
     QCOMPARE(told.exitCode, 1);
 }
 
-void TestCheckCatalogue::itComesAsJson()
+void TestCheckCommand::itComesAsJson()
 {
     writeCatalogue(R"("fmt_amr")", R"("fmt_none")");
     const CommandRun told = run({QStringLiteral("--quick"), QStringLiteral("--json")});
@@ -305,18 +304,17 @@ void TestCheckCatalogue::itComesAsJson()
 }
 
 /*! Starts a check that stays in the middle of a conversion. */
-void TestCheckCatalogue::startEndless(QProcess &process) const
+void TestCheckCommand::startEndless(QProcess &process) const
 {
     putInPlaceOfFfmpeg(
         QStringLiteral("case \"$*\" in *mpeg4*) touch \"$0.runs\"; exec sleep 60;; esac\n"
                        "exec $REAL \"$@\""));
     start(process, {});
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(QStringLiteral("ffmpeg.runs"))),
-                             CommandRun::patience);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(QStringLiteral("ffmpeg.runs"))), patience);
     QVERIFY(!temporaryFiles().isEmpty());
 }
 
-void TestCheckCatalogue::whatAKilledCheckLeftGoesWithTheNext()
+void TestCheckCommand::whatAKilledCheckLeftGoesWithTheNext()
 {
     QProcess process;
     startEndless(process);
@@ -327,7 +325,7 @@ void TestCheckCatalogue::whatAKilledCheckLeftGoesWithTheNext()
     QCOMPARE(run({QStringLiteral("--quick")}).exitCode, 0);
 }
 
-void TestCheckCatalogue::interruptingLeavesNothing()
+void TestCheckCommand::interruptingLeavesNothing()
 {
     GroupProcess process;
     startEndless(process);
@@ -337,7 +335,7 @@ void TestCheckCatalogue::interruptingLeavesNothing()
     QCOMPARE(ended.err, QStringLiteral("vexconvert: interrupted\n"));
 }
 
-void TestCheckCatalogue::withoutFfmpegItSaysWhatToInstall()
+void TestCheckCommand::withoutFfmpegItSaysWhatToInstall()
 {
     m_environment.insert(QStringLiteral("PATH"), path(QStringLiteral("tmp")));
     const CommandRun told = run();
@@ -351,5 +349,5 @@ void TestCheckCatalogue::withoutFfmpegItSaysWhatToInstall()
         QStringLiteral("no clip to convert: ffmpeg is not on the PATH")));
 }
 
-QTEST_GUILESS_MAIN(TestCheckCatalogue)
-#include "tst_checkcatalogue.moc"
+QTEST_GUILESS_MAIN(TestCheckCommand)
+#include "tst_checkcommand.moc"

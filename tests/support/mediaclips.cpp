@@ -1,4 +1,4 @@
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 
 #include "host/media/mediaprobe.h"
 #include "host/tools/encoderlist.h"

@@ -1,5 +1,5 @@
-#ifndef HOST_MEDIACLIPS_H
-#define HOST_MEDIACLIPS_H
+#ifndef TESTS_SUPPORT_MEDIACLIPS_H
+#define TESTS_SUPPORT_MEDIACLIPS_H
 
 #include "host/media/mediafacts.h"
 

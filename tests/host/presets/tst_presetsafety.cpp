@@ -1,6 +1,7 @@
 #include "host/presets/userfile.h"
-#include "tests/host/commandrun.h"
-#include "tests/host/tracedrun.h"
+#include "tests/host/presets/tracedrun.h"
+#include "tests/support/commandrun.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -30,18 +31,6 @@ constexpr int randomKills = 1000;
 #endif
 
 const QString presetsName = QStringLiteral("formatCache.json");
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-}
-
-bool write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
 
 /*! A process that may write no file larger than that. */
 class LimitedProcess : public QProcess
@@ -167,7 +156,8 @@ bool TestPresetSafety::restore() const
     QDir(config()).removeRecursively();
     bool isRestored = QDir().mkpath(config());
     for (auto file = m_before.begin(); file != m_before.end(); ++file) {
-        isRestored = isRestored && write(config() + QLatin1Char('/') + file.key(), file.value());
+        isRestored =
+            isRestored && writeFile(config() + QLatin1Char('/') + file.key(), file.value());
     }
     return isRestored;
 }
@@ -236,7 +226,7 @@ void TestPresetSafety::aKillAtAnySystemCallLosesNothing()
         }
         const bool isStored = contentOf(presets()) == after;
         // The next run starts with whatever else this one left.
-        QVERIFY(write(presets(), m_before.value(presetsName)));
+        QVERIFY(writeFile(presets(), m_before.value(presetsName)));
         if (entered < last) {
             break;
         }
@@ -248,7 +238,7 @@ void TestPresetSafety::aKillAtAnySystemCallLosesNothing()
     QVERIFY(wasStored);
 
     // All that they left is gone with the next change.
-    QVERIFY(write(presets() + QStringLiteral(".bak"), m_before.value(presetsName)));
+    QVERIFY(writeFile(presets() + QStringLiteral(".bak"), m_before.value(presetsName)));
     QCOMPARE(run(change).exitCode, 0);
     QCOMPARE(contentOf(presets()), after);
     QCOMPARE(QDir(config()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
@@ -267,16 +257,16 @@ void TestPresetSafety::aKillAtAnyMomentLosesNothing()
     for (int kill = 0; kill < randomKills; ++kill) {
         QProcess process;
         process.start(QStringLiteral(VEXCONVERT), call(addition));
-        QVERIFY(process.waitForStarted(CommandRun::patience));
+        QVERIFY(process.waitForStarted(patience));
         QThread::usleep(random.bounded(duration));
         process.kill();
-        QVERIFY(process.waitForFinished(CommandRun::patience));
+        QVERIFY(process.waitForFinished(patience));
         checkIsWhole(after);
         if (QTest::currentTestFailed()) {
             QFAIL(qPrintable(QStringLiteral("kill number %1").arg(kill)));
         }
-        QVERIFY(write(presets(), m_before.value(presetsName)));
-        QVERIFY(write(presets() + QStringLiteral(".bak"), m_before.value(presetsName)));
+        QVERIFY(writeFile(presets(), m_before.value(presetsName)));
+        QVERIFY(writeFile(presets() + QStringLiteral(".bak"), m_before.value(presetsName)));
     }
 }
 
@@ -309,7 +299,8 @@ void TestPresetSafety::aFullDiskLosesNothing()
         }
         bool isFilled = true;
         for (auto file = m_before.begin(); file != m_before.end(); ++file) {
-            isFilled = write(config() + QLatin1Char('/') + file.key(), file.value()) && isFilled;
+            isFilled =
+                writeFile(config() + QLatin1Char('/') + file.key(), file.value()) && isFilled;
         }
         if (!isFilled) {
             continue; // too small even for what is there
@@ -355,7 +346,7 @@ void TestPresetSafety::aReadOnlyFolderIsSaid()
         QSKIP("Only root may mount a small disk");
     }
     for (auto file = m_before.begin(); file != m_before.end(); ++file) {
-        QVERIFY(write(config() + QLatin1Char('/') + file.key(), file.value()));
+        QVERIFY(writeFile(config() + QLatin1Char('/') + file.key(), file.value()));
     }
     QVERIFY(disk.makeReadOnly());
     const CommandRun told = run(addition);
@@ -380,7 +371,7 @@ void TestPresetSafety::allOfManyAtATimeAreStored()
     }
     bool wasWaitTold = false;
     for (const auto &process : processes) {
-        QVERIFY(process->waitForFinished(5 * CommandRun::patience));
+        QVERIFY(process->waitForFinished(5 * patience));
         const QString told = QString::fromUtf8(process->readAllStandardError());
         QVERIFY2(process->exitCode() == 0, qUtf8Printable(told));
         wasWaitTold =

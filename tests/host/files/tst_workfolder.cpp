@@ -1,6 +1,7 @@
 #include "host/files/workfolder.h"
 
-#include "tests/host/forkedprocess.h"
+#include "tests/support/forkedprocess.h"
+#include "tests/support/testfiles.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -42,11 +43,6 @@ private:
         return QDir(m_place->path())
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
-    void write(const QString &path) const
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
     /*! The path of a folder that a dead process left, with a file in a folder in it. */
     QString leftover() const
     {
@@ -79,9 +75,9 @@ void TestWorkFolder::itGoesWithAllThatIsInIt()
 {
     {
         const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
-        write(folder->filePath(QStringLiteral("file")));
+        QVERIFY(writeFile(folder->filePath(QStringLiteral("file"))));
         QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("inner")));
-        write(folder->filePath(QStringLiteral("inner/file")));
+        QVERIFY(writeFile(folder->filePath(QStringLiteral("inner/file"))));
     }
     QCOMPARE(everything(), QStringList());
 }
@@ -129,7 +125,7 @@ void TestWorkFolder::linksAreNeverFollowed()
 {
     const QTemporaryDir elsewhere;
     const QString kept = elsewhere.filePath(QStringLiteral("kept"));
-    write(kept);
+    QVERIFY(writeFile(kept));
     const QString link = leftover();
     QVERIFY(QDir(link).removeRecursively());
     QVERIFY(QFile::link(elsewhere.path(), link));

@@ -1,4 +1,4 @@
-#include "tests/host/tracedrun.h"
+#include "tests/host/presets/tracedrun.h"
 
 #include <QFile>
 #include <QVector>

@@ -1,6 +1,7 @@
 #include "host/files/filelock.h"
 
-#include "tests/host/forkedprocess.h"
+#include "tests/support/forkedprocess.h"
+#include "tests/support/testfiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -28,8 +29,7 @@ private:
 void TestFileLock::init()
 {
     m_file = m_folder.filePath(QStringLiteral("file"));
-    QFile file(m_file);
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(writeFile(m_file));
 }
 
 void TestFileLock::oneHolderAtATime_data()
@@ -55,10 +55,7 @@ void TestFileLock::oneHolderAtATime()
 
 void TestFileLock::theContentMeansNothing()
 {
-    QFile file(m_file);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("1\nsomeone\nsomewhere else\n");
-    file.close();
+    QVERIFY(writeFile(m_file, "1\nsomeone\nsomewhere else\n"));
     FileLock lock;
     QVERIFY(lock.tryLock(m_file));
 }

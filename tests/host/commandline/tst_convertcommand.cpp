@@ -1,0 +1,282 @@
+#include "host/presets/folderlock.h"
+#include "tests/host/commandline/commandlinetest.h"
+#include "tests/support/mediaclips.h"
+#include "tests/support/runningprocess.h"
+
+#include <QProcess>
+#include <QSysInfo>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+/*! The subcommand that converts. */
+class TestConvertCommand : public CommandLineTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void aFileIsConverted();
+    void aFittingPresetConverts();
+    void oneBadFileDoesNotStopTheOthers();
+    void resultsOfOneRunAreNotOverwritten();
+    void aDryRunOnlyPrintsTheCommand();
+    void aNameInUseIsNumberedUnlessOverwriting();
+    void interruptingLeavesNothing_data();
+    void interruptingLeavesNothing();
+    void killedItLeavesNoToolRunning();
+    void withoutFfmpegItSaysWhatToInstall();
+    void shortOfFileDescriptorsItSaysSo();
+    void aPlaylistIsRefused();
+    void aDamagedPresetIsRefused_data();
+    void aDamagedPresetIsRefused();
+    void aConversionDoesNotWaitForThePresets();
+};
+
+void TestConvertCommand::initTestCase()
+{
+    CommandLineTest::initTestCase();
+    QVERIFY(MediaClips::makeFilm(m_clips.filePath(QStringLiteral("long.mp4")), 20));
+}
+
+void TestConvertCommand::aFileIsConverted()
+{
+    const CommandRun told = run("convert film.mp4 --preset V_MKV_1");
+    QCOMPARE(told.err, QString());
+    QCOMPARE(told.exitCode, 0);
+    const QString target = path(QStringLiteral("film.mkv"));
+    const MediaFacts facts = MediaClips::factsOf(target);
+    QCOMPARE(facts.video()->codec, QStringLiteral("mpeg4"));
+    const QStringList lines = told.out.trimmed().split(QLatin1Char('\n'));
+    QVERIFY(lines.size() >= 2);
+    QCOMPARE(lines.at(lines.size() - 2), QStringLiteral("film.mp4 -> ") + target);
+    QCOMPARE(lines.constLast(), QStringLiteral("  ") + facts.summary());
+    QVERIFY2(lines.constFirst().startsWith(QStringLiteral("film.mp4: ")),
+             qPrintable(lines.constFirst()));
+    QVERIFY(!told.out.contains(QLatin1Char('\r')));
+}
+
+void TestConvertCommand::aFittingPresetConverts()
+{
+    const CommandRun told = run("convert film.mp4 --type audio --format MP3 --target 320");
+    QCOMPARE(told.exitCode, 0);
+    QCOMPARE(MediaClips::factsOf(path(QStringLiteral("film.mp3"))).audio()->codec,
+             QStringLiteral("mp3"));
+    QCOMPARE(recentIds(), QStringList());
+}
+
+void TestConvertCommand::oneBadFileDoesNotStopTheOthers()
+{
+    QVERIFY(writeFile(path(QStringLiteral("bad.avi")), "no media"));
+    const CommandRun told = run("convert missing.mp4 bad.avi film.mp4 --preset V_MKV_1");
+    QCOMPARE(told.exitCode, 1);
+    QVERIFY(
+        told.err.startsWith(QStringLiteral("vexconvert: missing.mp4: no such file; check its name\n"
+                                           "vexconvert: bad.avi: cannot be read as media (")));
+    QCOMPARE(told.err.count(QLatin1Char('\n')), 2);
+    QVERIFY(told.out.endsWith(QStringLiteral("1 of 3 files converted\n")));
+    QCOMPARE(everything(), words("bad.avi film.mkv film.mp4"));
+}
+
+void TestConvertCommand::resultsOfOneRunAreNotOverwritten()
+{
+    QVERIFY(QFile::copy(path(QStringLiteral("film.mp4")), path(QStringLiteral("film.mov"))));
+    QCOMPARE(run("convert film.mp4 film.mov --preset V_MKV_1 --overwrite").exitCode, 0);
+    QVERIFY(QFile::exists(path(QStringLiteral("film.mkv"))));
+    QVERIFY(QFile::exists(path(QStringLiteral("film (2).mkv"))));
+
+    // Nor is a file that is still to be converted.
+    QVERIFY(QFile::copy(path(QStringLiteral("film.mp4")), path(QStringLiteral("film.m4v"))));
+    const QByteArray before = contentOf(path(QStringLiteral("film.mp4")));
+    QCOMPARE(run("convert film.m4v film.mp4 --preset V_MP4_2 --overwrite").exitCode, 0);
+    QCOMPARE(contentOf(path(QStringLiteral("film.mp4"))), before);
+}
+
+void TestConvertCommand::aDryRunOnlyPrintsTheCommand()
+{
+    QVERIFY(QFile::rename(path(QStringLiteral("film.mp4")), path(QStringLiteral("it's.mp4"))));
+    const CommandRun told =
+        run({QStringLiteral("convert"), QStringLiteral("it's.mp4"), QStringLiteral("--preset"),
+             QStringLiteral("V_MP4_1"), QStringLiteral("--dry-run")});
+    QCOMPARE(told.exitCode, 0);
+    QCOMPARE(told.out,
+             QStringLiteral(
+                 "ffmpeg -nostdin -hide_banner -v error -progress pipe:1 -y "
+                 "-protocol_whitelist file -format_whitelist "
+                 "mov,mp4,m4a,3gp,3g2,mj2 -i 'file:%1/it'\\''s.mp4' -map 0:0 -map 0:1 -c:v:0 copy "
+                 "-c:a:0 copy -movflags +faststart -f mp4 'file:%1/it'\\''s "
+                 "(2).mp4'\n")
+                 .arg(m_folder->path()));
+    QCOMPARE(everything(), QStringList{QStringLiteral("it's.mp4")});
+    QVERIFY(!QFile::exists(config()));
+}
+
+void TestConvertCommand::aNameInUseIsNumberedUnlessOverwriting()
+{
+    QVERIFY(writeFile(path(QStringLiteral("film.mkv")), "mine"));
+    QCOMPARE(run("convert film.mp4 --preset V_MKV_1").exitCode, 0);
+    QCOMPARE(contentOf(path(QStringLiteral("film.mkv"))), QByteArray("mine"));
+    QVERIFY(QFile::exists(path(QStringLiteral("film (2).mkv"))));
+    QCOMPARE(run("convert film.mp4 --preset V_MKV_1 --overwrite").exitCode, 0);
+    QVERIFY(contentOf(path(QStringLiteral("film.mkv"))) != QByteArray("mine"));
+    QCOMPARE(everything().size(), 3);
+}
+
+void TestConvertCommand::interruptingLeavesNothing_data()
+{
+    QTest::addColumn<int>("signalNumber");
+    QTest::newRow("Ctrl-C") << SIGINT;
+    QTest::newRow("terminate") << SIGTERM;
+    QTest::newRow("terminal closed") << SIGHUP;
+}
+
+void TestConvertCommand::interruptingLeavesNothing()
+{
+    QFETCH(int, signalNumber);
+    const QTemporaryDir tools;
+    QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("long.mp4")),
+                        path(QStringLiteral("long.mp4"))));
+    const QByteArray before = contentOf(path(QStringLiteral("long.mp4")));
+    QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("exec $REAL -re \"$@\"")));
+    m_environment.insert(QStringLiteral("PATH"),
+                         QString::fromLocal8Bit(MediaClips::pathWith(tools.path())));
+
+    GroupProcess process;
+    start(process, QStringList{QStringLiteral("--config"), config()} +
+                       words("convert long.mp4 film.mp4 --preset V_MKV_1"));
+    QByteArray told;
+    while (!told.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
+        told += process.readAllStandardOutput();
+    }
+    QCOMPARE(everything().size(), 3);
+    QCOMPARE(::kill(-pid_t(process.processId()), signalNumber), 0);
+    const CommandRun ended = CommandRun::of(process);
+    QCOMPARE(ended.exitCode, 1);
+    QCOMPARE(ended.err, QStringLiteral("vexconvert: long.mp4: stopped; nothing was written\n"));
+    QCOMPARE(ended.out, QStringLiteral("0 of 2 files converted\n"));
+    QCOMPARE(everything(), words("film.mp4 long.mp4"));
+    QCOMPARE(contentOf(path(QStringLiteral("long.mp4"))), before);
+}
+
+void TestConvertCommand::killedItLeavesNoToolRunning()
+{
+    const QTemporaryDir tools;
+    QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("long.mp4")),
+                        path(QStringLiteral("long.mp4"))));
+    // A helper that the tool starts outlives it, unless somebody ends it.
+    QVERIFY(MediaClips::makeStandIn(tools.path(),
+                                    QStringLiteral("sleep 1000 & echo $! > \"${0%/*}/helper\"\n"
+                                                   "exec $REAL -re \"$@\"")));
+    m_environment.insert(QStringLiteral("PATH"),
+                         QString::fromLocal8Bit(MediaClips::pathWith(tools.path())));
+    QProcess process;
+    start(process, QStringList{QStringLiteral("--config"), config()} +
+                       words("convert long.mp4 --preset V_MKV_1"));
+    QByteArray told;
+    while (!told.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
+        told += process.readAllStandardOutput();
+    }
+    const qint64 helper =
+        contentOf(tools.filePath(QStringLiteral("helper"))).trimmed().toLongLong();
+    QVERIFY(isRunning(helper));
+    process.kill();
+    QVERIFY(process.waitForFinished(patience));
+    QTRY_VERIFY_WITH_TIMEOUT(!isRunning(helper), patience);
+}
+
+void TestConvertCommand::withoutFfmpegItSaysWhatToInstall()
+{
+    m_environment.insert(QStringLiteral("PATH"), m_folder->path());
+    const CommandRun told = run("convert film.mp4 --preset V_MKV_1");
+    QCOMPARE(told.exitCode, 1);
+    QCOMPARE(told.err, QStringLiteral("vexconvert: film.mp4: ffprobe is not on the PATH; install "
+                                      "ffmpeg (Debian: apt-get install ffmpeg) and try again\n"));
+    QCOMPARE(run("formats").exitCode, 0);
+}
+
+void TestConvertCommand::shortOfFileDescriptorsItSaysSo()
+{
+    const QString reason = QStringLiteral("vexconvert: film.mp4: ffprobe couldn't be started (");
+    bool isSaid = false;
+    for (int limit = 6; limit <= 18; ++limit) {
+        QProcess process;
+        process.setProcessEnvironment(m_environment);
+        process.setWorkingDirectory(m_folder->path());
+        process.start(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"), QStringLiteral("ulimit -n %1; exec \"$0\" \"$@\"").arg(limit),
+             QStringLiteral(VEXCONVERT), QStringLiteral("--config"), config(),
+             QStringLiteral("convert"), QStringLiteral("film.mp4"), QStringLiteral("--preset"),
+             QStringLiteral("V_MKV_1"), QStringLiteral("--dry-run")});
+        const CommandRun told = CommandRun::of(process);
+        QVERIFY2(!told.err.contains(QStringLiteral("PATH")), qPrintable(told.err));
+        QVERIFY2(told.err.count(QStringLiteral("film.mp4: ")) <= 1, qPrintable(told.err));
+        isSaid = isSaid || (told.exitCode == 1 && told.err.contains(reason));
+    }
+    QVERIFY(isSaid);
+}
+
+void TestConvertCommand::aPlaylistIsRefused()
+{
+    QVERIFY(writeFile(path(QStringLiteral("holiday.mp4")),
+                      "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n"
+                      "film.mp4\n#EXT-X-ENDLIST\n"));
+    const CommandRun told = run("convert holiday.mp4 --preset V_MKV_1");
+    QCOMPARE(told.exitCode, 1);
+    QCOMPARE(told.err, QStringLiteral("vexconvert: holiday.mp4: is a playlist; choose the files "
+                                      "that it lists\n"));
+    QCOMPARE(everything(), words("film.mp4 holiday.mp4"));
+}
+
+void TestConvertCommand::aDamagedPresetIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("good");
+    QTest::addColumn<QByteArray>("bad");
+    QTest::newRow("extension") << QByteArray("\"mkv\"") << '"' + QByteArray(300, 'x') + '"';
+    QTest::newRow("path") << QByteArray("\"mkv\"") << QByteArray("\"../mkv\"");
+    QTest::newRow("encoder") << QByteArray("\"mpeg4\"") << QByteArray("\"mpeg4 -y\"");
+}
+
+void TestConvertCommand::aDamagedPresetIsRefused()
+{
+    QFETCH(QByteArray, good);
+    QFETCH(QByteArray, bad);
+    QCOMPARE(run({QStringLiteral("user"), QStringLiteral("add"), QStringLiteral("V_MKV_1"),
+                  QStringLiteral("--title"), QStringLiteral("Mine")})
+                 .exitCode,
+             0);
+    const QString file = config() + QStringLiteral("/formatCache.json");
+    QByteArray presets = contentOf(file);
+    QVERIFY2(presets.contains(good), presets.constData());
+    QVERIFY(writeFile(file, presets.replace(good, bad)));
+    const QString id =
+        run("user list").out.section(QLatin1Char('\n'), 1).section(QLatin1Char(' '), 0, 0);
+    const CommandRun told = run(
+        {QStringLiteral("convert"), QStringLiteral("film.mp4"), QStringLiteral("--preset"), id});
+    QCOMPARE(told.exitCode, 1);
+    QVERIFY2(told.err.endsWith(QStringLiteral("; choose another preset\n")), qPrintable(told.err));
+    QCOMPARE(told.err.count(QLatin1Char('\n')), 1);
+    QCOMPARE(everything(), words("film.mp4"));
+}
+
+void TestConvertCommand::aConversionDoesNotWaitForThePresets()
+{
+    FolderLock lock;
+    QVERIFY(lock.lock(config(), 0));
+    const QString holder = QStringLiteral("%1 (process %2 on %3)")
+                               .arg(QCoreApplication::applicationName())
+                               .arg(QCoreApplication::applicationPid())
+                               .arg(QSysInfo::machineHostName());
+    const CommandRun convert = run("convert film.mp4 --preset V_MKV_1");
+    QCOMPARE(convert.exitCode, 0);
+    QCOMPARE(convert.err,
+             QStringLiteral("vexconvert: the preset isn't noted as recently used: %1 is using the "
+                            "presets in %2; close it, or try again when it is done\n")
+                 .arg(holder, config()));
+    QVERIFY(QFile::exists(path(QStringLiteral("film.mkv"))));
+    QCOMPARE(run("user list").err, QString());
+}
+
+QTEST_GUILESS_MAIN(TestConvertCommand)
+#include "tst_convertcommand.moc"
