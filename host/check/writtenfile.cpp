@@ -3,6 +3,7 @@
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
 #include "host/media/mediainput.h"
+#include "host/media/sizetext.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "host/commandline/progresstext.h"
 
 #include "host/commandline/commandline.h"
-#include "host/media/mediafacts.h"
+#include "host/media/clocktext.h"
 
 QString progressText(const Progress &progress)
 {

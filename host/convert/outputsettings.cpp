@@ -1,7 +1,7 @@
 #include "host/convert/outputsettings.h"
 
 #include "host/convert/containers.h"
-#include "host/media/mediafacts.h"
+#include "host/media/sizetext.h"
 
 #include <QRegularExpression>
 
@@ -48,16 +48,9 @@ Ratio rateFromText(const QString &text)
     return rate.isValid() ? rate : unreadableRate;
 }
 
-QSize sizeFromText(const QString &text)
+QSize boxFromText(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\d+)x(\\d+)\\z"));
-    const QRegularExpressionMatch match = form.match(text);
-    if (text.isEmpty()) {
-        return {};
-    }
-    return match.hasMatch()
-               ? QSize(countFromText(match.captured(1)), countFromText(match.captured(2)))
-               : unreadableSize;
+    return text.isEmpty() ? QSize() : sizeFromText(text).value_or(unreadableSize);
 }
 
 double videoKbpsOf(const QVariantMap &preset)
@@ -132,7 +125,7 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
         const QVariantMap video = preset.value(QStringLiteral("video")).toMap();
         settings.videoCodec = chosenText(video, QStringLiteral("encoder"));
         settings.frameRate = rateFromText(chosenText(video, QStringLiteral("frameRate")));
-        settings.box = sizeFromText(chosenText(video, QStringLiteral("resolution")));
+        settings.box = boxFromText(chosenText(video, QStringLiteral("resolution")));
         settings.videoKbps = videoKbpsOf(preset);
     }
 

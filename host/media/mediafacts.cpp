@@ -1,6 +1,8 @@
 #include "host/media/mediafacts.h"
 
+#include "host/media/clocktext.h"
 #include "host/media/probetracks.h"
+#include "host/media/sizetext.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -139,25 +141,7 @@ QString MediaFacts::summary() const
     return parts.join(QStringLiteral(", "));
 }
 
-QString sizeText(const QSize &size)
-{
-    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-}
-
 double plausibleSeconds(double seconds)
 {
     return seconds >= 0 && seconds <= longestSeconds ? seconds : 0;
-}
-
-QString clockText(double seconds)
-{
-    const qint64 whole = std::llround(plausibleSeconds(seconds));
-    const QLatin1Char zero('0');
-    const QString tail = QStringLiteral("%1:%2");
-    const qint64 minutes = whole / 60;
-    if (minutes < 60) {
-        return tail.arg(minutes).arg(whole % 60, 2, 10, zero);
-    }
-    return QStringLiteral("%1:").arg(minutes / 60) +
-           tail.arg(minutes % 60, 2, 10, zero).arg(whole % 60, 2, 10, zero);
 }

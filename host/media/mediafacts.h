@@ -38,13 +38,7 @@ public:
     [[nodiscard]] QString summary() const;
 };
 
-/*! "1280x720". */
-[[nodiscard]] QString sizeText(const QSize &size);
-
 /*! \a seconds where a file may last that long, else 0: unknown. */
 [[nodiscard]] double plausibleSeconds(double seconds);
-
-/*! "0:09", "12:30" or "1:02:03"; "0:00" for seconds that aren't plausible. */
-[[nodiscard]] QString clockText(double seconds);
 
 #endif

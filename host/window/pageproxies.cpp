@@ -1,13 +1,13 @@
 #include "host/window/pageproxies.h"
 
-#include "host/window/clock.h"
+#include "host/media/clocktext.h"
 
 double EditorProxy::secondsOf(const QString &text) const
 {
-    return Clock::secondsOf(text);
+    return secondsFromClockText(text);
 }
 
 QString EditorProxy::clockOf(double seconds) const
 {
-    return Clock::textOf(seconds);
+    return exactClockText(seconds);
 }

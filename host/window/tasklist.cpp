@@ -1,6 +1,7 @@
 #include "host/window/tasklist.h"
 
 #include "host/files/visibletext.h"
+#include "host/media/clocktext.h"
 
 #include <QFileInfo>
 #include <QLocale>

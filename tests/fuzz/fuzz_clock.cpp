@@ -1,5 +1,5 @@
+#include "host/media/clocktext.h"
 #include "host/media/mediafacts.h"
-#include "host/window/clock.h"
 #include "tests/fuzz/fuzzing.h"
 
 #include <cmath>
@@ -9,12 +9,12 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input = inputBytes(data, size);
-    const double typed = Clock::secondsOf(QString::fromUtf8(input));
+    const double typed = secondsFromClockText(QString::fromUtf8(input));
     require(typed == -1 || typed == plausibleSeconds(typed));
 
     double any = typed;
     std::memcpy(&any, input.constData(), qMin(sizeof any, size));
-    const double shown = Clock::secondsOf(Clock::textOf(any));
+    const double shown = secondsFromClockText(exactClockText(any));
     constexpr double longestReadBack = 999 * 3600;
     require(plausibleSeconds(any) > longestReadBack ||
             std::abs(shown - plausibleSeconds(any)) <= 0.0051);

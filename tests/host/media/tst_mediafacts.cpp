@@ -40,8 +40,6 @@ private Q_SLOTS:
     void otherStreamsAreLeftOut();
     void theSummaryIsOneLineForPeople_data();
     void theSummaryIsOneLineForPeople();
-    void aClockTellsHoursOnlyWhenThereAreSome_data();
-    void aClockTellsHoursOnlyWhenThereAreSome();
 
 private:
     static MediaFacts probe(const QByteArray &streams,
@@ -366,29 +364,6 @@ void TestMediaFacts::theSummaryIsOneLineForPeople()
     QFETCH(QByteArray, streams);
     QFETCH(QString, summary);
     QCOMPARE(probe(streams, R"("duration": "61.6", "size": "1536")").summary(), summary);
-}
-
-void TestMediaFacts::aClockTellsHoursOnlyWhenThereAreSome_data()
-{
-    QTest::addColumn<double>("seconds");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("nothing") << 0.0 << QStringLiteral("0:00");
-    QTest::newRow("negative") << -3.0 << QStringLiteral("0:00");
-    QTest::newRow("too many") << 1e300 << QStringLiteral("0:00");
-    QTest::newRow("no number") << qQNaN() << QStringLiteral("0:00");
-    QTest::newRow("rounded") << 0.98 << QStringLiteral("0:01");
-    QTest::newRow("minutes") << 754.0 << QStringLiteral("12:34");
-    QTest::newRow("an hour less one") << 3599.0 << QStringLiteral("59:59");
-    QTest::newRow("an hour") << 3600.0 << QStringLiteral("1:00:00");
-    QTest::newRow("rounded up to an hour") << 3599.6 << QStringLiteral("1:00:00");
-    QTest::newRow("hours") << 3723.0 << QStringLiteral("1:02:03");
-}
-
-void TestMediaFacts::aClockTellsHoursOnlyWhenThereAreSome()
-{
-    QFETCH(double, seconds);
-    QFETCH(QString, text);
-    QCOMPARE(clockText(seconds), text);
 }
 
 QTEST_GUILESS_MAIN(TestMediaFacts)

@@ -1,0 +1,51 @@
+#include "host/media/clocktext.h"
+
+#include "host/media/mediafacts.h"
+
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace {
+
+QString wholeText(qint64 seconds)
+{
+    const QLatin1Char zero('0');
+    const QString hours = seconds < 3600 ? QString() : QStringLiteral("%1:").arg(seconds / 3600);
+    return hours + QStringLiteral("%1:%2")
+                       .arg(seconds / 60 % 60, hours.isEmpty() ? 1 : 2, 10, zero)
+                       .arg(seconds % 60, 2, 10, zero);
+}
+
+} // namespace
+
+QString clockText(double seconds)
+{
+    return wholeText(std::llround(plausibleSeconds(seconds)));
+}
+
+QString exactClockText(double seconds)
+{
+    const qint64 hundredths = std::llround(plausibleSeconds(seconds) * 100);
+    const QString text = wholeText(hundredths / 100);
+    const qint64 rest = hundredths % 100;
+    if (rest == 0) {
+        return text;
+    }
+    return rest % 10 == 0 ? QStringLiteral("%1.%2").arg(text).arg(rest / 10)
+                          : QStringLiteral("%1.%2").arg(text).arg(rest, 2, 10, QLatin1Char('0'));
+}
+
+double secondsFromClockText(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral(
+        "^(?:(?:(\\d{1,3}):)?(\\d{1,2}):)?(\\d{1,2}|(?<!:)\\d{1,6})([.,]\\d{1,3})?$"));
+    const QRegularExpressionMatch match = pattern.match(text.trimmed());
+    if (!match.hasMatch()) {
+        return -1;
+    }
+    const QString fraction = match.captured(4).mid(1);
+    const double minutes = match.captured(1).toInt() * 60 + match.captured(2).toInt();
+    return minutes * 60 + match.captured(3).toInt() +
+           fraction.toInt() / std::pow(10.0, fraction.size());
+}
