@@ -1,6 +1,6 @@
-// Look-ups must cost the same in a small and a large catalogue; init() and uninit() must stay
-// close to their floor: the same data read, or written, without doing anything with it. Every
-// figure stands beside its floor, measured in the same run, as the counter "ratio".
+// Lookups must cost the same in a small and a large catalogue; init() and uninit() must stay close
+// to their floor: reading, or writing, the same data without processing it. Each figure comes with
+// its ratio to the floor, measured in the same run, as the counter "ratio".
 
 #include "benchmarks/largecatalogue.h"
 #include "formats/proxy/formatsproxy.h"
@@ -28,7 +28,7 @@ double seconds(const std::function<void()> &work)
     return double(timer.nsecsElapsed()) / 1e9;
 }
 
-// Times both in turn, so that a machine that changes its speed changes both.
+// Times both alternately, so that a change of the machine's speed affects both.
 void compare(benchmark::State &state, const std::function<double()> &work,
              const std::function<double()> &floor)
 {
@@ -60,9 +60,9 @@ std::unique_ptr<FormatsProxy> loadedFacade(int formats)
     return facade;
 }
 
-// --- look-ups -------------------------------------------------------------------------------
+// --- lookups --------------------------------------------------------------------------------
 
-using LookUp = bool (*)(FormatsProxy &, const QString &id); // true: found
+using Lookup = bool (*)(FormatsProxy &, const QString &id); // true: found
 
 bool getTagAndClassById(FormatsProxy &facade, const QString &id)
 {
@@ -100,8 +100,8 @@ QStringList idsAcross(int formats, bool hit)
     return ids;
 }
 
-// Each look-up in the large catalogue against the same one in the small catalogue.
-void lookUp(benchmark::State &state, LookUp function, bool hit)
+// Each lookup in the large catalogue against the same one in the small catalogue.
+void lookUp(benchmark::State &state, Lookup function, bool hit)
 {
     const auto small = loadedFacade(smallFormats);
     const auto large = loadedFacade(largeFormats);
@@ -114,7 +114,7 @@ void lookUp(benchmark::State &state, LookUp function, bool hit)
                 found += function(facade, id) ? 1 : 0;
             }
         });
-        require(state, found == (hit ? ids.size() : 0), "a look-up gave a wrong answer");
+        require(state, found == (hit ? ids.size() : 0), "a lookup gave a wrong result");
         return elapsed;
     };
     compare(
@@ -124,7 +124,7 @@ void lookUp(benchmark::State &state, LookUp function, bool hit)
 
 // --- init and uninit ------------------------------------------------------------------------
 
-// Each key that the import needs read once and its value copied.
+// Reads each key that the import needs once and copies its value.
 double readCatalogue()
 {
     static const QString paramKeys[] = {QStringLiteral("encoder"), QStringLiteral("bitrateKbps")};
@@ -185,7 +185,7 @@ void initCatalogue(benchmark::State &state)
     compare(state, init, readCatalogue);
 }
 
-// As many presets of the user's own as the large catalogue has, in formatCache.json.
+// As many user-defined presets as the large catalogue has, in formatCache.json.
 void writeUserPresets(const QString &folder)
 {
     LargeCatalogue::serve(largeFormats);

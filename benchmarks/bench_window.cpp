@@ -1,5 +1,5 @@
-// How long the window takes to answer: each figure is printed beside the time that a person waits
-// without noticing, and the exit code is 1 when one is over it.
+// How long the window takes to respond: each figure is printed beside the delay that a person does
+// not notice, and the exit code is 1 if one exceeds it.
 
 #include "formats/models/formatdetailmodel.h"
 #include "formats/proxy/formatsproxy.h"
@@ -18,7 +18,7 @@
 
 namespace {
 
-/*! Ends the program when what is to be timed didn't happen. */
+/*! Exits if what is to be timed didn't happen. */
 void require(bool isSo, const char *otherwise)
 {
     if (!isSo) {
@@ -40,7 +40,7 @@ double sinceStart(const QElapsedTimer &clock)
     return double(clock.nsecsElapsed()) / 1e6;
 }
 
-/*! Lets the window draw what has changed, and returns when that is done. */
+/*! Renders the window's changes and returns when that is done. */
 void waitForFrame(QQuickWindow *window)
 {
     QEventLoop loop;
@@ -50,7 +50,7 @@ void waitForFrame(QQuickWindow *window)
     loop.exec();
 }
 
-/*! The first preset of the format that has most of them. */
+/*! The first preset of the format with the most presets. */
 QString presetOfTheBiggestClass(FormatsProxy &formats)
 {
     const FormatListModel &list = *formats.formatListModel();
@@ -87,9 +87,8 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QTemporaryDir config;
     MainWindow main(config.path());
-    const QString problem = main.open();
-    if (!problem.isEmpty()) {
-        qFatal("%s", qUtf8Printable(problem));
+    if (const Result<> opened = main.open(); !opened) {
+        qFatal("%s", qUtf8Printable(opened.error().text));
     }
     QQuickWindow *window = main.window();
     waitForFrame(window);
@@ -107,7 +106,7 @@ int main(int argc, char **argv)
         QMetaObject::invokeMethod(picker, "close");
         waitForFrame(window);
     }
-    isFast &= report(QStringLiteral("Picker of the biggest class, for the first time"),
+    isFast &= report(QStringLiteral("Picker of the biggest class, first opening"),
                      openings.constFirst(), 150);
     isFast &=
         report(QStringLiteral("Picker of the biggest class, median of %1").arg(openings.size()),
@@ -125,11 +124,12 @@ int main(int argc, char **argv)
         }
         require(FormatsProxy::getInstance()->formatListModelProxy()->searchKey() ==
                     QStringLiteral("mp4"),
-                "the search didn't get the keys");
+                "the search field didn't receive the keys");
         QMetaObject::invokeMethod(picker, "showTag", Q_ARG(QVariant, QStringLiteral("video")));
         waitForFrame(window);
     }
-    isFast &= report(QStringLiteral("Key stroke in the search, median of %1").arg(strokes.size()),
-                     medianOf(strokes), 16);
+    isFast &=
+        report(QStringLiteral("Keystroke in the search field, median of %1").arg(strokes.size()),
+               medianOf(strokes), 16);
     return isFast ? 0 : 1;
 }

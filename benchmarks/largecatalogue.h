@@ -4,14 +4,14 @@
 #include <QVariant>
 
 /*!
- * A catalogue of any size in place of the host's: compiled in, it replaces FormatCodecApi for the
- * whole process. Every format has presetsPerFormat presets, all with the same option lists.
+ * A catalogue of any size: linking it replaces FormatCodecApi for the whole process. Every format
+ * has presetsPerFormat presets, all with the same option lists.
  */
 namespace LargeCatalogue {
 
 constexpr int presetsPerFormat = 100;
 
-/*! Makes the catalogue that is served from now on. */
+/*! Creates the catalogue that is served from now on. */
 void serve(int formats);
 
 QVariantList groups();

@@ -111,7 +111,7 @@ bool FormatDetailModel::delModeInfo(int index)
     }
     beginRemoveRows(QModelIndex(), index, index);
     const std::unique_ptr<FormatDetailModelData> row(m_rows.takeAt(index));
-    forgetId(row->id, row.get());
+    removeFromIndex(row->id, row.get());
     endRemoveRows();
     updateCount();
     return true;
@@ -131,8 +131,8 @@ bool FormatDetailModel::updateModeInfo(int index, const FormatDetailModelData &d
     const QString oldId = row->id;
     *row = data;
     if (row->id != oldId) {
-        forgetId(oldId, row);
-        learnId(row, false);
+        removeFromIndex(oldId, row);
+        addToIndex(row, false);
         m_rowsById->sort(row->id, m_rows);
     }
 
@@ -233,7 +233,7 @@ void FormatDetailModel::insertData(int index, FormatDetailModelData &&data)
     beginInsertRows(QModelIndex(), index, index);
     auto *row = new FormatDetailModelData(std::move(data));
     m_rows.insert(index, row);
-    learnId(row, index == 0);
+    addToIndex(row, index == 0);
     if (row->userDefine) {
         s_userDefineId = std::max(s_userDefineId, row->id.toInt());
     }
@@ -241,7 +241,7 @@ void FormatDetailModel::insertData(int index, FormatDetailModelData &&data)
     updateCount();
 }
 
-void FormatDetailModel::learnId(FormatDetailModelData *row, bool atHead)
+void FormatDetailModel::addToIndex(FormatDetailModelData *row, bool atHead)
 {
     const bool isNew =
         atHead ? m_rowsById->prepend(row->id, row) : m_rowsById->append(row->id, row);
@@ -250,7 +250,7 @@ void FormatDetailModel::learnId(FormatDetailModelData *row, bool atHead)
     }
 }
 
-void FormatDetailModel::forgetId(const QString &id, FormatDetailModelData *row)
+void FormatDetailModel::removeFromIndex(const QString &id, FormatDetailModelData *row)
 {
     const bool isGone = m_rowsById->remove(id, row);
     if (isGone && m_titlesById) {

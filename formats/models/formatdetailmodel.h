@@ -14,10 +14,10 @@ class KeyIndex;
 /*!
  * A list of output presets: those of one format, or the recently used ones.
  *
- * Ids are compared exactly and need not be unique; a look-up by id takes the first row that has
- * it, and costs the same however long the list is. Every change of the rows sets `count` and
- * emits countChanged(). Nothing throws: a row out of range or an unknown id gives false, -1, an
- * empty text or an invalid variant and changes nothing.
+ * Ids are case-sensitive and need not be unique; a lookup by id finds the first matching row, in
+ * constant time. Every insertion or removal of rows sets `count` and emits countChanged(). Nothing
+ * throws: a row out of range or an unknown id returns false, -1, an empty string or an invalid
+ * variant, and changes nothing.
  */
 class VEX_FORMATS_EXPORT FormatDetailModel : public QAbstractListModel
 {
@@ -63,26 +63,26 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /*! The row's id; empty when there is no such row. */
+    /*! The row's id; empty if there is no such row. */
     [[nodiscard]] Q_INVOKABLE QString getId(int index) const;
     [[nodiscard]] Q_INVOKABLE bool isExist(const QString &id) const;
 
-    /*! The number last stored by a change of rows or by setCount(). */
+    /*! The number last stored by a change of the rows or by setCount(). */
     [[nodiscard]] int count() const;
-    /*! Stores \a count and emits countChanged(), also for an unchanged value. */
+    /*! Stores \a count and emits countChanged(), even if the value is unchanged. */
     void setCount(int count);
 
     [[nodiscard]] bool containId(const QString &id) const;
-    /*! The first row with this id; -1 when there is none. */
+    /*! The first row with this id; -1 if there is none. */
     [[nodiscard]] int findModelInfoIndex(const QString &id) const;
-    /*! The highest number that a user-defined preset of any list has had as its id so far. */
+    /*! The highest numeric id of a user-defined preset so far, across all lists. */
     [[nodiscard]] int getIdIndex() const;
     [[nodiscard]] int userDefineCount() const;
 
-    /*! Appends a copy; a user-defined preset with a higher numeric id raises getIdIndex(). */
+    /*! Appends the preset; a user-defined one with a higher numeric id raises getIdIndex(). */
     bool addModeInfo(const FormatDetailModelData &data);
     bool addModeInfo(FormatDetailModelData &&data);
-    /*! The same at row 0. */
+    /*! Like addModeInfo(), but at row 0. */
     bool addModeInfoAtHead(const FormatDetailModelData &data);
     bool delModeInfo(int index);
     bool delModelInfoByKey(const QString &id);
@@ -98,14 +98,14 @@ public:
 
     /*! Writes the extension, the only writable role; true whenever the id is known. */
     bool setRoleValue(InvitationRoles role, const QString &id, const QVariant &value);
-    /*! The extension, the only role that can be read by id; else an invalid variant. */
+    /*! The extension, the only role that can be read by id; an invalid variant for any other. */
     [[nodiscard]] QVariant getRoleValue(InvitationRoles role, const QString &id) const;
 
     /*! toVarMap() of each user-defined preset. */
     [[nodiscard]] QVariantList toVariantList() const;
     /*! toVarMapForSave() of each user-defined preset. */
     [[nodiscard]] QVariantList toVariantListForSave() const;
-    /*! toVarMap() of every preset, its id taken from s_idForTest, which counts on. */
+    /*! toVarMap() of every preset, with an id from the running number s_idForTest. */
     [[nodiscard]] QVariantList toVariantListForTest() const;
 
     static int s_userDefineId;
@@ -118,24 +118,25 @@ private:
     friend class FormatsProxyPrivate;
     friend class PresetLists;
 
-    // The first row with this id, valid until the rows change; null when there is none.
+    // The first row with this id, valid until the rows change; null if there is none.
     [[nodiscard]] const FormatDetailModelData *find(const QString &id) const;
 
     bool hasRow(int index) const;
     void insertData(int index, FormatDetailModelData &&data);
-    void learnId(FormatDetailModelData *row, bool atHead);
-    void forgetId(const QString &id, FormatDetailModelData *row);
+    void addToIndex(FormatDetailModelData *row, bool atHead);
+    void removeFromIndex(const QString &id, FormatDetailModelData *row);
     void updateCount();
     QVariantList userDefined(QVariantMap (FormatDetailModelData::*toMap)() const) const;
 
-    // From joining, while still empty, to leaving, the catalogue's index has every id of this list.
+    // Between joining, while still empty, and leaving, every id of this list is in the catalogue's
+    // index.
     void joinCatalogue(KeyIndex<QString> &titlesById, const QString &title);
     void leaveCatalogue();
 
     QQueue<FormatDetailModelData *> m_rows;
     int m_count = 0;
     const QScopedPointer<KeyIndex<FormatDetailModelData *>> m_rowsById;
-    KeyIndex<QString> *m_titlesById = nullptr; // of the catalogue that this list stands in
+    KeyIndex<QString> *m_titlesById = nullptr; // of the catalogue that this list belongs to
     QString m_title;                           // this list's format there
 };
 

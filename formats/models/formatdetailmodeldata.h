@@ -9,9 +9,9 @@
 /*!
  * One output preset: a container with its encoder settings and the values offered for each.
  *
- * Chosen values are texts, numbers too: bitrates in kbps, sample rates in Hz, frame rates in fps,
- * resolutions as "1920x1080"; "0" keeps the source's own value. Nothing checks that a chosen value
- * is one of those offered.
+ * Chosen values are strings, even numbers: bitrates in kbps, sample rates in Hz, frame rates in
+ * fps, resolutions as "1920x1080"; "0" keeps the source's own value. Nothing checks that a chosen
+ * value is one of those offered.
  */
 class VEX_FORMATS_EXPORT FormatDetailModelData
 {
@@ -28,7 +28,7 @@ public:
     QVariantList videoFrameRates;
     QString videoResolution = QStringLiteral("0");
     QVariantList videoResolutions;
-    QString videoBitrate = QStringLiteral("0"); //!< the catalogue's own; in no map and no role
+    QString videoBitrate = QStringLiteral("0"); //!< the catalogue's own; not in any map or role
     QString videoBitrateLow = QStringLiteral("0");
     QString videoBitrateMid = QStringLiteral("0");
     QString videoBitrateHigh = QStringLiteral("0");
@@ -43,7 +43,7 @@ public:
     QVariantList audioBitrates;
     bool isLoseless = false;
     bool supportMultiTrack = false;
-    QVariantMap outPutNode; //!< the converter's settings, carried and never looked into
+    QVariantMap outPutNode; //!< the converter's settings, passed through
     QString param;
 
     /*!
@@ -54,12 +54,12 @@ public:
     [[nodiscard]] QVariantMap toVarMap() const;
 
     /*!
-     * The preset as the files hold it: toVarMap() with the video bitrates folded into one text
-     * "bitrates", "high:mid:low:" and the offered ones joined by ",".
+     * The preset as it is saved: toVarMap() with the video bitrates folded into one string
+     * "bitrates": "high:mid:low:" and the offered ones joined by ",".
      */
     [[nodiscard]] QVariantMap toVarMapForSave() const;
 
-    /*! The items' texts joined by \a sep; empty for an empty list. Nothing is escaped. */
+    /*! The items as strings, joined by \a sep; empty for an empty list. Nothing is escaped. */
     [[nodiscard]] QString joinStringList(const QVariantList &list, const QString &sep) const;
 };
 

@@ -321,7 +321,7 @@ QVariantList FormatListModel::nested(QVariantList (FormatDetailModel::*toList)()
 {
     QVariantList list;
     for (const FormatListModelData *row : qAsConst(m_rows)) {
-        const FormatDetailModel *presets = m_presetLists->findOrEnter(row->title);
+        const FormatDetailModel *presets = m_presetLists->findOrInsertNull(row->title);
         const QVariantList group = presets ? (presets->*toList)() : QVariantList();
         if (!group.isEmpty()) {
             QVariantMap format = row->toVarMap();

@@ -14,13 +14,13 @@ template <typename Value>
 class KeyIndex;
 
 /*!
- * The output formats in catalogue order, and beside them the presets of each, by format title.
+ * The output formats in catalogue order, and the presets of each by format title.
  *
- * Titles and ids are compared exactly. A look-up by preset id costs the same however many formats
- * and presets there are. Preset lists belong to this model and are released with deleteLater().
- * Renaming a format does not take its presets along: they stay under the old title.
- * Nothing throws: a row out of range or an unknown title or id gives false, -1, null, an empty
- * text or list or an invalid variant and changes nothing.
+ * Titles and ids are case-sensitive. A lookup by preset id takes the same time however many formats
+ * and presets there are. The model owns its preset lists and releases them with deleteLater().
+ * Renaming a format does not move its presets: they stay under the old title.
+ * Nothing throws: a row out of range or an unknown title or id returns false, -1, null, an empty
+ * string or list or an invalid variant, and changes nothing.
  */
 class VEX_FORMATS_EXPORT FormatListModel : public QAbstractListModel
 {
@@ -43,19 +43,19 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /*! The presets stored under this title; null when there are none. */
+    /*! The presets stored under this title; null if there are none. */
     [[nodiscard]] Q_INVOKABLE FormatDetailModel *formatDetailModel(const QString &name) const;
     [[nodiscard]] Q_INVOKABLE QString getTitle(int index) const;
     [[nodiscard]] Q_INVOKABLE bool isExist(const QString &title) const;
 
-    /*! The number last stored by a change of rows or by setCount(). */
+    /*! The number last stored by a change of the rows or by setCount(). */
     [[nodiscard]] int count() const;
-    /*! Stores \a count and emits countChanged(), also for an unchanged value. */
+    /*! Stores \a count and emits countChanged(), even if the value is unchanged. */
     void setCount(int count);
 
-    /*! The first row with this title; -1 when there is none. */
+    /*! The first row with this title; -1 if there is none. */
     [[nodiscard]] int findModelInfoIndex(const QString &title) const;
-    /*! Whether any preset list has this preset id. */
+    /*! Whether any preset has this id. */
     [[nodiscard]] bool containId(const QString &id) const;
     /*! The title, first in alphabetical order, whose presets have this id. */
     [[nodiscard]] QString getGetClass(const QString &id) const;
@@ -65,11 +65,11 @@ public:
     [[nodiscard]] QString getIcon(const QString &id) const;
 
     /*!
-     * Appends a format with an empty preset list. Where the title is already there, the new list
-     * takes the old one's place for all rows of that title.
+     * Appends a format with an empty preset list. If the title exists already, the new list
+     * replaces the old one for all rows with that title.
      */
     bool addModeInfo(const FormatListModelData &data);
-    /*! The same at row 0. */
+    /*! Like addModeInfo(), but at row 0. */
     bool addModeInfoAtHead(const FormatListModelData &data);
     /*! Removes the row and the presets under its title. */
     bool delModeInfo(int index);
@@ -86,26 +86,26 @@ public:
     bool getModelInfoByIndex(int index, FormatListModelData &out) const;
     bool getModelInfoByTitle(const QString &title, FormatListModelData &out) const;
 
-    /*! Writes one text of the first row with this title; true whenever the title is known. */
+    /*! Writes one field of the first row with this title; true whenever the title is known. */
     bool setRoleValue(InvitationRoles role, const QString &title, const QVariant &value);
     [[nodiscard]] QVariant getRoleValue(InvitationRoles role, const QString &title) const;
 
     /*!
-     * One map for each format that has something to list: its "title", "icon" and "tag", and as
-     * "group" the list that its presets give. A title without presets counts as known from then
-     * on: delDetailModel() is true for it, once.
+     * One map per format with presets to list: "title", "icon", "tag" and, as "group", the list
+     * from its FormatDetailModel. A title without a preset list gets a null one, so that the next
+     * delDetailModel() with that title returns true.
      */
     QVariantList toVariantList();
     QVariantList toVariantListForSave();
     QVariantList toVariantListTest();
 
-    /*! The titles tagged "video" or "audio". */
+    /*! The titles of the formats tagged "video" or "audio". */
     [[nodiscard]] QStringList formatList() const;
     [[nodiscard]] QStringList getFormatList(const QString &tag) const;
     /*! Whether \a type in upper case is the title of a format tagged "video". */
     [[nodiscard]] bool isVideoType(const QString &type) const;
 
-    /*! Moves a row; views are not told. */
+    /*! Moves a row without notifying views. */
     void moveDrag(int from, int to);
 
 Q_SIGNALS:

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QVariant>
 
-/*! One output format, such as "MP4", whose presets stand in a list of their own. */
+/*! One output format, such as "MP4", without its presets. */
 class VEX_FORMATS_EXPORT FormatListModelData
 {
 public:
@@ -14,7 +14,7 @@ public:
     QString icon;
     QString tag; //!< the category, in lower case
 
-    /*! The three texts under "title", "icon" and "tag". */
+    /*! The fields as "title", "icon" and "tag". */
     [[nodiscard]] QVariantMap toVarMap() const;
 };
 

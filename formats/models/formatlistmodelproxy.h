@@ -8,9 +8,9 @@
 class FormatListModelData;
 
 /*!
- * The formats of one tag or, while a search text is set, those of every tag whose title contains
- * it. Case does not count. The source is a FormatListModel; over any other model the look-ups
- * find nothing.
+ * The formats of one tag or, while a search text is set, those of any tag whose title contains it.
+ * Matching is case-insensitive. The source must be a FormatListModel; with any other model the
+ * lookups find nothing.
  */
 class VEX_FORMATS_EXPORT FormatListModelProxy : public QSortFilterProxyModel
 {
@@ -23,21 +23,21 @@ public:
     explicit FormatListModelProxy(QObject *parent = nullptr);
 
     [[nodiscard]] QString filterKey() const;
-    /*! A new key is announced, then the rows are filtered again; an equal one does nothing. */
+    /*! Emits filterKeyChanged(), then filters the rows again. An equal key does nothing. */
     void setFilterKey(const QString &key);
     [[nodiscard]] QString searchKey() const;
-    /*! As setFilterKey(). */
+    /*! Emits searchKeyChanged(), then filters the rows again. An equal key does nothing. */
     void setSearchKey(const QString &key);
 
     /*! The number of rows shown. */
     [[nodiscard]] Q_INVOKABLE int count() const;
-    /*! Whether a shown row has this title, in whatever case. */
+    /*! Whether a format with this title is shown; case-insensitive. */
     [[nodiscard]] Q_INVOKABLE bool isInProxyModel(const QString &title) const;
-    /*! The title of a shown row; empty when there is no such row. */
+    /*! The title of a shown row; empty if there is no such row. */
     [[nodiscard]] Q_INVOKABLE QString getTitle(int itemIndex) const;
-    /*! The order is the catalogue's: does nothing. */
+    /*! Does nothing: the order is always the catalogue's. */
     Q_INVOKABLE void setSort(const QString &roles, bool isUp);
-    /*! The order is the catalogue's: does nothing. */
+    /*! Does nothing: the order is always the catalogue's. */
     Q_INVOKABLE void moveDrag(int srcProxyIndex, int desProxyIndex);
 
 Q_SIGNALS:

@@ -7,11 +7,10 @@
 #include <QString>
 
 /*!
- * Finds by key what a walk over rows would find, at a cost that does not grow with the rows.
+ * Finds by key what a linear search through rows would find, but in constant time.
  *
- * The values of one key stand in the order of their rows, so that the first value is the first
- * match. Rows come at the end or at the head; after a row changed its key or its place, sort()
- * restores the order.
+ * The values of a key are kept in row order, so the first value is the first match. Rows are added
+ * at either end; after a row has changed its key or moved, sort() restores the order.
  */
 template <typename Value>
 class KeyIndex
@@ -19,17 +18,17 @@ class KeyIndex
 public:
     [[nodiscard]] bool contains(const QString &key) const { return m_values.contains(key); }
 
-    /*! The first value of the key; a default-constructed one (null) when the key has none. */
+    /*! The first value of the key; a default-constructed one (null) if the key has none. */
     [[nodiscard]] Value first(const QString &key) const { return m_values.value(key).first; }
 
-    /*! Every value of the key, in order; empty when the key has none. */
+    /*! Every value of the key, in order; empty if the key has none. */
     [[nodiscard]] QList<Value> all(const QString &key) const
     {
         const auto values = m_values.constFind(key);
         return values == m_values.constEnd() ? QList<Value>() : values->toList();
     }
 
-    /*! True when the value is the key's first one. */
+    /*! Returns true if the key had no value before. */
     bool append(const QString &key, const Value &value)
     {
         const auto values = m_values.find(key);
@@ -41,7 +40,7 @@ public:
         return false;
     }
 
-    /*! True when the value is the key's first one. */
+    /*! Returns true if the key had no value before. */
     bool prepend(const QString &key, const Value &value)
     {
         const auto values = m_values.find(key);
@@ -54,7 +53,7 @@ public:
         return false;
     }
 
-    /*! Takes one entry of \a value out; true when it was the key's last one. */
+    /*! Removes one entry of \a value; returns true if the key has no value left. */
     bool remove(const QString &key, const Value &value)
     {
         const auto values = m_values.find(key);
@@ -73,7 +72,7 @@ public:
         return true;
     }
 
-    /*! Puts the key's values into the order in which \a rows holds them. */
+    /*! Sorts the key's values into the order of \a rows. */
     template <typename Rows>
     void sort(const QString &key, const Rows &rows)
     {
@@ -93,7 +92,7 @@ public:
     }
 
 private:
-    // Nearly every key has one value, which needs no list.
+    // Nearly every key has a single value, which then needs no list.
     struct Values
     {
         Value first = Value();

@@ -7,13 +7,13 @@
 #include <variant>
 
 /*!
- * The one table of a preset's fields: role, role name, place in the preset's variant map, member.
- * Roles, both map forms and the file readers follow it.
+ * The single table of a preset's fields: role, role name, place in the preset's variant map,
+ * member. Roles, both map forms and the file readers are driven by it.
  */
 namespace PresetFields {
 
 enum class Block {
-    None,   //!< in no map
+    None,   //!< not in any map
     Preset, //!< in the outer map
     Video,  //!< in the "video" map
     Audio,  //!< in the "audio" map
@@ -39,7 +39,7 @@ struct Field
     Member member;
 };
 
-// In the record's own order. Inline: key() finds a field by its address.
+// In the order of the record. Inline, as key() finds a field by its address.
 inline constexpr std::array<Field, 29> all{{
     {Model::IdRole, "id", Block::Preset, "id", &Preset::id},
     {Model::ExtensionRole, "extension", Block::Preset, "extension", &Preset::extension},
@@ -100,18 +100,18 @@ constexpr bool everyRoleHasOneField()
 }
 static_assert(everyRoleHasOneField());
 
-/*! The field behind a role; null for any but firstRole to lastRole. */
+/*! The field of a role; null outside firstRole to lastRole. */
 [[nodiscard]] const Field *ofRole(int role);
 
 /*! The field of a member. */
 [[nodiscard]] const Field &of(const Member &member);
 
-/*! The field's key in its map; the text is made only once. */
+/*! The field's key in its map; the string is created only once. */
 [[nodiscard]] const QString &key(const Field &field);
 
 [[nodiscard]] QVariant read(const Preset &preset, const Member &member);
 
-/*! Stores \a value by the variant's own conversion to the member's type. */
+/*! Stores \a value, converted by QVariant to the member's type. */
 void write(Preset &preset, const Member &member, const QVariant &value);
 
 } // namespace PresetFields

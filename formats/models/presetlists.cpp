@@ -11,7 +11,7 @@ FormatDetailModel *PresetLists::find(const QString &title) const
     return m_lists.value(title);
 }
 
-FormatDetailModel *PresetLists::findOrEnter(const QString &title)
+FormatDetailModel *PresetLists::findOrInsertNull(const QString &title)
 {
     return m_lists[title];
 }

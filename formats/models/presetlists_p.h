@@ -9,9 +9,9 @@ class FormatDetailModel;
 class QObject;
 
 /*!
- * The preset lists of a catalogue by format title, and an index of all their preset ids.
+ * The preset lists of a catalogue by format title, with an index of all their preset ids.
  *
- * The lists are children of the owner. One that is removed is released with deleteLater().
+ * The lists are children of the owner. Removed ones are released with deleteLater().
  */
 class PresetLists
 {
@@ -20,14 +20,14 @@ class PresetLists
 public:
     explicit PresetLists(QObject *owner);
 
-    /*! The list under this title; null when there is none. */
+    /*! The list under this title; null if there is none. */
     [[nodiscard]] FormatDetailModel *find(const QString &title) const;
-    /*! The same, but a title without a list is entered, with null. */
-    [[nodiscard]] FormatDetailModel *findOrEnter(const QString &title);
+    /*! Like find(), but inserts null for a title without a list. */
+    [[nodiscard]] FormatDetailModel *findOrInsertNull(const QString &title);
 
-    /*! Puts an empty list under the title. A list that it replaces lives on outside the index. */
+    /*! Adds an empty list. A list that it replaces stays alive, but leaves the index. */
     void add(const QString &title);
-    /*! False when the title has not been entered. */
+    /*! Returns false if the title is unknown. */
     bool remove(const QString &title);
     void clear();
 
@@ -40,7 +40,7 @@ private:
 
     QObject *m_owner;
     QMap<QString, FormatDetailModel *> m_lists;
-    KeyIndex<QString> m_titlesById; // kept by the lists themselves
+    KeyIndex<QString> m_titlesById; // maintained by the lists themselves
 };
 
 #endif

@@ -72,9 +72,9 @@ FormatDetailModel *addFormat(FormatListModel &model, const QVariantMap &group, c
     return model.formatDetailModel(format.title);
 }
 
-const QVariant &lookUp(QVariantMap &map, const QString &key)
+const QVariant &findOrInsertNull(QVariantMap &map, const QString &key)
 {
-    // Writing only where the key is absent leaves a complete map shared with the catalogue.
+    // Inserting only missing keys keeps a complete map shared with the catalogue.
     const auto value = map.constFind(key);
     return value != map.constEnd() ? *value : *map.insert(key, QVariant());
 }
@@ -92,12 +92,12 @@ FormatDetailModelData readPreset(QVariantMap &entry, const QString &icon)
          &FormatDetailModelData::audioSampleRate, &FormatDetailModelData::audioSampleRates},
     }};
     FormatDetailModelData preset;
-    preset.id = lookUp(entry, QStringLiteral("id")).toString();
-    preset.extension = lookUp(entry, QStringLiteral("extension")).toString();
-    preset.title = lookUp(entry, QStringLiteral("title")).toString();
+    preset.id = findOrInsertNull(entry, QStringLiteral("id")).toString();
+    preset.extension = findOrInsertNull(entry, QStringLiteral("extension")).toString();
+    preset.title = findOrInsertNull(entry, QStringLiteral("title")).toString();
     preset.icon = icon;
-    readSettings(preset, lookUp(entry, QStringLiteral("audioParam")).toMap(),
-                 lookUp(entry, QStringLiteral("audioOptions")).toMap(), audioSettings);
+    readSettings(preset, findOrInsertNull(entry, QStringLiteral("audioParam")).toMap(),
+                 findOrInsertNull(entry, QStringLiteral("audioOptions")).toMap(), audioSettings);
     return preset;
 }
 
@@ -113,8 +113,8 @@ void readVideo(FormatDetailModelData &preset, QVariantMap &entry)
         {QStringLiteral("resolution"), QStringLiteral("resolutionList"),
          &FormatDetailModelData::videoResolution, &FormatDetailModelData::videoResolutions},
     }};
-    const QVariantMap options = lookUp(entry, QStringLiteral("videoOptions")).toMap();
-    readSettings(preset, lookUp(entry, QStringLiteral("videoParam")).toMap(), options,
+    const QVariantMap options = findOrInsertNull(entry, QStringLiteral("videoOptions")).toMap();
+    readSettings(preset, findOrInsertNull(entry, QStringLiteral("videoParam")).toMap(), options,
                  videoSettings);
     readLevels(preset, valueOf(options, QStringLiteral("levelList")).toList());
 }

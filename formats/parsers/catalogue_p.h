@@ -16,16 +16,16 @@ namespace Catalogue {
 [[nodiscard]] QVariantList contents(const QVariantMap &group);
 
 /*!
- * Adds the group as a format and returns its presets; null when a format of that name is there
- * already: the first group of a name wins.
+ * Adds the group as a format and returns its presets; null if a format of that name exists already:
+ * the first group of a name wins.
  */
 [[nodiscard]] FormatDetailModel *addFormat(FormatListModel &model, const QVariantMap &group,
                                            const QString &tag);
 
-/*! The value under \a key. A key that is absent stays in the map with a null value. */
-[[nodiscard]] const QVariant &lookUp(QVariantMap &map, const QString &key);
+/*! The value under \a key; inserts null for a missing key. */
+[[nodiscard]] const QVariant &findOrInsertNull(QVariantMap &map, const QString &key);
 
-/*! Reads "id", "extension", "title" and the audio settings; the icon is the group's. */
+/*! Reads "id", "extension", "title" and the audio settings; \a icon is the group's. */
 [[nodiscard]] FormatDetailModelData readPreset(QVariantMap &entry, const QString &icon);
 
 /*! Reads "videoParam" and "videoOptions". */

@@ -8,11 +8,11 @@ class FormatListModel;
 class QString;
 
 /*!
- * Fills the models from the export catalogue and from JSON files. The models stay the caller's.
+ * Fills the models from the export catalogue and from JSON files. The caller owns the models.
  *
- * The file operations append to what the model holds and store \a flag as each preset's
- * userDefine. They return false, with one debug line that says why, when the file cannot be opened
- * or holds no non-empty JSON array, and without a line for a null model or an empty path.
+ * The file operations append to the model and store \a flag as each preset's userDefine. They
+ * return false and log the reason as one debug line if the file cannot be opened or does not hold
+ * a non-empty JSON array. For a null model or an empty path they return false and log nothing.
  */
 class VEX_FORMATS_EXPORT IFormatsParser
 {
@@ -24,9 +24,9 @@ public:
 
     /*! A preset file: a list of formats, each with its presets. */
     virtual bool parseVideo(const QString &path, FormatListModel *model, bool flag) = 0;
-    /*! An audio list file: the same with audio-only presets. */
+    /*! An audio list file: a list of formats, each with audio-only presets. */
     virtual bool parseAudio(const QString &path, FormatListModel *model, bool flag) = 0;
-    /*! A preset file of devices; its presets are never user-defined, whatever \a flag says. */
+    /*! A preset file of devices; its presets are never user-defined, and \a flag is ignored. */
     virtual bool parseDevice(const QString &path, FormatListModel *model, bool flag) = 0;
     /*! A recently-used file: a list of presets. */
     virtual bool parseRecently(const QString &path, FormatDetailModel *model, bool flag) = 0;

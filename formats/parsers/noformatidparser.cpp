@@ -38,8 +38,7 @@ void unpack(FormatDetailModelData &preset, const QVariantMap &block,
     }
 }
 
-// Levels that are not written out share the next lower one written: "high:mid:low:offered",
-// "high and mid:low:offered" or "all three:offered".
+// "high:mid:low:offered", "high and mid:low:offered" or "all three:offered"
 void unpackVideoBitrates(FormatDetailModelData &preset, const QString &packed)
 {
     const QStringList parts = packed.split(QLatin1Char(':'));
@@ -122,7 +121,7 @@ bool NoFormatIdParser::parseVideo(const QString &path, FormatListModel *model, b
     PresetFile::importFormats(
         formats, *model, &PresetFile::addFormat,
         [flag](FormatDetailModel &presets, const QVariantMap &entry) {
-            // Entries of the parser in use carry no empty key and are all skipped.
+            // Entries in the current form have no empty key and are all skipped.
             if (entry.value(QString()).toMap().isEmpty()) {
                 return;
             }

@@ -6,23 +6,23 @@
 #include <QObject>
 
 /*!
- * Reads an older shape of the data, whose presets carry no id and whose option lists are each
- * packed into one text, "chosen:offered,offered". Keeps no state between calls.
+ * Reads the older form of the data: presets have no id, and each option list is packed into one
+ * string, "chosen:offered,offered". Keeps no state between calls.
  */
 class VEX_FORMATS_EXPORT NoFormatIdParser : public QObject, public IFormatsParser
 {
-    // No Q_OBJECT: it has nothing to offer to a meta-object.
+    // No Q_OBJECT: there are no signals, slots or properties.
     Q_DISABLE_COPY(NoFormatIdParser)
 
 public:
     explicit NoFormatIdParser(QObject *parent = nullptr);
 
-    /*! Adds a format row for every object, also for a title that is already there. */
+    /*! Adds a format for every object, even if its title exists already. */
     bool parseVideo(const QString &path, FormatListModel *model, bool flag) override;
-    /*! A lossless entry gives one preset, any other three: "high", "mid" and "low". */
+    /*! A lossless entry becomes one preset, any other three: "high", "mid" and "low". */
     bool parseAudio(const QString &path, FormatListModel *model, bool flag) override;
     bool parseDevice(const QString &path, FormatListModel *model, bool flag) override;
-    /*! Such data has no recently-used file: true, and nothing is read. */
+    /*! Reads nothing and returns true: this form has no recently-used file. */
     bool parseRecently(const QString &path, FormatDetailModel *model, bool flag) override;
     /*! Every format is tagged "video". */
     bool parseVideoNew(const QString &category, FormatListModel *model) override;

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Turns JSON into variants; arrays of plain values that are equal become one shared list.
+// Converts JSON to variants; equal arrays of plain values share their data.
 class Decoder
 {
 public:

@@ -62,7 +62,7 @@ void readAudio(FormatDetailModelData &preset, const QVariantMap &audio)
     }
 }
 
-// A preset of the user's files; none for an entry that carries no converter settings.
+// A preset from the user's files; none for an entry without converter settings.
 std::optional<FormatDetailModelData> readUserPreset(const QVariantMap &entry, bool userDefine)
 {
     const QVariantMap outPutNode = entry.value(QStringLiteral("outPutNode")).toMap();
@@ -71,7 +71,8 @@ std::optional<FormatDetailModelData> readUserPreset(const QVariantMap &entry, bo
     }
     FormatDetailModelData preset;
     preset.userDefine = userDefine;
-    // The writer puts "isLoseless" and "param" into "audio", where no reader looks: both are lost.
+    // toVarMap() puts "isLoseless" and "param" into "audio", where they are not read: both are
+    // lost.
     PresetFile::readMembers(preset, entry,
                             {&Preset::id, &Preset::extension, &Preset::title, &Preset::icon,
                              &Preset::socialType, &Preset::isLoseless});

@@ -5,10 +5,10 @@
 
 #include <QObject>
 
-/*! Reads the data in use, whose presets carry an id. Keeps no state between calls. */
+/*! Reads the current form of the data: presets have an id. Keeps no state between calls. */
 class VEX_FORMATS_EXPORT WidthFormatIdParser : public QObject, public IFormatsParser
 {
-    // No Q_OBJECT: it has nothing to offer to a meta-object.
+    // No Q_OBJECT: there are no signals, slots or properties.
     Q_DISABLE_COPY(WidthFormatIdParser)
 
 public:

@@ -55,7 +55,7 @@ void FormatsProxy::init(const QString &dir)
     for (const QVariant &category : categories) {
         d->parser->parseVideoNew(category.toString(), d->formatListModel);
     }
-    // Also without a folder: the path is then the separator and the file's name.
+    // Even without a folder: the path is then the separator and the file name.
     d->parser->parseVideo(d->configPath(userPresetsFile), d->formatListModel, true);
 }
 
@@ -252,7 +252,7 @@ QVariantList FormatsProxy::getSupportAudioLisrfromType(const QString &type) cons
     if (!presets || !presets->getModelInfoByIndex(0, first) || first.userDefine) {
         return fallback;
     }
-    QVariantList bitrates = first.audioBitrates.mid(1); // without the source's own
+    QVariantList bitrates = first.audioBitrates.mid(1); // the first one is the source's own
     qInfo() << "getSupportAudioLisrfromType"
             << "reverse tempList";
     std::reverse(bitrates.begin(), bitrates.end());

@@ -16,9 +16,9 @@ class FormatsProxy;
 class IFormatsParser;
 
 /*!
- * What the facade keeps. Models and parser are children of the facade. The format list and the
- * recently-used list may be null: such a list counts as empty, add2Recently() fails without its
- * list, and uninit() leaves the file of a missing list alone.
+ * The facade's state. Models and parser are children of the facade. The format list and the
+ * recently-used list may be null: a null list counts as empty, except that add2Recently() fails
+ * and uninit() does not write its file.
  */
 class VEX_FORMATS_EXPORT FormatsProxyPrivate
 {
@@ -27,7 +27,7 @@ class VEX_FORMATS_EXPORT FormatsProxyPrivate
 public:
     explicit FormatsProxyPrivate(FormatsProxy *q);
 
-    /*! Writes \a text in UTF-8 over the file; false when it cannot be opened. Makes no folder. */
+    /*! Overwrites the file with \a text in UTF-8; false if it cannot be opened. Makes no folder. */
     bool write2Local(const QString &path, const QString &text);
 
     FormatsProxy *q;
@@ -45,14 +45,15 @@ private:
 
     [[nodiscard]] Q_DECL_HIDDEN QString configPath(QLatin1String fileName) const;
     Q_DECL_HIDDEN void save(QLatin1String fileName, const QVariantList &list);
-    // The format list, or an empty one where there is none.
+    // The format list, or an empty one if it is null.
     [[nodiscard]] Q_DECL_HIDDEN const FormatListModel &catalogue() const;
-    // Both null when there is no such preset, and valid until its list changes.
+    // Both return null if there is no such preset, else a pointer that is valid until its list
+    // changes.
     [[nodiscard]] Q_DECL_HIDDEN const FormatDetailModelData *
     find(const QString &tagName, const QString &className, const QString &id) const;
     [[nodiscard]] Q_DECL_HIDDEN const FormatDetailModelData *
     findInCatalogue(const QString &id) const;
-    // The format of the catalogue's preset with this id; empty when there is none.
+    // The format of the catalogue's preset with this id; empty if there is none.
     [[nodiscard]] Q_DECL_HIDDEN QString classOf(const QString &id) const;
     Q_DECL_HIDDEN void updateFormatDetailModelDataByAudioBitrate(FormatDetailModelData &preset,
                                                                  const QString &bitrate);

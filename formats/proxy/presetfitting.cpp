@@ -10,7 +10,7 @@ namespace {
 
 const QLatin1String sourceValue("0");
 
-// Width times height of a text such as "1920x1080"; a missing side counts as 0.
+// Width times height of a resolution such as "1920x1080"; a missing side counts as 0.
 qint64 area(const QString &resolution)
 {
     const QStringList sides = resolution.split(QLatin1Char('x'));
@@ -22,7 +22,7 @@ qint64 distance(qint64 a, qint64 b)
     return qAbs(a - b);
 }
 
-// Of all presets offered the one with the smallest distance, the last one on a tie.
+// Keeps the offered preset with the smallest distance; on a tie, the last one.
 class ClosestPreset
 {
 public:
@@ -94,7 +94,7 @@ std::optional<Preset> forResolution(const FormatDetailModel *presets, const QStr
             if (preferSource) {
                 return preset;
             }
-            // Not the distance below: a negative area is no distance, and ranks first.
+            // Not distance(): a negative area ranks first.
             closest.offer(wanted, preset);
         }
         closest.offer(distance(area(preset.videoResolution), wanted), preset);

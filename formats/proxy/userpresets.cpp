@@ -4,7 +4,7 @@
 
 namespace {
 
-// Each value under its role name.
+// The values are keyed by role name.
 void applyToFields(FormatDetailModelData &preset, const QVariantMap &values)
 {
     using Preset = FormatDetailModelData;

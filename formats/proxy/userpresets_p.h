@@ -3,16 +3,16 @@
 
 #include "formats/models/formatdetailmodeldata.h"
 
-/*! What makes a preset the user's own. */
+/*! Turns a preset into a user-defined one. */
 namespace UserPresets {
 
 /*!
- * Writes the values of FormatsProxy::addUserDefineFormat() into the preset's fields and into the
+ * Writes the values of FormatsProxy::addUserDefineFormat() to the preset's fields and to the
  * converter's settings; a missing value counts as empty.
  */
 void applyValues(FormatDetailModelData &preset, const QVariantMap &values);
 
-/*! Gives the preset an id of the user's own, also in the converter's settings. */
+/*! Marks the preset user-defined and sets its id, also in the converter's settings. */
 void applyId(FormatDetailModelData &preset, const QString &id);
 
 } // namespace UserPresets

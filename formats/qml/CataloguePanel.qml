@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.5
 import "."
 
-/*! Left the formats of a tag or of a search, right the presets of the selected one. */
+/*! The formats of a tag or a search on the left, the presets of the selected one on the right. */
 Rectangle {
     id: root
 
@@ -108,7 +108,7 @@ Rectangle {
         anchors.fill: parent
         visible: formatList.count === 0
         hoverEnabled: true
-        onWheel: {} // else the lists below scroll
+        onWheel: {} // keeps the lists underneath from scrolling
 
         Rectangle {
             anchors.fill: parent

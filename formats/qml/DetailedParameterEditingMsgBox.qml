@@ -72,7 +72,7 @@ VEXContent {
             + O_FormatsProxy.getUserDefineCount(root.info.format, root.info.curclass, "1002")
     }
 
-    /*! As a click on OK: the focus leaves the title first, which is refilled where it is empty. */
+    /*! Acts like a click on OK: the title loses the focus first and is refilled if empty. */
     function submit() {
         root.forceActiveFocus()
         root.okFunc()

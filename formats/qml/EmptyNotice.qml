@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "."
 
-/*! A picture and a line of text where a list has nothing to show. */
+/*! An image and a line of text in place of an empty list. */
 Column {
     id: root
 

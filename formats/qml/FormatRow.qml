@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.5
 import "."
 
-/*! A format of the catalogue panel's left list. */
+/*! A format in the left list of the catalogue panel. */
 Rectangle {
     id: root
 

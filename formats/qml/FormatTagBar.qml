@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.12
 import "."
 
-/*! The tags of the catalogue, and the search field where there is something to search. */
+/*! The tags of the catalogue, and the search field unless the recently-used list is shown. */
 Rectangle {
     id: root
 
@@ -31,7 +31,7 @@ Rectangle {
 
     implicitHeight: 48
     color: VexThemeMgr.curTheme.basics_gradeTone7
-    // A hidden field must not go on filtering.
+    // A hidden field must not keep filtering.
     onSearchableChanged: {
         if (!root.searchable) {
             root.clearSearch()

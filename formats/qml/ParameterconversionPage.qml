@@ -84,8 +84,8 @@ Popup {
         }
     }
 
-    // No list shows the formats while their filter changes: one that is still building its rows
-    // ahead would warn of rows that have gone.
+    // Detaches the model while its filter changes: a list that is still building rows ahead would
+    // warn about removed ones.
     function showFormatsOf(tag) {
         root.curTagModel = null
         root.selectTag = tag
@@ -146,7 +146,7 @@ Popup {
             return root.recentlyShown ? [] : root.srcModel.formatDetailModel(root.selectClass)
         })
         ToolFun.timerOnce(100, function () {
-            // The host may have let the picker go in the meantime.
+            // The host may have destroyed the picker in the meantime.
             if (root) {
                 root.openSelect()
             }

@@ -6,7 +6,7 @@ import "."
 ListView {
     id: root
 
-    /*! Whether a row, given its number, is the one that stands selected. */
+    /*! Takes a row's index and returns whether the row is selected. */
     required property var isSelected
 
     readonly property bool scrollable: root.contentHeight > root.height

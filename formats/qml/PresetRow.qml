@@ -41,7 +41,7 @@ PresetRowBase {
 
     implicitHeight: 64
     title: root.shownTitle()
-    // The tag decides on the quality, the preset on its encoders.
+    // The quality depends on the tag, the encoders on the preset.
     quality: root.page.selectTag === "audio" ? root.shownSetting(root.model.audioBitrate, " kbps")
                                              : root.shownSetting(root.model.videoResolution, "")
     encoder: root.shownEncoders()

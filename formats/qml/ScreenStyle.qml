@@ -1,7 +1,7 @@
 pragma Singleton
 import QtQuick 2.15
 
-/*! The sizes and the colours outside the host's theme that more than one part of a screen uses. */
+/*! Sizes and colours that several parts of a screen share and that the host's theme lacks. */
 QtObject {
     readonly property color text: "#454545"
     readonly property color hint: "#D1D1D1"

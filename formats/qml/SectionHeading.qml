@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "."
 
-/*! The heading of a section of the dialog, with a rule behind it. */
+/*! The heading of a section of the dialog, followed by a rule. */
 Row {
     id: root
 
@@ -18,7 +18,7 @@ Row {
         Text {
             id: caption
 
-            // Shrinks rather than run into the rule.
+            // Shrinks rather than running into the rule.
             width: 66
             text: root.text
             textFormat: Text.PlainText

@@ -15,7 +15,7 @@ Item {
     /*! The options that mean the source's own value. */
     required property var smartFit
     property string unit: ""
-    /*! How far the label may reach to the left on one line. */
+    /*! How far the label may extend to the left on one line. */
     property int labelRoom: 100
 
     readonly property alias currentValue: box.currentValue
@@ -72,7 +72,7 @@ Item {
         Accessible.name: root.label
         // A closed box would swallow Return.
         Keys.forwardTo: box.popup && box.popup.visible ? [] : [root.dialog]
-        // A new list puts the box back to its first entry.
+        // A new list resets the box to its first entry.
         onModelChanged: root.select(root.chosenIndex)
         onActivated: root.dialog.editedChange()
     }

@@ -9,7 +9,7 @@ Row {
     property alias text: field.text
 
     signal edited()
-    /*! The focus came or went while there was no title. */
+    /*! The field gained or lost the focus while it was empty. */
     signal foundEmpty()
 
     spacing: 12

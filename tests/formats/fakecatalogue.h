@@ -5,8 +5,8 @@
 #include <QVariant>
 
 /*!
- * The host's export catalogue as a test wants it. A test that compiles fakecatalogue.cpp in
- * replaces FormatCodecApi for the whole process: the library asks this catalogue instead.
+ * A configurable export catalogue. Linking fakecatalogue.cpp replaces FormatCodecApi for the whole
+ * process: the library reads this catalogue instead.
  */
 struct FakeCatalogue
 {
@@ -17,7 +17,7 @@ struct FakeCatalogue
         QVariantList contents;
     };
 
-    /*! The one that is served; empty at first. */
+    /*! The catalogue that is served; initially empty. */
     static FakeCatalogue &served();
 
     QVariantList categories;

@@ -1,7 +1,7 @@
 #include "host/check/cataloguelint.h"
 #include "tests/fuzz/fuzzing.h"
 
-/*! A catalogue of one's own, read and checked. */
+/*! Reads and checks a catalogue. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const CatalogueResult catalogue =

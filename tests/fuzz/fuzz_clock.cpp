@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstring>
 
-/*! Moments as people type them, and as the window shows any number. */
+/*! Parses times as people type them, and formats any number as the window does. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input = inputBytes(data, size);

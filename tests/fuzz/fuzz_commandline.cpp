@@ -41,7 +41,7 @@ bool isFrom(const QStringList &words, const QStringList &arguments)
 
 } // namespace
 
-/*! One argument a line: what the window and a subcommand read of them. Nothing is run. */
+/*! Parses one argument per line as the window and as a subcommand do. Nothing is run. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const std::vector<Reader> readers = readersOfSubcommands();
@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (const auto window = CommandLine::windowOptions(arguments)) {
         require(isFrom({window->configFolder, window->language}, arguments));
     }
-    // One of the subcommands: all of them would make each input ten times slower.
+    // One subcommand per input: all of them would make each input ten times slower.
     const Reader &reader = readers[size % readers.size()];
     const QStringList call = QStringList{reader.subcommand} + arguments;
     require(!CommandLine::windowOptions(call));

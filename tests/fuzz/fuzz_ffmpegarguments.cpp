@@ -40,7 +40,7 @@ bool hasValidSizes(const QString &text)
     return true;
 }
 
-/*! Whether ffmpeg can take the value behind this option. */
+/*! Whether ffmpeg accepts the value of this option. */
 bool isValid(const QString &option, const QString &value)
 {
     static const QRegularExpression stream(QStringLiteral("^0:\\d+$"));
@@ -65,7 +65,7 @@ bool isValid(const QString &option, const QString &value)
 
 } // namespace
 
-/*! A preset in the first line, ffprobe's JSON in those behind it: how ffmpeg is called. */
+/*! Plans an ffmpeg call from a preset in the first line and ffprobe's JSON in the others. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input = inputBytes(data, size);

@@ -2,7 +2,7 @@
 #include "host/tools/encoderlist.h"
 #include "tests/fuzz/fuzzing.h"
 
-/*! The lists that ffmpeg prints of its encoders, and ffprobe of a file's packets. */
+/*! Parses ffmpeg's list of encoders and ffprobe's list of a file's packets. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input = inputBytes(data, size);

@@ -1,7 +1,7 @@
 #include "host/media/mediafacts.h"
 #include "tests/fuzz/fuzzing.h"
 
-/*! What ffprobe prints about a file that anyone may have made. */
+/*! Parses what ffprobe prints about a file from an untrusted source. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const MediaFacts facts = MediaFacts::fromProbe(inputBytes(data, size));

@@ -11,7 +11,7 @@
 
 namespace {
 
-/*! The path of a file that is never on a disk and holds the bytes until the next call. */
+/*! The path of an in-memory file that holds the bytes until the next call. */
 QString pathTo(const QByteArray &bytes)
 {
     static const int file = memfd_create("presets", MFD_CLOEXEC);
@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     return 0;
 }
 
-/*! The user's files, by both parsers, and what is saved of them. */
+/*! Reads the user's files with both parsers, and saves them. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QString path = pathTo(inputBytes(data, size));

@@ -2,7 +2,7 @@
 #include "host/media/mediafacts.h"
 #include "tests/fuzz/fuzzing.h"
 
-/*! What ffmpeg reports about its progress, in pieces as long as the first byte says. */
+/*! Parses ffmpeg's progress reports, in pieces of the length that the first byte gives. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input = inputBytes(data, size);

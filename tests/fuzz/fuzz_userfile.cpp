@@ -33,7 +33,7 @@ bool hasFileWith(const QDir &folder, const QByteArray &content)
 
 } // namespace
 
-/*! The first line is a preset file, the second its good copy; both in memory. */
+/*! The first line is a preset file, the second its backup; both in memory. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const QTemporaryDir place(QStringLiteral("/dev/shm/fuzz-XXXXXX"));
@@ -48,13 +48,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     put(file.path(), own);
     put(file.copyPath(), copy);
 
-    // Whatever stood there stands there still, or beside it.
+    // The previous contents are still there, or beside the file.
     const Result<QString> note = file.recover(UserFile::StaysInPlace);
     require(note.has_value() == (isList(own) || isList(copy)));
     require(!note || note->isEmpty() == isList(own));
     require(own.isEmpty() || hasFileWith(folder, own));
     require(file.recover(UserFile::IsPutAside).has_value());
-    // A damaged copy is all that may be left of presets that were lost before.
+    // Only a damaged copy can be left of presets that were lost earlier.
     require(file.check().has_value() || (!copy.isEmpty() && !isList(copy)));
     require(own.isEmpty() || hasFileWith(folder, own));
 

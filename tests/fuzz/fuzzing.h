@@ -5,13 +5,13 @@
 
 #include <cstdlib>
 
-/*! The engine's input, copied so that the sanitizers see reads beyond its end. */
+/*! The engine's input, copied so that the sanitizers detect reads past its end. */
 [[nodiscard]] inline QByteArray inputBytes(const uint8_t *data, size_t size)
 {
     return QByteArray(reinterpret_cast<const char *>(data), int(size));
 }
 
-/*! Stops the run, which counts as a finding, where what always holds doesn't. */
+/*! Aborts, which counts as a finding, if an invariant doesn't hold. */
 inline void require(bool holds)
 {
     if (!holds) {

@@ -5,8 +5,8 @@
 #include <QtGlobal>
 
 /*!
- * Catches what is logged while it lives, instead of printing it. A test takes the lines that it
- * expects; what nobody took is unexpected and fails the test in its cleanup():
+ * Captures log messages, instead of printing them, while it exists. A test takes the lines that it
+ * expects; any other line fails the test in its cleanup():
  *
  *     void init() { m_log.emplace(); }
  *     void cleanup() { QCOMPARE(m_log->takeAll(), QStringList()); m_log.reset(); }

@@ -1,7 +1,7 @@
 #ifndef TESTS_SUPPORT_PATIENCE_H
 #define TESTS_SUPPORT_PATIENCE_H
 
-/*! How long a state may take to come, in ms: a busy machine is slow. */
+/*! How long to wait for a state, in ms: generous, as the machine can be busy. */
 constexpr int patience = 60000;
 
 #endif

@@ -11,7 +11,7 @@
 
 #include <climits>
 
-/*! A list model of which no row has rows below it; the models count theirs below a row too. */
+/*! A list model whose rows have no children; the models' own rowCount() ignores the parent. */
 class FlatView : public QIdentityProxyModel
 {
 public:
@@ -33,8 +33,8 @@ public:
 };
 
 /*!
- * Checks the item-model contract at every change until the model's end; a breach aborts. The
- * tester would take rows below a row for a tree, so it looks at the model through a flat view.
+ * Checks the item-model contract at every change of the model; a violation aborts. The tester would
+ * take child rows for a tree, so it sees the model through a flat proxy.
  */
 inline void guard(QAbstractItemModel &model)
 {
@@ -43,8 +43,8 @@ inline void guard(QAbstractItemModel &model)
 }
 
 /*!
- * All that a list model with a `count` emits: one line per signal, in order, with the number of
- * rows and the `count` that the model has at that moment.
+ * Everything that a list model with a `count` emits: one line per signal, in order, with the number
+ * of rows and the `count` at that moment.
  */
 template <typename Model>
 class SignalLog
@@ -124,7 +124,7 @@ private:
     QStringList m_lines;
 };
 
-/*! Adds the column "row", with numbers outside a list of two rows. */
+/*! Adds the column "row", with values outside a list of two rows. */
 inline void addRowsOutsideTwo()
 {
     QTest::addColumn<int>("row");

@@ -9,8 +9,8 @@
 #include <algorithm>
 
 /*!
- * Formats and their presets, held so plainly that every look-up is a walk from the front: the
- * reference for the models' look-ups.
+ * Formats and their presets, where every lookup is a linear search: the reference for the models'
+ * lookups.
  */
 struct PlainCatalogue
 {
@@ -56,7 +56,7 @@ struct PlainCatalogue
         return title == listsByTitle.keyEnd() ? QString() : *title;
     }
 
-    /*! The first format whose presets have this id; an empty one when there is none. */
+    /*! The first format whose presets have this id; an empty one if there is none. */
     FormatListModelData formatOfId(const QString &id) const
     {
         const auto format =
@@ -65,7 +65,7 @@ struct PlainCatalogue
         return format == formats.cend() ? FormatListModelData() : *format;
     }
 
-    /*! Adds a format and its new list, whose place in lists is returned. */
+    /*! Adds a format and a new list; returns the list's index in lists. */
     int addFormat(int row, const FormatListModelData &format)
     {
         formats.insert(row, format);
@@ -80,8 +80,8 @@ struct PlainCatalogue
         formats.remove(row);
     }
 
-    /*! What the nested lists leave behind. */
-    void enterNullForMissingTitles()
+    /*! The side effect of making nested lists. */
+    void insertNullForMissingTitles()
     {
         for (const FormatListModelData &format : qAsConst(formats)) {
             if (!listsByTitle.contains(format.title)) {

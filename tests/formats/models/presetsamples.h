@@ -14,7 +14,7 @@ inline FormatDetailModelData presetWithId(const QString &id, bool userDefine = f
     return preset;
 }
 
-/*! A preset with a value of its own, other than the default, in every field. */
+/*! A preset with a distinct, non-default value in every field. */
 inline FormatDetailModelData samplePreset()
 {
     FormatDetailModelData preset;
@@ -52,8 +52,8 @@ inline FormatDetailModelData samplePreset()
 }
 
 /*!
- * The preset's fields by name. They are bound in declaration order, so that a field that is added,
- * lost or moved breaks the build or the tests.
+ * The preset's fields by name. They are bound in declaration order, so that adding, removing or
+ * moving a field breaks the build or the tests.
  */
 inline QVariantMap fieldsOf(const FormatDetailModelData &preset)
 {
@@ -106,8 +106,8 @@ inline QStringList idsOf(const FormatDetailModel &presets)
 }
 
 /*!
- * A map or a list as lines of JSON, in which a text, a number, a flag and null are told apart: the
- * variants' own comparison takes "1", 1 and true for equal.
+ * A map or a list as JSON, which distinguishes strings, numbers, booleans and null: as variants,
+ * "1", 1 and true compare equal.
  */
 inline QStringList asLines(const QVariant &mapOrList)
 {

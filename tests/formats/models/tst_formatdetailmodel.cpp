@@ -111,7 +111,7 @@ private Q_SLOTS:
     void theDestructorClears();
 
     void settingTheCountAlwaysNotifies();
-    void theCountStandsUntilTheRowsChange();
+    void theCountIsKeptUntilTheRowsChange();
 
     void updatingOverwritesTheWholePreset();
     void updatingAnnouncesEveryRole();
@@ -529,7 +529,7 @@ void TestFormatDetailModel::settingTheCountAlwaysNotifies()
                                          QStringLiteral("countChanged -1; rows 0, count -1")}));
 }
 
-void TestFormatDetailModel::theCountStandsUntilTheRowsChange()
+void TestFormatDetailModel::theCountIsKeptUntilTheRowsChange()
 {
     m_model->addModeInfo(presetWithId(QStringLiteral("a")));
     m_model->setCount(9);
@@ -619,7 +619,7 @@ void TestFormatDetailModel::idsAreComparedExactly_data()
     QTest::newRow("last") << QStringLiteral("Mp4_10") << 2;
     QTest::newRow("other case") << QStringLiteral("MP4_1") << -1;
     QTest::newRow("beginning of an id") << QStringLiteral("Mp4") << -1;
-    QTest::newRow("blank behind") << QStringLiteral("Mp4_1 ") << -1;
+    QTest::newRow("trailing blank") << QStringLiteral("Mp4_1 ") << -1;
 }
 
 void TestFormatDetailModel::idsAreComparedExactly()

@@ -59,7 +59,7 @@ private Q_SLOTS:
     void offeredVideoEncodersDecideWhetherThereIsVideo();
     void savedBitratesAreFolded_data();
     void savedBitratesAreFolded();
-    void aMapIsMadeAnewEachTime();
+    void eachCallReturnsANewMap();
     void joiningPutsTheSeparatorBetweenTheItems_data();
     void joiningPutsTheSeparatorBetweenTheItems();
 };
@@ -258,7 +258,7 @@ void TestFormatDetailModelData::savedBitratesAreFolded()
     QCOMPARE(bitrates.toString(), folded);
 }
 
-void TestFormatDetailModelData::aMapIsMadeAnewEachTime()
+void TestFormatDetailModelData::eachCallReturnsANewMap()
 {
     const FormatDetailModelData preset = samplePreset();
     QVariantMap map = preset.toVarMap();

@@ -1,7 +1,7 @@
 #include "formats/models/formatlistmodel.h"
-#include "tests/formats/models/chancewalk.h"
 #include "tests/formats/models/modelobservers.h"
 #include "tests/formats/models/presetsamples.h"
+#include "tests/formats/models/randomwalk.h"
 #include "tests/support/messagelog.h"
 
 #include <QPointer>
@@ -91,7 +91,7 @@ private Q_SLOTS:
     void theDestructorClears();
 
     void settingTheCountAlwaysNotifies();
-    void theCountStandsUntilTheRowsChange();
+    void theCountIsKeptUntilTheRowsChange();
 
     void anUnknownTitleHasNoPresetListAndGetsNone();
     void titlesAreComparedExactly_data();
@@ -140,8 +140,8 @@ private Q_SLOTS:
     void draggingMovesTheRowSilently();
     void draggingDecidesWhichRowIsFirst();
 
-    void lookUpsAgreeWithAPlainWalk_data();
-    void lookUpsAgreeWithAPlainWalk();
+    void lookupsAgreeWithALinearSearch_data();
+    void lookupsAgreeWithALinearSearch();
 
 private:
     FormatDetailModel &add(const FormatListModelData &data, const QStringList &ids = {});
@@ -166,7 +166,7 @@ void TestFormatListModel::cleanup()
     m_log.reset();
 }
 
-// Ids that are numbers become user-defined presets.
+// Numeric ids become user-defined presets.
 FormatDetailModel &TestFormatListModel::add(const FormatListModelData &data, const QStringList &ids)
 {
     m_model->addModeInfo(data);
@@ -514,7 +514,7 @@ void TestFormatListModel::clearingThePresetListsKeepsTheRows()
     add(format(mp4), {QStringLiteral("a")});
     add(format(avi), {QStringLiteral("b")});
     m_model->delDetailModel(avi);
-    m_model->toVariantList(); // enters AVI as null
+    m_model->toVariantList(); // inserts null for AVI
     SignalLog log(*m_model);
     m_model->clearDetailModel();
     QCOMPARE(log.takeAll(), QStringList());
@@ -589,7 +589,7 @@ void TestFormatListModel::settingTheCountAlwaysNotifies()
                                          QStringLiteral("countChanged -1; rows 0, count -1")}));
 }
 
-void TestFormatListModel::theCountStandsUntilTheRowsChange()
+void TestFormatListModel::theCountIsKeptUntilTheRowsChange()
 {
     add(format(mp4));
     m_model->setCount(9);
@@ -621,7 +621,7 @@ void TestFormatListModel::titlesAreComparedExactly_data()
     QTest::newRow("last") << QStringLiteral("Mp4 HD") << 2;
     QTest::newRow("other case") << QStringLiteral("MP4") << -1;
     QTest::newRow("beginning of a title") << QStringLiteral("Mp") << -1;
-    QTest::newRow("blank behind") << QStringLiteral("Mp4 ") << -1;
+    QTest::newRow("trailing blank") << QStringLiteral("Mp4 ") << -1;
 }
 
 void TestFormatListModel::titlesAreComparedExactly()
@@ -1097,10 +1097,10 @@ void TestFormatListModel::draggingMovesTheRowSilently_data()
     QTest::newRow("by one") << 1 << 2 << QStringLiteral("ACBD");
     QTest::newRow("first to last") << 0 << 3 << QStringLiteral("BCDA");
     QTest::newRow("to its own place") << 2 << 2 << QStringLiteral("ABCD");
-    QTest::newRow("from before the rows") << -1 << 2 << QStringLiteral("ABCD");
-    QTest::newRow("to before the rows") << 2 << -1 << QStringLiteral("ABCD");
-    QTest::newRow("from behind the rows") << 4 << 2 << QStringLiteral("ABCD");
-    QTest::newRow("to behind the rows") << 2 << 4 << QStringLiteral("ABCD");
+    QTest::newRow("from before the first") << -1 << 2 << QStringLiteral("ABCD");
+    QTest::newRow("to before the first") << 2 << -1 << QStringLiteral("ABCD");
+    QTest::newRow("from past the end") << 4 << 2 << QStringLiteral("ABCD");
+    QTest::newRow("to past the end") << 2 << 4 << QStringLiteral("ABCD");
     QTest::newRow("far outside") << INT_MIN << INT_MAX << QStringLiteral("ABCD");
 }
 
@@ -1139,7 +1139,7 @@ void TestFormatListModel::draggingDecidesWhichRowIsFirst()
     QCOMPARE(m_model->getIcon(id), QStringLiteral("avi.png"));
 }
 
-void TestFormatListModel::lookUpsAgreeWithAPlainWalk_data()
+void TestFormatListModel::lookupsAgreeWithALinearSearch_data()
 {
     QTest::addColumn<unsigned>("seed");
     for (const unsigned seed : {1U, 20240229U, 4242U}) {
@@ -1147,10 +1147,10 @@ void TestFormatListModel::lookUpsAgreeWithAPlainWalk_data()
     }
 }
 
-void TestFormatListModel::lookUpsAgreeWithAPlainWalk()
+void TestFormatListModel::lookupsAgreeWithALinearSearch()
 {
     QFETCH(unsigned, seed);
-    ChanceWalk walk(seed);
+    RandomWalk walk(seed);
     for (int step = 0; step < 2000; ++step) {
         const QString operation = walk.step();
         const QString disagreement = walk.disagreement();

@@ -81,7 +81,7 @@ private Q_SLOTS:
     void theTitleIsThatOfTheShownRow();
     void theTitleOutsideTheShownRowsIsEmpty_data();
     void theTitleOutsideTheShownRowsIsEmpty();
-    void anotherKindOfSourceIsFilteredButNotLookedInto();
+    void anotherSourceModelIsFilteredButLookupsFindNothing();
     void withoutASourceNothingIsFound();
     void sortingAndDraggingDoNothing();
 
@@ -208,7 +208,7 @@ void TestFormatListModelProxy::theFilterKeyIsTheWholeTagInAnyCase_data()
     QTest::newRow("longer tag") << QStringLiteral("videos") << QStringList{QStringLiteral("Übung")};
     QTest::newRow("part of a tag") << QStringLiteral("vide") << QStringList();
     QTest::newRow("no such tag") << QStringLiteral("device") << QStringList();
-    QTest::newRow("a title is no tag") << QStringLiteral("MP4") << QStringList();
+    QTest::newRow("a title is not a tag") << QStringLiteral("MP4") << QStringList();
     QTest::newRow("no pattern") << QStringLiteral(".*") << QStringList();
 }
 
@@ -384,7 +384,7 @@ void TestFormatListModelProxy::theTitleOutsideTheShownRowsIsEmpty()
     QCOMPARE(m_proxy->getTitle(row), QString());
 }
 
-void TestFormatListModelProxy::anotherKindOfSourceIsFilteredButNotLookedInto()
+void TestFormatListModelProxy::anotherSourceModelIsFilteredButLookupsFindNothing()
 {
     OtherListModel other;
     m_proxy->setSourceModel(&other);

@@ -17,11 +17,11 @@ private Q_SLOTS:
     void anUnknownKeyGivesANullPointer();
     void theFirstValueIsTheOneAppendedFirst();
     void aPrependedValueComesBeforeTheOthers();
-    void addingTellsWhetherTheKeyIsNew();
+    void addingReturnsWhetherTheKeyIsNew();
     void aKeyWhoseValuesAreGoneIsNewAgain();
     void keysAreComparedExactly();
     void removingTheFirstValueMakesTheNextOneTheFirst();
-    void removingTellsWhetherTheKeyIsGone();
+    void removingReturnsWhetherTheKeyIsGone();
     void removingWhatIsNotThereChangesNothing();
     void removingTakesOneOfSeveralEqualValues();
     void sortingFollowsTheRows();
@@ -64,7 +64,7 @@ void TestKeyIndex::aPrependedValueComesBeforeTheOthers()
     QCOMPARE(index.all(key), QList<int>({6, 7, 5}));
 }
 
-void TestKeyIndex::addingTellsWhetherTheKeyIsNew()
+void TestKeyIndex::addingReturnsWhetherTheKeyIsNew()
 {
     KeyIndex<int> index;
     QVERIFY(index.append(key, 1));
@@ -104,7 +104,7 @@ void TestKeyIndex::removingTheFirstValueMakesTheNextOneTheFirst()
     QCOMPARE(index.first(key), 2);
 }
 
-void TestKeyIndex::removingTellsWhetherTheKeyIsGone()
+void TestKeyIndex::removingReturnsWhetherTheKeyIsGone()
 {
     KeyIndex<int> index;
     index.append(key, 1);

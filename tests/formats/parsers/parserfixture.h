@@ -10,8 +10,7 @@
 
 #include <QtTest>
 
-/*! What one test of a parser needs: models to fill, files to read, an empty catalogue and the log.
- */
+/*! What a parser test needs: models to fill, files to read, an empty catalogue and the log. */
 class ParserFixture
 {
     Q_DISABLE_COPY(ParserFixture)
@@ -37,14 +36,14 @@ public:
 
     QString folder() const { return m_folder.path(); }
 
-    /*! Calls one of the operations that read a file, by name. */
+    /*! Calls one of the file operations by name. */
     bool parse(IFormatsParser &parser, const QString &operation, const QString &path,
                bool flag = true)
     {
         return parseInto(&formats, &recently, parser, operation, path, flag);
     }
 
-    /*! The same with other models, which may be null. */
+    /*! Likewise with other models, which can be null. */
     static bool parseInto(FormatListModel *formats, FormatDetailModel *recently,
                           IFormatsParser &parser, const QString &operation, const QString &path,
                           bool flag)
@@ -61,7 +60,7 @@ public:
         return parser.parseVideo(path, formats, flag);
     }
 
-    /*! A list's presets, as fields. */
+    /*! The fields of each preset in a list. */
     static QVariantList presetsOf(const FormatDetailModel &model)
     {
         QQueue<FormatDetailModelData> presets;
@@ -73,7 +72,7 @@ public:
         return list;
     }
 
-    /*! The preset in this row of the format's list; a default one where there is none. */
+    /*! The preset in this row of the format's list; a default one if there is none. */
     FormatDetailModelData preset(const QString &title, int row) const
     {
         FormatDetailModelData read;
@@ -83,7 +82,7 @@ public:
         return read;
     }
 
-    /*! All that both models hold, as lines: every row with every field of its presets. */
+    /*! The contents of both models, as lines: every row with every field of its presets. */
     QStringList dump() const
     {
         QQueue<FormatListModelData> rows;

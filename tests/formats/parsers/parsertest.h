@@ -8,7 +8,7 @@
 #include <memory>
 #include <optional>
 
-/*! Files that hold bytes, but no list to read: the kind of each and its content. */
+/*! Files that aren't empty but hold no list to read: a description and the content of each. */
 inline QVector<QPair<const char *, QByteArray>> filesWithoutAList()
 {
     constexpr int deep = 100000;
@@ -16,38 +16,38 @@ inline QVector<QPair<const char *, QByteArray>> filesWithoutAList()
     const QByteArray braces = QByteArray("{\"a\":").repeated(deep) + '0' + QByteArray(deep, '}');
     return {
         {"blanks", " \n\t"},
-        {"no JSON", "recently used"},
+        {"not JSON", "recently used"},
         {"an object", "{\"title\": \"MKV\", \"group\": []}"},
-        {"a text", "\"MKV\""},
+        {"a string", "\"MKV\""},
         {"a number", "5"},
         {"null", "null"},
         {"an empty list", "[]"},
         {"an empty list among blanks", " [ ]\n"},
         {"an empty list in a map", "{\"a\": []}"},
-        {"cut off in a text", "[{\"title\": \"MK"},
+        {"cut off in a string", "[{\"title\": \"MK"},
         {"cut off in a list", "[{\"title\": \"MKV\"}"},
         {"cut off in an entry", "[{\"title\": \"MKV\", \"group\": [{\"outPutNode\": {\"a\": 1}}"},
-        {"a comma too many", "[{\"title\": \"MKV\"},]"},
+        {"a trailing comma", "[{\"title\": \"MKV\"},]"},
         {"single quotes", "[{'title': 'MKV'}]"},
         {"a comment", "[{\"title\": \"MKV\"}] // mine"},
         {"two lists", "[{\"title\": \"MKV\"}][{}]"},
         {"NUL bytes", QByteArray(64, '\0')},
-        {"a NUL byte behind the list", QByteArray("[{\"title\": \"MKV\"}]") + '\0'},
+        {"a NUL byte after the list", QByteArray("[{\"title\": \"MKV\"}]") + '\0'},
         {"a NUL byte between values", QByteArray("[{\"title\":") + '\0' + "\"MKV\"}]"},
-        {"no UTF-8", "[{\"title\": \"MK\xff\"}]"},
+        {"invalid UTF-8", "[{\"title\": \"MK\xff\"}]"},
         {"half a UTF-8 character", "[{\"title\": \"MK\xc3\"}]"},
         {"a surrogate as UTF-8", "[{\"title\": \"MK\xed\xa0\x80\"}]"},
         {"UTF-16", QByteArray("\xff\xfe[") + '\0' + ']' + '\0'},
-        {"100,000 lists in each other", brackets},
+        {"100,000 nested lists", brackets},
         {"100,000 open lists", QByteArray(deep, '[')},
-        {"100,000 objects in each other", '[' + braces + ']'},
+        {"100,000 nested objects", '[' + braces + ']'},
         {"an entry of 100,000 lists", "[{\"outPutNode\": {\"a\": " + brackets + "}}]"},
     };
 }
 
 /*!
- * The rules of every parser. Each test function has new models, an empty catalogue and an empty
- * folder, and a log line that it did not take fails it.
+ * The rules of every parser. Each test function gets new models, an empty catalogue and an empty
+ * folder, and fails on a log line that it did not expect.
  */
 class ParserTest : public QObject
 {
@@ -64,7 +64,7 @@ protected:
         return {QStringLiteral("parseVideo"), QStringLiteral("parseAudio"),
                 QStringLiteral("parseDevice")};
     }
-    /*! An entry of which each of the operations makes one preset. */
+    /*! An entry that each of the operations turns into one preset. */
     [[nodiscard]] virtual QByteArray entry() const = 0;
 
     /*! Adds a row with the path of each pair "name.in.json" and "name.out.json" in the folder. */
@@ -81,8 +81,8 @@ protected:
     }
 
     /*!
-     * Reads path.in.json into models that know the format "MP4" already and compares all that they
-     * hold then with path.out.json.
+     * Reads path.in.json into models that already have the format "MP4" and compares their contents
+     * with path.out.json.
      */
     void compareWithGolden(const QString &operation, const QString &path)
     {
@@ -97,7 +97,7 @@ protected:
     std::optional<ParserFixture> m_fixture;
 
 private:
-    // Puts presets into both models and checks that a failed reading logs one line, no more.
+    // Puts presets into both models and checks that a failed read only logs one line.
     void compareRefusal(const QString &operation, const QString &path, const QString &reason)
     {
         m_fixture->formats.addModeInfo({QStringLiteral("MP4"), QString(), QStringLiteral("video")});

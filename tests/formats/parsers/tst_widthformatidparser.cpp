@@ -59,7 +59,7 @@ QVariantMap with(QVariantMap map, const char *key, const QVariant &value)
     return map;
 }
 
-// What a user's preset is after it was written to a file and read back.
+// A user-defined preset after it has been written to a file and read back.
 FormatDetailModelData readBack(FormatDetailModelData preset)
 {
     preset.userDefine = true;
@@ -117,20 +117,20 @@ private Q_SLOTS:
     void completeSettingsAreTheCataloguesOwn();
     void repeatedIdsAreAllImported();
     void importedPresetsAreNotUserDefined();
-    void whatIsNoMapCountsAsAnEmptyOne();
+    void aValueThatIsNotAMapCountsAsAnEmptyOne();
 
     void recentlyUsedPresetsAreRead_data();
     void recentlyUsedPresetsAreRead();
 
     void userDefinedPresetsRaiseTheHighestId();
     void presetsAreAppendedToThoseThere();
-    void aRenamedFormatIsAddedAnew();
+    void aRenamedFormatIsAddedAgain();
     void aSavedModelIsReadBack();
     void aSavedRecentlyUsedListIsReadBack();
     void numbersStayAsTheJsonParserGivesThem();
     void equalOptionListsShareTheirData();
     void loneSurrogatesAndNulAreKept();
-    void settingsMayBeDeep();
+    void settingsCanBeDeeplyNested();
     void aLargeFileIsReadWhole();
 
     void deviceFilesAreReadThroughParseVideo_data();
@@ -264,7 +264,7 @@ void TestWidthFormatIdParser::excludedGroupsAreLeftOut_data()
     for (const auto &name :
          {QStringLiteral("腾讯视频"), QStringLiteral("爱奇艺"), QStringLiteral("优酷")}) {
         QTest::newRow(qUtf8Printable(name)) << name << false;
-        QTest::newRow(qUtf8Printable(name + QStringLiteral(", blank behind")))
+        QTest::newRow(qUtf8Printable(name + QStringLiteral(", trailing blank")))
             << name + QLatin1Char(' ') << true;
     }
     QTest::newRow("part of a name") << QStringLiteral("腾讯") << true;
@@ -482,7 +482,7 @@ void TestWidthFormatIdParser::importedPresetsAreNotUserDefined()
     QCOMPARE(FormatDetailModel::s_userDefineId, 1000);
 }
 
-void TestWidthFormatIdParser::whatIsNoMapCountsAsAnEmptyOne()
+void TestWidthFormatIdParser::aValueThatIsNotAMapCountsAsAnEmptyOne()
 {
     FakeCatalogue::served().groups[QStringLiteral("Video")] = {
         {QVariantMap(), {QVariant(5), QStringLiteral("a"), QVariant()}}};
@@ -539,7 +539,7 @@ void TestWidthFormatIdParser::presetsAreAppendedToThoseThere()
     QCOMPARE(m_fixture->formats.rowCount(), 1);
 }
 
-void TestWidthFormatIdParser::aRenamedFormatIsAddedAnew()
+void TestWidthFormatIdParser::aRenamedFormatIsAddedAgain()
 {
     m_fixture->formats.addModeInfo({mp4, QString(), QStringLiteral("video")});
     m_fixture->formats.updateModeInfo(0, {QStringLiteral("AVI"), QString(), QString()});
@@ -686,7 +686,7 @@ void TestWidthFormatIdParser::loneSurrogatesAndNulAreKept()
     QVERIFY(!m_fixture->recently.containId(low));
 }
 
-void TestWidthFormatIdParser::settingsMayBeDeep()
+void TestWidthFormatIdParser::settingsCanBeDeeplyNested()
 {
     constexpr int deep = 1000;
     const QString path = m_fixture->write("[{\"outPutNode\": {\"a\": " + QByteArray(deep, '[') +

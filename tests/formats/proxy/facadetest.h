@@ -11,7 +11,7 @@
 
 #include <optional>
 
-/*! A facade whose models, every format's presets too, are guarded: see guard(). */
+/*! A facade whose models are guarded, including every format's presets: see guard(). */
 class WatchedFacade : public FormatsProxy
 {
 public:
@@ -28,8 +28,8 @@ public:
 };
 
 /*!
- * What the tests of the facade share: each test function has a new facade over an empty catalogue,
- * user-defined ids start anew, and a log line that the function did not take fails it.
+ * What the tests of the facade share: each test function gets a new facade over an empty catalogue,
+ * user-defined ids restart, and a log line that the function did not expect fails it.
  */
 class FacadeTest : public QObject
 {
@@ -46,7 +46,7 @@ protected:
         return *m_facade->formatListModel()->formatDetailModel(title);
     }
 
-    /*! The texts that stand between single blanks. */
+    /*! Splits at single blanks. */
     static QStringList words(const char *texts)
     {
         return QString::fromUtf8(texts).split(QLatin1Char(' '));
@@ -59,7 +59,7 @@ protected:
         return preset;
     }
 
-    /*! Adds a format whose presets differ in one field and have their row for a title. */
+    /*! Adds a format whose presets differ in one field and have their row as the title. */
     FormatDetailModel &addPresets(const QString &title, const QString &tag, QString Preset::*member,
                                   const QStringList &values)
     {
@@ -73,13 +73,13 @@ protected:
         return presets;
     }
 
-    /*! The title of a preset's map; empty for an empty map. */
+    /*! The title in a preset's map; empty for an empty map. */
     static QString titleOf(const QVariantMap &preset)
     {
         return preset.value(QStringLiteral("title")).toString();
     }
 
-    /*! Calls init() over sampleCatalogue() and a folder without files. */
+    /*! Calls init() with sampleCatalogue() and an empty folder. */
     void initOverSamples(const QString &folder)
     {
         FakeCatalogue::served() = sampleCatalogue();

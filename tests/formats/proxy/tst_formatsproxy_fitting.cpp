@@ -9,11 +9,11 @@ private Q_SLOTS:
     void theAudioPresetOfTheClosestBitrate_data();
     void theAudioPresetOfTheClosestBitrate();
     void theFittingAudioPresetIsHandedOutWhole();
-    void aTitleToFitAudioInIsTakenAsItStands_data();
-    void aTitleToFitAudioInIsTakenAsItStands();
+    void audioFittingTakesTheExactTitle_data();
+    void audioFittingTakesTheExactTitle();
     void theVideoPresetOfTheName_data();
     void theVideoPresetOfTheName();
-    void aTitleToFitVideoInIsTakenAsItStands();
+    void videoFittingTakesTheExactTitle();
     void theAudioBitrateIsCapped_data();
     void theAudioBitrateIsCapped();
     void theCapReachesTheConverterSettings();
@@ -101,7 +101,7 @@ void TestFormatsProxyFitting::theFittingAudioPresetIsHandedOutWhole()
              preset.toVarMap());
 }
 
-void TestFormatsProxyFitting::aTitleToFitAudioInIsTakenAsItStands_data()
+void TestFormatsProxyFitting::audioFittingTakesTheExactTitle_data()
 {
     QTest::addColumn<QString>("title");
     QTest::newRow("in another case") << QStringLiteral("mp3");
@@ -109,7 +109,7 @@ void TestFormatsProxyFitting::aTitleToFitAudioInIsTakenAsItStands_data()
     QTest::newRow("without presets") << QStringLiteral("FLAC");
 }
 
-void TestFormatsProxyFitting::aTitleToFitAudioInIsTakenAsItStands()
+void TestFormatsProxyFitting::audioFittingTakesTheExactTitle()
 {
     QFETCH(const QString, title);
     addPresets(QStringLiteral("MP3"), QStringLiteral("audio"), &Preset::audioBitrate, words("128"));
@@ -148,7 +148,7 @@ void TestFormatsProxyFitting::theVideoPresetOfTheName()
     QCOMPARE(found.isEmpty(), id.isEmpty());
 }
 
-void TestFormatsProxyFitting::aTitleToFitVideoInIsTakenAsItStands()
+void TestFormatsProxyFitting::videoFittingTakesTheExactTitle()
 {
     addPresets(QStringLiteral("MP4"), QStringLiteral("video"), &Preset::extension, words("mp4"));
     addFormat(QStringLiteral("AVI"), QStringLiteral("video"));
@@ -184,7 +184,7 @@ void TestFormatsProxyFitting::theAudioBitrateIsCapped_data()
     row("no number counts as 0", "10", {text("high")}, QStringLiteral("0"));
     row("cap 0", "0", offered, own);
     row("negative cap", "-1", offered, own);
-    row("cap is no number", "high", offered, own);
+    row("cap is not a number", "high", offered, own);
     row("cap is empty", "", offered, own);
 }
 

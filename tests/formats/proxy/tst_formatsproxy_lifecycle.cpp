@@ -10,7 +10,7 @@ class TestFormatsProxyLifecycle : public FacadeTest
 private Q_SLOTS:
     void aNewFacadeIsEmpty();
     void theModelsAndThenTheParserAreChildren();
-    void theFilterStandsOverTheCatalogueFromTheStart();
+    void theFilterModelWrapsTheCatalogueFromTheStart();
     void theModelsStayTheSame();
     void theTagsAreSetAndAnnouncedOnce();
     void onlyTagsThatDifferAreAnnounced_data();
@@ -20,10 +20,10 @@ private Q_SLOTS:
     void theTagsAreSetFirstAndTheRecentlyUsedReadNext();
     void theUsersPresetsFollowTheCatalogues();
     void bothFilesHoldUserDefinedPresets();
-    void missingFilesAreLoggedAndNoObstacle_data();
-    void missingFilesAreLoggedAndNoObstacle();
-    void unreadableFilesAreLoggedAndNoObstacle_data();
-    void unreadableFilesAreLoggedAndNoObstacle();
+    void missingFilesAreLoggedAndSkipped_data();
+    void missingFilesAreLoggedAndSkipped();
+    void unreadableFilesAreLoggedAndSkipped_data();
+    void unreadableFilesAreLoggedAndSkipped();
     void withoutAFolderOnlyTheUsersPresetsAreLookedFor();
     void initAgainReadsTheFilesAgain();
 
@@ -82,7 +82,7 @@ void TestFormatsProxyLifecycle::theModelsAndThenTheParserAreChildren()
     }
 }
 
-void TestFormatsProxyLifecycle::theFilterStandsOverTheCatalogueFromTheStart()
+void TestFormatsProxyLifecycle::theFilterModelWrapsTheCatalogueFromTheStart()
 {
     QCOMPARE(m_facade->formatListModelProxy()->sourceModel(), m_facade->formatListModel());
 }
@@ -178,7 +178,7 @@ void TestFormatsProxyLifecycle::theCategoriesAreImportedInOrder()
 {
     const QTemporaryDir folder;
     FakeCatalogue::served() = sampleCatalogue();
-    // A category counts by its text, whatever it is.
+    // A category that isn't a string is converted to one.
     FakeCatalogue::served().categories.append(42);
     m_facade->init(folder.path());
     QCOMPARE(m_log->takeAll(), openFailures(folder.path()));
@@ -260,7 +260,7 @@ void TestFormatsProxyLifecycle::bothFilesHoldUserDefinedPresets()
     QCOMPARE(m_facade->getUserDefineCount(QStringLiteral("video"), QStringLiteral("Mine")), 1);
 }
 
-void TestFormatsProxyLifecycle::missingFilesAreLoggedAndNoObstacle_data()
+void TestFormatsProxyLifecycle::missingFilesAreLoggedAndSkipped_data()
 {
     QTest::addColumn<QString>("suffix");
     QTest::newRow("a folder without files") << QString();
@@ -269,7 +269,7 @@ void TestFormatsProxyLifecycle::missingFilesAreLoggedAndNoObstacle_data()
     QTest::newRow("a missing folder with a Chinese name") << QStringLiteral("/预设 1");
 }
 
-void TestFormatsProxyLifecycle::missingFilesAreLoggedAndNoObstacle()
+void TestFormatsProxyLifecycle::missingFilesAreLoggedAndSkipped()
 {
     QFETCH(const QString, suffix);
     const QTemporaryDir folder;
@@ -280,7 +280,7 @@ void TestFormatsProxyLifecycle::missingFilesAreLoggedAndNoObstacle()
     QCOMPARE(m_facade->recentlyFormatsModel()->rowCount(), 0);
 }
 
-void TestFormatsProxyLifecycle::unreadableFilesAreLoggedAndNoObstacle_data()
+void TestFormatsProxyLifecycle::unreadableFilesAreLoggedAndSkipped_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("complaint");
@@ -289,11 +289,11 @@ void TestFormatsProxyLifecycle::unreadableFilesAreLoggedAndNoObstacle_data()
     QTest::newRow("an empty file") << QByteArray() << noText;
     QTest::newRow("an empty list") << QByteArray("[\n]\n") << noList;
     QTest::newRow("no list") << QByteArray("{\"title\": \"MP4\"}") << noList;
-    QTest::newRow("no JSON") << QByteArray("\xff\xfe[") << noList;
+    QTest::newRow("not JSON") << QByteArray("\xff\xfe[") << noList;
     QTest::newRow("a file cut short") << QByteArray("[{\"id\": \"a\", \"outPut") << noList;
 }
 
-void TestFormatsProxyLifecycle::unreadableFilesAreLoggedAndNoObstacle()
+void TestFormatsProxyLifecycle::unreadableFilesAreLoggedAndSkipped()
 {
     QFETCH(const QByteArray, content);
     QFETCH(const QString, complaint);
@@ -332,7 +332,7 @@ void TestFormatsProxyLifecycle::initAgainReadsTheFilesAgain()
 
     FakeCatalogue::served().calls.clear();
     m_facade->init(folder.path());
-    // Every format is there already: its presets are not asked for.
+    // Every format exists already, so its presets are not requested.
     QCOMPARE(FakeCatalogue::served().calls,
              (QStringList{QStringLiteral("categories"), QStringLiteral("groups Video"),
                           QStringLiteral("groups Audio")}));

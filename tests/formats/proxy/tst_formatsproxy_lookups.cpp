@@ -16,10 +16,10 @@ private Q_SLOTS:
     void withoutATagOrAClassThereIsNeither_data();
     void withoutATagOrAClassThereIsNeither();
     void anIdOfTwoFormatsHasTheFirstRowsTagAndTheFirstKeysClass();
-    void audioAndVideoAreToldByTheEncodersOffered_data();
-    void audioAndVideoAreToldByTheEncodersOffered();
-    void severalTracksAreAMatterOfTheClassTitle_data();
-    void severalTracksAreAMatterOfTheClassTitle();
+    void theEncodersOfferedTellAudioFromVideo_data();
+    void theEncodersOfferedTellAudioFromVideo();
+    void multiTrackSupportDependsOnTheClassTitle_data();
+    void multiTrackSupportDependsOnTheClassTitle();
     void anUnknownIdGivesNothing_data();
     void anUnknownIdGivesNothing();
     void userDefinedPresetsAreCountedByClass();
@@ -176,7 +176,7 @@ void TestFormatsProxyLookups::anIdOfTwoFormatsHasTheFirstRowsTagAndTheFirstKeysC
     QVERIFY(!m_facade->isSupportMultiTrack(id));
 }
 
-void TestFormatsProxyLookups::audioAndVideoAreToldByTheEncodersOffered_data()
+void TestFormatsProxyLookups::theEncodersOfferedTellAudioFromVideo_data()
 {
     QTest::addColumn<QVariantList>("videoEncoders");
     QTest::addColumn<QVariantList>("audioEncoders");
@@ -186,11 +186,11 @@ void TestFormatsProxyLookups::audioAndVideoAreToldByTheEncodersOffered_data()
     const QVariantList some{QString()};
     QTest::newRow("audio only") << none << some << true << false;
     QTest::newRow("video and audio") << some << some << false << true;
-    QTest::newRow("video without sound") << some << none << false << false;
+    QTest::newRow("video without audio") << some << none << false << false;
     QTest::newRow("nothing offered") << none << none << false << false;
 }
 
-void TestFormatsProxyLookups::audioAndVideoAreToldByTheEncodersOffered()
+void TestFormatsProxyLookups::theEncodersOfferedTellAudioFromVideo()
 {
     QFETCH(const QVariantList, videoEncoders);
     QFETCH(const QVariantList, audioEncoders);
@@ -206,7 +206,7 @@ void TestFormatsProxyLookups::audioAndVideoAreToldByTheEncodersOffered()
     QCOMPARE(m_facade->isVideoFormat(preset.id), isVideo);
 }
 
-void TestFormatsProxyLookups::severalTracksAreAMatterOfTheClassTitle_data()
+void TestFormatsProxyLookups::multiTrackSupportDependsOnTheClassTitle_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<bool>("flag");
@@ -219,7 +219,7 @@ void TestFormatsProxyLookups::severalTracksAreAMatterOfTheClassTitle_data()
     QTest::newRow("MKV with the flag set") << QStringLiteral("MKV") << true << false;
 }
 
-void TestFormatsProxyLookups::severalTracksAreAMatterOfTheClassTitle()
+void TestFormatsProxyLookups::multiTrackSupportDependsOnTheClassTitle()
 {
     QFETCH(const QString, className);
     QFETCH(const bool, flag);

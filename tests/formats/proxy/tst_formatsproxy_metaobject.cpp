@@ -68,7 +68,7 @@ void TestFormatsProxyMetaObject::aMethodStandsAtItsIndex()
     QCOMPARE(method.access(), QMetaMethod::Public);
 }
 
-// So the four fitting operations that are the host's alone can't be seen from QML.
+// The four fitting operations are only for C++ and must not be visible from QML.
 void TestFormatsProxyMetaObject::thereAreNoOtherMethods()
 {
     const QMetaObject &meta = FormatsProxy::staticMetaObject;

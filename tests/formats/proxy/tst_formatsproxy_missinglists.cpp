@@ -3,7 +3,7 @@
 
 namespace {
 
-// An explicit instantiation may name a private member: the facade needs no access for its tests.
+// An explicit instantiation can name a private member, so the facade needs no friends for tests.
 template <auto member>
 struct Insight
 {
@@ -214,7 +214,7 @@ void TestFormatsProxyMissingLists::onlyTheListsThatExistAreLoaded_data()
     addListRows();
 }
 
-// The parser of a list that is there tells that its file is not.
+// The parser of a list that exists logs that the file is missing.
 void TestFormatsProxyMissingLists::onlyTheListsThatExistAreLoaded()
 {
     QFETCH(const bool, hasRecents);

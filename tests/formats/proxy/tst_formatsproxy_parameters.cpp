@@ -9,14 +9,14 @@ private Q_SLOTS:
     void videoParametersAreClosestByArea();
     void audioParametersAreClosestByBitrate_data();
     void audioParametersAreClosestByBitrate();
-    void userDefinedPresetsAreNoParameters();
+    void userDefinedPresetsAreIgnored();
     void anUnsupportedFormatFallsBackToItsTypesDefault_data();
     void anUnsupportedFormatFallsBackToItsTypesDefault();
     void parametersNeedAFormatWithPresets_data();
     void parametersNeedAFormatWithPresets();
 
 private:
-    // Presets with these values in one field, and the title of the one that is chosen: its place.
+    // Presets with these values in one field, and the title, which is the index, of the chosen one.
     static void addColumns();
     static void row(const char *name, const char *values, const QVariant &target, bool preferSource,
                     const char *title);
@@ -54,11 +54,11 @@ void TestFormatsProxyParameters::compareChoice(const QString &type, QString Pres
 void TestFormatsProxyParameters::videoParametersAreClosestByArea_data()
 {
     addColumns();
-    const char *usual = "640x480 1280x720 1920x1080";
-    row("an equal one", usual, text("1280x720"), false, "1");
-    row("the closest below", usual, text("1300x720"), false, "1");
-    row("the closest above", usual, text("1900x1080"), false, "2");
-    row("sides do not count, the area does", usual, text("720x1280"), false, "1");
+    const char *sizes = "640x480 1280x720 1920x1080";
+    row("an equal one", sizes, text("1280x720"), false, "1");
+    row("the closest below", sizes, text("1300x720"), false, "1");
+    row("the closest above", sizes, text("1900x1080"), false, "2");
+    row("sides do not count, the area does", sizes, text("720x1280"), false, "1");
     row("the later one of two as close", "10x10 10x20", text("10x15"), false, "1");
     row("the last one of equal ones", "10x20 20x10 30x10", text("10x20"), false, "1");
     row("0 competes as an area of 0", "10x10 0 30x10", text("10x2"), false, "1");
@@ -68,7 +68,7 @@ void TestFormatsProxyParameters::videoParametersAreClosestByArea_data()
     row("the last one of two 0", "0 0", text("10x10"), false, "1");
     row("the source's own beats the closest", "10x10 0 20x20", text("10x10"), true, "1");
     row("the first of two of the source's own", "10x10 0 0", text("10x10"), true, "1");
-    row("no source's own to prefer", usual, text("1280x720"), true, "1");
+    row("no source's own to prefer", sizes, text("1280x720"), true, "1");
     row("only the text 0 is the source's own", "0x0 00 10x10", text("10x10"), true, "2");
     row("a negative area puts 0 first", "-10x10 0 10x10", text("-10x10"), false, "1");
     row("a negative area without a 0", "10x10 -10x10 -20x10", text("-10x10"), false, "1");
@@ -89,13 +89,13 @@ void TestFormatsProxyParameters::videoParametersAreClosestByArea_data()
     row("a target with an empty side between", "10x5 1x1", text("10xx5"), false, "1");
     row("a resolution with an empty side between", "10x1 10xx5", text("0x0"), false, "1");
     row("a third side is left out", "2x3 2x3x4 4x6", text("2x3x4"), false, "1");
-    row("an upper case X is no x", "1920x1080 1x1", text("1920X1080"), false, "1");
-    row("a target that is no number", "1920x1080 1x1", text("largextall"), false, "1");
+    row("an upper-case X is not an x", "1920x1080 1x1", text("1920X1080"), false, "1");
+    row("a target that is not a number", "1920x1080 1x1", text("largextall"), false, "1");
     row("an empty target", "1920x1080 1x1", text(""), false, "1");
     row("no target", "1920x1080 1x1", QVariant(), false, "1");
     row("a number for a target", "1080x1 1x1", 1080, false, "1");
     row("a resolution without an x", "10x10 1080", text("0x0"), false, "1");
-    row("a resolution that is no number", "10x10 source", text("0x0"), false, "1");
+    row("a resolution that is not a number", "10x10 source", text("0x0"), false, "1");
     row("a resolution with an empty side", "10x10 x10", text("0x0"), false, "1");
     row("a side beyond 32 bits counts as 0", "10x10 99999999999x10", text("0x0"), false, "1");
 }
@@ -119,7 +119,7 @@ void TestFormatsProxyParameters::audioParametersAreClosestByBitrate_data()
     row("no source's own to prefer", "128 192", text("192"), true, "1");
     row("only the text 0 is the source's own", "00 128", text("128"), true, "1");
     row("no number counts as 0", "256 128", text("high"), false, "1");
-    row("a resolution is no number", "256 128", text("1920x1080"), false, "1");
+    row("a resolution is not a number", "256 128", text("1920x1080"), false, "1");
     row("no target", "256 128", QVariant(), false, "1");
     row("a preset without a number counts as 0", "256 high", text("1"), false, "1");
     row("a negative target", "128 0", text("-100"), false, "1");
@@ -132,7 +132,7 @@ void TestFormatsProxyParameters::audioParametersAreClosestByBitrate()
     compareChoice(QStringLiteral("audio"), &Preset::audioBitrate);
 }
 
-void TestFormatsProxyParameters::userDefinedPresetsAreNoParameters()
+void TestFormatsProxyParameters::userDefinedPresetsAreIgnored()
 {
     Preset own;
     own.userDefine = true;
@@ -173,7 +173,7 @@ void TestFormatsProxyParameters::anUnsupportedFormatFallsBackToItsTypesDefault_d
         << video << QStringLiteral("mp4") << QStringLiteral("mp4 1920x1080");
     QTest::newRow("a supported audio format")
         << audio << QStringLiteral("mp3") << QStringLiteral("mp3 128");
-    // The type says what is compared, not where.
+    // The type decides what is compared, not which formats are searched.
     QTest::newRow("audio of a video format")
         << audio << QStringLiteral("mp4") << QStringLiteral("mp4 1920x1080");
     QTest::newRow("an unknown type")
@@ -205,7 +205,7 @@ void TestFormatsProxyParameters::anUnsupportedFormatFallsBackToItsTypesDefault()
     add(mp3, "mp3 128", "1x1", "128");
     add(addFormat(QStringLiteral("PHONE"), QStringLiteral("device")), "phone", "1920x1080", "128");
 
-    // Closest to the last presets, unless the source's own is preferred.
+    // Closest to the last presets, unless the one that keeps the source's value is preferred.
     const QVariant target = type == QLatin1String("audio") ? QVariant(1920) : text("1920x1080");
     QCOMPARE(m_facade->getConverterParameters(type, format, target, false)
                  .value(QStringLiteral("id"))

@@ -168,7 +168,7 @@ void TestFormatsProxyQml::aModelBelongsToTheFacadeAlsoInQml()
 {
     QFETCH(const QByteArray, expression);
     fill();
-    // The engine, which would take a model without a parent along, is gone after each call.
+    // Destroying the engine after each call would delete a model that has no parent.
     auto *const model = evaluate(expression).value<QObject *>();
     QVERIFY(model);
     QVERIFY(m_facade->findChildren<QObject *>().contains(model));

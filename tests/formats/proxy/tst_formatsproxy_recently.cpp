@@ -13,8 +13,8 @@ private Q_SLOTS:
     void aPickFromTheListItselfMovesToTheTop_data();
     void aPickFromTheListItselfMovesToTheTop();
     void theTagOfTheListIsComparedExactly();
-    void aPresetThatIsNotFoundIsNoFailure_data();
-    void aPresetThatIsNotFoundIsNoFailure();
+    void anUnknownPresetIsNotAFailure_data();
+    void anUnknownPresetIsNotAFailure();
     void anOverlongListKeepsItsLength();
     void anOverlongListKeepsItsLengthWhenAPresetMoves();
     void onlyTheFirstOfEqualEntriesMoves();
@@ -129,7 +129,7 @@ void TestFormatsProxyRecently::theTagOfTheListIsComparedExactly()
     QCOMPARE(idsOf(recently()), words("p5 p1 p0"));
 }
 
-void TestFormatsProxyRecently::aPresetThatIsNotFoundIsNoFailure_data()
+void TestFormatsProxyRecently::anUnknownPresetIsNotAFailure_data()
 {
     QTest::addColumn<QString>("tagName");
     QTest::addColumn<QString>("className");
@@ -145,7 +145,7 @@ void TestFormatsProxyRecently::aPresetThatIsNotFoundIsNoFailure_data()
     QTest::newRow("not in the list itself") << list << mp4 << QStringLiteral("p10");
 }
 
-void TestFormatsProxyRecently::aPresetThatIsNotFoundIsNoFailure()
+void TestFormatsProxyRecently::anUnknownPresetIsNotAFailure()
 {
     QFETCH(const QString, tagName);
     QFETCH(const QString, className);
@@ -208,7 +208,7 @@ void TestFormatsProxyRecently::anEntryDoesNotFollowItsPreset()
     QCOMPARE(idsOf(recently()), words("p0"));
 }
 
-// Marked user-defined, an entry with a number as its id counts as a user's preset with that id.
+// As entries are marked user-defined, one with a numeric id counts as a user's preset with that id.
 void TestFormatsProxyRecently::anEntryRaisesTheHighestUserDefinedId()
 {
     FormatDetailModel &presets = addFormat(QStringLiteral("MP4"), QStringLiteral("video"));

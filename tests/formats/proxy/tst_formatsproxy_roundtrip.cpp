@@ -2,7 +2,7 @@
 
 #include <QProcess>
 
-/*! What one process saves, read by another one, whose counters start anew. */
+/*! What one process saves and another one, with reset counters, reads. */
 class TestFormatsProxyRoundTrip : public FacadeTest
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ namespace {
 
 constexpr QLatin1String writeFiles("--write-files");
 
-// A preset of the user's with a value in every field and texts that JSON has to escape.
+// A user-defined preset with a value in every field and strings that JSON has to escape.
 FormatDetailModelData fullPreset()
 {
     FormatDetailModelData preset = samplePreset();
@@ -58,8 +58,8 @@ FormatDetailModelData fullPreset()
     return preset;
 }
 
-// The video bitrates are joined to a text, where they become texts; the catalogue's own one is in
-// no file; where the writer puts "isLoseless" and "param", no reader looks for them.
+// The video bitrates are joined to one string, which turns them into strings; the catalogue's own
+// is not saved; "isLoseless" and "param" are written where they are not read.
 FormatDetailModelData asReadBack(FormatDetailModelData preset)
 {
     preset.videoBitrates = {QStringLiteral("1000"), QStringLiteral("2000"), QStringLiteral("4000")};
@@ -235,7 +235,7 @@ void TestFormatsProxyRoundTrip::theNextIdIsOneAboveTheHighestRead()
 void TestFormatsProxyRoundTrip::whatWasReadOnceIsSavedAndReadUnchanged()
 {
     read(*m_facade, m_folder.path());
-    // A second init() reads nothing in an empty folder and makes it the one to save into.
+    // A second init() with an empty folder reads nothing and makes it the folder to save to.
     const QTemporaryDir again;
     m_facade->init(again.path());
     QCOMPARE(m_log->takeAll().size(), 2);

@@ -28,7 +28,7 @@ private:
     }
 };
 
-// What golden/ holds: a video and an audio preset, with texts that JSON has to escape.
+// The contents of golden/: a video and an audio preset, with strings that JSON has to escape.
 void TestFormatsProxySaving::makeUserPresets()
 {
     const auto add = [this](const QString &className, const char *id, const QVariantMap &param) {

@@ -80,8 +80,8 @@ QVariantMap settings(const Preset &preset, const char *key)
     return preset.outPutNode.value(QLatin1String(key)).toMap();
 }
 
-// The base with userValues(), still the base in its ids and as a built-in preset. The audio
-// settings are new, the video settings keep what the user can't change.
+// The base with userValues(), but still with its ids and as a built-in preset. The audio settings
+// are replaced, the video settings keep what the user can't change.
 Preset baseWithUserValues()
 {
     Preset preset = base();
@@ -118,8 +118,8 @@ private Q_SLOTS:
     void theConverterIdKeepsTheFirstTwoPartsOfTheBases_data();
     void theConverterIdKeepsTheFirstTwoPartsOfTheBases();
     void aPresetOfTheUsersCanBeABase();
-    void anEqualTitleIsNoObstacle();
-    void theTagPlaysNoPart();
+    void aTitleCanBeUsedTwice();
+    void theTagIsIgnored();
     void addingTouchesNeitherTheBaseNorTheRecentlyUsed();
     void addingNeedsAKnownClassAndId_data();
     void addingNeedsAKnownClassAndId();
@@ -129,7 +129,7 @@ private Q_SLOTS:
     void aChangedPresetKeepsItsIdentity();
     void aChangeDoesNotReachTheRecentlyUsed();
     void onlyTheFirstOfEqualIdsIsChanged();
-    void changingAnUnknownClassIsNoFailure();
+    void changingAnUnknownClassIsNotAFailure();
     void changingAnUnknownIdFails();
     void aDeletedPresetLeavesTheRecentlyUsedToo();
     void aBuiltInPresetCanBeDeleted();
@@ -333,7 +333,7 @@ void TestFormatsProxyUserDefined::aPresetOfTheUsersCanBeABase()
              QStringLiteral("video_mp4_1001"));
 }
 
-void TestFormatsProxyUserDefined::anEqualTitleIsNoObstacle()
+void TestFormatsProxyUserDefined::aTitleCanBeUsedTwice()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     add();
@@ -342,7 +342,7 @@ void TestFormatsProxyUserDefined::anEqualTitleIsNoObstacle()
     QCOMPARE(presetAt(mp4, 2).title, QStringLiteral("Mine"));
 }
 
-void TestFormatsProxyUserDefined::theTagPlaysNoPart()
+void TestFormatsProxyUserDefined::theTagIsIgnored()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     int lastId = 1000;
@@ -462,7 +462,7 @@ void TestFormatsProxyUserDefined::onlyTheFirstOfEqualIdsIsChanged()
     QCOMPARE(lines(presetAt(mp4, 1)), lines(base()));
 }
 
-void TestFormatsProxyUserDefined::changingAnUnknownClassIsNoFailure()
+void TestFormatsProxyUserDefined::changingAnUnknownClassIsNotAFailure()
 {
     FormatDetailModel &mp4 = addMp4({base()});
     QVERIFY(change(QStringLiteral("base"), userValues(), QStringLiteral("AVI")));

@@ -19,7 +19,7 @@ private Q_SLOTS:
     void cleanup();
     void itStartsWithEmptyModelsAndNoParser();
     void theModelsBelongToTheFacade();
-    void theFilterStandsOverTheCatalogue();
+    void theFilterModelWrapsTheCatalogue();
     void aTextIsWrittenAsUtf8_data();
     void aTextIsWrittenAsUtf8();
     void aLongerFileIsReplacedWhole();
@@ -86,7 +86,7 @@ void TestFormatsProxyPrivate::theModelsBelongToTheFacade()
     }
 }
 
-void TestFormatsProxyPrivate::theFilterStandsOverTheCatalogue()
+void TestFormatsProxyPrivate::theFilterModelWrapsTheCatalogue()
 {
     QCOMPARE(m_private->formatListModelProxy->sourceModel(), m_private->formatListModel);
 }

@@ -1,6 +1,6 @@
 import QtQuick 2.15
 
-/*! The host's context objects. They record what they are asked to do, in one list. */
+/*! The host's context objects, which record all calls in one list. */
 QtObject {
     id: root
 
@@ -9,7 +9,7 @@ QtObject {
     property var timers: []
     property var usedByConverter: []
     property var usedByEditor: []
-    /*! What marks a translated text. */
+    /*! The prefix of translated text. */
     property string mark: "~"
     readonly property var dpi: function (size) {
         return 2 * size
@@ -23,7 +23,7 @@ QtObject {
         return root.calls.splice(0)
     }
 
-    /*! Lets the time of all timers pass, and returns their times in ms. */
+    /*! Fires all timers and returns their times in ms. */
     function elapse() {
         return root.timers.splice(0).map(function (timer) {
             timer.run()

@@ -2,14 +2,14 @@ import QtQuick 2.15
 import QtTest 1.15
 import "catalogue.js" as Catalogue
 
-/*! Opens the screens on recorded host objects. A message that nobody expected fails the test. */
+/*! Opens the screens with recording host objects. An unexpected message fails the test. */
 TestCase {
     id: root
 
     property var catalogue: Catalogue.sample()
     property RecordingHost host: null
     property var screen: null
-    /*! How long a state may take to come, in ms: a busy machine is slow. */
+    /*! How long to wait for a state, in ms: generous, as the machine can be busy. */
     readonly property int patience: 60000
     readonly property QtObject theme: root.host ? root.host.themeManager.curTheme : null
 
@@ -36,7 +36,7 @@ TestCase {
         compare(bench.end(), [])
     }
 
-    /*! The host lets the screen go, whatever the screen is doing. */
+    /*! Destroys the screen as the host does, whatever the screen is doing. */
     function letGo() {
         if (root.screen) {
             root.screen.destroy()
@@ -93,7 +93,7 @@ TestCase {
         root.waitForRest()
     }
 
-    /*! Before items are looked for or measured: waits until all are built and laid out. */
+    /*! Waits until all items are built and laid out, so that they can be found and measured. */
     function waitForRest() {
         tryVerify(function () {
             if (!bench.isAtRest(root)) {
@@ -131,14 +131,14 @@ TestCase {
         verify(Qt.colorEqual(actual, expected), actual + " instead of " + expected)
     }
 
-    /*! Where \a item lies in \a frame, as [x, y, width, height]. */
+    /*! The geometry of \a item in \a frame, as [x, y, width, height]. */
     function place(item, frame) {
         root.waitForRest()
         const position = item.mapToItem(frame, 0, 0)
         return [position.x, position.y, item.width, item.height]
     }
 
-    /*! The shown items of the type \a type in \a item, first to last. */
+    /*! The visible items of type \a type in \a item, in order. */
     function all(type, item) {
         return root.shown(item, function (child) {
             return [type + "_QML", type + "("].some(function (start) {
@@ -155,7 +155,7 @@ TestCase {
         return root.all("QQuickImage", item)
     }
 
-    /*! The shown items in \a item, or in the screen, that \a matches is true of. */
+    /*! The visible items in \a item, or in the screen, for which \a matches returns true. */
     function shown(item, matches) {
         root.waitForRest()
         const found = []
@@ -202,7 +202,7 @@ TestCase {
         root.settle()
     }
 
-    /*! The calls since the last time, but for those that size the window. */
+    /*! The calls since the last time, except those that resize the window. */
     function calls() {
         return root.host.takeCalls().filter(function (call) {
             return call[0] !== "frame.resizeWinSize"

@@ -50,7 +50,7 @@ void ScreenBench::begin(const QVariantList &catalogue)
     m_log.emplace();
     m_facade = std::make_unique<FormatsProxy>();
     m_facade->init(QString());
-    (void)m_log->takeAll(); // that there are no user's files
+    (void)m_log->takeAll(); // the user's files are missing
     publish(QStringLiteral("O_FormatsProxy"), QVariant::fromValue<QObject *>(m_facade.get()));
 }
 

@@ -12,8 +12,8 @@
 #include <optional>
 
 /*!
- * What a screen under test needs: the real facade as O_FormatsProxy, other objects under the names
- * that the host gives them, and a record of the warnings. QML knows it as "bench".
+ * What a screen under test needs: the real facade as O_FormatsProxy, other objects under the host's
+ * names, and a record of the warnings. Available to QML as "bench".
  */
 class ScreenBench : public QObject
 {
@@ -27,9 +27,9 @@ public:
      * {"map", "contents"} as the host's utility library delivers them.
      */
     Q_INVOKABLE void begin(const QVariantList &catalogue);
-    /*! Lets the facade go, and returns what was logged since begin(). */
+    /*! Destroys the facade and returns what was logged since begin(). */
     Q_INVOKABLE QStringList end();
-    /*! Whether the window of \a item has nothing left to build and to lay out. */
+    /*! Whether the window of \a item has nothing left to build or lay out. */
     Q_INVOKABLE bool isAtRest(QQuickItem *item) const;
     Q_INVOKABLE void publish(const QString &contextName, const QVariant &value);
 

@@ -84,7 +84,7 @@ ScreenTest {
         compare(shownEntries(boxes()[row.box]), row.shown)
     }
 
-    // The facade holds each chosen value as text, the offered ones as the catalogue has them.
+    // The facade holds each chosen value as a string, the offered ones as the catalogue has them.
     function test_theInitialChoice_data() {
         const rows = []
         const names = ["video encoder", "frame rate", "resolution", "video bitrate",

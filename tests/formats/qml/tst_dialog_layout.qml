@@ -187,7 +187,7 @@ ScreenTest {
         }
     }
 
-    function test_theSectionsStand24Apart() {
+    function test_theSectionsAre24Apart() {
         openDialog({})
         const parts = [all("TitleRow")[0], headings()[0], all("QualityBar")[0], headings()[1],
                        all("VideoSettings")[0], headings()[2], all("AudioSettings")[0]].map(at)
@@ -235,7 +235,7 @@ ScreenTest {
                 host.mark += word
                 settle()
                 labels.forEach(function (label, cell) {
-                    // A text that is too wide for its label stands out on the left.
+                    // Text that is too wide for its label sticks out on the left.
                     const start = at(label)[0] + label.width - label.contentWidth
                     const end = cell % 2 === 1 ? boxes[cell - 1][0] + boxes[cell - 1][2] : 0
                     verify(start > end, label.text)

@@ -26,7 +26,7 @@ ScreenTest {
         compare(box.currentIndex, index)
     }
 
-    /*! The facade, telling the host's recorder of each change. */
+    /*! The facade, which reports each change to the host's recorder. */
     function recordTheFacade() {
         const facade = O_FormatsProxy
         const recorded = { "getFormat": facade.getFormat,
@@ -124,7 +124,7 @@ ScreenTest {
         compare(made[2], ["frame.cancelClicked", "1001"])
     }
 
-    function test_savingTellsTheFacadeClassIdAndSettings() {
+    function test_savingPassesClassIdAndSettingsToTheFacade() {
         const id = addOwn()
         recordTheFacade()
         const dialog = openDialog({ idIndex: id, userDefine: true, openTheWay: false, listID: 3 })
@@ -169,7 +169,7 @@ ScreenTest {
         compare(presets("MP4").count, 9)
     }
 
-    /*! Where the keyboard can be, as so many steps with Tab. */
+    /*! The items that can have the focus, by the number of presses of Tab. */
     function stops() {
         return [{ tag: "at once", tabs: 0 }, { tag: "in the title", tabs: 1 },
                 { tag: "on a quality", tabs: 2 }, { tag: "on a box", tabs: 3 },
@@ -257,7 +257,7 @@ ScreenTest {
         compare(all("FocusRing", all("QualityBar")[0]).length, 1)
     }
 
-    function test_aDialogThatGoesBeforeItIsInitialisedStaysSilent() {
+    function test_aDialogDestroyedBeforeItIsInitialisedLogsNothing() {
         openDialog({})
         letGo()
         compare(host.elapse(), [100])

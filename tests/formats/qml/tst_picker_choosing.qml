@@ -61,7 +61,7 @@ ScreenTest {
         }))
         compare(calls(), [row.call])
         waitFor(page, "opened", false)
-        // Recording it is the host's business.
+        // Adding it to the recently-used presets is up to the host.
         compare(recents().count, row.list === "RecentlyRow" ? 1 : 0)
     }
 

@@ -51,7 +51,7 @@ ScreenTest {
         verify(!all("VEXTextField")[0].activeFocus)
     }
 
-    function test_aPickerThatGoesWhileOpenStaysSilent() {
+    function test_aPickerDestroyedWhileOpenLogsNothing() {
         O_FormatsProxy.add2Recently("video", "MP4", "Video_MP4_002")
         openPicker({ openWay: true })
         click(named("FormatTag", "~video"))

@@ -36,7 +36,7 @@ ScreenTest {
         }
     }
 
-    function test_onlyTheKeyboardShowsWhereItIs() {
+    function test_onlyKeyboardFocusIsShown() {
         openPicker({ openWay: true })
         click(named("FormatTag", "~audio"))
         click(named("FormatTag", "~video"))
@@ -48,7 +48,7 @@ ScreenTest {
         compare(all("FocusRing").filter(isShown).length, 1)
     }
 
-    function test_arrowsWalkTheTags() {
+    function test_arrowsMoveThroughTheTags() {
         const page = openPicker({ openWay: true })
         press(Qt.Key_Tab)
         press(Qt.Key_Right)
@@ -64,7 +64,7 @@ ScreenTest {
         verify(named("FormatTag", "~socialVideo").activeFocus)
     }
 
-    function test_arrowsWalkTheFormats() {
+    function test_arrowsMoveThroughTheFormats() {
         const page = openPicker({ listFormatId: "Video_AVI_001" })
         all("PickerList")[0].forceActiveFocus(Qt.TabFocusReason)
         press(Qt.Key_Down)
@@ -80,7 +80,7 @@ ScreenTest {
         compare(all("PickerList")[0].currentIndex, 0)
     }
 
-    function test_arrowsWalkThePresetsFromTheOneInUse() {
+    function test_arrowsMoveThroughThePresetsFromTheOneInUse() {
         openPicker({ openWay: true })
         press(Qt.Key_Down)
         compare(currentPreset(), "Video_MP4_002")
@@ -128,7 +128,7 @@ ScreenTest {
         compare(calls(), [["converter.setConverterGlobalFormat", "Audio_MP3_002"]])
     }
 
-    function test_typingInAListGoesOnWithTheSearch() {
+    function test_typingInAListContinuesTheSearch() {
         openPicker({ openWay: true })
         press("m")
         press(Qt.Key_Down)
@@ -137,7 +137,7 @@ ScreenTest {
         verify(all("VEXTextField")[0].activeFocus)
     }
 
-    function test_shortcutsAreNoSearch() {
+    function test_shortcutsDoNotSearch() {
         openPicker({ openWay: true })
         keyClick("a", Qt.ControlModifier)
         keyClick("a", Qt.AltModifier)

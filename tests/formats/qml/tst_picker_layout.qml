@@ -132,7 +132,7 @@ ScreenTest {
         }
     }
 
-    function test_aScrollBarIsThereForMoreThanTheViewShows() {
+    function test_aScrollBarAppearsWhenTheRowsDoNotFit() {
         openPicker({ openWay: true })
         const formatBar = all("PickerList")[0].ScrollBar.vertical
         const presetBar = all("PickerList")[1].ScrollBar.vertical

@@ -5,7 +5,7 @@ import "catalogue.js" as Catalogue
 ScreenTest {
     id: root
 
-    /*! A preset of a catalogue format that carries the tag of the recently-used list. */
+    /*! A preset of a catalogue format with the tag of the recently-used list. */
     function beginWithGlobalUnderRecently() {
         restart(Catalogue.sampleWithTagRecently())
         host.settings.converterGlobalId = "Own_001"
@@ -173,7 +173,7 @@ ScreenTest {
         compare(host.elapse(), [100])
         compare(openSelect.count, 1)
         settle()
-        // As far as there are rows: 8 of 64 in a list of 379.
+        // Or as far as possible: 8 rows of 64 in a list of 379.
         compare(list.contentY, 2 * 64)
         compare(list.currentIndex, 2)
     }
@@ -185,14 +185,14 @@ ScreenTest {
         verify(list.itemAtIndex(9).selected)
     }
 
-    function test_aPickerLetGoBeforeTheScrollStaysSilent() {
+    function test_aPickerDestroyedBeforeTheScrollLogsNothing() {
         picker({ openWay: true }).open()
         settle()
         letGo()
         compare(host.elapse(), [100])
     }
 
-    function test_eachOpeningStartsAnew() {
+    function test_eachOpeningStartsAfresh() {
         const page = openPicker({ openWay: true })
         click(named("FormatTag", "~audio"))
         compare(page.selectClass, "MP3")

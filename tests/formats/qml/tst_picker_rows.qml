@@ -28,7 +28,7 @@ ScreenTest {
         return Catalogue.audio("A", "Title", changes)
     }
 
-    /*! Lets \a check look at a row over a \a model of the test's own. */
+    /*! Calls \a check with a row over the given \a model. */
     function checkLooseRow(type, model, check) {
         const page = openPicker({})
         const component = Qt.createComponent("qrc:/formats/" + type + ".qml")
@@ -46,7 +46,7 @@ ScreenTest {
 
     name: "PickerRows"
 
-    function test_aPresetRowTellsTitleQualityAndEncoder_data() {
+    function test_aPresetRowShowsTitleQualityAndEncoder_data() {
         return [
             { tag: "video", category: "Video", preset: video({}),
               texts: ["~Title", "1280x720", "h264, aac"] },
@@ -63,7 +63,7 @@ ScreenTest {
             { tag: "source's audio", category: "Audio",
               preset: audio({ "audioParam": { "encoder": "0", "bitrateKbps": 0 } }),
               texts: ["~Title", "~Smart Fit", "~Smart Fit"] },
-            // The tag decides on the quality, the preset on its encoders.
+            // The quality depends on the tag, the encoders on the preset.
             { tag: "audio elsewhere", category: "Device", preset: audio({}),
               texts: ["~Title", "~Smart Fit", "aac"] },
             { tag: "source's audio elsewhere", category: "Video",
@@ -77,7 +77,7 @@ ScreenTest {
         ]
     }
 
-    function test_aPresetRowTellsTitleQualityAndEncoder(row) {
+    function test_aPresetRowShowsTitleQualityAndEncoder(row) {
         compare(texts(presetRow(row.category, row.preset)), row.texts)
     }
 
@@ -92,7 +92,7 @@ ScreenTest {
              ["~High Quality", "~Smart Fit", "mp3"]])
     }
 
-    function test_aRecentlyUsedRowTellsFormatTitleQualityAndEncoder_data() {
+    function test_aRecentlyUsedRowShowsFormatTitleQualityAndEncoder_data() {
         return [
             { tag: "video", preset: video({}), texts: ["CLASS- ~Title", "1280x720", "h264, aac"] },
             { tag: "same as source", preset: Catalogue.source("V"),
@@ -108,11 +108,11 @@ ScreenTest {
         ]
     }
 
-    function test_aRecentlyUsedRowTellsFormatTitleQualityAndEncoder(row) {
+    function test_aRecentlyUsedRowShowsFormatTitleQualityAndEncoder(row) {
         compare(texts(recentlyRow(row.preset)), row.texts)
     }
 
-    // The facade holds texts only; a preset list from elsewhere may hold numbers and gaps.
+    // The facade only holds strings; a preset list from elsewhere can hold numbers and gaps.
     function test_aRecentlyUsedRowTakesTheNumber0AsTheText_data() {
         return [
             { tag: "video", values: { "videoResolution": 0, "videoResolutions": ["0"] },
@@ -147,7 +147,7 @@ ScreenTest {
         compare(texts(row), ["~Yours", "640x360", "hevc, mp3"])
     }
 
-    function test_aFormatRowTellsItsTitle() {
+    function test_aFormatRowShowsItsTitle() {
         openPicker({ openWay: true })
         compare(texts(all("FormatRow")[0]), ["MP4"])
     }

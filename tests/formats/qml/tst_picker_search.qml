@@ -101,7 +101,7 @@ ScreenTest {
         compare(String(image.source), "qrc:/formats/image/noSelect.png")
         compare(place(image, panel), [(758 - 80) / 2, 127, 80, 80])
 
-        // Where the presets were.
+        // Clicks where the presets were.
         mouseClick(panel, 400, 30)
         mouseClick(panel, 100, 30)
         compare(calls(), [])
@@ -157,7 +157,7 @@ ScreenTest {
         checkThatAviIsFound(page, "video")
     }
 
-    function test_typingGoesOnWithASearchUnderItsTag() {
+    function test_typingContinuesASearchUnderItsTag() {
         const page = openPicker({ openWay: true })
         click(named("FormatTag", "~audio"))
         search("a")

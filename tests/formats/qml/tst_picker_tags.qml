@@ -47,7 +47,7 @@ ScreenTest {
         compare(all("FormatRow").map(function (format) {
             return texts(format)[0]
         }), row.titles)
-        // The class of the preset in use is not among them: the first one.
+        // The class of the preset in use is not among them, so the first one is selected.
         compare(page.selectClass, row.titles[0])
         compare(openSelect.count, 1)
         verify(named("FormatTag", row.caption).selected)

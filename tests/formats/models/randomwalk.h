@@ -1,5 +1,5 @@
-#ifndef TESTS_FORMATS_MODELS_CHANCEWALK_H
-#define TESTS_FORMATS_MODELS_CHANCEWALK_H
+#ifndef TESTS_FORMATS_MODELS_RANDOMWALK_H
+#define TESTS_FORMATS_MODELS_RANDOMWALK_H
 
 #include "tests/formats/models/modelobservers.h"
 #include "tests/formats/models/plaincatalogue.h"
@@ -10,19 +10,19 @@
 
 #include <random>
 
-/*! Does the same to a model and to a plain catalogue, chosen by chance, and compares the two. */
-class ChanceWalk
+/*! Applies the same random operations to a model and to a plain catalogue and compares the two. */
+class RandomWalk
 {
-    Q_DISABLE_COPY(ChanceWalk)
+    Q_DISABLE_COPY(RandomWalk)
 
 public:
-    explicit ChanceWalk(unsigned seed)
-        : m_chance(seed)
+    explicit RandomWalk(unsigned seed)
+        : m_random(seed)
     {
         guard(m_model);
     }
 
-    /*! One operation, by name. */
+    /*! Performs one operation and returns its name. */
     QString step()
     {
         const QVector<Operation> &bag = operationsByWeight();
@@ -30,21 +30,21 @@ public:
         return (this->*bag.at(below(bag.size())))();
     }
 
-    /*! The first look-up on which model and walk disagree; empty when there is none. */
+    /*! The first lookup on which model and plain catalogue disagree; empty if there is none. */
     QString disagreement() const
     {
         for (const QString &id : ids()) {
-            const FormatListModelData walked = m_plain.formatOfId(id);
+            const FormatListModelData expected = m_plain.formatOfId(id);
             if (m_model.containId(id) != m_plain.containId(id)) {
                 return QStringLiteral("containId(%1)").arg(id);
             }
             if (m_model.getGetClass(id) != m_plain.getGetClass(id)) {
                 return QStringLiteral("getGetClass(%1)").arg(id);
             }
-            if (m_model.getTagName(id) != walked.tag) {
+            if (m_model.getTagName(id) != expected.tag) {
                 return QStringLiteral("getTagName(%1)").arg(id);
             }
-            if (m_model.getIcon(id) != walked.icon) {
+            if (m_model.getIcon(id) != expected.icon) {
                 return QStringLiteral("getIcon(%1)").arg(id);
             }
         }
@@ -93,21 +93,21 @@ private:
         return all;
     }
 
-    using Operation = QString (ChanceWalk::*)();
+    using Operation = QString (RandomWalk::*)();
 
     static const QVector<Operation> &operationsByWeight()
     {
         static const QVector<Operation> bag = [] {
             const QPair<int, Operation> weighted[] = {
-                {10, &ChanceWalk::addFormat},          {6, &ChanceWalk::deleteFormat},
-                {3, &ChanceWalk::deleteFormatByTitle}, {6, &ChanceWalk::updateFormat},
-                {6, &ChanceWalk::writeFormatRole},     {5, &ChanceWalk::moveFormat},
-                {3, &ChanceWalk::deletePresetList},    {2, &ChanceWalk::listNested},
-                {2, &ChanceWalk::deleteReleasedLists}, {1, &ChanceWalk::clearPresetLists},
-                {1, &ChanceWalk::clearFormats},        {40, &ChanceWalk::addPreset},
-                {12, &ChanceWalk::deletePreset},       {8, &ChanceWalk::deletePresetById},
-                {25, &ChanceWalk::updatePreset},       {4, &ChanceWalk::writePresetRole},
-                {2, &ChanceWalk::clearPresets},
+                {10, &RandomWalk::addFormat},          {6, &RandomWalk::deleteFormat},
+                {3, &RandomWalk::deleteFormatByTitle}, {6, &RandomWalk::updateFormat},
+                {6, &RandomWalk::writeFormatRole},     {5, &RandomWalk::moveFormat},
+                {3, &RandomWalk::deletePresetList},    {2, &RandomWalk::listNested},
+                {2, &RandomWalk::deleteReleasedLists}, {1, &RandomWalk::clearPresetLists},
+                {1, &RandomWalk::clearFormats},        {40, &RandomWalk::addPreset},
+                {12, &RandomWalk::deletePreset},       {8, &RandomWalk::deletePresetById},
+                {25, &RandomWalk::updatePreset},       {4, &RandomWalk::writePresetRole},
+                {2, &RandomWalk::clearPresets},
             };
             QVector<Operation> operations;
             for (const auto &[weight, operation] : weighted) {
@@ -118,11 +118,11 @@ private:
         return bag;
     }
 
-    int below(int bound) { return int(m_chance() % unsigned(bound)); }
-    bool oneIn(int chances) { return below(chances) == 0; }
+    int below(int bound) { return int(m_random() % unsigned(bound)); }
+    bool oneIn(int count) { return below(count) == 0; }
     // The last one is never added.
     const QString &anyOf(const QStringList &texts) { return texts.at(below(texts.size() - 1)); }
-    int anyRow(int rows) { return below(rows + 2) - 1; } // at times just outside
+    int anyRow(int rows) { return below(rows + 2) - 1; } // sometimes just outside
 
     FormatListModelData anyFormat()
     {
@@ -138,7 +138,7 @@ private:
         return preset;
     }
 
-    // Most often one that can be found; lists that were replaced or released can change too.
+    // Usually a list that can be found; lists that were replaced or released can change too.
     int anyLivingList()
     {
         QVector<int> living;
@@ -202,8 +202,8 @@ private:
         const QString texts[] = {data.title, data.icon, data.tag};
         const QString &text = texts[role - FormatListModel::TitleRole];
         if (m_model.setRoleValue(FormatListModel::InvitationRoles(role), title, text)) {
-            FormatListModelData &walked = m_plain.formats[row];
-            QString *const fields[] = {&walked.title, &walked.icon, &walked.tag};
+            FormatListModelData &expected = m_plain.formats[row];
+            QString *const fields[] = {&expected.title, &expected.icon, &expected.tag};
             *fields[role - FormatListModel::TitleRole] = text;
         }
         return QStringLiteral("writeFormatRole %1 %2 %3").arg(role).arg(title, text);
@@ -232,7 +232,7 @@ private:
     QString listNested()
     {
         m_model.toVariantList();
-        m_plain.enterNullForMissingTitles();
+        m_plain.insertNullForMissingTitles();
         return QStringLiteral("listNested");
     }
 
@@ -357,7 +357,7 @@ private:
         return QString();
     }
 
-    std::mt19937 m_chance;
+    std::mt19937 m_random;
     int m_serial = 0;
     FormatListModel m_model;
     PlainCatalogue m_plain;
