@@ -1,7 +1,6 @@
-# shellcheck shell=bash disable=SC2034 # the lists are for those who source it
-# Sourced by ./run, ./test and the scripts here: installs what the machine lacks and builds a CMake
-# preset.
-# Everything said here goes to stderr: stdout belongs to the program.
+# shellcheck shell=bash disable=SC2034 # the lists are for the sourcing scripts
+# Sourced by ./run, ./test and the scripts here to install missing packages and build CMake presets.
+# All messages go to stderr: stdout belongs to the program.
 
 missing_packages() {
     comm -13 <(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null |
@@ -12,7 +11,7 @@ install_missing() {
     local missing
     missing=$(missing_packages "$@")
     [ -z "$missing" ] && return
-    # shellcheck disable=SC2086 # one word a package
+    # shellcheck disable=SC2086 # one word per package
     {
         echo "Installing" $missing
         local as_root=()
@@ -26,7 +25,7 @@ install_missing() {
 build() {
     local preset=$1
     if [ ! -f "build/$preset/build.ninja" ]; then
-        echo "Building the preset \"$preset\" for the first time, which takes a few minutes." >&2
+        echo "Building the preset \"$preset\" for the first time; this takes a few minutes." >&2
         cmake --preset "$preset" >&2
     fi
     cmake --build --preset "$preset" -- --quiet 2>&1 | sed '/^ninja: no work to do\.$/d' >&2

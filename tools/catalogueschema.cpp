@@ -8,7 +8,7 @@
 
 namespace {
 
-// What isn't a setting or a text of a preset; the definitions follow from their tables.
+// The fixed part; the definitions of a preset's settings and strings come from their tables.
 const char frame[] = R"({
   "$schema": "http://json-schema.org/draft-07/schema#",
   "title": "Export catalogue",
@@ -53,7 +53,7 @@ QString wholeText(const QString &pattern)
     return QStringLiteral("^(%1)$").arg(pattern);
 }
 
-/*! An object with these properties and no further ones. */
+/*! An object with these properties and no others. */
 QJsonObject objectOf(const QJsonObject &properties, const QJsonArray &required = {})
 {
     QJsonObject object{{QStringLiteral("type"), QStringLiteral("object")},
@@ -73,7 +73,7 @@ QJsonObject textSchema(const QString &pattern = {})
                 : QPair<QString, QJsonValue>(QStringLiteral("pattern"), wholeText(pattern))};
 }
 
-// A list of alternatives gives one error however wrong the value is.
+// With alternatives, an invalid value gives a single error.
 QJsonObject numberSchema(const CatalogueSetting &setting)
 {
     const bool isWhole = setting.form == CatalogueSetting::WholeNumber;
@@ -93,7 +93,7 @@ QJsonObject valueSchema(const CatalogueSetting &setting)
     return schema;
 }
 
-/*! The list itself, or the name of one in "lists". */
+/*! A list, or the name of one in "lists". */
 QJsonObject listSchema(const CatalogueSetting &setting)
 {
     QJsonObject schema{

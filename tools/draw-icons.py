@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Draws the pictures of the screens.
+"""Draws the icons and images of the screens.
 
 Usage: tools/draw-icons.py
 
-Every picture has its source here, so that all of them keep one grid, one stroke and one palette.
+All of them are defined here, so that they share one grid, one stroke and one palette.
 The SVG files stay within SVG Tiny 1.2, which is what QtSvg renders. The PNG files come from SVG too
 and need rsvg-convert (Debian package librsvg2-bin).
 """
@@ -28,8 +28,8 @@ SITE = "#BE2F7A"
 PEN = 'stroke-width="1.25" stroke-linecap="round" stroke-linejoin="round"'
 
 # Letters are paths because fonts differ between machines. A glyph is its width and its strokes:
-# where each starts, then a relative path. Upright and level strokes lie on whole numbers, so that
-# a label that starts on half a pixel is sharp at 24 x 24.
+# the start of each, then a relative path. Vertical and horizontal strokes have integer coordinates,
+# so that a label that starts on half a pixel is sharp at 24 x 24.
 GLYPHS = {
     "1": (2, [(0, 1.5, "l2 -1.5v6")]),
     "2": (3, [(0, 1.5, "a1.5 1.5 0 0 1 3 0c0 1.5 -3 3 -3 4.5h3")]),
@@ -80,7 +80,7 @@ BUBBLE = f"""<path fill="#fff" d="M7 3h10a2 2 0 0 1 2 2v3a2 2 0 0 1 -2 2h-6l-2.5
       a2 2 0 0 1 -2 -2v-3a2 2 0 0 1 2 -2z"/>
     <path fill="{SITE}" stroke="none" d="M10.5 4v5l4 -2.5z"/>"""
 
-# kind: the tile's colour and the picture above the label
+# kind: the tile's colour and the symbol above the label
 KINDS = {
     "video": (VIDEO, PLAY),
     "audio": (AUDIO, NOTE),
@@ -92,7 +92,7 @@ KINDS = {
     "site": (SITE, BUBBLE),
 }
 
-# name, label, kind; a label of two words takes both lines of the tile
+# name, label, kind; a label of two words fills both lines of the tile
 FORMAT_ICONS = [
     ("3g2", "3G2", "video"),
     ("3gp", "3GP", "video"),
@@ -252,8 +252,8 @@ def svg(width, height, body):
 
 
 def lettering(text, top):
-    """One path a letter. Only an odd width can stand centred on whole pixels, so an even one gives
-    up a pixel between its two loosest letters."""
+    """One path per letter. Only an odd width can be centred on whole pixels, so an even one loses a
+    pixel between its two loosest letters."""
     roomy = len(text) < 4
     gaps = [3 if roomy else 2] * (len(text) - 1)
     width = sum(GLYPHS[letter][0] for letter in text) + sum(gaps)
@@ -276,12 +276,12 @@ def lettering(text, top):
 
 
 def format_icon(label, kind):
-    colour, picture = KINDS[kind]
+    colour, symbol = KINDS[kind]
     words = label.split()
     if len(words) == 2:
         marks = lettering(words[0], 4.5) + "\n    " + lettering(words[1], 13.5)
     else:
-        marks = picture + "\n    " + lettering(label, 14.5)
+        marks = symbol + "\n    " + lettering(label, 14.5)
     return svg(24, 24, f"""<rect width="24" height="24" rx="5" fill="{colour}"/>
   <g fill="none" stroke="#fff" {PEN}>
     {marks}

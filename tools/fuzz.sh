@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs all fuzz targets, each on all cores, for MINUTES in total. What they find, and the inputs
-# that reached new code, stay in build/fuzz/kept and are tried first the next time.
+# Runs all fuzz targets, each on all cores, for MINUTES in total. Findings, and inputs that reached
+# new code, are kept in build/fuzz/kept and tried first the next time.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=tools/build.sh
@@ -12,7 +12,7 @@ if [[ $# -ne 1 || ! $1 =~ ^[1-9][0-9]*$ ]]; then
 fi
 missing=$(missing_packages "${build_packages[@]}" "${fuzz_packages[@]}")
 if [ -n "$missing" ]; then
-    echo "These packages are missing; install them with apt-get:" "${missing//$'\n'/ }" >&2
+    echo "Missing packages; install them with apt-get:" "${missing//$'\n'/ }" >&2
     exit 2
 fi
 build fuzz
@@ -20,7 +20,7 @@ mapfile -t targets <build/fuzz/tests/fuzz/targets
 seconds=$(($1 * 60 / ${#targets[@]}))
 cores=$(nproc)
 
-# Leaks are looked for at the end of a run: Qt has one of its own, which would stop it every time.
+# Leaks are only checked at the end of a run: checking each input would stop at a leak in Qt.
 export ASAN_OPTIONS=quarantine_size_mb=32
 export LSAN_OPTIONS=suppressions=tests/fuzz/leaks.supp:print_suppressions=0
 
@@ -54,11 +54,11 @@ for target in "${targets[@]}"; do
     done
     inputs=$(grep -h '^stat::number_of_executed_units' "$kept"/*.log | sum)
     time=$(sum "$kept"/*.seconds)
-    printf '%-16s %10d inputs %8d a second of CPU time %3d findings\n' \
+    printf '%-16s %10d inputs %8d per second of CPU time %3d findings\n' \
         "$target" "$inputs" $((inputs / (time > 0 ? time : 1))) "$findings"
     all_findings=$((all_findings + findings))
 done
 if [ "$all_findings" -gt 0 ]; then
-    echo "The findings are in build/fuzz/kept/TARGET/findings, what they are in build/fuzz/kept/TARGET/*.log." >&2
+    echo "The findings are in build/fuzz/kept/TARGET/findings, their logs are build/fuzz/kept/TARGET/*.log." >&2
     exit 1
 fi

@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# Checks the form of all files: clang-format, qmllint and shellcheck. Says what is wrong where, and
-# exits with 1 where anything is.
+# Checks all files with clang-format, qmllint and shellcheck. Exits with 1 if there are complaints.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=tools/build.sh

@@ -23,7 +23,7 @@ CatalogueSource readSource(const QString &name)
 {
     CatalogueSource source{name, {}};
     if (QFileInfo::exists(name) && !QFileInfo(name).isFile()) {
-        // Opening a pipe would wait for its other end.
+        // Opening a pipe would block.
         source.unreadable = QStringLiteral("is neither a file nor a folder");
         return source;
     }
@@ -61,10 +61,10 @@ CatalogueResult readCatalogueAt(const QString &path)
     if (files.isEmpty()) {
         result.mistakes.append({{path, {}},
                                 QDir(path).isReadable()
-                                    ? QStringLiteral("the folder holds no *.json file")
+                                    ? QStringLiteral("the folder has no *.json file")
                                     : QStringLiteral("the folder cannot be read")});
     } else if (result.mistakes.isEmpty() && result.presetPlaces.isEmpty()) {
-        result.mistakes.append({{path, {}}, QStringLiteral("holds no preset")});
+        result.mistakes.append({{path, {}}, QStringLiteral("has no presets")});
     }
     return result;
 }

@@ -12,7 +12,7 @@ QString typeName(QJsonValue::Type type)
     case QJsonValue::Double:
         return QStringLiteral("a number");
     case QJsonValue::String:
-        return QStringLiteral("a text");
+        return QStringLiteral("a string");
     case QJsonValue::Array:
         return QStringLiteral("a list");
     case QJsonValue::Object:
@@ -76,5 +76,5 @@ void CatalogueInspector::refuse(const CataloguePlace &place, const QString &reas
 
 void CatalogueInspector::noteUnknownKey(const QString &path)
 {
-    m_mistakes.append({placeOf(path), QStringLiteral("is none of the known keys"), true});
+    m_mistakes.append({placeOf(path), QStringLiteral("is not a known key"), true});
 }

@@ -12,7 +12,7 @@
 [[nodiscard]] QString memberPath(const QString &path, const QString &key);
 [[nodiscard]] QString elementPath(const QString &path, int index);
 
-/*! Looks at the values of the source that is read, and notes what is wrong with them. */
+/*! Checks the values of one source at a time and collects the mistakes. */
 class CatalogueInspector
 {
 public:
@@ -25,18 +25,18 @@ public:
 
     void expect(QJsonValue::Type type, const QJsonValue &value, const QString &path);
     void expectElements(QJsonValue::Type type, const QJsonArray &array, const QString &path);
-    /*! The text, which must not be empty. */
+    /*! The string, which must not be empty. */
     QString text(const QJsonValue &value, const QString &path);
-    /*! The object with that key, an empty one where the file leaves it out. */
+    /*! The object under that key; empty if the file has none. */
     QJsonObject optionalObject(const QJsonObject &file, const QString &key);
 
     void refuse(const QString &path, const QString &reason) { refuse(placeOf(path), reason); }
     void refuse(const CataloguePlace &place, const QString &reason);
-    /*! What starts from something that is refused where it stands is refused in silence. */
+    /*! Refuses without a mistake of its own, as something it refers to was refused already. */
     void refuseSilently() { ++m_refusals; }
     void noteUnknownKey(const QString &path);
 
-    /*! What was looked at since an earlier count is right if the count is still the same. */
+    /*! Everything checked since an earlier count is valid if the count is still the same. */
     [[nodiscard]] int refusals() const { return m_refusals; }
 
 private:

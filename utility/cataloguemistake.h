@@ -5,19 +5,19 @@
 
 #include <QString>
 
-/*! Where something stands in the catalogue's files. */
+/*! A place in the catalogue's files. */
 struct CataloguePlace
 {
     QString source;
     QString path;          //!< "groups[0].presets[2].id"; empty: the whole file
-    QString position = {}; //!< "line:column", counted from 1, of what is no JSON; else empty
+    QString position = {}; //!< "line:column", counted from 1, of a JSON syntax error; else empty
 };
 
 struct CatalogueMistake
 {
     CataloguePlace place;
     QString reason;
-    bool isServed = false; //!< served as it is; else left out, with what it stands in
+    bool isServed = false; //!< served as it is; else left out, with what contains it
 
     /*! One line: the source's name, the place in it and the reason. */
     [[nodiscard]] VEX_UTILITY_EXPORT QString text() const;

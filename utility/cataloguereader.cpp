@@ -22,7 +22,7 @@ public:
 private:
     void readFile(const QJsonObject &file);
     void readGroup(const QString &category, QJsonObject group, const QString &path);
-    QVariantList readPresets(const QJsonArray &presets, const PresetSettings *usual,
+    QVariantList readPresets(const QJsonArray &presets, const PresetSettings *inherited,
                              const QString &path);
     void complete(QVariantMap &preset, const QString &path);
     void completeBlock(QLatin1String block, const QVariantMap &preset, const QString &path);
@@ -78,22 +78,21 @@ void Reader::readGroup(const QString &category, QJsonObject group, const QString
     const QString namePath = memberPath(path, QStringLiteral("name"));
     const QString name = m_inspector.text(group.take(QStringLiteral("name")), namePath);
     if (result.catalogue.presets.contains({category, name})) {
-        m_inspector.refuse(namePath,
-                           QStringLiteral("the category \"%1\" already has a group \"%2\"; put the "
-                                          "presets into that one or give this one a name of its "
-                                          "own")
-                               .arg(category, name));
+        m_inspector.refuse(
+            namePath, QStringLiteral("the category \"%1\" already has a group \"%2\"; move the "
+                                     "presets to that group or rename this one")
+                          .arg(category, name));
     }
     const QJsonValue presets = group.take(QStringLiteral("presets"));
     const QString presetsPath = memberPath(path, QStringLiteral("presets"));
     m_inspector.expect(QJsonValue::Array, presets, presetsPath);
-    const PresetSettings usual = m_settings.readWithTemplate(group, path);
-    const bool isRight = m_inspector.refusals() == before && !category.isEmpty();
+    const PresetSettings inherited = m_settings.readWithTemplate(group, path);
+    const bool isValid = m_inspector.refusals() == before && !category.isEmpty();
 
     const QVariantList maps =
-        readPresets(presets.toArray(), isRight ? &usual : nullptr, presetsPath);
+        readPresets(presets.toArray(), isValid ? &inherited : nullptr, presetsPath);
     const bool hasLostAll = maps.isEmpty() && !presets.toArray().isEmpty();
-    if (!isRight || hasLostAll) {
+    if (!isValid || hasLostAll) {
         return;
     }
     result.catalogue.presets.insert({category, name}, maps);
@@ -105,9 +104,9 @@ void Reader::readGroup(const QString &category, QJsonObject group, const QString
     result.groupPlaces.insert({category, name}, m_inspector.placeOf(path));
 }
 
-/*! The presets that are right. Without usual settings, those of a group that is wrong: only their
- *  own mistakes are looked for. */
-QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings *usual,
+/*! The valid presets. \a inherited is null in an invalid group, whose presets are only checked for
+ *  mistakes of their own. */
+QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings *inherited,
                                  const QString &path)
 {
     QVariantList maps;
@@ -115,7 +114,7 @@ QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings
         const int before = m_inspector.refusals();
         const QString presetPath = elementPath(path, i);
         m_inspector.expect(QJsonValue::Object, presets.at(i), presetPath);
-        PresetSettings preset = usual == nullptr ? PresetSettings() : *usual;
+        PresetSettings preset = inherited == nullptr ? PresetSettings() : *inherited;
         preset.add(m_settings.readWithTemplate(presets.at(i).toObject(), presetPath));
         const QString id = preset.values.value(QStringLiteral("id")).toString();
         if (result.presetPlaces.contains(id)) {
@@ -123,7 +122,7 @@ QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings
                 preset.places.value(QStringLiteral("id")),
                 QStringLiteral("\"%1\" is already the id of another preset").arg(id));
         }
-        if (usual == nullptr || m_inspector.refusals() != before) {
+        if (inherited == nullptr || m_inspector.refusals() != before) {
             continue;
         }
         complete(preset.values, presetPath);
@@ -135,7 +134,7 @@ QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings
     return maps;
 }
 
-/*! Adds what the preset may leave out; refuses it without what it may not. */
+/*! Adds what a preset can omit, and refuses it if something else is missing. */
 void Reader::complete(QVariantMap &preset, const QString &path)
 {
     using namespace CatalogueBlock;
@@ -150,8 +149,8 @@ void Reader::complete(QVariantMap &preset, const QString &path)
         m_inspector.refuse(path, QStringLiteral("has neither video nor audio settings"));
     }
     for (const QLatin1String block : CatalogueBlock::all) {
-        const bool isOfVideo = block == videoParam || block == videoOptions;
-        if (isOfVideo ? hasVideo : hasAudio) {
+        const bool isVideoBlock = block == videoParam || block == videoOptions;
+        if (isVideoBlock ? hasVideo : hasAudio) {
             completeBlock(block, preset, path);
         }
     }

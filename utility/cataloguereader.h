@@ -11,7 +11,7 @@
 #include <QVariantList>
 #include <QVector>
 
-/*! The catalogue in the form in which it is served; the shapes are those of FormatCodecApi. */
+/*! The catalogue as it is served; the maps are those of FormatCodecApi. */
 struct ExportCatalogue
 {
     QVariantList categories;
@@ -21,7 +21,7 @@ struct ExportCatalogue
 
 struct CatalogueResult
 {
-    ExportCatalogue catalogue;          //!< what is right
+    ExportCatalogue catalogue;          //!< what is valid
     QVector<CatalogueMistake> mistakes; //!< in the order of the files
 
     QHash<QPair<QString, QString>, CataloguePlace> groupPlaces; //!< by category and group name
@@ -29,11 +29,11 @@ struct CatalogueResult
 };
 
 /*!
- * Makes one catalogue of JSON files of the shape that catalogue/README.md describes.
+ * Makes one catalogue from JSON files in the form that catalogue/README.md describes.
  *
- * Categories stand in the order in which they first appear, and groups of one category in several
- * files follow each other. A wrong value is named once, and what it stands in is left out: the
- * preset, the group, the template, the list or the file, and whatever starts from that.
+ * Categories are in the order in which they first appear; the groups of a category that several
+ * files have follow each other. An invalid value is reported once, and what contains it is left
+ * out: the preset, group, template, list or file, and everything that uses it.
  */
 [[nodiscard]] VEX_UTILITY_EXPORT CatalogueResult
 readCatalogue(const QVector<CatalogueSource> &sources);

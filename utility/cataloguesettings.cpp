@@ -10,8 +10,8 @@ namespace {
 
 const QString keepsSource = QStringLiteral("0");
 
-/*! A regular expression of the whole numbers from 1 to \a most: of those that are shorter, those
- *  that fall below in one digit, and the number itself. */
+/*! A regular expression for the whole numbers from 1 to \a most: those with fewer digits, those
+ *  first smaller in one digit, and \a most itself. */
 QString numbersUpTo(int most)
 {
     const QString digits = QString::number(most);
@@ -47,7 +47,7 @@ const std::array<CatalogueText, 3> &CatalogueText::all()
     return texts;
 }
 
-// The bounds are those of the converter, which refuses a preset beyond them.
+// The bounds are those of the converter, which refuses presets beyond them.
 const std::array<CatalogueSetting, CatalogueSetting::Count> &CatalogueSetting::all()
 {
     using namespace CatalogueBlock;
@@ -57,7 +57,7 @@ const std::array<CatalogueSetting, CatalogueSetting::Count> &CatalogueSetting::a
          QLatin1String("ffmpeg's name of the codec, or \"0\" for the source's")},
         {Resolution, videoParam, QLatin1String("resolution"), videoOptions,
          QLatin1String("resolutionList"), Size,
-         QLatin1String("The box that the picture is fitted into, in pixels, or \"0\" for the "
+         QLatin1String("The box that the video is scaled to fit, in pixels, or \"0\" for the "
                        "source's size"),
          1, 16384},
         {FrameRate, videoParam, QLatin1String("frameRate"), videoOptions,
@@ -65,10 +65,9 @@ const std::array<CatalogueSetting, CatalogueSetting::Count> &CatalogueSetting::a
          QLatin1String("Frames per second, or 0 for the source's"), 1, 300},
         {VideoBitrate, videoParam, QLatin1String("bitrateKbps"), videoOptions,
          QLatin1String("bitrateKbpsList"), WholeNumber,
-         QLatin1String("kbps, or 0 for the encoder's own good quality"), 1, 1000000},
+         QLatin1String("kbps, or 0 to let the encoder choose for good quality"), 1, 1000000},
         {VideoLevels, videoParam, QLatin1String(), videoOptions, QLatin1String("levelList"),
-         WholeNumber, QLatin1String("The high, the middle and the low bitrate in kbps"), 1, 1000000,
-         3},
+         WholeNumber, QLatin1String("The high, middle and low bitrate in kbps"), 1, 1000000, 3},
         {AudioEncoder, audioParam, QLatin1String("encoder"), audioOptions,
          QLatin1String("encoderList"), CodecName,
          QLatin1String("ffmpeg's name of the codec, or \"0\" for the source's")},
@@ -79,7 +78,7 @@ const std::array<CatalogueSetting, CatalogueSetting::Count> &CatalogueSetting::a
          QLatin1String("Hz, or 0 for the source's sample rate"), 1000, 768000},
         {AudioBitrate, audioParam, QLatin1String("bitrateKbps"), audioOptions,
          QLatin1String("bitrateKbpsList"), WholeNumber,
-         QLatin1String("kbps, or 0 for the encoder's own good quality"), 1, 100000},
+         QLatin1String("kbps, or 0 to let the encoder choose for good quality"), 1, 100000},
     }};
     return settings;
 }

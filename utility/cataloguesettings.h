@@ -18,17 +18,17 @@ const QLatin1String audioOptions("audioOptions");
 const std::array<QLatin1String, 4> all{videoParam, videoOptions, audioParam, audioOptions};
 } // namespace CatalogueBlock
 
-/*! A text that a preset has beside its blocks. */
+/*! A string of a preset outside its blocks. */
 struct CatalogueText
 {
     QLatin1String key;
-    QLatin1String pattern; //!< a regular expression of the whole text; empty: any but none
-    bool isInherited;      //!< may stand in a group or a template too
+    QLatin1String pattern; //!< a regular expression for the whole string; empty: anything but ""
+    bool isInherited;      //!< can also be in a group or a template
 
     [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueText, 3> &all();
 };
 
-/*! A setting of a preset: the value that it chooses and the values that it offers. */
+/*! A setting of a preset: its chosen value and the offered ones. */
 struct CatalogueSetting
 {
     enum Id {
@@ -47,33 +47,33 @@ struct CatalogueSetting
 
     Id id;
     QLatin1String param;   //!< the block of the chosen value
-    QLatin1String key;     //!< of the chosen value; empty where nothing is chosen
+    QLatin1String key;     //!< of the chosen value; empty if nothing is chosen
     QLatin1String options; //!< the block of the offered values
     QLatin1String listKey; //!< of the offered values
     Form form;
     QLatin1String meaning; //!< one line, with the unit
-    int least = 0;         //!< unless the value is 0, which keeps the source's; sizes: of a side
+    int least = 0;         //!< apart from 0, which keeps the source's value; sizes: of each side
     int most = 0;
     int length = 0; //!< of the list; 0: any
 
     [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueSetting, Count> &all();
     [[nodiscard]] VEX_UTILITY_EXPORT static const CatalogueSetting &of(Id id);
-    /*! The setting with that key in that block, nullptr for none. */
+    /*! The setting with that key in that block; null if there is none. */
     [[nodiscard]] static const CatalogueSetting *find(QLatin1String block, const QString &key);
-    /*! Its key in that block, empty where it has none there. */
+    /*! Its key in that block; empty if it has none there. */
     [[nodiscard]] VEX_UTILITY_EXPORT QLatin1String keyIn(QLatin1String block) const;
 
     /*! "videoParam.encoder" and "videoOptions.encoderList" */
     [[nodiscard]] VEX_UTILITY_EXPORT QString paramPath() const;
     [[nodiscard]] VEX_UTILITY_EXPORT QString optionsPath() const;
 
-    /*! In JSON, of the value or of each in the list. */
+    /*! The JSON type of the value, and of each value in the list. */
     [[nodiscard]] VEX_UTILITY_EXPORT QJsonValue::Type type() const;
-    /*! A regular expression of the whole text of codec names and sizes, empty for numbers. */
+    /*! A regular expression for a whole codec name or size; empty for numbers. */
     [[nodiscard]] VEX_UTILITY_EXPORT QString pattern() const;
-    /*! Whether a value, as text, has the form and is within the bounds. */
+    /*! Whether a value, as a string, has the right form and is within the bounds. */
     [[nodiscard]] VEX_UTILITY_EXPORT bool accepts(const QString &value) const;
-    /*! What accepts() takes, in words behind "must be". */
+    /*! What accepts() takes, in words that follow "must be". */
     [[nodiscard]] VEX_UTILITY_EXPORT QString acceptedText() const;
 };
 

@@ -14,7 +14,7 @@ QString lineAndColumn(const QByteArray &json, int offset)
         .arg(QString::fromUtf8(json.mid(lineStart, offset - lineStart)).toUcs4().size() + 1);
 }
 
-// Qt says "unterminated" also where a quote or a comma is missing.
+// Qt also says "unterminated" if a quote or a comma is missing.
 QString reasonOf(const QJsonParseError &error)
 {
     switch (error.error) {
@@ -32,7 +32,7 @@ CatalogueMistake syntaxMistake(const CatalogueSource &source, const QJsonParseEr
     if (source.json.trimmed().isEmpty()) {
         return {{source.name, {}, QStringLiteral("1:1")}, QStringLiteral("the file is empty")};
     }
-    // Qt has already read the byte that it rejects, except behind the end of the document.
+    // Qt has already read the byte that it rejects, except after the end of the document.
     const int offset =
         error.error == QJsonParseError::GarbageAtEnd ? error.offset : std::max(0, error.offset - 1);
     return {{source.name, {}, lineAndColumn(source.json, offset)}, reasonOf(error)};

@@ -14,10 +14,10 @@ struct CatalogueSource
 {
     QString name; //!< as mistakes show it
     QByteArray json;
-    QString unreadable = {}; //!< why there are no bytes
+    QString unreadable = {}; //!< why the file couldn't be read; else empty
 };
 
-/*! The object that a source holds; nothing, and a mistake more, where it holds none. */
+/*! The source's JSON object; if it has none, nothing, and the reason is added to \a mistakes. */
 [[nodiscard]] std::optional<QJsonObject> parseSource(const CatalogueSource &source,
                                                      QVector<CatalogueMistake> &mistakes);
 

@@ -8,11 +8,11 @@ namespace {
 
 void complain(const QString &complaint)
 {
-    // Not qWarning(): where no terminal is attached, Qt may log to the system's journal instead.
+    // Not qWarning(): without a terminal, Qt may log to the system's journal instead.
     std::fprintf(stderr, "VEX_EXPORT_CATALOGUE: %s\n", complaint.toUtf8().constData());
 }
 
-/*! The first mistake for which something is left out, and how many follow; empty without one. */
+/*! The first mistake that leaves something out, and how many more there are; empty without one. */
 QString leftOut(const QVector<CatalogueMistake> &mistakes)
 {
     QStringList texts;

@@ -85,7 +85,7 @@ PresetSettings SettingsReader::readWithTemplate(QJsonObject from, const QString 
     return settings;
 }
 
-/*! The settings of a group, a template or a preset; further keys travel along as they are. */
+/*! The settings of a group, a template or a preset; unknown keys are passed through. */
 PresetSettings SettingsReader::readSettings(const QJsonObject &from, const QString &path)
 {
     PresetSettings settings;
@@ -126,9 +126,9 @@ void SettingsReader::readBlock(QLatin1String block, const QJsonValue &value, con
         } else {
             const int before = m_inspector.refusals();
             const OptionList options = readOptions(it.value(), setting->type(), valuePath);
-            const bool isRightLength =
+            const bool hasRightLength =
                 setting->length == 0 || options.values.size() == setting->length;
-            if (!isRightLength && m_inspector.refusals() == before) {
+            if (!hasRightLength && m_inspector.refusals() == before) {
                 m_inspector.refuse(
                     valuePath, QStringLiteral("must hold three bitrates: high, middle and low"));
             }
@@ -139,7 +139,7 @@ void SettingsReader::readBlock(QLatin1String block, const QJsonValue &value, con
     settings.values.insert(block, map);
 }
 
-/*! An option list, written as such or as the name of a list. */
+/*! An option list, written out or as the name of a list. */
 SettingsReader::OptionList SettingsReader::readOptions(const QJsonValue &value,
                                                        QJsonValue::Type type, const QString &path)
 {
@@ -154,7 +154,7 @@ SettingsReader::OptionList SettingsReader::readOptions(const QJsonValue &value,
     return list;
 }
 
-// By the JSON text, as the variants "0" and 0 compare equal.
+// Keyed by the JSON, as the variants "0" and 0 compare equal.
 QVariantList SettingsReader::shared(const QJsonArray &array)
 {
     QVariantList &list = m_shared[QJsonDocument(array).toJson(QJsonDocument::Compact)];

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/*! By key, "id" or "videoParam.encoder": where a preset's value stands, inherited or not. */
+/*! The place of each value of a preset, inherited or not, by key ("id" or "videoParam.encoder"). */
 using PresetPlaces = QHash<QString, CataloguePlace>;
 
 /*! What a group, a template or a preset states, and where. */
@@ -17,11 +17,11 @@ struct PresetSettings
     QVariantMap values;
     PresetPlaces places;
 
-    /*! What \a over states wins, key by key. */
+    /*! Merges \a over, whose values win, key by key. */
     void add(const PresetSettings &over);
 };
 
-/*! Reads settings, and the lists and templates whose names they may use from then on. */
+/*! Reads settings, and the lists and templates that later settings can refer to by name. */
 class SettingsReader
 {
 public:
@@ -31,17 +31,16 @@ public:
 
     void readLists(const QJsonObject &lists);
     void readTemplates(const QJsonObject &templates);
-    /*! The settings of a group or a preset, over those of the template that it names. */
+    /*! The settings of a group or a preset, merged over those of its template. */
     [[nodiscard]] PresetSettings readWithTemplate(QJsonObject from, const QString &path);
 
 private:
-    /*! A list of values, and where it stands. */
     struct OptionList
     {
         QJsonArray values;
         CataloguePlace place;
     };
-    // Without a value where that is wrong, which is already named where it stands.
+    // An invalid value, whose mistake is already noted, is nothing.
     template <typename Value>
     using Named = QHash<QString, std::optional<Value>>;
 
@@ -51,7 +50,7 @@ private:
     OptionList readOptions(const QJsonValue &value, QJsonValue::Type type, const QString &path);
     QVariantList shared(const QJsonArray &array);
 
-    /*! The value that a name stands for; empty and refused where there is none. */
+    /*! The value of that name; empty, and refused, if there is none. */
     template <typename Value>
     Value named(const Named<Value> &values, const QString &name, const QString &refusal,
                 const QString &path);

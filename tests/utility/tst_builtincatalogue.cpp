@@ -31,7 +31,7 @@ struct Group
         return category == QLatin1String("Video") || category == QLatin1String("Audio");
     }
 
-    // As ids and icons write it: "HEVC MP4" is HEVCMP4.
+    // As in ids and icons: "HEVC MP4" is HEVCMP4.
     [[nodiscard]] QString idPart() const
     {
         return name.toUpper().remove(QRegularExpression(QStringLiteral("[^A-Z0-9]")));
@@ -63,7 +63,7 @@ QString text(const QVariantMap &preset, const char *key)
     return preset.value(QLatin1String(key)).toString();
 }
 
-bool hasSound(const QVariantMap &preset)
+bool hasAudio(const QVariantMap &preset)
 {
     return !preset.value(audioParam).toMap().isEmpty();
 }
@@ -90,7 +90,7 @@ QList<Choice> choicesOf(const QVariantMap &preset)
             add(videoParam, videoOptions, key);
         }
     }
-    if (hasSound(preset)) {
+    if (hasAudio(preset)) {
         for (const char *key : {"encoder", "channel", "sampleRate", "bitrateKbps"}) {
             add(audioParam, audioOptions, key);
         }
@@ -129,13 +129,13 @@ private slots:
     void groupsAreWellFormed();
     void fittingPresetsDiffer_data() { everyGroup(); }
     void fittingPresetsDiffer();
-    void formatsKeepingTheSourceSaySoFirst_data() { everyGroup(); }
-    void formatsKeepingTheSourceSaySoFirst();
+    void onlyTheFirstPresetOfAFormatIsSameAsSource_data() { everyGroup(); }
+    void onlyTheFirstPresetOfAFormatIsSameAsSource();
 
     void textsAreFilledIn_data() { everyPreset(); }
     void textsAreFilledIn();
-    void onlyAudioHasNoPictureAndOnlyGifNoSound_data() { everyPreset(); }
-    void onlyAudioHasNoPictureAndOnlyGifNoSound();
+    void onlyAudioFormatsLackVideoAndOnlyGifLacksAudio_data() { everyPreset(); }
+    void onlyAudioFormatsLackVideoAndOnlyGifLacksAudio();
     void optionsAreInOrder_data() { everyPreset(); }
     void optionsAreInOrder();
     void bitratesAreOfferedWhereEncodersTakeThem_data() { everyPreset(); }
@@ -200,12 +200,11 @@ void tst_BuiltInCatalogue::itHoldsTheFormatsOfEveryCategory()
 void tst_BuiltInCatalogue::theCheckFindsNoMistake()
 {
     const CatalogueResult catalogue = readCatalogueAt(builtInCataloguePath());
-    QStringList pictures =
-        QDir(QStringLiteral(VEX_FORMAT_ICONS)).entryList({QStringLiteral("*.svg")});
-    pictures.replaceInStrings(QStringLiteral(".svg"), QString());
+    QStringList icons = QDir(QStringLiteral(VEX_FORMAT_ICONS)).entryList({QStringLiteral("*.svg")});
+    icons.replaceInStrings(QStringLiteral(".svg"), QString());
     for (const CatalogueMistake &mistake :
          catalogue.mistakes +
-             lintCatalogue(catalogue, pictures,
+             lintCatalogue(catalogue, icons,
                            {QStringLiteral("video"), QStringLiteral("audio"),
                             QStringLiteral("device"), QStringLiteral("socialvideo")})) {
         QFAIL(qPrintable(mistake.text()));
@@ -248,7 +247,7 @@ void tst_BuiltInCatalogue::groupsAreWellFormed()
     }
 }
 
-void tst_BuiltInCatalogue::formatsKeepingTheSourceSaySoFirst()
+void tst_BuiltInCatalogue::onlyTheFirstPresetOfAFormatIsSameAsSource()
 {
     QFETCH(Group, group);
     for (int i = 0; i < group.presets.size(); ++i) {
@@ -256,12 +255,12 @@ void tst_BuiltInCatalogue::formatsKeepingTheSourceSaySoFirst()
     }
 }
 
-void tst_BuiltInCatalogue::onlyAudioHasNoPictureAndOnlyGifNoSound()
+void tst_BuiltInCatalogue::onlyAudioFormatsLackVideoAndOnlyGifLacksAudio()
 {
     QFETCH(Group, group);
     QFETCH(QVariantMap, preset);
     QCOMPARE(preset.contains(videoParam), group.category != QLatin1String("Audio"));
-    QCOMPARE(hasSound(preset), group.name != QLatin1String("GIF"));
+    QCOMPARE(hasAudio(preset), group.name != QLatin1String("GIF"));
 }
 
 void tst_BuiltInCatalogue::textsAreFilledIn()
@@ -373,7 +372,7 @@ void tst_BuiltInCatalogue::sameAsSourceChangesNothing()
         return;
     }
     for (const Choice &choice : choicesOf(preset)) {
-        // A format that is named after its codec is written with that one.
+        // A format that is named after a codec uses that codec.
         const bool isOfOneCodec =
             choice.key.endsWith(QLatin1String("encoder")) && !choice.options.contains(keepsSource);
         QCOMPARE(choice.value.toString() == keepsSource, !isOfOneCodec);
@@ -384,9 +383,9 @@ void tst_BuiltInCatalogue::fittingPresetsDiffer()
 {
     QFETCH(Group, group);
     if (!group.isOfFormat()) {
-        return; // those are never fitted
+        return; // presets of other categories are never fitted
     }
-    // Of two that fit a wish equally well the later would always be taken.
+    // Of two that fit equally well, the first would never be chosen.
     QStringList seen;
     for (const QVariantMap &preset : qAsConst(group.presets)) {
         const QString fits =

@@ -59,7 +59,7 @@ QVector<CatalogueSource> sources(const QList<QByteArray> &files)
     return result;
 }
 
-// One line each, of those for which something is left out or of those for which nothing is.
+// One line per mistake, either those that leave something out or those that are served.
 QString mistakesIn(const CatalogueResult &result, bool areServed = false)
 {
     QStringList lines;
@@ -84,15 +84,15 @@ QVariant valueAt(const QVariantMap &preset, const char *block, const char *key)
     return preset.value(QLatin1String(block)).toMap().value(QLatin1String(key));
 }
 
-// A one-group file that is right, with one text in it exchanged for another.
-QByteArray broken(const QByteArray &right, const QByteArray &wrong)
+// A valid file with one group, in which a string is replaced by another.
+QByteArray broken(const QByteArray &valid, const QByteArray &invalid)
 {
     const QByteArray whole =
         file("Video", {group("MP4", {videoBlocks, audioBlocks}, {preset("A_B_001")})},
              R"({ "rates": [0, 30] })", R"({ "size": { "extension": "y" } })");
     QByteArray result = whole;
-    result.replace(right, wrong);
-    return result == whole ? QByteArray("nothing was exchanged") : result;
+    result.replace(valid, invalid);
+    return result == whole ? QByteArray("nothing was replaced") : result;
 }
 
 } // namespace
@@ -102,38 +102,38 @@ class tst_CatalogueReader : public QObject
     Q_OBJECT
 
 private slots:
-    void presetsStateOnlyWhatDiffersFromTheirGroup();
-    void aPresetMayStateEverythingItself();
-    void furtherKeysTravelAlong();
+    void presetsSetOnlyWhatDiffersFromTheirGroup();
+    void aPresetCanSetEverythingItself();
+    void unknownKeysArePassedThrough();
     void theGroupMapIdentifiesTheGroup();
     void aGroupWithoutIconHasAnEmptyOne();
     void audioOnlyPresetsHaveNoVideoKeys();
-    void presetsWithoutSoundHaveEmptyAudioMaps();
+    void presetsWithoutAudioHaveEmptyAudioMaps();
     void namedListsStandForTheirValues();
-    void namesHoldForTheFilesAfterTheirs();
-    void theNewestMeaningOfANameHolds();
-    void templatesStandBetweenGroupAndPreset();
-    void aGroupMayHaveATemplateToo();
-    void furtherKeysOfATemplateTravelAlong();
+    void namesAreKnownInLaterFiles();
+    void theLastDefinitionOfANameWins();
+    void templatesOverrideTheGroupAndYieldToThePreset();
+    void aGroupCanHaveATemplateToo();
+    void unknownKeysOfATemplateArePassedThrough();
     void equalListsAreShared();
     void listsOfTextsAreNotSharedWithListsOfNumbers();
     void numbersStayNumbersAndTextsTexts();
-    void categoriesComeInOrderOfAppearance();
-    void oneGroupNameMayStandInTwoCategories();
+    void categoriesAreInOrderOfAppearance();
+    void twoCategoriesCanHaveAGroupOfTheSameName();
     void unreadableSourcesAreMistakesInTheirPlace();
     void noSourcesMakeAnEmptyCatalogue();
-    void whatIsWrongIsNamedWithItsPlace_data();
-    void whatIsWrongIsNamedWithItsPlace();
-    void mistakesNameTheSourceThatIsWrong();
-    void whatIsWrongIsLeftOutAndTheRestServed_data();
-    void whatIsWrongIsLeftOutAndTheRestServed();
-    void furtherKeysAreNamedButServed();
+    void mistakesAreReportedWithTheirPlace_data();
+    void mistakesAreReportedWithTheirPlace();
+    void mistakesNameTheirSource();
+    void mistakesAreLeftOutAndTheRestIsServed_data();
+    void mistakesAreLeftOutAndTheRestIsServed();
+    void unknownKeysAreReportedButServed();
     void everyKeyOfTheSchemaIsKnown();
-    void itIsKnownWhereAValueStands_data();
-    void itIsKnownWhereAValueStands();
+    void thePlacesOfValuesAreKnown_data();
+    void thePlacesOfValuesAreKnown();
 };
 
-void tst_CatalogueReader::presetsStateOnlyWhatDiffersFromTheirGroup()
+void tst_CatalogueReader::presetsSetOnlyWhatDiffersFromTheirGroup()
 {
     const CatalogueResult result = readCatalogue(sources({file(
         "Video",
@@ -165,7 +165,7 @@ void tst_CatalogueReader::presetsStateOnlyWhatDiffersFromTheirGroup()
     QVERIFY(!first.contains(QStringLiteral("presets")));
 }
 
-void tst_CatalogueReader::aPresetMayStateEverythingItself()
+void tst_CatalogueReader::aPresetCanSetEverythingItself()
 {
     const CatalogueResult result = readCatalogue(sources(
         {R"({ "category": "C", "groups": [{ "name": "G", "presets": [{ "id": "1", "title": "T", "extension": "e", )" +
@@ -174,7 +174,7 @@ void tst_CatalogueReader::aPresetMayStateEverythingItself()
     QCOMPARE(valueAt(presetOf(result, "C", "G"), "audioParam", "channel"), QVariant(2));
 }
 
-void tst_CatalogueReader::furtherKeysTravelAlong()
+void tst_CatalogueReader::unknownKeysArePassedThrough()
 {
     const CatalogueResult result = readCatalogue(sources(
         {R"({ "category": "C", "note": 1, "groups": [{ "name": "G", "extension": "e", "twoPass": true, "mux": { "a": 1, "b": 2 }, )" +
@@ -218,7 +218,7 @@ void tst_CatalogueReader::audioOnlyPresetsHaveNoVideoKeys()
                                       QStringLiteral("title")}));
 }
 
-void tst_CatalogueReader::presetsWithoutSoundHaveEmptyAudioMaps()
+void tst_CatalogueReader::presetsWithoutAudioHaveEmptyAudioMaps()
 {
     const CatalogueResult result =
         readCatalogue(sources({file("Video", {group("GIF", {videoBlocks}, {preset("1")})})}));
@@ -241,7 +241,7 @@ void tst_CatalogueReader::namedListsStandForTheirValues()
              QVariant(QVariantList{0, 24, 25}));
 }
 
-void tst_CatalogueReader::namesHoldForTheFilesAfterTheirs()
+void tst_CatalogueReader::namesAreKnownInLaterFiles()
 {
     const QByteArray names = R"("template": "mono", "audioOptions": { "channelList": "one" })";
     const CatalogueResult result = readCatalogue(sources(
@@ -253,7 +253,7 @@ void tst_CatalogueReader::namesHoldForTheFilesAfterTheirs()
     QCOMPARE(valueAt(map, "audioParam", "channel"), QVariant(1));
 }
 
-void tst_CatalogueReader::theNewestMeaningOfANameHolds()
+void tst_CatalogueReader::theLastDefinitionOfANameWins()
 {
     const QByteArray names = R"("template": "t", "audioOptions": { "channelList": "channels" })";
     const CatalogueResult result = readCatalogue(sources(
@@ -272,7 +272,7 @@ void tst_CatalogueReader::theNewestMeaningOfANameHolds()
              QVariant(QStringLiteral("new")));
 }
 
-void tst_CatalogueReader::templatesStandBetweenGroupAndPreset()
+void tst_CatalogueReader::templatesOverrideTheGroupAndYieldToThePreset()
 {
     const CatalogueResult result = readCatalogue(sources({file(
         "Audio",
@@ -294,7 +294,7 @@ void tst_CatalogueReader::templatesStandBetweenGroupAndPreset()
     QVERIFY(!map.contains(QStringLiteral("template")));
 }
 
-void tst_CatalogueReader::aGroupMayHaveATemplateToo()
+void tst_CatalogueReader::aGroupCanHaveATemplateToo()
 {
     const CatalogueResult result = readCatalogue(
         sources({file("Audio",
@@ -312,7 +312,7 @@ void tst_CatalogueReader::aGroupMayHaveATemplateToo()
     QCOMPARE(valueAt(second, "audioParam", "bitrateKbps"), QVariant(32));
 }
 
-void tst_CatalogueReader::furtherKeysOfATemplateTravelAlong()
+void tst_CatalogueReader::unknownKeysOfATemplateArePassedThrough()
 {
     const CatalogueResult result = readCatalogue(
         sources({file("Audio", {group("MP3", {audioBlocks}, {preset("1", R"("template": "t")")})},
@@ -369,7 +369,7 @@ void tst_CatalogueReader::numbersStayNumbersAndTextsTexts()
     QCOMPARE(frameRates.value(2).toString(), QStringLiteral("30"));
 }
 
-void tst_CatalogueReader::categoriesComeInOrderOfAppearance()
+void tst_CatalogueReader::categoriesAreInOrderOfAppearance()
 {
     const CatalogueResult result = readCatalogue(
         sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
@@ -387,7 +387,7 @@ void tst_CatalogueReader::categoriesComeInOrderOfAppearance()
     QCOMPARE(result.catalogue.groups.value(QStringLiteral("Device")), QVariantList());
 }
 
-void tst_CatalogueReader::oneGroupNameMayStandInTwoCategories()
+void tst_CatalogueReader::twoCategoriesCanHaveAGroupOfTheSameName()
 {
     const CatalogueResult result =
         readCatalogue(sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
@@ -417,7 +417,7 @@ void tst_CatalogueReader::noSourcesMakeAnEmptyCatalogue()
     QVERIFY(result.catalogue.categories.isEmpty());
 }
 
-void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
+void tst_CatalogueReader::mistakesAreReportedWithTheirPlace_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("error");
@@ -428,7 +428,7 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
 
     row("empty file", "", "1:1: the file is empty");
     row("blank file", " \n\n ", "1:1: the file is empty");
-    row("no JSON", "MP4=h264", "1:1: illegal value");
+    row("not JSON", "MP4=h264", "1:1: illegal value");
     row("missing colon on line 2", "{\n  \"category\" 1 }", "2:14: missing name separator");
     row("columns count characters", "{\n  \"ä€𝄞\" 1 }", "2:9: missing name separator");
     row("windows line ends", "{\r\n\"a\" 1 }", "2:5: missing name separator");
@@ -438,66 +438,67 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
         "2:3: expected a comma, a closing brace or a key in double quotes");
     row("unclosed list", "{\n\"groups\": [1, 2\n}", "3:1: expected a comma or a closing bracket");
     row("cut off", R"({ "category": "Vid)", "1:19: unterminated string");
-    row("something behind the end", "{}\n\nmore", "3:1: garbage at the end of the document");
+    row("something after the end", "{}\n\nmore", "3:1: garbage at the end of the document");
     row("not UTF-8", "{\n\"a\": \"\xff\" }", "2:6: invalid UTF8 string");
 
     row("list instead of object", "[]", ": the file must hold an object but holds a list");
-    row("no category", R"({ "groups": [] })", ": category: must be a text but is missing");
+    row("no category", R"({ "groups": [] })", ": category: must be a string but is missing");
     row("no groups", R"({ "category": "Video" })", ": groups: must be a list but is missing");
-    row("category is no text", broken(R"("category": "Video")", R"("category": 7)"),
-        ": category: must be a text but is a number");
+    row("category is not a string", broken(R"("category": "Video")", R"("category": 7)"),
+        ": category: must be a string but is a number");
     row("category is empty", broken(R"("category": "Video")", R"("category": "")"),
         ": category: must not be empty");
-    row("groups is no list", R"({ "category": "Video", "groups": {} })",
+    row("groups is not a list", R"({ "category": "Video", "groups": {} })",
         ": groups: must be a list but is an object");
-    row("lists is no object", broken(R"({ "rates": [0, 30] })", "[]"),
+    row("lists is not an object", broken(R"({ "rates": [0, 30] })", "[]"),
         ": lists: must be an object but is a list");
-    row("a named list is no list", broken("[0, 30]", "30"),
+    row("a named list is not a list", broken("[0, 30]", "30"),
         ": lists.rates: must be a list but is a number");
-    row("a text among the numbers of a named list", broken("[0, 30]", R"([0, "30"])"),
-        ": lists.rates[1]: must be a number but is a text");
-    row("a number among the texts of a named list", broken("[0, 30]", R"(["0", 30])"),
-        ": lists.rates[1]: must be a text but is a number");
+    row("a string among the numbers of a named list", broken("[0, 30]", R"([0, "30"])"),
+        ": lists.rates[1]: must be a number but is a string");
+    row("a number among the strings of a named list", broken("[0, 30]", R"(["0", 30])"),
+        ": lists.rates[1]: must be a string but is a number");
     row("a named list of lists", broken("[0, 30]", "[[0, 30]]"),
         ": lists.rates[0]: must be a number but is a list");
-    row("templates is no object", broken(R"({ "size": { "extension": "y" } })", "true"),
+    row("templates is not an object", broken(R"({ "size": { "extension": "y" } })", "true"),
         ": templates: must be an object but is true or false");
-    row("a template is no object", broken(R"({ "extension": "y" })", R"("y")"),
-        ": templates.size: must be an object but is a text");
-    row("a template's extension is no text", broken(R"("extension": "y")", R"("extension": 1)"),
-        ": templates.size.extension: must be a text but is a number");
-    row("a template's option list is wrong",
+    row("a template is not an object", broken(R"({ "extension": "y" })", R"("y")"),
+        ": templates.size: must be an object but is a string");
+    row("a template's extension is not a string",
+        broken(R"("extension": "y")", R"("extension": 1)"),
+        ": templates.size.extension: must be a string but is a number");
+    row("a template's option list is invalid",
         broken(R"("extension": "y")", R"("audioOptions": { "channelList": [1, "2"] })"),
-        ": templates.size.audioOptions.channelList[1]: must be a number but is a text");
-    row("template is no text", broken(R"("title": "T")", R"("title": "T", "template": 1)"),
-        ": groups[0].presets[0].template: must be a text but is a number");
+        ": templates.size.audioOptions.channelList[1]: must be a number but is a string");
+    row("template is not a string", broken(R"("title": "T")", R"("title": "T", "template": 1)"),
+        ": groups[0].presets[0].template: must be a string but is a number");
     row("unknown template", broken(R"("title": "T")", R"("title": "T", "template": "Size")"),
         ": groups[0].presets[0].template: there is no template \"Size\" in \"templates\"");
     row("unknown template of a group", broken(R"("name")", R"("template": "Size", "name")"),
         ": groups[0].template: there is no template \"Size\" in \"templates\"");
 
-    row("group is no object", R"({ "category": "Video", "groups": [true] })",
+    row("group is not an object", R"({ "category": "Video", "groups": [true] })",
         ": groups[0]: must be an object but is true or false");
     row("no name", broken(R"("name": "MP4",)", ""),
-        ": groups[0].name: must be a text but is missing");
+        ": groups[0].name: must be a string but is missing");
     row("name is null", broken(R"("name": "MP4")", R"("name": null)"),
-        ": groups[0].name: must be a text but is null");
+        ": groups[0].name: must be a string but is null");
     row("name is empty", broken(R"("name": "MP4")", R"("name": "")"),
         ": groups[0].name: must not be empty");
-    row("icon is no text", broken(R"("fmt_x")", "1"),
-        ": groups[0].icon: must be a text but is a number");
+    row("icon is not a string", broken(R"("fmt_x")", "1"),
+        ": groups[0].icon: must be a string but is a number");
     row("no presets", broken(R"("presets":)", R"("Presets":)"),
         ": groups[0].presets: must be a list but is missing");
-    row("presets is no list", R"({ "category": "V", "groups": [{ "name": "G", "presets": "p" }] })",
-        ": groups[0].presets: must be a list but is a text");
+    row("presets is not a list",
+        R"({ "category": "V", "groups": [{ "name": "G", "presets": "p" }] })",
+        ": groups[0].presets: must be a list but is a string");
     row("a name twice",
         file("Video", {group("MP4", {audioBlocks}, {preset("1")}),
                        group("MP4", {audioBlocks}, {preset("2")})}),
-        ": groups[1].name: the category \"Video\" already has a group \"MP4\"; put the presets "
-        "into "
-        "that one or give this one a name of its own");
+        ": groups[1].name: the category \"Video\" already has a group \"MP4\"; move the presets "
+        "to that group or rename this one");
 
-    row("preset is no object",
+    row("preset is not an object",
         R"({ "category": "V", "groups": [{ "name": "G", "presets": [1] }] })",
         ": groups[0].presets[0]: must be an object but is a number");
     row("no id", broken(R"("id": "A_B_001",)", ""),
@@ -506,13 +507,13 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
         ": groups[0].presets[0].title: is missing from the preset and its group");
     row("no extension", broken(R"("extension": "x",)", ""),
         ": groups[0].presets[0].extension: is missing from the preset and its group");
-    row("id is no text", broken(R"("A_B_001")", "1"),
-        ": groups[0].presets[0].id: must be a text but is a number");
+    row("id is not a string", broken(R"("A_B_001")", "1"),
+        ": groups[0].presets[0].id: must be a string but is a number");
     row("id is empty", broken("A_B_001", ""), ": groups[0].presets[0].id: must not be empty");
     row("title is empty", broken(R"("T")", R"("")"),
         ": groups[0].presets[0].title: must not be empty");
-    row("extension is no text", broken(R"("extension": "x")", R"("extension": ["x"])"),
-        ": groups[0].extension: must be a text but is a list");
+    row("extension is not a string", broken(R"("extension": "x")", R"("extension": ["x"])"),
+        ": groups[0].extension: must be a string but is a list");
     row("an id twice",
         file("Video", {group("MP4", {audioBlocks}, {preset("1"), preset("2")}),
                        group("MKV", {audioBlocks}, {preset("3"), preset("2")})}),
@@ -536,39 +537,39 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace_data()
         ": groups[0].presets[0].audioOptions.sampleRateList: is missing from the preset and its "
         "group");
 
-    row("block is no object", broken(R"("audioParam": {)", R"("audioParam": [], "a": {)"),
+    row("block is not an object", broken(R"("audioParam": {)", R"("audioParam": [], "a": {)"),
         ": groups[0].audioParam: must be an object but is a list");
-    row("encoder is no text", broken(R"("encoder": "h264")", R"("encoder": 264)"),
-        ": groups[0].videoParam.encoder: must be a text but is a number");
-    row("resolution is no text", broken(R"("resolution": "0")", R"("resolution": 0)"),
-        ": groups[0].videoParam.resolution: must be a text but is a number");
-    row("frame rate is no number", broken(R"("frameRate": 0)", R"("frameRate": "0")"),
-        ": groups[0].videoParam.frameRate: must be a number but is a text");
-    row("audio bitrate is no number", broken(R"("bitrateKbps": 192)", R"("bitrateKbps": "192")"),
-        ": groups[0].audioParam.bitrateKbps: must be a number but is a text");
-    row("wrong in the preset",
+    row("encoder is not a string", broken(R"("encoder": "h264")", R"("encoder": 264)"),
+        ": groups[0].videoParam.encoder: must be a string but is a number");
+    row("resolution is not a string", broken(R"("resolution": "0")", R"("resolution": 0)"),
+        ": groups[0].videoParam.resolution: must be a string but is a number");
+    row("frame rate is not a number", broken(R"("frameRate": 0)", R"("frameRate": "0")"),
+        ": groups[0].videoParam.frameRate: must be a number but is a string");
+    row("audio bitrate is not a number", broken(R"("bitrateKbps": 192)", R"("bitrateKbps": "192")"),
+        ": groups[0].audioParam.bitrateKbps: must be a number but is a string");
+    row("a mistake in the preset",
         file("Video", {group("MP3", {audioBlocks},
                              {preset("1"), preset("2", R"("audioParam": { "channel": "2" })")})}),
-        ": groups[0].presets[1].audioParam.channel: must be a number but is a text");
+        ": groups[0].presets[1].audioParam.channel: must be a number but is a string");
 
-    row("option list is no list", broken("[0, 1, 2]", "2"),
+    row("option list is not a list", broken("[0, 1, 2]", "2"),
         ": groups[0].audioOptions.channelList: must be a list but is a number");
     row("unknown named list", broken("[0, 1, 2]", R"("channels")"),
         ": groups[0].audioOptions.channelList: there is no list \"channels\" in \"lists\"");
-    row("a text among numbers", broken("[0, 1, 2]", R"([0, "1", 2])"),
-        ": groups[0].audioOptions.channelList[1]: must be a number but is a text");
-    row("a number among texts", broken(R"(["0", "h264"])", R"(["0", "h264", 0])"),
-        ": groups[0].videoOptions.encoderList[2]: must be a text but is a number");
-    row("a named list of numbers for texts", broken(R"(["0", "h264"])", R"("rates")"),
-        ": groups[0].videoOptions.encoderList[0]: must be a text but is a number\n"
-        "file1.json: groups[0].videoOptions.encoderList[1]: must be a text but is a number");
+    row("a string among numbers", broken("[0, 1, 2]", R"([0, "1", 2])"),
+        ": groups[0].audioOptions.channelList[1]: must be a number but is a string");
+    row("a number among strings", broken(R"(["0", "h264"])", R"(["0", "h264", 0])"),
+        ": groups[0].videoOptions.encoderList[2]: must be a string but is a number");
+    row("a named list of numbers for strings", broken(R"(["0", "h264"])", R"("rates")"),
+        ": groups[0].videoOptions.encoderList[0]: must be a string but is a number\n"
+        "file1.json: groups[0].videoOptions.encoderList[1]: must be a string but is a number");
     row("two levels", broken("[12000, 8000, 4000]", "[8000, 4000]"),
         ": groups[0].videoOptions.levelList: must hold three bitrates: high, middle and low");
     row("four levels", broken("[12000, 8000, 4000]", "[8, 4, 2, 1]"),
         ": groups[0].videoOptions.levelList: must hold three bitrates: high, middle and low");
 }
 
-void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace()
+void tst_CatalogueReader::mistakesAreReportedWithTheirPlace()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, error);
@@ -577,7 +578,7 @@ void tst_CatalogueReader::whatIsWrongIsNamedWithItsPlace()
              QStringLiteral("file1.json") + separator + error);
 }
 
-void tst_CatalogueReader::mistakesNameTheSourceThatIsWrong()
+void tst_CatalogueReader::mistakesNameTheirSource()
 {
     const QByteArray right = file("Video", {group("MP4", {audioBlocks}, {preset("1")})});
     QCOMPARE(mistakesIn(readCatalogue(sources(
@@ -587,7 +588,7 @@ void tst_CatalogueReader::mistakesNameTheSourceThatIsWrong()
                  "file3.json: groups[0].presets[0].id: \"1\" is already the id of another preset"));
 }
 
-void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed_data()
+void tst_CatalogueReader::mistakesAreLeftOutAndTheRestIsServed_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<int>("mistakes");
@@ -600,7 +601,7 @@ void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed_data()
     const QByteArray wrong = R"("audioParam": { "channel": "2" })";
     const QByteArray right = group("MP3", {audioBlocks}, {preset("1"), preset("2")});
 
-    row("nothing wrong", file("Audio", {right}), 0, "MP3: 1 2");
+    row("no mistake", file("Audio", {right}), 0, "MP3: 1 2");
     row("a preset", file("Audio", {group("MP3", {audioBlocks}, {preset("1", wrong), preset("2")})}),
         1, "MP3: 2");
     row("several mistakes of one preset",
@@ -616,38 +617,38 @@ void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed_data()
     row("a group, and its presets have mistakes of their own",
         file("Audio", {group("AAC", {audioBlocks, R"("title": 1)"}, {preset("3", wrong)}), right}),
         2, "MP3: 1 2");
-    row("a group that is no object", file("Audio", {"7", right}), 1, "MP3: 1 2");
+    row("a group that is not an object", file("Audio", {"7", right}), 1, "MP3: 1 2");
     row("the second group of a name",
         file("Audio", {right, group("MP3", {audioBlocks}, {preset("3")})}), 1, "MP3: 1 2");
     row("a group without a valid preset",
         file("Audio", {group("AAC", {audioBlocks}, {preset("3", wrong)}), right}), 1, "MP3: 1 2");
-    row("a template and what starts from it",
+    row("a template and what uses it",
         file("Audio",
              {group("AAC", {audioBlocks, R"("template": "t")"}, {preset("3")}),
               group("MP3", {audioBlocks}, {preset("1", R"("template": "t")"), preset("2")})},
              "{}", R"({ "t": { "title": 1 } })"),
         1, "MP3: 2");
-    row("a list and what takes it",
+    row("a list and what uses it",
         file("Audio",
              {group("MP3", {audioBlocks},
                     {preset("1", R"("audioOptions": { "channelList": "l" })"), preset("2")})},
              R"({ "l": [1, "2"] })"),
         1, "MP3: 2");
     row("a category", file("", {right}), 1, "");
-    row("an icon that is no text",
+    row("an icon that is not a string",
         R"({ "category": "Audio", "groups": [{ "name": "AAC", "icon": 1, "extension": "x",)" +
             audioBlocks + R"(, "presets": [)" + preset("3") + "] }, " + right + "] }",
         1, "MP3: 1 2");
     row("the id of a preset that is left out is free",
         file("Audio", {group("MP3", {audioBlocks}, {preset("1", wrong), preset("1")})}), 1,
         "MP3: 1");
-    row("a list of levels that is none",
+    row("a list of levels that is not a list",
         file("Video", {group("MP4", {videoBlocks, audioBlocks},
                              {preset("1", R"("videoOptions": { "levelList": 5 })"), preset("2")})}),
         1, "MP4: 2");
 }
 
-void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed()
+void tst_CatalogueReader::mistakesAreLeftOutAndTheRestIsServed()
 {
     QFETCH(QByteArray, json);
     QFETCH(int, mistakes);
@@ -670,7 +671,7 @@ void tst_CatalogueReader::whatIsWrongIsLeftOutAndTheRestServed()
     QCOMPARE(groups.join(QStringLiteral("; ")), served);
 }
 
-void tst_CatalogueReader::furtherKeysAreNamedButServed()
+void tst_CatalogueReader::unknownKeysAreReportedButServed()
 {
     const CatalogueResult result = readCatalogue(sources(
         {R"({ "category": "Audio", "note": 1, "groups": [{ "name": "MP3", "extension": "x", "mux": 2,)" +
@@ -678,10 +679,9 @@ void tst_CatalogueReader::furtherKeysAreNamedButServed()
          "] }] }"}));
     QCOMPARE(mistakesIn(result), QString());
     QCOMPARE(mistakesIn(result, true),
-             QStringLiteral("file1.json: note: is none of the known keys\n"
-                            "file1.json: groups[0].mux: is none of the known keys\n"
-                            "file1.json: groups[0].presets[0].audioParam.vbr: is none of the known "
-                            "keys"));
+             QStringLiteral("file1.json: note: is not a known key\n"
+                            "file1.json: groups[0].mux: is not a known key\n"
+                            "file1.json: groups[0].presets[0].audioParam.vbr: is not a known key"));
     QCOMPARE(valueAt(presetOf(result, "Audio", "MP3"), "audioParam", "vbr"), QVariant(4));
 }
 
@@ -691,7 +691,7 @@ void tst_CatalogueReader::everyKeyOfTheSchemaIsKnown()
     QVERIFY(schemaFile.open(QIODevice::ReadOnly));
     const QJsonObject schema = QJsonDocument::fromJson(schemaFile.readAll()).object();
     const QJsonObject definitions = schema[QStringLiteral("definitions")].toObject();
-    // An object with each key of an object in the schema, without a value.
+    // For each object in the schema, an object with the same keys and null values.
     const auto keysOf = [](const QJsonValue &object) {
         QJsonObject nulls;
         for (const QString &key : object[QStringLiteral("properties")].toObject().keys()) {
@@ -720,7 +720,7 @@ void tst_CatalogueReader::everyKeyOfTheSchemaIsKnown()
     QCOMPARE(mistakesIn(result, true), QString());
 }
 
-void tst_CatalogueReader::itIsKnownWhereAValueStands_data()
+void tst_CatalogueReader::thePlacesOfValuesAreKnown_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("place");
@@ -737,7 +737,7 @@ void tst_CatalogueReader::itIsKnownWhereAValueStands_data()
     row("nowhere", "videoParam.encoder", " ");
 }
 
-void tst_CatalogueReader::itIsKnownWhereAValueStands()
+void tst_CatalogueReader::thePlacesOfValuesAreKnown()
 {
     QFETCH(QString, key);
     QFETCH(QString, place);

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""Holds the built-in catalogue to its schema, and the schema to refusing what is wrong.
+"""Checks the built-in catalogue against its schema, and that the schema refuses invalid files.
 
-Usage: tst_catalogueschema.py TOOL, where TOOL is the program that writes the schema.
+Usage: tst_catalogueschema.py TOOL, where TOOL is the program that prints the schema.
 """
 
 import json
@@ -16,7 +16,7 @@ CATALOGUE = pathlib.Path(__file__).resolve().parents[2] / "utility/catalogue"
 FILE = CATALOGUE / "catalogue.schema.json"
 SCHEMA = json.loads(FILE.read_text())
 
-RIGHT = {
+VALID = {
     "category": "Video",
     "lists": {"sizes": ["0", "1280x720"], "rates": [0, 29.97]},
     "templates": {"hd": {"title": "HD", "videoParam": {"resolution": "1280x720"}}},
@@ -46,14 +46,14 @@ RIGHT = {
 MISSING = object()
 PRESET = ("groups", 0, "presets", 0)
 
-# Where the right file is changed, and to what.
-WRONG = [
+# Changes that make the valid file invalid: path and new value.
+INVALID = [
     (("category",), MISSING),
     (("category",), ""),
     (("category",), "Social Video"),
     (("groups",), MISSING),
     (("groups",), {}),
-    (("note",), "further keys are mistakes"),
+    (("note",), "unknown keys are mistakes"),
     (("lists",), []),
     (("lists", "rates"), 30),
     (("lists", "rates"), [0, "30"]),
@@ -133,7 +133,7 @@ BOUNDS = [
 
 
 def changed(path, value):
-    copy = json.loads(json.dumps(RIGHT))
+    copy = json.loads(json.dumps(VALID))
     place = copy
     for key in path[:-1]:
         place = place[key]
@@ -158,7 +158,7 @@ class CatalogueSchema(unittest.TestCase):
         self.assertEqual(written.decode(), FILE.read_text(),
                          f"it is out of date; run {TOOL} > {FILE}")
 
-    def test_the_built_in_files_are_right(self):
+    def test_the_built_in_files_are_valid(self):
         files = sorted(CATALOGUE.glob("*.json"))
         files.remove(FILE)
         self.assertEqual(len(files), 4)
@@ -166,8 +166,8 @@ class CatalogueSchema(unittest.TestCase):
             with self.subTest(file=file.name):
                 self.assertEqual(self.errors_in(json.loads(file.read_text())), [])
 
-    def test_every_key_has_its_right_value(self):
-        self.assertEqual(self.errors_in(RIGHT), [])
+    def test_a_file_with_every_key_is_valid(self):
+        self.assertEqual(self.errors_in(VALID), [])
 
     def test_the_bounds_are_still_allowed(self):
         for block, key, values in BOUNDS:
@@ -175,13 +175,13 @@ class CatalogueSchema(unittest.TestCase):
                 with self.subTest(key=key, value=value):
                     self.assertEqual(self.errors_in(changed(PRESET + (block, key), value)), [])
 
-    def test_what_is_wrong_is_refused_where_it_stands(self):
-        for path, value in WRONG:
+    def test_mistakes_are_refused_in_their_place(self):
+        for path, value in INVALID:
             with self.subTest(path=path, value="missing" if value is MISSING else value):
                 errors = self.errors_in(changed(path, value))
                 self.assertEqual(len(errors), 1, errors)
-                # A list's element is named with its index, a key too many or missing with its
-                # object.
+                # An error about a list element is at its index, one about an extra or missing key
+                # at its object.
                 place = errors[0][0]
                 self.assertIn(place[:len(path)], (path, path[:-1]))
 

@@ -13,7 +13,7 @@ using Files = QMap<QString, QByteArray>;
 const QString variable = QStringLiteral("VEX_EXPORT_CATALOGUE");
 const QString serve = QStringLiteral("--serve");
 
-// One line a group: category, name and the ids of its presets.
+// One line per group: category, name and the ids of its presets.
 QByteArray servedCatalogue()
 {
     FormatCodecApi *const api = FormatCodecApi::getInstance();
@@ -38,8 +38,7 @@ struct Served
     QByteArray standardError;
 };
 
-// What a process serves that starts with the variable set: the instance of this one is made
-// already.
+// What a new process with the variable set serves; this process has its instance already.
 Served servedWith(const QString &value, const QString &workingDirectory = {})
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -99,8 +98,8 @@ private slots:
     void unknownCategoriesHaveNoGroups();
     void deliveredGroupsHavePresets();
     void groupsAreFoundByCategoryAndName();
-    void foreignGroupsHaveNoPresets_data();
-    void foreignGroupsHaveNoPresets();
+    void unknownGroupsHaveNoPresets_data();
+    void unknownGroupsHaveNoPresets();
     void everyCallDeliversTheSameData();
     void theDefaultPresetKeepsTheSource();
     void theVariableIsReadOnlyOnce();
@@ -108,14 +107,14 @@ private slots:
     void aFileIsServedInsteadOfTheBuiltInCatalogue();
     void aRelativePathStartsAtTheWorkingDirectory();
     void aFolderIsServedInTheOrderOfItsFileNames();
-    void oneCategoryMayComeFromSeveralFiles();
+    void aCategoryCanSpanSeveralFiles();
     void theFilesOfTheBuiltInCatalogueServeItToo();
     void whatCannotBeServedIsReportedInOneLine_data();
     void whatCannotBeServedIsReportedInOneLine();
-    void whatIsValidIsServedBesideMistakes_data();
-    void whatIsValidIsServedBesideMistakes();
-    void whatIsNoFileIsReported_data();
-    void whatIsNoFileIsReported();
+    void validPresetsAreServedDespiteMistakes_data();
+    void validPresetsAreServedDespiteMistakes();
+    void pathsThatAreNotFilesAreReported_data();
+    void pathsThatAreNotFilesAreReported();
     void whatMayNotBeReadIsReported_data();
     void whatMayNotBeReadIsReported();
 };
@@ -167,11 +166,11 @@ void tst_FormatCodecApi::groupsAreFoundByCategoryAndName()
     const QVariantList presets = FormatCodecApi::getInstance()->getExportGroupContents(group);
     QVERIFY(!presets.isEmpty());
     group.remove(QStringLiteral("icon"));
-    group.insert(QStringLiteral("added by a look-up"), QVariant());
+    group.insert(QStringLiteral("added by a lookup"), QVariant());
     QCOMPARE(FormatCodecApi::getInstance()->getExportGroupContents(group), presets);
 }
 
-void tst_FormatCodecApi::foreignGroupsHaveNoPresets_data()
+void tst_FormatCodecApi::unknownGroupsHaveNoPresets_data()
 {
     const QString category = QStringLiteral("category");
     const QString name = QStringLiteral("name");
@@ -183,11 +182,11 @@ void tst_FormatCodecApi::foreignGroupsHaveNoPresets_data()
         << QVariantMap{{category, QStringLiteral("Audio")}, {name, QStringLiteral("MP4")}};
     QTest::newRow("other case") << QVariantMap{{category, QStringLiteral("Video")},
                                                {name, QStringLiteral("mp4")}};
-    QTest::newRow("values that are no texts")
+    QTest::newRow("values that are not strings")
         << QVariantMap{{category, QVariantList()}, {name, QVariantMap()}};
 }
 
-void tst_FormatCodecApi::foreignGroupsHaveNoPresets()
+void tst_FormatCodecApi::unknownGroupsHaveNoPresets()
 {
     QFETCH(QVariantMap, group);
     QCOMPARE(FormatCodecApi::getInstance()->getExportGroupContents(group), QVariantList());
@@ -273,7 +272,7 @@ void tst_FormatCodecApi::aFolderIsServedInTheOrderOfItsFileNames()
     QCOMPARE(served.catalogue, QByteArray("C G 1\nB G 2\nA G 3\n"));
 }
 
-void tst_FormatCodecApi::oneCategoryMayComeFromSeveralFiles()
+void tst_FormatCodecApi::aCategoryCanSpanSeveralFiles()
 {
     const QTemporaryDir folder;
     write(folder.path(), {{QStringLiteral("1.json"), catalogue("Video", "MP4", "1")},
@@ -283,7 +282,7 @@ void tst_FormatCodecApi::oneCategoryMayComeFromSeveralFiles()
              QByteArray("Video MP4 1\nVideo MKV 3\nAudio MP3 2\n"));
 }
 
-// So that a copy of the folder is a good start for a catalogue of one's own.
+// So a copy of the folder can be the start of a custom catalogue.
 void tst_FormatCodecApi::theFilesOfTheBuiltInCatalogueServeItToo()
 {
     const Served served = servedWith(QStringLiteral(VEX_CATALOGUE_FOLDER));
@@ -309,25 +308,26 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
         << Files() << QStringLiteral("/proc/self/mem")
         << QStringLiteral("/proc/self/mem: cannot be read: Input/output error");
     QTest::newRow("empty folder") << Files() << QStringLiteral("@")
-                                  << QStringLiteral("@: the folder holds no *.json file");
+                                  << QStringLiteral("@: the folder has no *.json file");
     QTest::newRow("folder without JSON")
         << Files{{QStringLiteral("notes.txt"), "{}"}} << QStringLiteral("@")
-        << QStringLiteral("@: the folder holds no *.json file");
+        << QStringLiteral("@: the folder has no *.json file");
     QTest::newRow("empty file") << Files{{own, ""}} << QStringLiteral("@/own.json")
                                 << QStringLiteral("@/own.json:1:1: the file is empty");
-    QTest::newRow("no JSON") << Files{{own, "MP4"}} << QStringLiteral("@/own.json")
-                             << QStringLiteral("@/own.json:1:1: illegal value");
+    QTest::newRow("not JSON") << Files{{own, "MP4"}} << QStringLiteral("@/own.json")
+                              << QStringLiteral("@/own.json:1:1: illegal value");
     QTest::newRow("wrong shape")
         << Files{{own, R"({ "category": "Video", "groups": [{}] })"}}
         << QStringLiteral("@/own.json")
-        << QStringLiteral("@/own.json: groups[0].name: must be a text but is missing (and 1 more)");
+        << QStringLiteral(
+               "@/own.json: groups[0].name: must be a string but is missing (and 1 more)");
     QTest::newRow("no group") << Files{{own, R"({ "category": "Video", "groups": [] })"}}
                               << QStringLiteral("@/own.json")
-                              << QStringLiteral("@/own.json: holds no preset");
+                              << QStringLiteral("@/own.json: has no presets");
     QTest::newRow("all files of a folder")
         << Files{{QStringLiteral("1.json"), "{}"}, {QStringLiteral("2.json"), "[]"}}
         << QStringLiteral("@")
-        << QStringLiteral("@/1.json: category: must be a text but is missing (and 2 more)");
+        << QStringLiteral("@/1.json: category: must be a string but is missing (and 2 more)");
     QTest::newRow("line break in the path")
         << Files() << QStringLiteral("@/a\nb")
         << QStringLiteral("@/a b: cannot be read: No such file or directory");
@@ -357,7 +357,7 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine()
     QCOMPARE(served.catalogue, servedCatalogue());
 }
 
-void tst_FormatCodecApi::whatIsValidIsServedBesideMistakes_data()
+void tst_FormatCodecApi::validPresetsAreServedDespiteMistakes_data()
 {
     QTest::addColumn<Files>("files");
     QTest::addColumn<QString>("report");
@@ -365,7 +365,7 @@ void tst_FormatCodecApi::whatIsValidIsServedBesideMistakes_data()
     const QString one = QStringLiteral("1.json");
     const QString two = QStringLiteral("2.json");
     const QByteArray right = catalogue("Video", "MP4", "1");
-    QTest::newRow("a file that is no JSON")
+    QTest::newRow("a file that is not JSON")
         << Files{{one, "MP4"}, {two, right}}
         << QStringLiteral("@/1.json:1:1: illegal value; the rest is used\n");
     QTest::newRow("mistakes of several files")
@@ -376,12 +376,12 @@ void tst_FormatCodecApi::whatIsValidIsServedBesideMistakes_data()
         << Files{{one, right}, {two, catalogue("Video", "MKV", "1")}}
         << QStringLiteral("@/2.json: groups[0].presets[0].id: \"1\" is already the id of another "
                           "preset; the rest is used\n");
-    QTest::newRow("further keys are no reason to complain")
+    QTest::newRow("unknown keys are served")
         << Files{{one, QByteArray(right).replace(R"("title")", R"("note": "n", "title")")}}
         << QString();
 }
 
-void tst_FormatCodecApi::whatIsValidIsServedBesideMistakes()
+void tst_FormatCodecApi::validPresetsAreServedDespiteMistakes()
 {
     QFETCH(Files, files);
     QFETCH(QString, report);
@@ -395,7 +395,7 @@ void tst_FormatCodecApi::whatIsValidIsServedBesideMistakes()
              report.isEmpty() ? report : QStringLiteral("VEX_EXPORT_CATALOGUE: ") + report);
 }
 
-void tst_FormatCodecApi::whatIsNoFileIsReported_data()
+void tst_FormatCodecApi::pathsThatAreNotFilesAreReported_data()
 {
     QTest::addColumn<bool>("isPipe");
     QTest::addColumn<QString>("reason");
@@ -404,7 +404,7 @@ void tst_FormatCodecApi::whatIsNoFileIsReported_data()
         << false << QStringLiteral("cannot be read: No such file or directory");
 }
 
-void tst_FormatCodecApi::whatIsNoFileIsReported()
+void tst_FormatCodecApi::pathsThatAreNotFilesAreReported()
 {
     QFETCH(bool, isPipe);
     QFETCH(QString, reason);
@@ -443,12 +443,12 @@ void tst_FormatCodecApi::whatMayNotBeReadIsReported()
     const QString locked = folder.filePath(QStringLiteral("locked"));
     QVERIFY(QDir().mkdir(locked));
     write(locked, {{QStringLiteral("own.json"), catalogue("Mine", "A", "1")}});
-    const QFile::Permissions usual = QFile::permissions(locked);
+    const QFile::Permissions previous = QFile::permissions(locked);
     QVERIFY(QFile::setPermissions(locked, {}));
     const bool isLocked = !QFileInfo(locked).isReadable();
     path = folder.filePath(path);
     const Served served = servedWith(path);
-    QVERIFY(QFile::setPermissions(locked, usual));
+    QVERIFY(QFile::setPermissions(locked, previous));
 
     if (!isLocked) {
         QSKIP("this user may read everything");
