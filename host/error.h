@@ -10,17 +10,17 @@ struct Error
 {
     enum Kind {
         Failed,
-        WrongUsage,     //!< the caller asked for what can't be: nothing was tried
+        WrongUsage,     //!< an invalid request: nothing was tried
         InUse,          //!< another process has it: it may be free later
         EncoderMissing, //!< the encoder exists, but this ffmpeg lacks it
-        Cancelled       //!< on demand: there is nothing to tell
+        Cancelled       //!< by the caller: there is nothing to report
     };
 
     QString text = {}; //!< one line: what happened, and how to fix it
     Kind kind = Failed;
 };
 
-/*! What an operation gives, or why it failed. */
+/*! The value that an operation returns, or why it failed. */
 template <typename Value = void>
 using Result = tl::expected<Value, Error>;
 
@@ -30,7 +30,7 @@ using Result = tl::expected<Value, Error>;
     return tl::make_unexpected(Error{text, kind});
 }
 
-/*! The same failure, for a caller who gives something else. */
+/*! The same failure, for a caller that returns another type. */
 template <typename Value>
 [[nodiscard]] tl::unexpected<Error> failed(const Result<Value> &cause)
 {

@@ -21,8 +21,8 @@ QStringList argumentsOf(int argc, char **argv)
 }
 
 /*!
- * A closed stream's number would go to the next file that is opened, and what is printed into that.
- * Writing to a stream that was closed still fails, and is told.
+ * The next file that is opened would get the descriptor of a closed stream, and output would go
+ * into that file. Writing to a stream that was closed still fails and is reported.
  */
 void occupyClosedStreams()
 {
@@ -39,14 +39,14 @@ int main(int argc, char **argv)
 {
     occupyClosedStreams();
     keepBytesOfFileNames();
-    // The library's notes, such as a file missing at the first start, are for developers.
+    // The library's messages, such as a file missing at the first start, are for developers.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
 #ifdef SIGPIPE
-    // A reader that goes away mustn't end a conversion with its half-written file in place.
+    // A reader that goes away must not kill a conversion and leave a half-written file.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
 #ifdef SIGXFSZ
-    // Writing more than a file may hold is an error to tell, like a full disk.
+    // A file that gets too large is an error to report, like a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
 #endif
 

@@ -17,7 +17,7 @@ namespace {
 
 bool isOutputLost = false;
 
-/*! To standard output, at once. */
+/*! Writes to standard output and flushes it. */
 void write(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
@@ -27,7 +27,7 @@ void write(const QString &text)
     }
 }
 
-/*! JSON text of Qt's, in which halves of characters are escaped and most controls are not. */
+/*! Makes Qt's JSON visible, which escapes lone surrogates but hardly any control characters. */
 QString visibleJson(const QString &json)
 {
     const QLatin1Char backslash('\\');
@@ -37,9 +37,9 @@ QString visibleJson(const QString &json)
         if (character == backslash) {
             const int length = json.at(i + 1) == QLatin1Char('u') ? 6 : 2;
             const QStringRef escape = json.midRef(i, length);
-            const bool isHalf =
+            const bool isSurrogate =
                 length == 6 && QChar::isSurrogate(escape.mid(2).toUInt(nullptr, 16));
-            text += isHalf ? QString(QChar::ReplacementCharacter) : escape.toString();
+            text += isSurrogate ? QString(QChar::ReplacementCharacter) : escape.toString();
             i += length - 1;
         } else if (character == QLatin1Char('\n') || isVisible(json, i)) {
             text += character;
@@ -52,14 +52,14 @@ QString visibleJson(const QString &json)
 
 int terminalWidth()
 {
-    constexpr int usual = 80;
+    constexpr int defaultWidth = 80;
 #ifdef Q_OS_UNIX
     winsize size = {};
     if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
         return size.ws_col;
     }
 #endif
-    return usual;
+    return defaultWidth;
 }
 
 } // namespace

@@ -9,27 +9,27 @@
 /*! Standard output and standard error of the command. */
 namespace Console {
 
-// Names of files and texts of others may hold what moves a terminal's cursor or forges a line: only
-// what is visible reaches the terminal as it is.
+// File names and text from outside can contain characters that move the terminal's cursor or forge
+// a line, so all of these functions print visibleText().
 
 void print(const QString &line);
-/*! Lines of the command's own, such as its help. */
+/*! Prints text of several lines, such as the help. */
 void printLines(const QString &lines);
 void printJson(const QVariant &value);
-/*! Columns as wide as their widest cell, two blanks between; the first row is the heading. */
+/*! Prints columns as wide as their widest cell, two blanks apart; the first row is the heading. */
 void printTable(const QVector<QStringList> &rows);
-/*! One line on standard error, begun with the command's name. */
+/*! Prints one line on standard error, after the command's name. */
 void printError(const QString &line);
 
 /*!
- * Whether something of standard output got lost, as on a full disk. A reader that went away, such
- * as "head", wanted no more: nothing is lost then.
+ * Whether some standard output was lost, for example on a full disk. Output that a closed pipe such
+ * as "head" didn't read doesn't count.
  */
 [[nodiscard]] bool hasFailed();
 
-/*! Whether a person watches standard output, so that a line may be written over. */
+/*! Whether standard output is a terminal, so that a line can be overwritten. */
 [[nodiscard]] bool isTerminal();
-/*! Writes over the current line of the terminal; an empty text clears it. */
+/*! Overwrites the current line of the terminal; an empty string clears it. */
 void overwriteLine(const QString &line);
 
 } // namespace Console

@@ -3,7 +3,7 @@
 
 #include "host/error.h"
 
-/*! What the program ends with. */
+/*! The program's exit codes. */
 enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
 
 /*! Prints the error and returns the exit code for it. */

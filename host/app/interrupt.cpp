@@ -11,9 +11,9 @@ namespace {
 const int caughtSignals[] = {SIGINT, SIGTERM, SIGHUP};
 int pipeEnds[2] = {-1, -1};
 
-void tellEventLoop(int)
+void wakeEventLoop(int)
 {
-    // A handler may do no more than write; a full pipe means that the loop is told already.
+    // A full pipe means that the event loop is about to wake anyway.
     const char byte = 0;
     const ssize_t written = write(pipeEnds[1], &byte, 1);
     static_cast<void>(written);
@@ -35,8 +35,8 @@ Interrupt::Interrupt(QObject *parent)
         Q_EMIT caught();
     });
     for (const int number : caughtSignals) {
-        // What the caller ignores stays ignored: nohup does that with SIGHUP.
-        if (std::signal(number, tellEventLoop) == SIG_IGN) {
+        // A signal that was ignored at the start stays ignored, such as SIGHUP under nohup.
+        if (std::signal(number, wakeEventLoop) == SIG_IGN) {
             std::signal(number, SIG_IGN);
         }
     }

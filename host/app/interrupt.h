@@ -4,8 +4,8 @@
 #include <QObject>
 
 /*!
- * Turns Ctrl-C, the request to terminate and the end of the session into a signal of the event
- * loop. One at a time.
+ * Turns SIGINT (Ctrl-C), SIGTERM and SIGHUP into a Qt signal. Only one instance can exist at a
+ * time.
  */
 class Interrupt : public QObject
 {
@@ -14,7 +14,7 @@ class Interrupt : public QObject
 
 public:
     explicit Interrupt(QObject *parent = nullptr);
-    /*! Restores what the signals did before. */
+    /*! Restores the signals' default actions; ignored ones stay ignored. */
     ~Interrupt() override;
 
 Q_SIGNALS:

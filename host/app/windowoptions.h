@@ -4,12 +4,12 @@
 #include <QString>
 #include <QStringList>
 
-/*! What vexconvert was called with when it is called for its window. */
+/*! The command line's options for the window. */
 struct WindowOptions
 {
     QString configFolder; //!< empty: the platform's
-    QString language;     //!< one that Languages::suiting() finds; empty: the system's
-    QStringList files;    //!< for its list: absolute paths of existing files and folders
+    QString language;     //!< a code or locale; empty: the system's
+    QStringList files;    //!< to add to the list: absolute paths of existing files and folders
 };
 
 #endif

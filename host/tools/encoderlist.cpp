@@ -7,14 +7,14 @@
 
 namespace {
 
-/*! The lists by the file of their ffmpeg; see identityOf(). */
+/*! The encoders of each ffmpeg, by identityOf(). */
 QHash<QString, QSet<QString>> &knownLists()
 {
     static QHash<QString, QSet<QString>> lists;
     return lists;
 }
 
-/*! Another text for each other file, also for one that takes its place; empty without a file. */
+/*! Differs for every file, also for one that replaces another; empty if there is no file. */
 QString identityOf(const QString &program)
 {
     const QFileInfo file(QStandardPaths::findExecutable(program));
@@ -70,8 +70,8 @@ void EncoderList::take(const Result<ToolRun> &run)
     }
     const QSet<QString> encoders = encodersInListing(run->output);
     if (!run->exitedCleanly || encoders.isEmpty()) {
-        Q_EMIT finished(failed(tr("%1 doesn't tell its encoders (%2); check that \"%1 -encoders\" "
-                                  "lists them, or install another ffmpeg")
+        Q_EMIT finished(failed(tr("%1 doesn't list its encoders (%2); check that \"%1 -encoders\" "
+                                  "works, or install another ffmpeg")
                                    .arg(run->program, run->firstError())));
         return;
     }

@@ -6,8 +6,8 @@
 #include <QSet>
 
 /*!
- * Asks which encoders the ffmpeg on the PATH has. Each ffmpeg is asked until it has answered once:
- * the answer is kept as long as this process runs and the program stays the same file.
+ * Finds out which encoders the ffmpeg on the PATH has. The list is cached until the process ends or
+ * the program's file changes.
  */
 class EncoderList : public QObject
 {
@@ -19,7 +19,7 @@ public:
 
     /*! finished() follows from the event loop, once. */
     void start();
-    /*! Gives the question up; finished() follows with Error::Cancelled. */
+    /*! Cancels the query; finished() follows with Error::Cancelled. */
     void stop();
 
 Q_SIGNALS:
@@ -30,7 +30,7 @@ private:
     void take(const Result<ToolRun> &run);
 
     Tool m_tool;
-    QTimer m_answer; // tells what is known already from the event loop
+    QTimer m_answer; // delivers a cached list from the event loop
     QString m_program;
     bool m_isStopped = false;
 };

@@ -12,14 +12,14 @@ void ProcessGroup::lead()
 void ProcessGroup::watch(qint64 leader)
 {
     m_leader = leader;
-    // The child does the same, and who comes first is open: after this the group is there.
+    // The child does the same, in either order: from here on the group exists for certain.
     setpgid(pid_t(leader), pid_t(leader));
     m_guard.join(leader);
 }
 
 void ProcessGroup::end()
 {
-    // Without its guard the number may be a stranger's by now.
+    // Without its guard, the id could have been reused for another group by now.
     if (m_guard.isIn(m_leader)) {
         ::kill(-pid_t(m_leader), SIGKILL);
     }
@@ -46,7 +46,7 @@ bool ProcessGroup::Guard::isIn(qint64 leader) const
 
 void ProcessGroup::Guard::setupChildProcess()
 {
-    // Anywhere else it would end the wrong group.
+    // In any other group it would kill the wrong processes.
     if (setpgid(0, pid_t(m_leader)) != 0) {
         _exit(EXIT_FAILURE);
     }

@@ -4,8 +4,8 @@
 #include <QProcess>
 
 /*!
- * The process group of a program: the program itself, which leads it, and whatever that starts.
- * Nothing in it outlives this object, or a host that is killed.
+ * The process group of a program: the program itself, which leads it, and everything it starts.
+ * Nothing in it outlives this object, not even if the host is killed.
  */
 class ProcessGroup
 {
@@ -17,15 +17,15 @@ public:
 
     /*! Makes the calling process the leader; for QProcess::setupChildProcess(). */
     static void lead();
-    /*! Takes the group of \a leader, a child of this process that calls lead(). Once. */
+    /*! Takes over the group of \a leader, a child process that calls lead(). Call it only once. */
     void watch(qint64 leader);
-    /*! Kills all that is in the group. */
+    /*! Kills every process in the group. */
     void end();
 
 private:
     /*!
-     * Sleeps in the group. While it is there no other group gets the number, even when the leader
-     * is long gone; and when the host closes its end of the pipe, by dying too, it ends the group.
+     * Waits in the group. While it exists, the group's id can't be reused, even if the leader has
+     * ended. When the host closes its end of the pipe, or dies, it kills the group.
      */
     class Guard : public QProcess
     {

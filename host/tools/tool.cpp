@@ -111,15 +111,15 @@ void Tool::Process::setupChildProcess()
 {
     ProcessGroup::lead();
 #ifdef Q_OS_LINUX
-    // A host that is killed can't stop the tool any more.
+    // A host that is killed can no longer stop the tool.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
 #endif
 }
 
 void Tool::noteError(QProcess::ProcessError error)
 {
-    // Short of file descriptors it may tell so several times. The caller hears of it later, so that
-    // start() has returned by then.
+    // QProcess can report this several times. The caller is told from the event loop, after start()
+    // has returned.
     if (error == QProcess::FailedToStart && m_startError.isEmpty()) {
         m_startError = m_process.errorString();
         m_startFailure.start(0);
@@ -137,7 +137,7 @@ void Tool::exceed(ToolRun::Excess excess)
 
 void Tool::readErrors()
 {
-    // The first errors tell the cause, the last ones how it ended; a broken source makes many.
+    // A broken source causes many errors: the first ones give the cause, the last ones the outcome.
     constexpr int half = 16 * 1024;
     QByteArray &errors = m_run.errors;
     errors += m_process.readAllStandardError();

@@ -12,11 +12,11 @@
 
 #include <optional>
 
-/*! What a tool may take; one that goes beyond is ended. */
+/*! Limits of a run; a tool that exceeds one is killed. */
 struct ToolLimits
 {
-    qint64 unreadBytes = 64 * 1024 * 1024; //!< of standard output, held until somebody reads them
-    int milliseconds = 0;                  //!< from start to end; 0: as long as it likes
+    qint64 unreadBytes = 64 * 1024 * 1024; //!< of standard output, buffered until they are read
+    int milliseconds = 0;                  //!< from start to end; 0: unlimited
 };
 
 /*! How a run of ffmpeg or ffprobe ended. */
@@ -28,22 +28,22 @@ public:
 
     QString program;
     bool exitedCleanly = false; //!< exit code 0, not by a signal
-    Excess excess = None;       //!< the limit that it was ended for
-    QByteArray output;          //!< what nobody read from standard output before
+    Excess excess = None;       //!< the limit that it exceeded
+    QByteArray output;          //!< the unread rest of standard output
     QByteArray errors;          //!< head and tail of standard error
 
-    /*! Why it failed: the first line of errors in plain words, without ffmpeg's
-     *  "[name @ address]", or the limit that it went beyond. */
+    /*! Why it failed: the first line of errors, without ffmpeg's "[name @ address]", or the limit
+     *  that it exceeded. */
     [[nodiscard]] QString firstError() const;
 };
 
-/*! What the program printed; an error where it didn't start or didn't exit cleanly. */
+/*! What the program printed; an error if it didn't start or didn't exit cleanly. */
 [[nodiscard]] Result<QByteArray> cleanOutput(const Result<ToolRun> &run);
 
 /*!
- * Runs ffmpeg or ffprobe without waiting, any number of times, one after another. Whatever the
- * program started ends with it, at the latest with this object. Ctrl-C in the terminal reaches the
- * host alone, which then stops the tool.
+ * Runs ffmpeg or ffprobe asynchronously, any number of times, one run after another. Everything
+ * that the program started ends with it, at the latest with this object. Ctrl-C in the terminal
+ * only reaches the host, which then stops the tool.
  */
 class Tool : public QObject
 {
@@ -54,12 +54,12 @@ public:
     explicit Tool(QObject *parent = nullptr);
     ~Tool() override;
 
-    /*! finished() follows from the event loop, once, also when the program can't start. A program
-     *  that runs already is abandoned first. */
+    /*! finished() follows from the event loop, once, even if the program can't start. A program
+     *  that is still running is abandoned first. */
     void start(const ToolCall &call, const ToolLimits &limits = {});
-    /*! Kills the program and whatever it started; finished() follows with Error::Cancelled. */
+    /*! Kills the program and everything it started; finished() follows with Error::Cancelled. */
     void stop();
-    /*! Kills the program and whatever it started; no finished() follows. */
+    /*! Kills the program and everything it started; finished() does not follow. */
     void abandon();
 
     /*! What the program has printed since the last call. */
@@ -67,7 +67,7 @@ public:
 
 Q_SIGNALS:
     void outputReady();
-    /*! An error tells that the program couldn't start, or was stopped. */
+    /*! An error if the program couldn't start or was stopped. */
     void finished(const Result<ToolRun> &run);
 
 private:
@@ -85,12 +85,12 @@ private:
     [[nodiscard]] QString notStartedText() const;
 
     Process m_process;
-    std::optional<ProcessGroup> m_group; // there while a run isn't finished
+    std::optional<ProcessGroup> m_group; // only during a run
     QTimer m_deadline;
-    QTimer m_startFailure; // tells it from the event loop
+    QTimer m_startFailure; // reports it from the event loop
     ToolLimits m_limits;
     ToolRun m_run;
-    QString m_startError; // the system's words
+    QString m_startError; // in the system's words
     bool m_isStopped = false;
 };
 

@@ -4,19 +4,19 @@
 #include <QString>
 #include <QStringList>
 
-/*! A program on the PATH and what it is called with. */
+/*! A program on the PATH and its arguments. */
 struct ToolCall
 {
     QString program;
     QStringList arguments;
 };
 
-/*! ffmpeg with \a arguments, which prints nothing but errors and waits for no key. */
+/*! ffmpeg with \a arguments, printing only errors and reading no input from the terminal. */
 [[nodiscard]] ToolCall ffmpegCall(const QStringList &arguments);
-/*! ffprobe with \a arguments, which prints nothing but the answer and errors. */
+/*! ffprobe with \a arguments, printing only its results and errors. */
 [[nodiscard]] ToolCall ffprobeCall(const QStringList &arguments);
 
-/*! The form of a file's path that both take for a file whatever characters are in it. */
+/*! The path in a form that both take for a file, whatever characters it contains. */
 [[nodiscard]] QString fileArgument(const QString &path);
 
 #endif

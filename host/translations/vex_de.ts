@@ -845,7 +845,7 @@
 <context>
     <name>EncoderList</name>
     <message>
-        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>
         <translation>%1 nennt seine Encoder nicht (%2); prüfen Sie, ob „%1 -encoders“ sie auflistet, oder installieren Sie ein anderes ffmpeg</translation>
     </message>
 </context>
@@ -970,7 +970,7 @@
     <name>ToolRun</name>
     <message>
         <source>%1 stopped without saying why</source>
-        <translation>%1 ist ohne Begründung stehen geblieben</translation>
+        <translation>%1 wurde ohne Angabe eines Grundes beendet</translation>
     </message>
     <message>
         <source>%1 took too long</source>

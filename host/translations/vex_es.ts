@@ -845,7 +845,7 @@
 <context>
     <name>EncoderList</name>
     <message>
-        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>
         <translation>%1 no indica sus codificadores (%2); compruebe que «%1 -encoders» los muestre o instale otro ffmpeg</translation>
     </message>
 </context>

@@ -845,7 +845,7 @@
 <context>
     <name>EncoderList</name>
     <message>
-        <source>%1 doesn&apos;t tell its encoders (%2); check that &quot;%1 -encoders&quot; lists them, or install another ffmpeg</source>
+        <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>
         <translation>%1 未列出其编码器（%2）；请检查“%1 -encoders”能否列出它们，或安装其他 ffmpeg</translation>
     </message>
 </context>

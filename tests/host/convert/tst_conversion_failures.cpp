@@ -321,8 +321,8 @@ void TestConversionFailures::anFfmpegThatListsNoEncodersIsToBeChecked()
     QVERIFY(!outcome);
     QCOMPARE(outcome.error().kind, Error::Failed);
     QCOMPARE(errorOf(outcome),
-             QStringLiteral("ffmpeg doesn't tell its encoders (no such library); check that "
-                            "\"ffmpeg -encoders\" lists them, or install another ffmpeg"));
+             QStringLiteral("ffmpeg doesn't list its encoders (no such library); check that "
+                            "\"ffmpeg -encoders\" works, or install another ffmpeg"));
     QCOMPARE(everything(), names("clip.mp4"));
 }
 

@@ -153,8 +153,8 @@ void TestEncoderList::aFailedListingIsAnError()
     QCOMPARE(encoders.error().kind, Error::Failed);
     QCOMPARE(
         encoders.error().text,
-        QStringLiteral("ffmpeg doesn't tell its encoders (%1); check that \"ffmpeg -encoders\" "
-                       "lists them, or install another ffmpeg")
+        QStringLiteral("ffmpeg doesn't list its encoders (%1); check that \"ffmpeg -encoders\" "
+                       "works, or install another ffmpeg")
             .arg(reason));
 }
 
