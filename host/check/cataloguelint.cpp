@@ -8,14 +8,14 @@
 
 namespace {
 
-/*! As ids write the name of a group: "HEVC MP4" is HEVCMP4. */
+/*! A group's name as in ids: "HEVC MP4" is HEVCMP4. */
 QString idPart(const QString &groupName)
 {
     static const QRegularExpression other(QStringLiteral("[^A-Z0-9]"));
     return groupName.toUpper().remove(other);
 }
 
-/*! A group of the catalogue whose mistakes are noted where its values stand. */
+/*! A group of the catalogue, with the places of its values. */
 struct CheckedGroup
 {
     QString category;
@@ -42,20 +42,19 @@ void lintCategory(const CheckedGroup &group, const QStringList &tags, MistakeCol
 {
     if (!tags.contains(group.category.toLower())) {
         collector.note({group.place.source, QStringLiteral("category")},
-                       QStringLiteral("must be one of %1, in whatever case, to be shown")
+                       QStringLiteral("must be one of %1, in upper or lower case, to be shown")
                            .arg(tags.join(QStringLiteral(", "))));
     }
 }
 
-void lintIcon(const CheckedGroup &group, const QStringList &pictures, MistakeCollector &collector)
+void lintIcon(const CheckedGroup &group, const QStringList &icons, MistakeCollector &collector)
 {
     if (group.icon.isEmpty()) {
-        collector.note(group.placeOf("icon"),
-                       QStringLiteral("is missing; the format has no picture"));
-    } else if (!pictures.contains(group.icon)) {
+        collector.note(group.placeOf("icon"), QStringLiteral("is missing; the format has no icon"));
+    } else if (!icons.contains(group.icon)) {
         collector.note(
             group.placeOf("icon"),
-            QStringLiteral("there is no picture \"%1\" in formats/qml/image").arg(group.icon));
+            QStringLiteral("there is no icon \"%1\" in formats/qml/image").arg(group.icon));
     }
 }
 
@@ -63,8 +62,8 @@ void lintName(const CheckedGroup &group, QSet<QString> &names, MistakeCollector 
 {
     if (names.contains(group.name)) {
         collector.note(group.placeOf("name"),
-                       QStringLiteral("another category has a group \"%1\", too, and a format is "
-                                      "found by its name only; give this one a name of its own")
+                       QStringLiteral("another category also has a group \"%1\", and formats are "
+                                      "found by name only; rename this one")
                            .arg(group.name));
     }
     names.insert(group.name);
@@ -75,7 +74,7 @@ void lintName(const CheckedGroup &group, QSet<QString> &names, MistakeCollector 
         collector.note(
             group.placeOf("name"),
             QStringLiteral(
-                "must be in upper case: video and audio formats are looked up by such names"));
+                "must be in upper case: video and audio formats are looked up that way"));
     }
 }
 
@@ -86,7 +85,7 @@ void lintId(CheckedPreset &preset, const CheckedGroup &group)
         QRegularExpression::escape(start) + QStringLiteral("[0-9]{3}")));
     if (!form.match(preset.id()).hasMatch()) {
         preset.note(QStringLiteral("id"),
-                    QStringLiteral("must be \"%1\" and three digits").arg(start));
+                    QStringLiteral("must be \"%1\" followed by three digits").arg(start));
     }
 }
 
@@ -94,7 +93,7 @@ void lintPresets(const CheckedGroup &group, const CatalogueResult &catalogue,
                  MistakeCollector &collector)
 {
     if (group.presets.isEmpty()) {
-        collector.note(group.placeOf("presets"), QStringLiteral("holds no preset"));
+        collector.note(group.placeOf("presets"), QStringLiteral("has no presets"));
     }
     for (const QVariant &each : group.presets) {
         const QString id = each.toMap().value(QStringLiteral("id")).toString();
@@ -107,8 +106,8 @@ void lintPresets(const CheckedGroup &group, const CatalogueResult &catalogue,
 
 } // namespace
 
-QVector<CatalogueMistake> lintCatalogue(const CatalogueResult &catalogue,
-                                        const QStringList &pictures, const QStringList &tags)
+QVector<CatalogueMistake> lintCatalogue(const CatalogueResult &catalogue, const QStringList &icons,
+                                        const QStringList &tags)
 {
     MistakeCollector collector;
     QSet<QString> names;
@@ -117,7 +116,7 @@ QVector<CatalogueMistake> lintCatalogue(const CatalogueResult &catalogue,
             const CheckedGroup group(catalogue, map.toMap());
             lintCategory(group, tags, collector);
             lintName(group, names, collector);
-            lintIcon(group, pictures, collector);
+            lintIcon(group, icons, collector);
             lintPresets(group, catalogue, collector);
         }
     }

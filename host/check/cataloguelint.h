@@ -6,14 +6,12 @@
 #include <QStringList>
 
 /*!
- * What is wrong with presets that are served all the same: chosen values that they don't offer,
- * options that their container or one of their encoders doesn't support, ids that don't name their
- * group, groups whose icon is none of the \a pictures, categories that are none of the \a tags in
- * whatever case. Each mistake is named once, where the value stands, also when several presets
- * inherit it.
+ * Mistakes in presets that are served regardless: chosen values that aren't offered, options that
+ * the container or one of the encoders doesn't support, ids that don't match their group, groups
+ * whose icon isn't among the \a icons, categories that aren't among the \a tags (ignoring case).
+ * Each mistake is reported once, at the place of the value, even if several presets inherit it.
  */
-[[nodiscard]] QVector<CatalogueMistake> lintCatalogue(const CatalogueResult &catalogue,
-                                                      const QStringList &pictures,
-                                                      const QStringList &tags);
+[[nodiscard]] QVector<CatalogueMistake>
+lintCatalogue(const CatalogueResult &catalogue, const QStringList &icons, const QStringList &tags);
 
 #endif

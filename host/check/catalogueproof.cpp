@@ -13,7 +13,7 @@
 
 namespace {
 
-const QSize usualSize(1920, 1080);
+const QSize defaultSize(1920, 1080);
 const QSize largeSize(3840, 2160);
 
 ProvenPreset presetToProve(const FormatListModel &formats, const QVariantMap &group,
@@ -28,7 +28,7 @@ ProvenPreset presetToProve(const FormatListModel &formats, const QVariantMap &gr
         preset.settings = OutputSettings::fromPreset(record.toVarMap());
     } else {
         preset.outcome =
-            failed(CatalogueProof::tr("the library shows no such preset in this format"));
+            failed(CatalogueProof::tr("the library has no such preset in this format"));
     }
     return preset;
 }
@@ -37,11 +37,11 @@ ProvenPreset presetToProve(const FormatListModel &formats, const QVariantMap &gr
 
 QSize ProvenPreset::clipSize() const
 {
-    const bool isUpright = settings.box.height() > settings.box.width();
-    const QSize lying = isUpright ? settings.box.transposed() : settings.box;
-    const bool isLarge = lying.width() > usualSize.width() || lying.height() > usualSize.height();
-    const QSize size = isLarge ? largeSize : usualSize;
-    return isUpright ? size.transposed() : size;
+    const bool isPortrait = settings.box.height() > settings.box.width();
+    const QSize box = isPortrait ? settings.box.transposed() : settings.box;
+    const bool isLarge = box.width() > defaultSize.width() || box.height() > defaultSize.height();
+    const QSize size = isLarge ? largeSize : defaultSize;
+    return isPortrait ? size.transposed() : size;
 }
 
 QVector<ProvenPreset> presetsToProve(const ExportCatalogue &catalogue, bool isQuick)
@@ -66,7 +66,7 @@ CatalogueProof::CatalogueProof(const QVector<ProvenPreset> &presets, QObject *pa
     : QObject(parent)
     , m_presets(presets)
 {
-    for (const QSize &size : {usualSize, largeSize}) {
+    for (const QSize &size : {defaultSize, largeSize}) {
         m_sizes << size << size.transposed();
     }
 }
@@ -77,7 +77,8 @@ void CatalogueProof::start()
         if (m_folder) {
             proveNextSize();
         } else {
-            Q_EMIT finished(failed(tr("no temporary folder: %1").arg(m_folder.error().text)));
+            Q_EMIT finished(
+                failed(tr("couldn't create a temporary folder: %1").arg(m_folder.error().text)));
         }
     });
 }
@@ -92,7 +93,7 @@ ProvenPreset &CatalogueProof::firstLike(const ProvenPreset &preset)
 void CatalogueProof::proveNextSize()
 {
     if (!m_clip.path.isEmpty()) {
-        QFile::remove(m_clip.path); // the large ones have hundreds of megabytes
+        QFile::remove(m_clip.path); // the large ones take hundreds of megabytes
     }
     while (m_waiting.isEmpty() && !m_sizes.isEmpty()) {
         const QSize size = m_sizes.dequeue();
@@ -102,15 +103,14 @@ void CatalogueProof::proveNextSize()
             }
         }
         if (!m_waiting.isEmpty()) {
-            makeProofClip(size, m_folder->path(), &m_running,
-                          [this](const Result<ProofClip> &clip) {
-                              if (clip) {
-                                  proveWaitingWith(*clip);
-                              } else {
-                                  Q_EMIT finished(
-                                      failed(tr("no clip to convert: %1").arg(clip.error().text)));
-                              }
-                          });
+            makeProofClip(size, m_folder->path(), &m_running, [this](const Result<ProofClip> &clip) {
+                if (clip) {
+                    proveWaitingWith(*clip);
+                } else {
+                    Q_EMIT finished(
+                        failed(tr("couldn't make a clip to convert: %1").arg(clip.error().text)));
+                }
+            });
             return;
         }
     }

@@ -8,7 +8,7 @@
 #include <QQueue>
 #include <QVector>
 
-/*! A preset of the catalogue, and whether it converts as it says. */
+/*! A preset of the catalogue, and whether it converts as expected. */
 struct ProvenPreset
 {
     QString format;
@@ -18,17 +18,17 @@ struct ProvenPreset
     bool isShown = false;  //!< the library has it
     Result<> outcome = {}; //!< see PresetProof::finished()
 
-    /*! The size of the clip: it fills the box, unless that is larger than 4K. */
+    /*! The size of the clip: large enough to fill the box, but at most 4K. */
     [[nodiscard]] QSize clipSize() const;
 };
 
-/*! The presets that the library makes of the catalogue, unproven; with \a isQuick only the last of
- *  each format, which is a small one as a rule. */
+/*! The catalogue's presets as the library has them, unproven; with \a isQuick only the last one of
+ *  each format, which is usually a small one. */
 [[nodiscard]] QVector<ProvenPreset> presetsToProve(const ExportCatalogue &catalogue, bool isQuick);
 
 /*!
- * Proves presets without waiting, as many at a time as the machine has processors; those that ask
- * for the same share a conversion. Destroying it stops the conversions and leaves no file.
+ * Proves presets asynchronously, as many at a time as the machine has processors; presets with
+ * equal settings share a conversion. Destroying it stops the conversions and leaves no files.
  */
 class CatalogueProof : public QObject
 {
@@ -38,17 +38,17 @@ class CatalogueProof : public QObject
 public:
     explicit CatalogueProof(const QVector<ProvenPreset> &presets, QObject *parent = nullptr);
 
-    /*! finished() follows from the event loop, also where nothing can be proven. */
+    /*! finished() follows from the event loop, even if nothing can be proven. */
     void start();
     [[nodiscard]] QVector<ProvenPreset> presets() const { return m_presets; }
 
 Q_SIGNALS:
     void progressed(const QString &id, int conversionsLeft);
-    /*! All presets are proven; else why not. */
+    /*! All presets are proven; an error if they couldn't be. */
     void finished(const Result<> &outcome);
 
 private:
-    /*! The first preset that asks for the same, which may be this one. */
+    /*! The first preset with equal settings, which can be \a preset itself. */
     ProvenPreset &firstLike(const ProvenPreset &preset);
     void proveNextSize();
     void proveWaitingWith(const ProofClip &clip);
@@ -60,7 +60,7 @@ private:
     QQueue<QSize> m_sizes; //!< of the clips still to come
     ProofClip m_clip;
     QQueue<ProvenPreset *> m_waiting;
-    QObject m_running; //!< the parent of what runs: it goes before the folder
+    QObject m_running; //!< the parent of the running proofs; destroyed before the folder
     int m_runningCount = 0;
 };
 

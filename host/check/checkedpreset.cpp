@@ -41,7 +41,7 @@ void CheckedPreset::noteOffered(const CatalogueSetting &setting, int index, cons
     m_collector.note(place, reason, nameWhereApart(key, otherKey));
 }
 
-/*! The group, template or preset that states the value. */
+/*! The group, template or preset that sets the value. */
 QString CheckedPreset::holderOf(const QString &key) const
 {
     const CataloguePlace place = m_places.value(key);

@@ -7,7 +7,7 @@
 
 #include <QStringList>
 
-/*! A preset of the catalogue whose mistakes are noted where the values stand. */
+/*! A preset of the catalogue, whose mistakes are noted at the places of its values. */
 class CheckedPreset
 {
 public:
@@ -16,14 +16,14 @@ public:
 
     [[nodiscard]] QString id() const;
     [[nodiscard]] QString extension() const;
-    /*! The chosen value, invalid where the preset has no such setting. */
+    /*! The chosen value; invalid if the preset doesn't have the setting. */
     [[nodiscard]] QVariant chosen(const CatalogueSetting &setting) const;
     [[nodiscard]] QStringList offered(const CatalogueSetting &setting) const;
 
-    /*! Notes a mistake of the value under a key such as "id" or "videoParam.encoder". Where it
-     *  clashes with the one under \a otherKey, which stands elsewhere, the preset is named. */
+    /*! Notes a mistake in the value of a key such as "id" or "videoParam.encoder". If it conflicts
+     *  with the value of \a otherKey, which is set elsewhere, the mistake names the preset. */
     void note(const QString &key, const QString &reason, const QString &otherKey = {});
-    /*! The same for the offered value at \a index. */
+    /*! Likewise for the offered value at \a index. */
     void noteOffered(const CatalogueSetting &setting, int index, const QString &reason,
                      const QString &otherKey = {});
 

@@ -20,7 +20,7 @@ void lintOffered(CheckedPreset &preset, const CatalogueSetting &setting)
 
 QString notOffered(const QString &value, const CatalogueSetting &setting)
 {
-    return QStringLiteral("%1 is none of the values that %2 offers")
+    return QStringLiteral("%1 is not one of the values that %2 offers")
         .arg(value, setting.optionsPath());
 }
 
@@ -51,7 +51,7 @@ void lintLevels(CheckedPreset &preset)
     if (high < low || (middle != 0 && (high < middle || middle < low))) {
         preset.note(levelSetting.optionsPath(),
                     QStringLiteral("must descend from the high to the low bitrate; only the middle "
-                                   "one may be 0 regardless"));
+                                   "one can be 0 instead"));
     }
 }
 

@@ -3,7 +3,7 @@
 
 #include "host/check/checkedpreset.h"
 
-/*! Notes offered values beyond their bounds, repeated ones, and chosen values and levels that
+/*! Notes offered values that are out of bounds or repeated, and chosen values and levels that
  *  aren't offered. */
 void lintChoices(CheckedPreset &preset);
 

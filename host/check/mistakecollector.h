@@ -6,11 +6,11 @@
 #include <QSet>
 #include <QVector>
 
-/*! Collects mistakes that keep nothing from being served, each once. */
+/*! Collects mistakes in what is served regardless, each once. */
 class MistakeCollector
 {
 public:
-    /*! The same reason at the same place is the same mistake, whatever the \a addition. */
+    /*! The same reason at the same place is the same mistake, even with another \a addition. */
     void note(const CataloguePlace &place, const QString &reason, const QString &addition = {});
 
     [[nodiscard]] QVector<CatalogueMistake> mistakes() const { return m_mistakes; }

@@ -16,8 +16,7 @@ ConversionJob jobOf(const OutputSettings &settings, const ProofClip &clip)
     return job;
 }
 
-/*! Noise in the sound, so that encoders have to spend the bitrate. No preset copies these codecs.
- */
+/*! The audio is noise, so that encoders use up the bitrate. No preset can copy these codecs. */
 QStringList clipArguments(const QSize &size, const QString &path)
 {
     return QStringLiteral("-y "
@@ -89,7 +88,7 @@ void PresetProof::measure(const Result<ConversionOutcome> &outcome)
         m_converted = *outcome;
         m_packetList.start(ffprobeCall(packetListArguments(outcome->target)));
     } else if (outcome.error().kind == Error::Cancelled) {
-        Q_EMIT finished(failed(tr("not done after %1 s").arg(m_limit.interval() / 1000.0)));
+        Q_EMIT finished(failed(tr("not finished after %1 s").arg(m_limit.interval() / 1000.0)));
     } else {
         Q_EMIT finished(failed(outcome));
     }

@@ -9,7 +9,7 @@
 
 #include <functional>
 
-/*! The clip that presets are proven on: one second of picture and stereo sound. */
+/*! The clip that presets are proven with: one second of video and stereo audio. */
 struct ProofClip
 {
     QString path;
@@ -17,15 +17,15 @@ struct ProofClip
 };
 
 /*!
- * Makes the clip in \a folder, with a picture of \a size in a form that no preset can copy, without
- * waiting. \a done is called once from the event loop.
+ * Makes the clip in \a folder asynchronously, with video of \a size and codecs that no preset can
+ * copy. \a done is called once, from the event loop.
  */
 void makeProofClip(const QSize &size, const QString &folder, QObject *parent,
                    const std::function<void(const Result<ProofClip> &)> &done);
 
 /*!
- * Converts the clip with a preset's settings and holds the result against them, without waiting.
- * Destroying it stops the conversion; the result is removed in any case.
+ * Converts the clip with a preset's settings asynchronously and compares the result with them.
+ * Destroying it stops the conversion; the converted file is always removed.
  */
 class PresetProof : public QObject
 {
@@ -37,14 +37,14 @@ public:
     ~PresetProof() override;
 
     /*!
-     * A conversion that isn't done after so many milliseconds fails: one that hangs, not one of a
-     * large picture on a busy machine.
+     * A conversion that takes longer than \a limit (ms) fails. The default is enough for large
+     * video on a busy machine, so that only one that hangs exceeds it.
      */
     void start(int limit = 1800000);
 
 Q_SIGNALS:
-    /*! The preset converts as it says; else why not, of the kind EncoderMissing where only this
-     *  machine's ffmpeg is to blame. */
+    /*! The preset converts as expected; else an error, of the kind EncoderMissing if this machine's
+     *  ffmpeg lacks the encoder. */
     void finished(const Result<> &outcome);
 
 private:

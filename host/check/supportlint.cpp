@@ -26,7 +26,7 @@ QStringList sizesOf(const VideoCodec &codec)
     return sizes;
 }
 
-/*! Whole numbers, as a catalogue's bitrates are, also where the codec's are not. */
+/*! Rounded to whole numbers, as a catalogue's bitrates are. */
 QStringList bitratesOf(const AudioCodec &codec)
 {
     QStringList bitrates;
@@ -76,11 +76,11 @@ public:
     void lintAudio();
 
 private:
-    QStringList lintEncoders(CatalogueSetting::Id encoder, const QStringList &held,
+    QStringList lintEncoders(CatalogueSetting::Id encoder, const QStringList &supported,
                              const QString &track);
 
-    /*! Notes each offered value that \a owner, a codec or kind of file that stands under
-     *  \a ownerKey, doesn't support; an empty list allows all. In \a unit "%1" is the value. */
+    /*! Notes each offered value that \a owner, the codec or file type set by \a ownerKey, doesn't
+     *  support; an empty list allows all. \a unit has "%1" for the value. */
     void allowOnly(const QStringList &allowed, CatalogueSetting::Id id, const QString &unit,
                    const QString &owner, const QString &ownerKey);
     [[nodiscard]] QString fileText() const;
@@ -89,20 +89,19 @@ private:
     const Container &m_container;
 };
 
-/*! The codecs that the preset may be written with; "0" may come out as the container's usual one.
- */
-QStringList SupportLint::lintEncoders(CatalogueSetting::Id encoder, const QStringList &held,
+/*! The codecs that the preset can use; "0" can result in the container's default one. */
+QStringList SupportLint::lintEncoders(CatalogueSetting::Id encoder, const QStringList &supported,
                                       const QString &track)
 {
     QStringList names = m_preset.offered(setting(encoder));
-    if (held.isEmpty() && !names.isEmpty()) {
+    if (supported.isEmpty() && !names.isEmpty()) {
         m_preset.note(setting(encoder).optionsPath(),
-                      QStringLiteral("%1 holds no %2").arg(fileText(), track), extensionKey);
+                      QStringLiteral("%1 can't contain %2").arg(fileText(), track), extensionKey);
         return {};
     }
-    allowOnly(held, encoder, QStringLiteral("%1"), fileText(), extensionKey);
+    allowOnly(supported, encoder, QStringLiteral("%1"), fileText(), extensionKey);
     if (names.removeAll(keepsSource) > 0) {
-        names += held.constFirst();
+        names += supported.constFirst();
     }
     return names;
 }
@@ -110,14 +109,14 @@ QStringList SupportLint::lintEncoders(CatalogueSetting::Id encoder, const QStrin
 void SupportLint::lintVideo()
 {
     const QStringList names = lintEncoders(CatalogueSetting::VideoEncoder, m_container.videoCodecs,
-                                           QStringLiteral("picture"));
+                                           QStringLiteral("video"));
     bool takesBitrates = names.isEmpty();
     for (const QString &name : names) {
         const VideoCodec &codec = videoCodec(name);
         takesBitrates = takesBitrates || codec.takesBitrate;
         const QString owner = setting(CatalogueSetting::VideoEncoder).optionsPath();
-        allowOnly(textsOf(codec.frameRates), CatalogueSetting::FrameRate,
-                  QStringLiteral("%1 frames a second"), name, owner);
+        allowOnly(textsOf(codec.frameRates), CatalogueSetting::FrameRate, QStringLiteral("%1 fps"),
+                  name, owner);
         allowOnly(sizesOf(codec), CatalogueSetting::Resolution, QStringLiteral("the size %1"), name,
                   owner);
     }
@@ -130,23 +129,23 @@ void SupportLint::lintVideo()
 
 void SupportLint::lintAudio()
 {
-    const QString channelUnit = QStringLiteral("%1-channel sound");
+    const QString channelUnit = QStringLiteral("%1-channel audio");
     const QString sampleRateUnit = QStringLiteral("%1 Hz");
     const QString owner = setting(CatalogueSetting::AudioEncoder).optionsPath();
     if (!m_container.audioCodecs.isEmpty() &&
         m_preset.chosen(setting(CatalogueSetting::AudioEncoder)).isNull()) {
-        m_preset.note(extensionKey, QStringLiteral("%1 holds sound, but there are no audio "
+        m_preset.note(extensionKey, QStringLiteral("%1 contains audio, but there are no audio "
                                                    "settings (in the preset %2)")
                                         .arg(fileText(), m_preset.id()));
     }
     const QStringList names = lintEncoders(CatalogueSetting::AudioEncoder, m_container.audioCodecs,
-                                           QStringLiteral("sound"));
+                                           QStringLiteral("audio"));
     bool takesBitrates = names.isEmpty();
     for (const QString &name : names) {
         const AudioCodec &codec = audioCodec(name);
         takesBitrates = takesBitrates || codec.takesBitrate;
         if (codec.isOnlyCopied) {
-            m_preset.note(owner, QStringLiteral("%1 can only be copied from a source").arg(name));
+            m_preset.note(owner, QStringLiteral("%1 can only be copied from the source").arg(name));
         }
         allowOnly(channelsUpTo(codec.maxChannels), CatalogueSetting::Channels, channelUnit, name,
                   owner);
@@ -174,11 +173,11 @@ void SupportLint::allowOnly(const QStringList &allowed, CatalogueSetting::Id id,
         const QString &value = offered.at(i);
         const QString text =
             id == CatalogueSetting::FrameRate ? Ratio::fromFrameRate(value).toText() : value;
-        // What isn't of the form has a mistake of its own.
+        // A value that accepts() refuses is a mistake of its own.
         if (value != keepsSource && !allowed.contains(text) && setting(id).accepts(value)) {
             m_preset.noteOffered(
                 setting(id), i,
-                QStringLiteral("%1 can't have %2, only %3")
+                QStringLiteral("%1 doesn't support %2, only %3")
                     .arg(owner, unit.arg(value), allowed.join(QStringLiteral(", "))),
                 ownerKey);
         }
@@ -196,9 +195,8 @@ void lintSupport(CheckedPreset &preset)
 {
     const Container *container = Container::find(preset.extension());
     if (container == nullptr) {
-        preset.note(
-            extensionKey,
-            QStringLiteral("files of the kind \".%1\" can't be written").arg(preset.extension()));
+        preset.note(extensionKey,
+                    QStringLiteral("\".%1\" files can't be written").arg(preset.extension()));
         return;
     }
     SupportLint lint(preset, *container);

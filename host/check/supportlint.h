@@ -3,7 +3,7 @@
 
 #include "host/check/checkedpreset.h"
 
-/*! Notes offered values that the container, or one of the offered encoders, doesn't support. */
+/*! Notes offered values that the container or one of the offered encoders doesn't support. */
 void lintSupport(CheckedPreset &preset);
 
 #endif

@@ -10,11 +10,11 @@
 
 namespace {
 
-// An encoder finds its bitrate only after a while: within a second some miss it by two and a half.
+// An encoder needs a while to reach its bitrate: in one second some miss it by a factor of 2.5.
 constexpr double videoTolerance = 3;
 constexpr double audioTolerance = 2;
 
-bool takes(const QVector<int> &allowed, int value)
+bool supports(const QVector<int> &allowed, int value)
 {
     return allowed.isEmpty() || allowed.contains(value);
 }
@@ -30,14 +30,14 @@ public:
 
     void compareContainer(const Container &container);
     void compareDuration();
-    void comparePicture(const Container &container);
-    void compareSound(const Container &container);
+    void compareVideo(const Container &container);
+    void compareAudio(const Container &container);
     QStringList deviations() const { return m_deviations; }
 
 private:
     void compareSize(const VideoTrack &track, const QSize &sourceSize);
     void compareCodec(const QString &codec, const QString &asked, const QString &source,
-                      const QStringList &held);
+                      const QStringList &supported);
     void compareBitrate(const QString &what, int stream, double asked, double tolerance);
     void expect(bool isAsAsked, const QString &deviation);
 
@@ -55,33 +55,33 @@ void Comparison::compareContainer(const Container &container)
 
 void Comparison::compareDuration()
 {
-    // The last frames of picture and sound needn't end together.
+    // Video and audio needn't end at exactly the same time.
     constexpr double tolerance = 0.25;
     const double seconds = m_file.facts.duration;
     expect(seconds == 0 || std::abs(seconds - m_source.duration) < tolerance,
            QStringLiteral("lasts %1 s, not %2 s").arg(seconds).arg(m_source.duration));
 }
 
-void Comparison::comparePicture(const Container &container)
+void Comparison::compareVideo(const Container &container)
 {
     const VideoTrack *track = m_file.facts.video();
     const bool isWanted = m_asked.hasVideo && m_source.video() != nullptr;
     if (track == nullptr || !isWanted) {
-        expect(!isWanted, QStringLiteral("there is no picture"));
-        expect(track == nullptr, QStringLiteral("there is a picture"));
+        expect(!isWanted, QStringLiteral("there is no video"));
+        expect(track == nullptr, QStringLiteral("there is video"));
         return;
     }
     const VideoTrack *source = m_source.video();
     const VideoCodec codec = videoCodec(track->codec);
     compareCodec(track->codec, m_asked.videoCodec, source->codec, container.videoCodecs);
     compareSize(*track, source->displaySize());
-    // Without a wish a codec takes the nearest rate that it has.
-    const bool isBound = !codec.frameRates.isEmpty() || !codec.frames.isEmpty();
+    // If none is set, the codec uses the nearest rate that it supports.
+    const bool isLimited = !codec.frameRates.isEmpty() || !codec.frames.isEmpty();
     const bool isAsked = m_asked.frameRate.isValid();
     const double rate = track->frameRate.value();
     const double wanted = (isAsked ? m_asked.frameRate : source->frameRate).value();
-    expect((isBound && !isAsked) || std::abs(rate - wanted) < wanted / 100,
-           QStringLiteral("%1 frames a second, not %2").arg(rate).arg(wanted));
+    expect((isLimited && !isAsked) || std::abs(rate - wanted) < wanted / 100,
+           QStringLiteral("%1 fps, not %2").arg(rate).arg(wanted));
     compareBitrate(QStringLiteral("video"), track->index,
                    codec.takesBitrate ? m_asked.videoKbps : 0, videoTolerance);
 }
@@ -102,25 +102,25 @@ void Comparison::compareSize(const VideoTrack &track, const QSize &sourceSize)
     const bool isWithin = room.width() >= 0 && room.height() >= 0;
     const bool fills = room.width() < 2 || room.height() < 2;
     expect(isWithin && (fills || isWhole),
-           QStringLiteral("%1 isn't fitted into %2").arg(sizeText(size), sizeText(m_asked.box)));
+           QStringLiteral("%1 isn't scaled to fit %2").arg(sizeText(size), sizeText(m_asked.box)));
 }
 
-void Comparison::compareSound(const Container &container)
+void Comparison::compareAudio(const Container &container)
 {
     const AudioTrack *track = m_file.facts.audio();
     const AudioTrack *source = m_source.audio();
     const bool isAsked = !container.audioCodecs.isEmpty() && source != nullptr;
     if (track == nullptr || !isAsked) {
-        expect(!isAsked, QStringLiteral("there is no sound"));
-        expect(track == nullptr, QStringLiteral("there is sound"));
+        expect(!isAsked, QStringLiteral("there is no audio"));
+        expect(track == nullptr, QStringLiteral("there is audio"));
         return;
     }
     const AudioCodec codec = audioCodec(track->codec);
     compareCodec(track->codec, m_asked.audioCodec, source->codec, container.audioCodecs);
 
-    // Without a wish the nearest rate is taken that container and codec have.
-    const bool canKeepRate = takes(container.sampleRates, source->sampleRate) &&
-                             takes(codec.sampleRates, source->sampleRate);
+    // If none is set, the nearest rate that the container and the codec support is used.
+    const bool canKeepRate = supports(container.sampleRates, source->sampleRate) &&
+                             supports(codec.sampleRates, source->sampleRate);
     const int rate = m_asked.sampleRate > 0 ? m_asked.sampleRate : source->sampleRate;
     expect((m_asked.sampleRate == 0 && !canKeepRate) || track->sampleRate == rate,
            QStringLiteral("%1 Hz, not %2").arg(track->sampleRate).arg(rate));
@@ -133,13 +133,13 @@ void Comparison::compareSound(const Container &container)
                    codec.takesBitrate ? m_asked.audioKbps : 0, audioTolerance);
 }
 
-/*! Without a wish the source's codec is kept where the container holds it, else its usual one is
- *  taken. */
+/*! If none is set, the source's codec is kept if the container supports it, else its default one is
+ *  used. */
 void Comparison::compareCodec(const QString &codec, const QString &asked, const QString &source,
-                              const QStringList &held)
+                              const QStringList &supported)
 {
-    const QString kept = held.contains(source) ? source : held.value(0);
-    const QString wanted = asked.isEmpty() ? kept : asked;
+    const QString fallback = supported.contains(source) ? source : supported.value(0);
+    const QString wanted = asked.isEmpty() ? fallback : asked;
     expect(codec == wanted, QStringLiteral("%1, not %2").arg(codec, wanted));
 }
 
@@ -161,7 +161,7 @@ void Comparison::expect(bool isAsAsked, const QString &deviation)
 
 void WrittenFile::readPackets(const QByteArray &list)
 {
-    // "0,1234" a packet: the stream's index and the packet's bytes, perhaps with more behind.
+    // Each packet is "0,1234": the stream's index and the packet's size, possibly followed by more.
     for (const QByteArray &line : list.split('\n')) {
         const QList<QByteArray> cells = line.trimmed().split(',');
         if (cells.size() > 1) {
@@ -178,13 +178,13 @@ QStringList WrittenFile::deviations(const OutputSettings &asked, const MediaFact
 {
     const Container *container = Container::find(asked.extension);
     if (container == nullptr) {
-        return {QStringLiteral("no container has the extension .%1").arg(asked.extension)};
+        return {QStringLiteral("\".%1\" files can't be written").arg(asked.extension)};
     }
     Comparison comparison(*this, asked, source);
     comparison.compareContainer(*container);
     comparison.compareDuration();
-    comparison.comparePicture(*container);
-    comparison.compareSound(*container);
+    comparison.compareVideo(*container);
+    comparison.compareAudio(*container);
     return comparison.deviations();
 }
 

@@ -8,17 +8,18 @@
 #include <QHash>
 #include <QStringList>
 
-/*! A file that a conversion wrote, as ffprobe sees it. */
+/*! A file written by a conversion, as ffprobe sees it. */
 struct WrittenFile
 {
     MediaFacts facts;
-    QHash<int, qint64> streamBytes; //!< by the stream's index; the container's own don't count
+    QHash<int, qint64> streamBytes; //!< by stream index; without the container's overhead
 
     /*! Reads the bytes of each stream from ffprobe's list of packets (see packetListArguments()).
      */
     void readPackets(const QByteArray &list);
 
-    /*! What isn't as \a asked of a conversion of \a source, a few words each; empty: all is. */
+    /*! The differences from what was \a asked for in a conversion of \a source, a few words each;
+     *  empty if there are none. */
     [[nodiscard]] QStringList deviations(const OutputSettings &asked,
                                          const MediaFacts &source) const;
 };

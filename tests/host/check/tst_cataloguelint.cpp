@@ -77,7 +77,7 @@ private Q_SLOTS:
     void offeredValuesHaveTheBoundsOfTheConverter_data();
     void offeredValuesHaveTheBoundsOfTheConverter();
     void thePresetIsNamedWhereItsOwnValueClashes();
-    void onlyAContainerWithoutSoundDoesWithoutSettings();
+    void onlyAContainerWithoutAudioNeedsNoSettings();
     void aCategoryIsATag();
     void aMistakeOfSeveralPresetsIsNamedOnce();
     void aGroupNameIsUniqueInAllCategories();
@@ -99,59 +99,57 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
     };
 
     row("an id of another format", {"Video_MPEG2_001", "Video_MP4_001"},
-        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
     row("an id of another category", {"Video_MPEG2_001", "Audio_MPEG2_001"},
-        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
     row("an id with two digits", {"Video_MPEG2_001", "Video_MPEG2_01"},
-        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
     row("an id with four digits", {"Video_MPEG2_001", "Video_MPEG2_0001"},
-        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
-    row("a picture that isn't there", {"fmt_mp4", "fmt_none"},
-        "groups[0].icon: there is no picture \"fmt_none\" in formats/qml/image");
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
+    row("an icon that doesn't exist", {"fmt_mp4", "fmt_none"},
+        "groups[0].icon: there is no icon \"fmt_none\" in formats/qml/image");
     row("a video format in small letters", {"MPEG-2", "mpeg-2"},
-        "groups[0].name: must be in upper case: video and audio formats are looked up by such "
-        "names");
+        "groups[0].name: must be in upper case: video and audio formats are looked up that way");
     row("an audio format in small letters",
         {R"("Video",)", R"("Audio",)", "Video_", "Audio_", "MPEG-2", "mpeg-2"},
-        "groups[0].name: must be in upper case: video and audio formats are looked up by such "
-        "names");
+        "groups[0].name: must be in upper case: video and audio formats are looked up that way");
     row("no presets", {R"({ "id": "Video_MPEG2_001", "title": "T" })", ""},
-        "groups[0].presets: holds no preset");
-    row("no picture", {R"("icon": "fmt_mp4", )", ""},
-        "groups[0].icon: is missing; the format has no picture");
+        "groups[0].presets: has no presets");
+    row("no icon", {R"("icon": "fmt_mp4", )", ""},
+        "groups[0].icon: is missing; the format has no icon");
 
     row("an encoder that isn't offered",
         {R"("encoder": "mpeg2video")", R"("encoder": "mpeg1video")"},
-        "groups[0].videoParam.encoder: mpeg1video is none of the values that "
+        "groups[0].videoParam.encoder: mpeg1video is not one of the values that "
         "videoOptions.encoderList offers");
     row("a resolution that isn't offered",
         {R"("resolution": "1280x720")", R"("resolution": "640x360")"},
-        "groups[0].videoParam.resolution: 640x360 is none of the values that "
+        "groups[0].videoParam.resolution: 640x360 is not one of the values that "
         "videoOptions.resolutionList offers");
     row("a frame rate that isn't offered", {R"("frameRate": 0)", R"("frameRate": 24)"},
-        "groups[0].videoParam.frameRate: 24 is none of the values that "
+        "groups[0].videoParam.frameRate: 24 is not one of the values that "
         "videoOptions.frameRateList offers (in the preset Video_MPEG2_001)");
     row("a video bitrate that isn't offered", {R"("bitrateKbps": 4000)", R"("bitrateKbps": 3000)"},
-        "groups[0].videoParam.bitrateKbps: 3000 is none of the values that "
+        "groups[0].videoParam.bitrateKbps: 3000 is not one of the values that "
         "videoOptions.bitrateKbpsList offers");
     row("an audio encoder that isn't offered", {R"("encoder": "mp2")", R"("encoder": "ac3")"},
-        "groups[0].audioParam.encoder: ac3 is none of the values that audioOptions.encoderList "
+        "groups[0].audioParam.encoder: ac3 is not one of the values that audioOptions.encoderList "
         "offers");
     row("channels that aren't offered", {R"("channel": 2)", R"("channel": 6)"},
-        "groups[0].audioParam.channel: 6 is none of the values that audioOptions.channelList "
+        "groups[0].audioParam.channel: 6 is not one of the values that audioOptions.channelList "
         "offers");
     row("a sample rate that isn't offered", {R"("sampleRate": 48000)", R"("sampleRate": 32000)"},
-        "groups[0].audioParam.sampleRate: 32000 is none of the values that "
+        "groups[0].audioParam.sampleRate: 32000 is not one of the values that "
         "audioOptions.sampleRateList offers");
     row("an audio bitrate that isn't offered", {R"("bitrateKbps": 192)", R"("bitrateKbps": 128)"},
-        "groups[0].audioParam.bitrateKbps: 128 is none of the values that "
+        "groups[0].audioParam.bitrateKbps: 128 is not one of the values that "
         "audioOptions.bitrateKbpsList offers");
 
-    row("a size that is none", {R"(["0", "1280x720"])", R"(["0", "1280x720", "720p"])"},
+    row("an invalid size", {R"(["0", "1280x720"])", R"(["0", "1280x720", "720p"])"},
         "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", up "
         "to \"16384x16384\", not 720p");
     row("an id with a line break", {R"("Video_MPEG2_001")", R"("Video_MPEG2_001\n")"},
-        "groups[0].presets[0].id: must be \"Video_MPEG2_\" and three digits");
+        "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
     row("a size with a line break", {R"(["0", "1280x720"])", R"(["0", "1280x720", "640x360\n"])"},
         "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", up "
         "to \"16384x16384\", not 640x360 ");
@@ -165,8 +163,7 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
         "groups[0].audioOptions.channelList[3]: must be 0 or a whole number from 1 to 64, not 2.5");
     row("a huge number", {"[0, 192]", "[0, 192, 1e300]"},
         "groups[0].audioOptions.bitrateKbpsList[2]: must be 0 or a whole number from 1 to 100000, "
-        "not "
-        "1e+300");
+        "not 1e+300");
     row("a side of too many pixels", {R"(["0", "1280x720"])", R"(["0", "1280x720", "2x16385"])"},
         "groups[0].videoOptions.resolutionList[2]: must be \"0\" or a size like \"1920x1080\", up "
         "to \"16384x16384\", not 2x16385");
@@ -182,37 +179,38 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
     row("an option twice", {"[0, 1, 2]", "[0, 1, 2, 1]"},
         "groups[0].audioOptions.channelList[3]: 1 is listed twice");
     row("a level that isn't offered", {"[4000, 2000, 1000]", "[4000, 3000, 1000]"},
-        "groups[0].videoOptions.levelList[1]: 3000 is none of the values that "
+        "groups[0].videoOptions.levelList[1]: 3000 is not one of the values that "
         "videoOptions.bitrateKbpsList offers");
     for (const char *levels :
          {"[1000, 2000, 4000]", "[2000, 4000, 1000]", "[4000, 1000, 2000]", "[1000, 0, 2000]"}) {
         row(levels, {"[4000, 2000, 1000]", levels},
             "groups[0].videoOptions.levelList: must descend from the high to the low bitrate; only "
-            "the middle one may be 0 regardless");
+            "the middle one can be 0 instead");
     }
     row("the middle level is the source's", {"[4000, 2000, 1000]", "[4000, 0, 1000]"}, "");
 
     row("a kind of file that can't be written", {R"("mpg")", R"("mpx")"},
-        "groups[0].extension: files of the kind \".mpx\" can't be written");
-    row("a video encoder that the container doesn't hold",
+        "groups[0].extension: \".mpx\" files can't be written");
+    row("a video encoder that the container doesn't support",
         {R"(["0", "mpeg2video"])", R"(["0", "mpeg2video", "h264"])"},
-        "groups[0].videoOptions.encoderList[2]: a .mpg file can't have h264, only mpeg2video, "
+        "groups[0].videoOptions.encoderList[2]: a .mpg file doesn't support h264, only mpeg2video, "
         "mpeg1video");
-    row("an audio encoder that the container doesn't hold", {R"(["mp2"])", R"(["mp2", "aac"])"},
-        "groups[0].audioOptions.encoderList[1]: a .mpg file can't have aac, only mp2, ac3, mp3");
-    row("video in a sound file", {R"("mpg")", R"("mp2")"},
-        "groups[0].videoOptions.encoderList: a .mp2 file holds no picture");
-    row("sound in a file without any",
+    row("an audio encoder that the container doesn't support", {R"(["mp2"])", R"(["mp2", "aac"])"},
+        "groups[0].audioOptions.encoderList[1]: a .mpg file doesn't support aac, only mp2, ac3, "
+        "mp3");
+    row("video in an audio file", {R"("mpg")", R"("mp2")"},
+        "groups[0].videoOptions.encoderList: a .mp2 file can't contain video");
+    row("audio in a file without any",
         {R"("mpg")", R"("gif")", R"(["0", "mpeg2video"])", R"(["gif"])",
          R"("encoder": "mpeg2video")", R"("encoder": "gif")", "[0, 25, 30]", "[0, 25]",
          "[0, 1000, 2000, 4000]", "[0]", "[4000, 2000, 1000]", "[0, 0, 0]",
          R"("bitrateKbps": 4000)", R"("bitrateKbps": 0)", R"(["mp2"])", R"(["0"])",
          R"("encoder": "mp2")", R"("encoder": "0")"},
-        "groups[0].audioOptions.encoderList: a .gif file holds no sound");
+        "groups[0].audioOptions.encoderList: a .gif file can't contain audio");
     row("a codec that is only copied",
         {R"("mpg")", R"("mkv")", R"(["mp2"])", R"(["dts"])", R"("encoder": "mp2")",
          R"("encoder": "dts")", "[0, 192]", "[0]", R"("bitrateKbps": 192)", R"("bitrateKbps": 0)"},
-        "groups[0].audioOptions.encoderList: dts can only be copied from a source");
+        "groups[0].audioOptions.encoderList: dts can only be copied from the source");
     row("a bitrate that only nearly is an encoder's",
         {R"("mpg")",
          R"("3gp")",
@@ -236,25 +234,25 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
          "[12, 13]",
          R"("bitrateKbps": 192)",
          R"("bitrateKbps": 12)"},
-        "groups[0].audioOptions.bitrateKbpsList[1]: amr_nb can't have 13 kbps, only 5, 6, 7, 8, "
-        "10, "
+        "groups[0].audioOptions.bitrateKbpsList[1]: amr_nb doesn't support 13 kbps, only 5, 6, 7, "
+        "8, 10, "
         "12");
     row("a frame rate that an encoder doesn't have", {"[0, 25, 30]", "[0, 15]"},
-        "lists.rates[1]: mpeg2video can't have 15 frames a second, only 24000/1001, 24, 25, "
+        "lists.rates[1]: mpeg2video doesn't support 15 fps, only 24000/1001, 24, 25, "
         "30000/1001, 30, 50, 60000/1001, 60 (in the preset Video_MPEG2_001)");
-    row("a frame rate that the container's usual encoder doesn't have",
+    row("a frame rate that the container's default encoder doesn't have",
         {R"(["0", "mpeg2video"])", R"(["0"])", R"("encoder": "mpeg2video")", R"("encoder": "0")",
          "[0, 25, 30]", "[0, 15]"},
-        "lists.rates[1]: mpeg2video can't have 15 frames a second, only 24000/1001, 24, 25, "
+        "lists.rates[1]: mpeg2video doesn't support 15 fps, only 24000/1001, 24, 25, "
         "30000/1001, 30, 50, 60000/1001, 60 (in the preset Video_MPEG2_001)");
     row("a sample rate that an encoder doesn't have", {"[0, 44100, 48000]", "[0, 22050, 48000]"},
-        "groups[0].audioOptions.sampleRateList[1]: mp2 can't have 22050 Hz, only 32000, 44100, "
-        "48000");
+        "groups[0].audioOptions.sampleRateList[1]: mp2 doesn't support 22050 Hz, only 32000, "
+        "44100, 48000");
     row("more channels than an encoder has", {"[0, 1, 2]", "[0, 2, 6]"},
-        "groups[0].audioOptions.channelList[2]: mp2 can't have 6-channel sound, only 1, 2");
+        "groups[0].audioOptions.channelList[2]: mp2 doesn't support 6-channel audio, only 1, 2");
     row("a bitrate that an encoder doesn't have", {"[0, 192]", "[0, 192, 200]"},
-        "groups[0].audioOptions.bitrateKbpsList[2]: mp2 can't have 200 kbps, only 32, 48, 56, 64, "
-        "80, 96, 112, 128, 160, 192, 224, 256, 320, 384");
+        "groups[0].audioOptions.bitrateKbpsList[2]: mp2 doesn't support 200 kbps, only 32, 48, 56, "
+        "64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 384");
 
     // In a container and with an encoder of studios, where nearly everything is fixed.
     const QList<QByteArray> dv = {R"(["0", "mpeg2video"])",
@@ -288,24 +286,26 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
     row("nothing", dv, "");
     row("a size that an encoder doesn't have",
         dv + QList<QByteArray>{R"(["720x576"])", R"(["720x576", "640x480"])"},
-        "groups[0].videoOptions.resolutionList[1]: dvvideo can't have the size 640x480, only "
+        "groups[0].videoOptions.resolutionList[1]: dvvideo doesn't support the size 640x480, only "
         "720x576, 720x480");
     row("a video bitrate where the encoder sets it itself",
         dv + QList<QByteArray>{R"("bitrateKbpsList": [0],
       "levelList")",
                                R"("bitrateKbpsList": [0, 25000],
       "levelList")"},
-        "groups[0].videoOptions.bitrateKbpsList[1]: dvvideo can't have 25000 kbps, only 0");
+        "groups[0].videoOptions.bitrateKbpsList[1]: dvvideo doesn't support 25000 kbps, only 0");
     row("an audio bitrate where the encoder sets it itself",
         dv + QList<QByteArray>{R"("bitrateKbpsList": [0]
     })",
                                R"("bitrateKbpsList": [0, 1536] })"},
-        "groups[0].audioOptions.bitrateKbpsList[1]: pcm_s16le can't have 1536 kbps, only 0");
+        "groups[0].audioOptions.bitrateKbpsList[1]: pcm_s16le doesn't support 1536 kbps, only 0");
     row("a sample rate that the container doesn't have",
         dv + QList<QByteArray>{"[48000]", "[44100, 48000]"},
-        "groups[0].audioOptions.sampleRateList[0]: a .dv file can't have 44100 Hz, only 48000");
+        "groups[0].audioOptions.sampleRateList[0]: a .dv file doesn't support 44100 Hz, only "
+        "48000");
     row("channels that the container doesn't have", dv + QList<QByteArray>{"[2]", "[1, 2]"},
-        "groups[0].audioOptions.channelList[0]: a .dv file can't have 1-channel sound, only 2");
+        "groups[0].audioOptions.channelList[0]: a .dv file doesn't support 1-channel audio, only "
+        "2");
 }
 
 void TestCatalogueLint::whatIsWrongIsNamed()
@@ -370,20 +370,21 @@ void TestCatalogueLint::thePresetIsNamedWhereItsOwnValueClashes()
                                      R"(["mp2"])", R"(["mp2", "mp3"])"});
     QCOMPARE(
         mistakesIn({json}),
-        QStringList({QStringLiteral("file1.json: groups[0].audioParam.channel: 2 is none of "
+        QStringList({QStringLiteral("file1.json: groups[0].audioParam.channel: 2 is not one of "
                                     "the values that audioOptions.channelList offers (in the "
                                     "preset Video_MPEG2_002)"),
                      QStringLiteral("file1.json: groups[0].audioOptions.encoderList[1]: a .vob "
-                                    "file can't have mp3, only ac3, mp2 (in the preset "
+                                    "file doesn't support mp3, only ac3, mp2 (in the preset "
                                     "Video_MPEG2_003)")}));
 }
 
-void TestCatalogueLint::onlyAContainerWithoutSoundDoesWithoutSettings()
+void TestCatalogueLint::onlyAContainerWithoutAudioNeedsNoSettings()
 {
     const QByteArray json = changed({R"("audioOptions")", R"("a")", R"("audioParam")", R"("b")"});
-    QCOMPARE(mistakesIn({json}).constLast(),
-             QStringLiteral("file1.json: groups[0].extension: a .mpg file holds sound, but there "
-                            "are no audio settings (in the preset Video_MPEG2_001)"));
+    QCOMPARE(
+        mistakesIn({json}).constLast(),
+        QStringLiteral("file1.json: groups[0].extension: a .mpg file contains audio, but there "
+                       "are no audio settings (in the preset Video_MPEG2_001)"));
 }
 
 void TestCatalogueLint::aCategoryIsATag()
@@ -392,7 +393,7 @@ void TestCatalogueLint::aCategoryIsATag()
     QCOMPARE(
         mistakesIn({json}),
         QStringList({QStringLiteral("file1.json: category: must be one of video, audio, device, in "
-                                    "whatever case, to be shown")}));
+                                    "upper or lower case, to be shown")}));
 }
 
 void TestCatalogueLint::aMistakeOfSeveralPresetsIsNamedOnce()
@@ -401,22 +402,24 @@ void TestCatalogueLint::aMistakeOfSeveralPresetsIsNamedOnce()
         { "id": "Video_MPEG2_002", "title": "T",
           "videoParam": { "encoder": "0" }, "audioParam": { "channel": 6 } }])",
                                      R"(["mp2"])", R"(["mp2", "aac"])"});
-    QCOMPARE(mistakesIn({json}),
-             QStringList(
-                 {QStringLiteral("file1.json: groups[0].audioOptions.encoderList[1]: a .mpg "
-                                 "file can't have aac, only mp2, ac3, mp3"),
-                  QStringLiteral("file1.json: groups[0].presets[1].audioParam.channel: 6 is "
-                                 "none of the values that audioOptions.channelList offers (in the "
-                                 "preset Video_MPEG2_002)")}));
+    QCOMPARE(
+        mistakesIn({json}),
+        QStringList(
+            {QStringLiteral("file1.json: groups[0].audioOptions.encoderList[1]: a .mpg "
+                            "file doesn't support aac, only mp2, ac3, mp3"),
+             QStringLiteral("file1.json: groups[0].presets[1].audioParam.channel: 6 is "
+                            "not one of the values that audioOptions.channelList offers (in the "
+                            "preset Video_MPEG2_002)")}));
 }
 
 void TestCatalogueLint::aGroupNameIsUniqueInAllCategories()
 {
     const QByteArray other = changed({R"("Video",)", R"("Device",)", "Video_", "Device_"});
-    QCOMPARE(mistakesIn({right, other}),
-             QStringList({QStringLiteral("file2.json: groups[0].name: another category has a group "
-                                         "\"MPEG-2\", too, and a format is found by its name only; "
-                                         "give this one a name of its own")}));
+    QCOMPARE(
+        mistakesIn({right, other}),
+        QStringList({QStringLiteral("file2.json: groups[0].name: another category also has a group "
+                                    "\"MPEG-2\", and formats are found by name only; "
+                                    "rename this one")}));
 }
 
 void TestCatalogueLint::mistakesKeepNothingFromBeingServed()

@@ -40,7 +40,7 @@ void TestPresetProof::aConversionThatTakesTooLongFails()
     loop.exec();
     QVERIFY(!ended);
     QCOMPARE(ended.error().kind, Error::Failed);
-    QCOMPARE(ended.error().text, QStringLiteral("not done after 0.001 s"));
+    QCOMPARE(ended.error().text, QStringLiteral("not finished after 0.001 s"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList{QStringLiteral("clip-320x180.mkv")});
 }

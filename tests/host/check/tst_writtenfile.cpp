@@ -122,20 +122,20 @@ void TestWrittenFile::deviationsAreNamed_data()
 
     settings("as asked", "", [](OutputSettings &) {});
     row("nothing asked, and kept as in the source", "", keepAll);
-    row("the usual codecs where nothing is asked", "hevc, not h264; mp3, not aac",
+    row("the default codecs where none are set", "hevc, not h264; mp3, not aac",
         [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
             keepAll(asked, file, source);
             file.facts.videoTracks[0].codec = QStringLiteral("hevc");
             file.facts.audioTracks[0].codec = QStringLiteral("mp3");
         });
-    row("the source's codecs where the container holds them", "h264, not hevc; aac, not mp3",
+    row("the source's codecs where the container supports them", "h264, not hevc; aac, not mp3",
         [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
             keepAll(asked, file, source);
             source.videoTracks[0].codec = QStringLiteral("hevc");
             source.audioTracks[0].codec = QStringLiteral("mp3");
         });
     row("nothing asked, and all changed",
-        "1280x720, not 1920x1080; 25 frames a second, not 29.97; 48000 Hz, not 44100; 1 channels, "
+        "1280x720, not 1920x1080; 25 fps, not 29.97; 48000 Hz, not 44100; 1 channels, "
         "not 2",
         [](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
             keepAll(asked, file, source);
@@ -165,7 +165,7 @@ void TestWrittenFile::deviationsAreNamed_data()
             file.facts.audioTracks[0].sampleRate = 48000;
             source.audioTracks[0].channels = 6;
         });
-    settings("unknown container", "no container has the extension .xyz",
+    settings("unknown container", "\".xyz\" files can't be written",
              [](OutputSettings &asked) { asked.extension = QStringLiteral("xyz"); });
     row("another container", "the file is avi, not mp4",
         [](OutputSettings &, WrittenFile &file, MediaFacts &) {
@@ -185,17 +185,17 @@ void TestWrittenFile::deviationsAreNamed_data()
     duration("a little long", "", 1.24);
     duration("of unknown length", "", 0);
 
-    row("no picture", "there is no picture",
+    row("no video", "there is no video",
         [](OutputSettings &, WrittenFile &file, MediaFacts &) { file.facts.videoTracks.clear(); });
-    row("a source without a picture", "there is a picture",
+    row("a source without video", "there is video",
         [](OutputSettings &, WrittenFile &, MediaFacts &source) { source.videoTracks.clear(); });
-    settings("a picture in an audio file", "there is a picture",
+    settings("video in an audio file", "there is video",
              [](OutputSettings &asked) { asked.hasVideo = false; });
     video("another video codec", "mpeg4, not h264",
           [](VideoTrack &track) { track.codec = QStringLiteral("mpeg4"); });
-    video("larger than the box", "1280x722 isn't fitted into 1280x720",
+    video("larger than the box", "1280x722 isn't scaled to fit 1280x720",
           [](VideoTrack &track) { track.storedSize = QSize(1280, 722); });
-    video("smaller than the box", "1278x718 isn't fitted into 1280x720",
+    video("smaller than the box", "1278x718 isn't scaled to fit 1280x720",
           [](VideoTrack &track) { track.storedSize = QSize(1278, 718); });
     video("only as high as the box", "",
           [](VideoTrack &track) { track.storedSize = QSize(960, 720); });
@@ -203,13 +203,13 @@ void TestWrittenFile::deviationsAreNamed_data()
           [](VideoTrack &track) { track.storedSize = QSize(1279, 540); });
     video("only nearly as high as the box, for the sake of even sizes", "",
           [](VideoTrack &track) { track.storedSize = QSize(960, 719); });
-    video("two pixels lower than the box", "960x718 isn't fitted into 1280x720",
+    video("two pixels lower than the box", "960x718 isn't scaled to fit 1280x720",
           [](VideoTrack &track) { track.storedSize = QSize(960, 718); });
-    video("two pixels narrower than the box", "1278x540 isn't fitted into 1280x720",
+    video("two pixels narrower than the box", "1278x540 isn't scaled to fit 1280x720",
           [](VideoTrack &track) { track.storedSize = QSize(1278, 540); });
-    video("one pixel wider than the box", "1281x720 isn't fitted into 1280x720",
+    video("one pixel wider than the box", "1281x720 isn't scaled to fit 1280x720",
           [](VideoTrack &track) { track.storedSize = QSize(1281, 720); });
-    video("one pixel higher than the box", "1280x721 isn't fitted into 1280x720",
+    video("one pixel higher than the box", "1280x721 isn't scaled to fit 1280x720",
           [](VideoTrack &track) { track.storedSize = QSize(1280, 721); });
     const auto kept = [&row](const char *name, const char *deviation, const QSize &size) {
         row(name, deviation, [size](OutputSettings &asked, WrittenFile &file, MediaFacts &source) {
@@ -226,7 +226,7 @@ void TestWrittenFile::deviationsAreNamed_data()
             source.videoTracks[0].storedSize = QSize(640, 360);
             file.facts.videoTracks[0].storedSize = QSize(640, 360);
         });
-    video("pixels that aren't square", "2560x720 isn't fitted into 1280x720",
+    video("pixels that aren't square", "2560x720 isn't scaled to fit 1280x720",
           [](VideoTrack &track) {
               track.pixelAspect = {2, 1};
           });
@@ -239,19 +239,19 @@ void TestWrittenFile::deviationsAreNamed_data()
             file.facts.videoTracks[0].storedSize = QSize(720, 576);
             file.facts.videoTracks[0].pixelAspect = {64, 45};
         });
-    video("another frame rate", "25 frames a second, not 29.97", [](VideoTrack &track) {
+    video("another frame rate", "25 fps, not 29.97", [](VideoTrack &track) {
         track.frameRate = {25, 1};
     });
     video("a rounded frame rate", "", [](VideoTrack &track) { track.frameRate = {30, 1}; });
-    video("an unknown frame rate", "0 frames a second, not 29.97",
+    video("an unknown frame rate", "0 fps, not 29.97",
           [](VideoTrack &track) { track.frameRate = {}; });
     const auto frameRate = [&video](const char *name, const char *deviation, const Ratio &rate) {
         video(name, deviation, [rate](VideoTrack &track) { track.frameRate = rate; });
     };
     frameRate("a frame rate nearly one percent lower", "", {297, 10});
     frameRate("a frame rate nearly one percent higher", "", {302, 10});
-    frameRate("a frame rate over one percent lower", "29.6 frames a second, not 29.97", {296, 10});
-    frameRate("a frame rate over one percent higher", "30.3 frames a second, not 29.97", {303, 10});
+    frameRate("a frame rate over one percent lower", "29.6 fps, not 29.97", {296, 10});
+    frameRate("a frame rate over one percent higher", "30.3 fps, not 29.97", {303, 10});
     bytes("video of nearly three times the bitrate", "", 0, 1499000);
     bytes("video of little over a third of the bitrate", "", 0, 167000);
     bytes("video of less than a third of the bitrate", "video has 1328 kbps, not 4000", 0, 166000);
@@ -271,13 +271,13 @@ void TestWrittenFile::deviationsAreNamed_data()
             file.streamBytes = {{0, 5000000}, {1, 240000}};
         });
 
-    row("no sound", "there is no sound",
+    row("no audio", "there is no audio",
         [](OutputSettings &, WrittenFile &file, MediaFacts &) { file.facts.audioTracks.clear(); });
-    row("a source without sound", "", [](OutputSettings &, WrittenFile &file, MediaFacts &source) {
+    row("a source without audio", "", [](OutputSettings &, WrittenFile &file, MediaFacts &source) {
         source.audioTracks.clear();
         file.facts.audioTracks.clear();
     });
-    row("sound in a container without any", "there is sound",
+    row("audio in a container without any", "there is audio",
         [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
             asked.extension = QStringLiteral("gif");
             asked.videoCodec = QStringLiteral("gif");
