@@ -41,7 +41,7 @@ void printFormats(const FormatListModel &formats, const QAbstractItemModel &show
     }
 }
 
-/*! The format's title as the library has it, whatever the case of \a name; empty for none. */
+/*! The exact title of a format, found case-insensitively; empty if there is none. */
 QString formatTitled(const FormatListModel &formats, const QString &name)
 {
     if (formats.isExist(name)) {
@@ -87,7 +87,7 @@ Result<ExitCode> runFormats(const Call &call)
 Result<ExitCode> runSearch(const Call &call)
 {
     if (call.arguments.size() != 1 || call.arguments.constFirst().isEmpty()) {
-        return wrongUsage(CommandLine::tr("name the text to search for: vexconvert search TEXT"));
+        return wrongUsage(CommandLine::tr("give one text to search for: vexconvert search TEXT"));
     }
     PresetStore store = presetsOf(call);
     openWhatCanBeRead(store);
@@ -96,7 +96,7 @@ Result<ExitCode> runSearch(const Call &call)
     const bool asJson = call.options.isSet(jsonFlag);
     if (proxy.count() == 0 && !asJson) {
         Console::print(
-            CommandLine::tr("No format has \"%1\" in its title.").arg(call.arguments.constFirst()));
+            CommandLine::tr("No format title contains \"%1\".").arg(call.arguments.constFirst()));
         return Success;
     }
     printFormats(*store.formats().formatListModel(), proxy, asJson);
@@ -106,7 +106,7 @@ Result<ExitCode> runSearch(const Call &call)
 Result<ExitCode> runPresets(const Call &call)
 {
     if (call.arguments.size() != 1) {
-        return wrongUsage(CommandLine::tr("name one format: vexconvert presets FORMAT"));
+        return wrongUsage(CommandLine::tr("give one format: vexconvert presets FORMAT"));
     }
     PresetStore store = presetsOf(call);
     openWhatCanBeRead(store);
@@ -172,7 +172,7 @@ void printSettings(const FoundPreset &preset)
 Result<ExitCode> runShow(const Call &call)
 {
     if (call.arguments.size() != 1) {
-        return wrongUsage(CommandLine::tr("name one preset: vexconvert show ID"));
+        return wrongUsage(CommandLine::tr("give one preset id: vexconvert show ID"));
     }
     PresetStore store = presetsOf(call);
     openWhatCanBeRead(store);
@@ -212,7 +212,8 @@ Result<ExitCode> runFit(const Call &call)
 QVector<Subcommand> catalogueCommands()
 {
     const QCommandLineOption tag = valueOption(
-        tagOption, CommandLine::tr("Only those of one tag: video, audio, device, socialvideo."),
+        tagOption,
+        CommandLine::tr("Only formats with this tag: video, audio, device, socialvideo."),
         CommandLine::tr("TAG"));
     return {
         {QStringLiteral("formats"),
@@ -223,28 +224,28 @@ QVector<Subcommand> catalogueCommands()
          runFormats},
         {QStringLiteral("search"),
          CommandLine::tr("TEXT [--json]"),
-         CommandLine::tr("List the formats with a text in their title."),
+         CommandLine::tr("List the formats whose title contains a text."),
          {},
          {jsonOption()},
          runSearch},
         {QStringLiteral("presets"),
          CommandLine::tr("FORMAT [--json]"),
          CommandLine::tr("List the presets of a format."),
-         CommandLine::tr("\n\"source\" keeps the source's own value, \"auto\" is the encoder's "
-                         "good quality.\n"),
+         CommandLine::tr("\n\"source\" keeps the source's own value, \"auto\" lets the encoder "
+                         "choose the bitrate.\n"),
          {jsonOption()},
          runPresets},
         {QStringLiteral("show"),
          CommandLine::tr("ID [--json]"),
-         CommandLine::tr("Show the settings of a preset and what can be chosen."),
+         CommandLine::tr("Show the settings of a preset and their choices."),
          {},
          {jsonOption()},
          runShow},
         {QStringLiteral("fit"),
          CommandLine::tr("--type video|audio --format FORMAT --target TARGET [--prefer-source]"),
-         CommandLine::tr("Find the preset closest to a wish and print it as JSON."),
-         CommandLine::tr("\nWhere no preset fits, nothing is printed and the exit code is 1. A "
-                         "format that doesn't\nexist becomes MP4 or MP3.\n"),
+         CommandLine::tr("Find the preset closest to a size or bitrate and print it as JSON."),
+         CommandLine::tr("\nIf there is no preset, nothing is printed and the exit code is 1. An "
+                         "unknown format is\nreplaced by MP4 or MP3.\n"),
          fittingOptions(), runFit},
     };
 }

@@ -17,8 +17,8 @@ namespace {
 const QLatin1String quickFlag("quick");
 const QLatin1String jsonFlag("json");
 
-/*! The names of the library's pictures. */
-QStringList pictures()
+/*! The names of the library's icons. */
+QStringList icons()
 {
     QStringList names =
         QDir(QStringLiteral(":/formats/image")).entryList({QStringLiteral("*.svg")});
@@ -26,7 +26,7 @@ QStringList pictures()
     return names;
 }
 
-/*! The tags of the library under which formats are shown. */
+/*! The tags of the library that can have formats. */
 QStringList tags()
 {
     FormatsProxy formats;
@@ -77,7 +77,7 @@ void printMistakes(const QVector<CatalogueMistake> &mistakes)
     }
     Console::print(
         mistakes.isEmpty()
-            ? CommandLine::tr("The catalogue's files have no mistakes.")
+            ? CommandLine::tr("No mistakes in the catalogue's files.")
             : CommandLine::tr("Mistakes in the catalogue's files: %1").arg(mistakes.size()));
 }
 
@@ -113,7 +113,7 @@ void printProofs(const Presets &presets)
         return countOf(presets.begin(), presets.end(), verdict);
     };
     Console::print(
-        CommandLine::tr("%1 of %2 presets convert as they say, %3 need an encoder that this ffmpeg "
+        CommandLine::tr("%1 of %2 presets convert as expected, %3 need an encoder that this ffmpeg "
                         "lacks, %4 failed.")
             .arg(count(Verdict::Converted))
             .arg(presets.size())
@@ -121,7 +121,7 @@ void printProofs(const Presets &presets)
             .arg(count(Verdict::Failed)));
 }
 
-/*! With an error instead of the presets where those couldn't be proven. */
+/*! Has an error instead of the presets if they couldn't be proven. */
 void printAsJson(const QVector<CatalogueMistake> &mistakes, const Result<Presets> &proven)
 {
     QVariantList mistakeMaps;
@@ -152,7 +152,7 @@ void printAsJson(const QVector<CatalogueMistake> &mistakes, const Result<Presets
 
 Result<Presets> prove(const Presets &presets, bool showsProgress)
 {
-    Interrupt interrupt; // still caught while the proof is taken down
+    Interrupt interrupt; // declared first, so that it still works while the proof is destroyed
     CatalogueProof proof(presets);
     Result<> ended;
     QEventLoop loop;
@@ -187,12 +187,12 @@ Result<ExitCode> runCheck(const Call &call)
     const QString own = ownCataloguePath();
     const CatalogueResult catalogue = readCatalogueAt(own.isEmpty() ? builtInCataloguePath() : own);
     const QVector<CatalogueMistake> mistakes =
-        catalogue.mistakes + lintCatalogue(catalogue, pictures(), tags());
+        catalogue.mistakes + lintCatalogue(catalogue, icons(), tags());
     if (!asJson) {
         printMistakes(mistakes);
     }
     Result<Presets> proven;
-    // Without a preset of its own the built-in catalogue is served, which isn't what is checked.
+    // Without a valid preset, the built-in catalogue is served, which isn't the one to check.
     if (!catalogue.presetPlaces.isEmpty()) {
         proven = prove(presetsToProve(catalogue.catalogue, call.options.isSet(quickFlag)),
                        !asJson && Console::isTerminal());
@@ -218,12 +218,12 @@ QVector<Subcommand> checkCommands()
          CommandLine::tr("[--quick] [--json]"),
          CommandLine::tr("Check the catalogue's files and convert a clip with every preset."),
          CommandLine::tr(
-             "\nNames the mistakes in the files, then converts a clip of one second with every\n"
-             "preset and holds the result against it; presets that ask for the same share a\n"
-             "conversion. The catalogue is the built-in one, or what VEX_EXPORT_CATALOGUE names.\n"
-             "The exit code is 1 where anything is wrong; an encoder that this ffmpeg lacks "
-             "isn't.\n"),
-         {{quickFlag, CommandLine::tr("Convert with one preset of each format only.")},
+             "\nLists the mistakes in the files, then converts a clip of one second with every\n"
+             "preset and compares the result with it; presets with equal settings share a\n"
+             "conversion. The catalogue is the built-in one, or the one that "
+             "VEX_EXPORT_CATALOGUE\nnames. The exit code is 1 if anything is wrong; encoders that "
+             "this ffmpeg lacks don't count.\n"),
+         {{quickFlag, CommandLine::tr("Convert with only one preset of each format.")},
           jsonOption()},
          runCheck},
     };

@@ -24,7 +24,7 @@ QVector<Subcommand> subcommands()
     return all;
 }
 
-/*! Null when there is none of this name. */
+/*! Null if there is none with this name. */
 const Subcommand *findSubcommand(const QVector<Subcommand> &all, const QString &name)
 {
     const auto named = std::find_if(all.begin(), all.end(), [&name](const Subcommand &subcommand) {
@@ -33,7 +33,8 @@ const Subcommand *findSubcommand(const QVector<Subcommand> &all, const QString &
     return named == all.end() ? nullptr : &*named;
 }
 
-/*! The absolute path of the file or folder that a path or file: URL names; empty: it names none. */
+/*! The absolute path of a file or folder, given as a path or a file: URL; empty if there is none.
+ */
 QString existingPath(const QString &argument)
 {
     const bool isUrl = argument.startsWith(QLatin1String("file:")) && !QFile::exists(argument);
@@ -53,8 +54,8 @@ QList<QCommandLineOption> commonOptions()
 {
     return {
         valueOption(QStringLiteral("config"),
-                    CommandLine::tr("Folder of your presets and the recently used ones, instead "
-                                    "of the usual one."),
+                    CommandLine::tr("Folder of your own and the recently used presets, instead of "
+                                    "the default one."),
                     CommandLine::tr("DIR")),
         {{QStringLiteral("h"), QStringLiteral("help")}, CommandLine::tr("Print this help.")},
         {{QStringLiteral("v"), QStringLiteral("version")}, CommandLine::tr("Print the version.")},
@@ -71,7 +72,7 @@ QList<QCommandLineOption> windowOnlyOptions()
     };
 }
 
-/*! Reads what stands before the subcommand; false when that is no good. */
+/*! Parses the options before the subcommand; false if they are invalid. */
 bool parseOverall(QCommandLineParser &parser, const QStringList &arguments)
 {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
@@ -103,20 +104,19 @@ QString overviewText(const QCommandLineParser &parser)
     return CommandLine::tr("Usage: vexconvert [options] [FILE...]\n"
                            "       vexconvert SUBCOMMAND [arguments] [options]\n"
                            "\n"
-                           "Converts video and audio files with presets: in a window, or with a "
+                           "Converts video and audio files with presets, in a window or with a "
                            "subcommand.\n"
-                           "The window starts with the FILEs and the media in folders among them; "
-                           "one that is open\nalready takes them.\n"
+                           "The window opens with the FILEs, and with the media files of folders "
+                           "among them. If it is\nopen already, they are added to it.\n"
                            "\n"
                            "Subcommands:\n"
                            "%1"
                            "\n"
                            "%2\n"
                            "\n"
-                           "\"vexconvert SUBCOMMAND --help\" tells more about one.\n"
+                           "\"vexconvert SUBCOMMAND --help\" explains a subcommand.\n"
                            "\n"
-                           "Exit codes: 0 all went well, 1 something couldn't be done, 2 the "
-                           "command was called wrongly.")
+                           "Exit codes: 0 success, 1 something couldn't be done, 2 wrong usage.")
         .arg(list, optionsText(parser));
 }
 
@@ -195,7 +195,7 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
         const QString name = option.names().constFirst();
         if (parser.isSet(name)) {
             return wrongUsage(
-                CommandLine::tr("--%1 is for the window; leave it out before a subcommand")
+                CommandLine::tr("--%1 is only for the window; leave it out with a subcommand")
                     .arg(name));
         }
     }

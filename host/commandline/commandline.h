@@ -15,23 +15,23 @@
 
 #include <optional>
 
-/*! What a subcommand was called with. */
+/*! The arguments of a subcommand. */
 struct Call
 {
     const QCommandLineParser &options;
-    QStringList arguments; //!< those behind the subcommand's name
+    QStringList arguments; //!< those after the subcommand's name
     QString configFolder;  //!< empty: the platform's
 };
 
-/*! A word that vexconvert knows, its texts for --help and what it does. */
+/*! A subcommand of vexconvert, with its texts for --help. */
 struct Subcommand
 {
     QString name;
     QString syntax; //!< what follows the name
     QString summary;
-    QString details; //!< further lines of its own --help
+    QString details; //!< more lines for its own --help
     QList<QCommandLineOption> options;
-    Result<ExitCode> (*run)(const Call &call); //!< has told the user what isn't an error
+    Result<ExitCode> (*run)(const Call &call); //!< prints everything but the error it returns
 };
 
 [[nodiscard]] QVector<Subcommand> catalogueCommands();
@@ -46,22 +46,22 @@ class CommandLine
 
 public:
     // Both take the arguments without the program's name.
-    /*! Nothing when they ask for something else than the window. */
+    /*! The options for the window; nothing if the arguments ask for anything else. */
     static std::optional<WindowOptions> windowOptions(const QStringList &arguments);
-    /*! Anything but the window. */
+    /*! Does what the arguments ask for, except the window. */
     static ExitCode run(const QStringList &arguments);
 };
 
 [[nodiscard]] tl::unexpected<Error> wrongUsage(const QString &text);
 
-/*! The presets of the call's folder, not yet open; prints what they have to tell. */
+/*! The presets in the call's folder, not yet open; their messages are printed. */
 [[nodiscard]] PresetStore presetsOf(const Call &call);
-/*! Opens the presets for reading. User files that can't be used are left out, which is printed. */
+/*! Opens the presets for reading. User files that can't be used are left out and reported. */
 void openWhatCanBeRead(PresetStore &presets);
-/*! The preset with this id, or that there is none. */
+/*! The preset with this id; an error if there is none. */
 [[nodiscard]] Result<FoundPreset> findPreset(const PresetStore &presets, const QString &id);
 
-/*! An option of several subcommands: --json. */
+/*! The option --json of several subcommands. */
 [[nodiscard]] QCommandLineOption jsonOption();
 [[nodiscard]] QCommandLineOption valueOption(const QString &name, const QString &description,
                                              const QString &valueName);

@@ -7,13 +7,11 @@
 
 class FormatsProxy;
 
-/*! The options that describe a wish instead of naming a preset: --type, --format and so on. */
+/*! The options that describe a preset instead of naming it: --type, --format and so on. */
 [[nodiscard]] QList<QCommandLineOption> fittingOptions();
 [[nodiscard]] bool hasFittingOptions(const QCommandLineParser &options);
 
-/*!
- * The preset closest to the wish; an error where there is none or the wish is incomplete.
- */
+/*! The closest preset; an error if there is none or an option is missing or invalid. */
 [[nodiscard]] Result<QVariantMap> fittingPreset(const QCommandLineParser &options,
                                                 const FormatsProxy &formats);
 

@@ -30,7 +30,7 @@ void printPresets(const QVector<QVariantMap> &presets, bool asJson, const QStrin
     }
 }
 
-/*! Opens the presets for saving. Waits for another process that is writing them, and says so. */
+/*! Opens the presets for saving. If another process is writing them, says so and waits. */
 Result<> openToWrite(PresetStore &presets)
 {
     constexpr int patience = 10000; // ms
@@ -61,7 +61,8 @@ Result<ExitCode> listRecent(const Call &call)
     for (const FormatDetailModelData &record : records) {
         presets.append(record.toVarMap());
     }
-    printPresets(presets, call.options.isSet(jsonFlag), CommandLine::tr("No preset was used yet."));
+    printPresets(presets, call.options.isSet(jsonFlag),
+                 CommandLine::tr("No presets have been used yet."));
     return Success;
 }
 
@@ -88,7 +89,7 @@ Result<ExitCode> runRecent(const Call &call)
     if (call.arguments.size() == 2 && call.arguments.constFirst() == QLatin1String("delete")) {
         return deleteRecent(call, call.arguments.at(1));
     }
-    return wrongUsage(CommandLine::tr("it is \"vexconvert recent\" or \"vexconvert recent delete "
+    return wrongUsage(CommandLine::tr("use \"vexconvert recent\" or \"vexconvert recent delete "
                                       "ID\""));
 }
 
@@ -109,12 +110,12 @@ Result<ExitCode> listUser(const Call &call)
         }
     }
     printPresets(presets, call.options.isSet(jsonFlag),
-                 CommandLine::tr("You have made no preset yet; \"vexconvert user add BASE_ID "
-                                 "--title TITLE\" makes one."));
+                 CommandLine::tr("You have no presets of your own yet; \"vexconvert user add "
+                                 "BASE_ID --title TITLE\" makes one."));
     return Success;
 }
 
-/*! What of \a setting the preset gets: what the option says, if it is offered, else its own. */
+/*! The new value of \a setting: the option's if it is set, which must be offered; else its own. */
 Result<QString> editedValue(const Call &call, const QVariantMap &preset,
                             const PresetSetting &setting)
 {
@@ -124,8 +125,8 @@ Result<QString> editedValue(const Call &call, const QVariantMap &preset,
         return applies ? setting.value(preset) : QString();
     }
     if (!applies) {
-        return wrongUsage(CommandLine::tr("--%1 doesn't apply: preset %2 is for audio only")
-                              .arg(setting.option, id));
+        return wrongUsage(
+            CommandLine::tr("--%1 doesn't apply: preset %2 is audio-only").arg(setting.option, id));
     }
     const QString value = call.options.value(setting.option);
     const QStringList choices = setting.choices(preset);
@@ -136,8 +137,8 @@ Result<QString> editedValue(const Call &call, const QVariantMap &preset,
     return value;
 }
 
-/*! The values of \a preset with those of the options in place, as the library takes them to add or
- *  change a user's preset. */
+/*! The values of \a preset, overridden by the options, as the library takes them to add or change
+ *  a user's preset. */
 Result<QVariantMap> editedValues(const Call &call, const QVariantMap &preset)
 {
     const QString titleKey = QStringLiteral("title");
@@ -226,14 +227,14 @@ Result<ExitCode> runUser(const Call &call)
             return failed(preset);
         }
         if (action.needsOwnPreset && !preset->isUserDefined) {
-            return wrongUsage(CommandLine::tr("preset %1 isn't yours and stays as it is; "
-                                              "\"vexconvert user add %1 --title TITLE\" makes one "
-                                              "of your own from it")
+            return wrongUsage(CommandLine::tr("preset %1 isn't yours and can't be changed; "
+                                              "\"vexconvert user add %1 --title TITLE\" makes a "
+                                              "copy that is yours")
                                   .arg(id));
         }
         return action.run(call, store, *preset);
     }
-    return wrongUsage(CommandLine::tr("it is \"vexconvert user list\", or \"add\", \"change\" or "
+    return wrongUsage(CommandLine::tr("use \"vexconvert user list\", or \"add\", \"change\" or "
                                       "\"delete\" with one id; see \"vexconvert user --help\""));
 }
 
@@ -254,17 +255,17 @@ QVector<Subcommand> presetCommands()
     return {
         {QStringLiteral("recent"),
          CommandLine::tr("[--json] | delete ID"),
-         CommandLine::tr("List the recently used presets, the latest first, or forget one."),
+         CommandLine::tr("List the recently used presets, the latest first, or remove one."),
          {},
          {jsonOption()},
          runRecent},
         {QStringLiteral("user"),
          CommandLine::tr("list [--json] | add BASE_ID --title TITLE [settings] | change ID "
                          "[settings] | delete ID"),
-         CommandLine::tr("List, make, change or delete presets of your own."),
-         CommandLine::tr("\nA new preset starts with the values of its base, a changed one with "
-                         "its own; the settings\nare checked against what \"vexconvert show ID\" "
-                         "lists as choices. 0 keeps the source's value.\n"),
+         CommandLine::tr("List, add, change or delete your own presets."),
+         CommandLine::tr("\nA new preset starts with the values of its base. A setting must be one "
+                         "of the choices that\n\"vexconvert show ID\" lists; 0 keeps the source's "
+                         "value.\n"),
          editOptions() + QList<QCommandLineOption>{jsonOption()}, runUser},
     };
 }

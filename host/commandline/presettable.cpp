@@ -38,7 +38,7 @@ const QVector<PresetSetting> &presetSettings()
         {CommandLine::tr("Size"), QStringLiteral("resolution"), CommandLine::tr("WxH"), video,
          QStringLiteral("resolution"), QStringLiteral("resolutions"),
          QStringLiteral("videoResolution"), source,
-         CommandLine::tr("Box that the picture is fitted into.")},
+         CommandLine::tr("Box that the video is scaled to fit.")},
         {CommandLine::tr("Fps"), QStringLiteral("frame-rate"), CommandLine::tr("FPS"), video,
          QStringLiteral("frameRate"), QStringLiteral("frameRates"),
          QStringLiteral("videoFrameRate"), source, CommandLine::tr("Frames per second.")},
@@ -64,11 +64,11 @@ const QVector<PresetSetting> &presetSettings()
 QVector<QStringList> presetTable(const QVector<QVariantMap> &presets)
 {
     const QString video = QStringLiteral("video");
-    const bool anyPicture =
+    const bool hasVideo =
         std::any_of(presets.begin(), presets.end(),
                     [&video](const QVariantMap &preset) { return preset.contains(video); });
     QVector<PresetSetting> columns = presetSettings();
-    if (!anyPicture) {
+    if (!hasVideo) {
         columns.erase(std::remove_if(columns.begin(), columns.end(),
                                      [&video](const PresetSetting &setting) {
                                          return setting.group == video;

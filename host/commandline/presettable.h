@@ -6,8 +6,7 @@
 #include <QVariantMap>
 #include <QVector>
 
-/*! A setting of a preset that can be chosen: where it stands in the preset's map and what it is
- * called. */
+/*! An adjustable setting of a preset: its place in the preset's map, and its names. */
 struct PresetSetting
 {
     QString label;
@@ -17,21 +16,20 @@ struct PresetSetting
     QString key;      //!< in the group: the chosen value
     QString listKey;  //!< in the group: the values offered
     QString paramKey; //!< in the map that makes or changes a user's preset
-    QString zeroWord; //!< what "0" means
+    QString zeroWord; //!< the meaning of "0"
     QString help;     //!< of the option
 
     [[nodiscard]] QString value(const QVariantMap &preset) const;
-    /*! The values offered, as texts, without empty ones. */
+    /*! The values offered, without empty ones. */
     [[nodiscard]] QStringList choices(const QVariantMap &preset) const;
-    /*! A value in words: "0" and no value are the zero word. */
+    /*! The value, or the zero word for "0" and an empty value. */
     [[nodiscard]] QString inWords(const QString &value) const;
 };
 
-/*! All settings: those of the picture, then those of the sound. */
+/*! All settings, video before audio. */
 [[nodiscard]] const QVector<PresetSetting> &presetSettings();
 
-/*! Rows for Console::printTable(), the heading first; the picture's columns only where a preset has
- * one. */
+/*! Rows for Console::printTable(), the heading first; video columns only if a preset has video. */
 [[nodiscard]] QVector<QStringList> presetTable(const QVector<QVariantMap> &presets);
 
 #endif

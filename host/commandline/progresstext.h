@@ -5,10 +5,10 @@
 
 #include <QString>
 
-/*! "40%, 3.2x, 0:05 left"; what isn't known is left out, without a length the time done is told. */
+/*! "40%, 3.2x, 0:05 left", without what is unknown; for an unknown length, the time done. */
 [[nodiscard]] QString progressText(const Progress &progress);
 
-/*! "[########------------]"; empty when the source's length is unknown. */
+/*! "[########------------]"; empty if the source's length is unknown. */
 [[nodiscard]] QString progressBar(const Progress &progress);
 
 #endif

@@ -50,7 +50,7 @@ void TestCatalogueCommands::formatsAreFoundByTheirTitle()
                                                   "MP3     audio  2\n"));
     const CommandRun none = run("search bogus");
     QCOMPARE(none.exitCode, 0);
-    QCOMPARE(none.out, QStringLiteral("No format has \"bogus\" in its title.\n"));
+    QCOMPARE(none.out, QStringLiteral("No format title contains \"bogus\".\n"));
 }
 
 void TestCatalogueCommands::presetsAreListedInColumns_data()
@@ -154,8 +154,9 @@ void TestCatalogueCommands::anUnknownFormatIsReplacedAndSaid()
     const CommandRun told = run("fit --type audio --format bogus --target 320");
     QCOMPARE(told.exitCode, 0);
     QVERIFY(told.out.contains(QStringLiteral("A_MP3_1")));
-    QCOMPARE(told.err, QStringLiteral("vexconvert: there is no format \"bogus\"; the usual one for "
-                                      "audio is taken instead\n"));
+    QCOMPARE(told.err,
+             QStringLiteral("vexconvert: there is no format \"bogus\"; the default one for "
+                            "audio is used instead\n"));
 }
 
 QTEST_GUILESS_MAIN(TestCatalogueCommands)

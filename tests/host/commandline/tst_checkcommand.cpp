@@ -137,7 +137,7 @@ void TestCheckCommand::everyPresetIsConverted()
     const CommandRun told = run();
     QCOMPARE(told.out,
              QStringLiteral(
-                 "The catalogue's files have no mistakes.\n"
+                 "No mistakes in the catalogue's files.\n"
                  "\n"
                  "Format  Tag    Presets  Converted  Encoder missing  Failed\n"
                  "AVI     video  2        2          0                0\n"
@@ -146,7 +146,7 @@ void TestCheckCommand::everyPresetIsConverted()
                  "Video_AMR_001  needs the encoder libopencore_amrnb for amr_nb, which this ffmpeg "
                  "lacks; choose a preset with another encoder or install an ffmpeg that has it\n"
                  "\n"
-                 "2 of 3 presets convert as they say, 1 need an encoder that this ffmpeg lacks, 0 "
+                 "2 of 3 presets convert as expected, 1 need an encoder that this ffmpeg lacks, 0 "
                  "failed.\n"));
     QCOMPARE(told.err, QString());
     QCOMPARE(told.exitCode, 0);
@@ -198,7 +198,7 @@ void TestCheckCommand::whatFailsIsNamedWithItsReason_data()
                "  set -- \"$@\" \"$word\"\n"
                "done\n"
                "exec $REAL \"$@\"")
-        << QStringLiteral("64x36 isn't fitted into 160x90; 44100 Hz, not 48000");
+        << QStringLiteral("64x36 isn't scaled to fit 160x90; 44100 Hz, not 48000");
 }
 
 void TestCheckCommand::whatFailsIsNamedWithItsReason()
@@ -214,7 +214,7 @@ void TestCheckCommand::whatFailsIsNamedWithItsReason()
     QVERIFY2(told.out.contains(QStringLiteral("\nVideo_AVI_002  %1\n").arg(reason)),
              qPrintable(told.out));
     QVERIFY(told.out.endsWith(QStringLiteral(
-        "\n0 of 2 presets convert as they say, 1 need an encoder that this ffmpeg lacks, 1 "
+        "\n0 of 2 presets convert as expected, 1 need an encoder that this ffmpeg lacks, 1 "
         "failed.\n")));
 }
 
@@ -236,7 +236,7 @@ void TestCheckCommand::aFormatThatIsNeverShownFails()
     const CommandRun told = run({QStringLiteral("--quick")});
     QCOMPARE(told.exitCode, 1);
     QVERIFY2(told.out.contains(QStringLiteral(
-                 "\nVideo_AMR_001  the library shows no such preset in this format\n")),
+                 "\nVideo_AMR_001  the library has no such preset in this format\n")),
              qPrintable(told.out));
 }
 
@@ -248,16 +248,16 @@ void TestCheckCommand::mistakesAreNamedAndTheRestIsConverted()
     const QString file = path(QStringLiteral("own.json"));
     QVERIFY2(wrongType.out.startsWith(
                  file + QStringLiteral(": groups[0].presets[0].videoParam.frameRate: must be a "
-                                       "number but is a text; left out\n"
+                                       "number but is a string; left out\n"
                                        "Mistakes in the catalogue's files: 1\n")),
              qPrintable(wrongType.out));
-    QVERIFY(wrongType.out.contains(QStringLiteral("\n1 of 2 presets convert as they say")));
+    QVERIFY(wrongType.out.contains(QStringLiteral("\n1 of 2 presets convert as expected")));
     QCOMPARE(wrongType.exitCode, 1);
 
     writeCatalogue(R"("channel": 1, "sampleRate": 48000)", R"("channel": 6, "sampleRate": 48000)");
     const CommandRun notOffered = run({QStringLiteral("--quick")});
     QVERIFY2(notOffered.out.startsWith(
-                 file + QStringLiteral(": groups[0].audioParam.channel: 6 is none of the values "
+                 file + QStringLiteral(": groups[0].audioParam.channel: 6 is not one of the values "
                                        "that audioOptions.channelList offers\n"
                                        "Mistakes in the catalogue's files: 1\n")),
              qPrintable(notOffered.out));
@@ -290,7 +290,7 @@ void TestCheckCommand::itComesAsJson()
                  {QStringLiteral("position"), QString()},
                  {QStringLiteral("path"), QStringLiteral("groups[1].icon")},
                  {QStringLiteral("reason"),
-                  QStringLiteral("there is no picture \"fmt_none\" in formats/qml/image")},
+                  QStringLiteral("there is no icon \"fmt_none\" in formats/qml/image")},
                  {QStringLiteral("leftOut"), false}}}));
     const QJsonArray presets = json[QStringLiteral("presets")].toArray();
     QCOMPARE(presets.size(), 2);
@@ -340,13 +340,15 @@ void TestCheckCommand::withoutFfmpegItSaysWhatToInstall()
     m_environment.insert(QStringLiteral("PATH"), path(QStringLiteral("tmp")));
     const CommandRun told = run();
     QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.err, QStringLiteral("vexconvert: no clip to convert: ffmpeg is not on the PATH; "
-                                      "install ffmpeg (Debian: apt-get install ffmpeg) and try "
-                                      "again\n"));
+    QCOMPARE(
+        told.err,
+        QStringLiteral("vexconvert: couldn't make a clip to convert: ffmpeg is not on the PATH; "
+                       "install ffmpeg (Debian: apt-get install ffmpeg) and try "
+                       "again\n"));
     const QJsonObject json =
         QJsonDocument::fromJson(run({QStringLiteral("--json")}).out.toUtf8()).object();
     QVERIFY(json[QStringLiteral("error")].toString().startsWith(
-        QStringLiteral("no clip to convert: ffmpeg is not on the PATH")));
+        QStringLiteral("couldn't make a clip to convert: ffmpeg is not on the PATH")));
 }
 
 QTEST_GUILESS_MAIN(TestCheckCommand)

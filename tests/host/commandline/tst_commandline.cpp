@@ -74,26 +74,27 @@ void TestCommandLine::aWrongCallIsExplained_data()
     row("formats --tag bogus",
         "there is no tag \"bogus\"; choose one of video, audio, device, socialvideo");
     row("formats --tag recently", "there is no tag \"recently\"");
-    row("search", "name the text to search for");
+    row("search", "give one text to search for");
     row("presets", "name one format");
     row("presets MP4 MKV", "name one format");
     row("presets bogus", "there is no format \"bogus\"; \"vexconvert formats\" lists them, "
                          "\"vexconvert search TEXT\" finds one");
     row("show", "name one preset");
     row("show bogus", "no preset has the id \"bogus\"; \"vexconvert search TEXT\"");
-    row("fit --type image --format MP4 --target 1", "--type is \"video\" or \"audio\"");
-    row("fit --type video --target 1x1", "--format names a format");
-    row("fit --type video --format MP4 --target 720", "--target of a video is a size");
-    row("fit --type audio --format MP3 --target 1x1", "--target of audio is a bitrate in kbps");
+    row("fit --type image --format MP4 --target 1", "--type must be \"video\" or \"audio\"");
+    row("fit --type video --target 1x1", "--format is missing");
+    row("fit --type video --format MP4 --target 720", "--target must be a size for video");
+    row("fit --type audio --format MP3 --target 1x1",
+        "--target must be a bitrate in kbps for audio");
     row("convert --preset V_MP4_1", "name the files to convert");
     row("convert film.mp4", "choose a preset: either --preset ID or --type, --format and --target");
     row("convert film.mp4 --preset V_MP4_1 --type video", "choose a preset: either");
     row("convert film.mp4 --preset bogus", "no preset has the id \"bogus\"");
-    row("convert film.mp4 --type video --format MP4", "--target of a video is a size");
-    row("recent bogus", "it is \"vexconvert recent\" or");
+    row("convert film.mp4 --type video --format MP4", "--target must be a size for video");
+    row("recent bogus", "use \"vexconvert recent\" or");
     row("recent delete bogus", "\"bogus\" is not among the recently used presets");
-    row("user bogus", "it is \"vexconvert user list\", or");
-    row("user add", "it is \"vexconvert user list\", or");
+    row("user bogus", "use \"vexconvert user list\", or");
+    row("user add", "use \"vexconvert user list\", or");
     row("user add bogus --title x", "no preset has the id \"bogus\"");
     row("user add V_MP4_2", "give the new preset a title");
     row("user add V_MP4_2 --title=", "--title must not be empty");
@@ -104,10 +105,10 @@ void TestCommandLine::aWrongCallIsExplained_data()
     row("user add V_MP4_2 --title x --audio-encoder=",
         "--audio-encoder  is not offered by preset V_MP4_2; choose one of 0, aac, mp3");
     row("user add A_MP3_1 --title x --video-bitrate 0",
-        "--video-bitrate doesn't apply: preset A_MP3_1 is for audio only");
+        "--video-bitrate doesn't apply: preset A_MP3_1 is audio-only");
     row("user change V_MP4_2 --title x",
-        "preset V_MP4_2 isn't yours and stays as it is; \"vexconvert user add V_MP4_2");
-    row("user delete V_MP4_2", "preset V_MP4_2 isn't yours and stays as it is");
+        "preset V_MP4_2 isn't yours and can't be changed; \"vexconvert user add V_MP4_2");
+    row("user delete V_MP4_2", "preset V_MP4_2 isn't yours and can't be changed");
     row("check-catalogue MP4", "\"check-catalogue\" takes no arguments but options");
     row("user delete bogus", "no preset has the id \"bogus\"");
 }

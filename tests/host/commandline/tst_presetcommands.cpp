@@ -22,7 +22,7 @@ private Q_SLOTS:
 
 void TestPresetCommands::usedPresetsAreListedLatestFirst()
 {
-    QCOMPARE(run("recent").out, QStringLiteral("No preset was used yet.\n"));
+    QCOMPARE(run("recent").out, QStringLiteral("No presets have been used yet.\n"));
     for (const char *line :
          {"convert missing.mp4 --preset V_MKV_1", "convert missing.mp4 --preset A_MP3_1",
           "convert missing.mp4 --preset V_MP4_2", "convert missing.mp4 --preset V_MKV_1"}) {
@@ -51,7 +51,8 @@ void TestPresetCommands::aUsedPresetIsForgotten()
 
 void TestPresetCommands::aUsersPresetIsMadeChangedAndDeleted()
 {
-    QVERIFY(run("user list").out.startsWith(QStringLiteral("You have made no preset yet; ")));
+    QVERIFY(
+        run("user list").out.startsWith(QStringLiteral("You have no presets of your own yet; ")));
     const CommandRun added =
         run({QStringLiteral("user"), QStringLiteral("add"), QStringLiteral("V_MP4_2"),
              QStringLiteral("--title"), QStringLiteral("My own"), QStringLiteral("--video-encoder"),
