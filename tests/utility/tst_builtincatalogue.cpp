@@ -116,11 +116,11 @@ bool ascends(const QVariantList &numbers)
 
 Q_DECLARE_METATYPE(Group)
 
-class tst_BuiltInCatalogue : public QObject
+class TestBuiltInCatalogue : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void itHoldsTheFormatsOfEveryCategory();
     void theCheckFindsNoMistake();
     void equalOptionListsAreShared();
@@ -154,7 +154,7 @@ private:
     const QList<Group> m_groups = allGroups();
 };
 
-void tst_BuiltInCatalogue::everyGroup()
+void TestBuiltInCatalogue::everyGroup()
 {
     QTest::addColumn<Group>("group");
     for (const Group &group : m_groups) {
@@ -162,7 +162,7 @@ void tst_BuiltInCatalogue::everyGroup()
     }
 }
 
-void tst_BuiltInCatalogue::everyPreset()
+void TestBuiltInCatalogue::everyPreset()
 {
     QTest::addColumn<Group>("group");
     QTest::addColumn<QVariantMap>("preset");
@@ -173,7 +173,7 @@ void tst_BuiltInCatalogue::everyPreset()
     }
 }
 
-void tst_BuiltInCatalogue::itHoldsTheFormatsOfEveryCategory()
+void TestBuiltInCatalogue::itHoldsTheFormatsOfEveryCategory()
 {
     QMap<QString, QStringList> names;
     for (const Group &group : m_groups) {
@@ -197,7 +197,7 @@ void tst_BuiltInCatalogue::itHoldsTheFormatsOfEveryCategory()
     QCOMPARE(text(m_groups.value(0).presets.value(0), "id"), QStringLiteral("Video_MP4_001"));
 }
 
-void tst_BuiltInCatalogue::theCheckFindsNoMistake()
+void TestBuiltInCatalogue::theCheckFindsNoMistake()
 {
     const CatalogueResult catalogue = readCatalogueAt(builtInCataloguePath());
     QStringList icons = QDir(QStringLiteral(VEX_FORMAT_ICONS)).entryList({QStringLiteral("*.svg")});
@@ -212,7 +212,7 @@ void tst_BuiltInCatalogue::theCheckFindsNoMistake()
     QVERIFY(!catalogue.presetPlaces.isEmpty());
 }
 
-void tst_BuiltInCatalogue::equalOptionListsAreShared()
+void TestBuiltInCatalogue::equalOptionListsAreShared()
 {
     QHash<QByteArray, QVariantList> lists;
     for (const Group &group : m_groups) {
@@ -231,7 +231,7 @@ void tst_BuiltInCatalogue::equalOptionListsAreShared()
     QVERIFY(!lists.isEmpty());
 }
 
-void tst_BuiltInCatalogue::groupsAreWellFormed()
+void TestBuiltInCatalogue::groupsAreWellFormed()
 {
     QFETCH(Group, group);
     QVERIFY(group.presets.size() >= 3);
@@ -247,7 +247,7 @@ void tst_BuiltInCatalogue::groupsAreWellFormed()
     }
 }
 
-void tst_BuiltInCatalogue::onlyTheFirstPresetOfAFormatIsSameAsSource()
+void TestBuiltInCatalogue::onlyTheFirstPresetOfAFormatIsSameAsSource()
 {
     QFETCH(Group, group);
     for (int i = 0; i < group.presets.size(); ++i) {
@@ -255,7 +255,7 @@ void tst_BuiltInCatalogue::onlyTheFirstPresetOfAFormatIsSameAsSource()
     }
 }
 
-void tst_BuiltInCatalogue::onlyAudioFormatsLackVideoAndOnlyGifLacksAudio()
+void TestBuiltInCatalogue::onlyAudioFormatsLackVideoAndOnlyGifLacksAudio()
 {
     QFETCH(Group, group);
     QFETCH(QVariantMap, preset);
@@ -263,7 +263,7 @@ void tst_BuiltInCatalogue::onlyAudioFormatsLackVideoAndOnlyGifLacksAudio()
     QCOMPARE(hasAudio(preset), group.name != QLatin1String("GIF"));
 }
 
-void tst_BuiltInCatalogue::textsAreFilledIn()
+void TestBuiltInCatalogue::textsAreFilledIn()
 {
     QFETCH(Group, group);
     QFETCH(QVariantMap, preset);
@@ -278,7 +278,7 @@ void tst_BuiltInCatalogue::textsAreFilledIn()
     }
 }
 
-void tst_BuiltInCatalogue::optionsAreInOrder()
+void TestBuiltInCatalogue::optionsAreInOrder()
 {
     QFETCH(QVariantMap, preset);
     const QRegularExpression box(QStringLiteral("^[1-9][0-9]*[02468]x[1-9][0-9]*[02468]$"));
@@ -303,7 +303,7 @@ void tst_BuiltInCatalogue::optionsAreInOrder()
     }
 }
 
-void tst_BuiltInCatalogue::bitratesAreOfferedWhereEncodersTakeThem()
+void TestBuiltInCatalogue::bitratesAreOfferedWhereEncodersTakeThem()
 {
     QFETCH(QVariantMap, preset);
     const auto expectBitrates = [&preset](const QString &block, auto takesBitrate) {
@@ -323,7 +323,7 @@ void tst_BuiltInCatalogue::bitratesAreOfferedWhereEncodersTakeThem()
     });
 }
 
-void tst_BuiltInCatalogue::bitratesStartWithTheSources()
+void TestBuiltInCatalogue::bitratesStartWithTheSources()
 {
     QFETCH(QVariantMap, preset);
     for (const Choice &choice : choicesOf(preset)) {
@@ -334,7 +334,7 @@ void tst_BuiltInCatalogue::bitratesStartWithTheSources()
     }
 }
 
-void tst_BuiltInCatalogue::levelsAreOfferedAndDescend()
+void TestBuiltInCatalogue::levelsAreOfferedAndDescend()
 {
     QFETCH(QVariantMap, preset);
     if (!preset.contains(videoParam)) {
@@ -365,7 +365,7 @@ void tst_BuiltInCatalogue::levelsAreOfferedAndDescend()
     }
 }
 
-void tst_BuiltInCatalogue::sameAsSourceChangesNothing()
+void TestBuiltInCatalogue::sameAsSourceChangesNothing()
 {
     QFETCH(QVariantMap, preset);
     if (text(preset, "title") != sameAsSource) {
@@ -379,7 +379,7 @@ void tst_BuiltInCatalogue::sameAsSourceChangesNothing()
     }
 }
 
-void tst_BuiltInCatalogue::fittingPresetsDiffer()
+void TestBuiltInCatalogue::fittingPresetsDiffer()
 {
     QFETCH(Group, group);
     if (!group.isOfFormat()) {
@@ -401,7 +401,7 @@ int main(int argc, char *argv[])
 {
     qunsetenv("VEX_EXPORT_CATALOGUE");
     QCoreApplication application(argc, argv);
-    tst_BuiltInCatalogue test;
+    TestBuiltInCatalogue test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -41,11 +41,11 @@ QString audioBitrateToConvertOf(const QVariantMap &preset)
 
 /*! Everyday targets, and the presets of the built-in catalogue that a user would expect for them.
  */
-class tst_Catalogue_Fitting : public QObject
+class TestCatalogueFitting : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { m_log.emplace(); }
     void cleanup()
@@ -71,14 +71,14 @@ private:
     std::optional<MessageLog> m_log;
 };
 
-void tst_Catalogue_Fitting::initTestCase()
+void TestCatalogueFitting::initTestCase()
 {
     const MessageLog ofFilesThatAreMissing;
     const QTemporaryDir folder;
     m_formats.init(folder.path());
 }
 
-void tst_Catalogue_Fitting::videoOfASize_data()
+void TestCatalogueFitting::videoOfASize_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("size");
@@ -126,7 +126,7 @@ void tst_Catalogue_Fitting::videoOfASize_data()
         << QStringLiteral("AV1 MKV: Same as source");
 }
 
-void tst_Catalogue_Fitting::videoOfASize()
+void TestCatalogueFitting::videoOfASize()
 {
     QFETCH(QString, format);
     QFETCH(QString, size);
@@ -137,7 +137,7 @@ void tst_Catalogue_Fitting::videoOfASize()
              preset);
 }
 
-void tst_Catalogue_Fitting::audioOfABitrate_data()
+void TestCatalogueFitting::audioOfABitrate_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QVariant>("kbps");
@@ -165,7 +165,7 @@ void tst_Catalogue_Fitting::audioOfABitrate_data()
     row("an unknown format", "xyz", 128, "MP3: Same as source");
 }
 
-void tst_Catalogue_Fitting::audioOfABitrate()
+void TestCatalogueFitting::audioOfABitrate()
 {
     QFETCH(QString, format);
     QFETCH(QVariant, kbps);
@@ -176,14 +176,14 @@ void tst_Catalogue_Fitting::audioOfABitrate()
              preset);
 }
 
-void tst_Catalogue_Fitting::otherTypesHaveNoPreset()
+void TestCatalogueFitting::otherTypesHaveNoPreset()
 {
     QCOMPARE(called(m_formats.getConverterParameters(QStringLiteral("image"), QStringLiteral("gif"),
                                                      QStringLiteral("1280x720"), true)),
              QStringLiteral("nothing"));
 }
 
-void tst_Catalogue_Fitting::audioPresetsOfAFormat_data()
+void TestCatalogueFitting::audioPresetsOfAFormat_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("kbps");
@@ -204,7 +204,7 @@ void tst_Catalogue_Fitting::audioPresetsOfAFormat_data()
     row("an unknown format", "MP5", "128", "nothing");
 }
 
-void tst_Catalogue_Fitting::audioPresetsOfAFormat()
+void TestCatalogueFitting::audioPresetsOfAFormat()
 {
     QFETCH(QString, format);
     QFETCH(QString, kbps);
@@ -212,7 +212,7 @@ void tst_Catalogue_Fitting::audioPresetsOfAFormat()
     QCOMPARE(called(m_formats.getFitAudioFormatByBitrate(format, kbps)), preset);
 }
 
-void tst_Catalogue_Fitting::namedPresetsWithCappedAudio_data()
+void TestCatalogueFitting::namedPresetsWithCappedAudio_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("title");
@@ -240,7 +240,7 @@ void tst_Catalogue_Fitting::namedPresetsWithCappedAudio_data()
     row("a format that doesn't exist", "MP5", "4K", "128", "nothing", "");
 }
 
-void tst_Catalogue_Fitting::namedPresetsWithCappedAudio()
+void TestCatalogueFitting::namedPresetsWithCappedAudio()
 {
     QFETCH(QString, format);
     QFETCH(QString, title);
@@ -253,7 +253,7 @@ void tst_Catalogue_Fitting::namedPresetsWithCappedAudio()
     QCOMPARE(audioBitrateToConvertOf(fitting), audioKbps);
 }
 
-void tst_Catalogue_Fitting::bitratesOfferedForAFormat_data()
+void TestCatalogueFitting::bitratesOfferedForAFormat_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("kbps");
@@ -271,7 +271,7 @@ void tst_Catalogue_Fitting::bitratesOfferedForAFormat_data()
     row("xyz", defaults);
 }
 
-void tst_Catalogue_Fitting::bitratesOfferedForAFormat()
+void TestCatalogueFitting::bitratesOfferedForAFormat()
 {
     QFETCH(QString, format);
     QFETCH(QString, kbps);
@@ -290,7 +290,7 @@ int main(int argc, char *argv[])
 {
     qunsetenv("VEX_EXPORT_CATALOGUE");
     QCoreApplication application(argc, argv);
-    tst_Catalogue_Fitting test;
+    TestCatalogueFitting test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -97,11 +97,11 @@ QByteArray broken(const QByteArray &valid, const QByteArray &invalid)
 
 } // namespace
 
-class tst_CatalogueReader : public QObject
+class TestCatalogueReader : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void presetsSetOnlyWhatDiffersFromTheirGroup();
     void aPresetCanSetEverythingItself();
     void unknownKeysArePassedThrough();
@@ -133,7 +133,7 @@ private slots:
     void thePlacesOfValuesAreKnown();
 };
 
-void tst_CatalogueReader::presetsSetOnlyWhatDiffersFromTheirGroup()
+void TestCatalogueReader::presetsSetOnlyWhatDiffersFromTheirGroup()
 {
     const CatalogueResult result = readCatalogue(sources({file(
         "Video",
@@ -165,7 +165,7 @@ void tst_CatalogueReader::presetsSetOnlyWhatDiffersFromTheirGroup()
     QVERIFY(!first.contains(QStringLiteral("presets")));
 }
 
-void tst_CatalogueReader::aPresetCanSetEverythingItself()
+void TestCatalogueReader::aPresetCanSetEverythingItself()
 {
     const CatalogueResult result = readCatalogue(sources(
         {R"({ "category": "C", "groups": [{ "name": "G", "presets": [{ "id": "1", "title": "T", "extension": "e", )" +
@@ -174,7 +174,7 @@ void tst_CatalogueReader::aPresetCanSetEverythingItself()
     QCOMPARE(valueAt(presetOf(result, "C", "G"), "audioParam", "channel"), QVariant(2));
 }
 
-void tst_CatalogueReader::unknownKeysArePassedThrough()
+void TestCatalogueReader::unknownKeysArePassedThrough()
 {
     const CatalogueResult result = readCatalogue(sources(
         {R"({ "category": "C", "note": 1, "groups": [{ "name": "G", "extension": "e", "twoPass": true, "mux": { "a": 1, "b": 2 }, )" +
@@ -189,7 +189,7 @@ void tst_CatalogueReader::unknownKeysArePassedThrough()
     QVERIFY(!map.contains(QStringLiteral("note")));
 }
 
-void tst_CatalogueReader::theGroupMapIdentifiesTheGroup()
+void TestCatalogueReader::theGroupMapIdentifiesTheGroup()
 {
     const CatalogueResult result =
         readCatalogue(sources({file("Audio", {group("MP3", {audioBlocks}, {preset("1")})})}));
@@ -199,7 +199,7 @@ void tst_CatalogueReader::theGroupMapIdentifiesTheGroup()
     QCOMPARE(result.catalogue.groups.value(QStringLiteral("Audio")), QVariantList{expected});
 }
 
-void tst_CatalogueReader::aGroupWithoutIconHasAnEmptyOne()
+void TestCatalogueReader::aGroupWithoutIconHasAnEmptyOne()
 {
     const CatalogueResult result = readCatalogue(
         sources({R"({ "category": "C", "groups": [{ "name": "G", "presets": [] }] })"}));
@@ -208,7 +208,7 @@ void tst_CatalogueReader::aGroupWithoutIconHasAnEmptyOne()
     QCOMPARE(map.value(QStringLiteral("icon")), QVariant(QString()));
 }
 
-void tst_CatalogueReader::audioOnlyPresetsHaveNoVideoKeys()
+void TestCatalogueReader::audioOnlyPresetsHaveNoVideoKeys()
 {
     const QVariantMap map = presetOf(
         readCatalogue(sources({file("Audio", {group("MP3", {audioBlocks}, {preset("1")})})})),
@@ -218,7 +218,7 @@ void tst_CatalogueReader::audioOnlyPresetsHaveNoVideoKeys()
                                       QStringLiteral("title")}));
 }
 
-void tst_CatalogueReader::presetsWithoutAudioHaveEmptyAudioMaps()
+void TestCatalogueReader::presetsWithoutAudioHaveEmptyAudioMaps()
 {
     const CatalogueResult result =
         readCatalogue(sources({file("Video", {group("GIF", {videoBlocks}, {preset("1")})})}));
@@ -229,7 +229,7 @@ void tst_CatalogueReader::presetsWithoutAudioHaveEmptyAudioMaps()
     QVERIFY(map.contains(QStringLiteral("videoParam")));
 }
 
-void tst_CatalogueReader::namedListsStandForTheirValues()
+void TestCatalogueReader::namedListsStandForTheirValues()
 {
     const CatalogueResult result = readCatalogue(
         sources({file("Video",
@@ -241,7 +241,7 @@ void tst_CatalogueReader::namedListsStandForTheirValues()
              QVariant(QVariantList{0, 24, 25}));
 }
 
-void tst_CatalogueReader::namesAreKnownInLaterFiles()
+void TestCatalogueReader::namesAreKnownInLaterFiles()
 {
     const QByteArray names = R"("template": "mono", "audioOptions": { "channelList": "one" })";
     const CatalogueResult result = readCatalogue(sources(
@@ -253,7 +253,7 @@ void tst_CatalogueReader::namesAreKnownInLaterFiles()
     QCOMPARE(valueAt(map, "audioParam", "channel"), QVariant(1));
 }
 
-void tst_CatalogueReader::theLastDefinitionOfANameWins()
+void TestCatalogueReader::theLastDefinitionOfANameWins()
 {
     const QByteArray names = R"("template": "t", "audioOptions": { "channelList": "channels" })";
     const CatalogueResult result = readCatalogue(sources(
@@ -272,7 +272,7 @@ void tst_CatalogueReader::theLastDefinitionOfANameWins()
              QVariant(QStringLiteral("new")));
 }
 
-void tst_CatalogueReader::templatesOverrideTheGroupAndYieldToThePreset()
+void TestCatalogueReader::templatesOverrideTheGroupAndYieldToThePreset()
 {
     const CatalogueResult result = readCatalogue(sources({file(
         "Audio",
@@ -294,7 +294,7 @@ void tst_CatalogueReader::templatesOverrideTheGroupAndYieldToThePreset()
     QVERIFY(!map.contains(QStringLiteral("template")));
 }
 
-void tst_CatalogueReader::aGroupCanHaveATemplateToo()
+void TestCatalogueReader::aGroupCanHaveATemplateToo()
 {
     const CatalogueResult result = readCatalogue(
         sources({file("Audio",
@@ -312,7 +312,7 @@ void tst_CatalogueReader::aGroupCanHaveATemplateToo()
     QCOMPARE(valueAt(second, "audioParam", "bitrateKbps"), QVariant(32));
 }
 
-void tst_CatalogueReader::unknownKeysOfATemplateArePassedThrough()
+void TestCatalogueReader::unknownKeysOfATemplateArePassedThrough()
 {
     const CatalogueResult result = readCatalogue(
         sources({file("Audio", {group("MP3", {audioBlocks}, {preset("1", R"("template": "t")")})},
@@ -320,7 +320,7 @@ void tst_CatalogueReader::unknownKeysOfATemplateArePassedThrough()
     QCOMPARE(presetOf(result, "Audio", "MP3").value(QStringLiteral("twoPass")), QVariant(true));
 }
 
-void tst_CatalogueReader::equalListsAreShared()
+void TestCatalogueReader::equalListsAreShared()
 {
     const CatalogueResult result = readCatalogue(sources(
         {file("Audio", {group("MP3", {audioBlocks},
@@ -341,7 +341,7 @@ void tst_CatalogueReader::equalListsAreShared()
     }
 }
 
-void tst_CatalogueReader::listsOfTextsAreNotSharedWithListsOfNumbers()
+void TestCatalogueReader::listsOfTextsAreNotSharedWithListsOfNumbers()
 {
     const CatalogueResult result = readCatalogue(sources({file(
         "Audio",
@@ -355,7 +355,7 @@ void tst_CatalogueReader::listsOfTextsAreNotSharedWithListsOfNumbers()
     QCOMPARE(channels.value(0).type(), QVariant::LongLong);
 }
 
-void tst_CatalogueReader::numbersStayNumbersAndTextsTexts()
+void TestCatalogueReader::numbersStayNumbersAndTextsTexts()
 {
     const QVariantMap map =
         presetOf(readCatalogue(sources(
@@ -369,7 +369,7 @@ void tst_CatalogueReader::numbersStayNumbersAndTextsTexts()
     QCOMPARE(frameRates.value(2).toString(), QStringLiteral("30"));
 }
 
-void tst_CatalogueReader::categoriesAreInOrderOfAppearance()
+void TestCatalogueReader::categoriesAreInOrderOfAppearance()
 {
     const CatalogueResult result = readCatalogue(
         sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
@@ -387,7 +387,7 @@ void tst_CatalogueReader::categoriesAreInOrderOfAppearance()
     QCOMPARE(result.catalogue.groups.value(QStringLiteral("Device")), QVariantList());
 }
 
-void tst_CatalogueReader::twoCategoriesCanHaveAGroupOfTheSameName()
+void TestCatalogueReader::twoCategoriesCanHaveAGroupOfTheSameName()
 {
     const CatalogueResult result =
         readCatalogue(sources({file("Video", {group("MP4", {audioBlocks}, {preset("1")})}),
@@ -399,7 +399,7 @@ void tst_CatalogueReader::twoCategoriesCanHaveAGroupOfTheSameName()
              QVariant(QStringLiteral("2")));
 }
 
-void tst_CatalogueReader::unreadableSourcesAreMistakesInTheirPlace()
+void TestCatalogueReader::unreadableSourcesAreMistakesInTheirPlace()
 {
     const QVector<CatalogueSource> three{{QStringLiteral("1"), ""},
                                          {QStringLiteral("2"), {}, QStringLiteral("why")},
@@ -410,14 +410,14 @@ void tst_CatalogueReader::unreadableSourcesAreMistakesInTheirPlace()
                             "3: the file must hold an object but holds a list"));
 }
 
-void tst_CatalogueReader::noSourcesMakeAnEmptyCatalogue()
+void TestCatalogueReader::noSourcesMakeAnEmptyCatalogue()
 {
     const CatalogueResult result = readCatalogue({});
     QCOMPARE(mistakesIn(result), QString());
     QVERIFY(result.catalogue.categories.isEmpty());
 }
 
-void tst_CatalogueReader::mistakesAreReportedWithTheirPlace_data()
+void TestCatalogueReader::mistakesAreReportedWithTheirPlace_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("error");
@@ -569,7 +569,7 @@ void tst_CatalogueReader::mistakesAreReportedWithTheirPlace_data()
         ": groups[0].videoOptions.levelList: must hold three bitrates: high, middle and low");
 }
 
-void tst_CatalogueReader::mistakesAreReportedWithTheirPlace()
+void TestCatalogueReader::mistakesAreReportedWithTheirPlace()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, error);
@@ -578,7 +578,7 @@ void tst_CatalogueReader::mistakesAreReportedWithTheirPlace()
              QStringLiteral("file1.json") + separator + error);
 }
 
-void tst_CatalogueReader::mistakesNameTheirSource()
+void TestCatalogueReader::mistakesNameTheirSource()
 {
     const QByteArray right = file("Video", {group("MP4", {audioBlocks}, {preset("1")})});
     QCOMPARE(mistakesIn(readCatalogue(sources(
@@ -588,7 +588,7 @@ void tst_CatalogueReader::mistakesNameTheirSource()
                  "file3.json: groups[0].presets[0].id: \"1\" is already the id of another preset"));
 }
 
-void tst_CatalogueReader::mistakesAreLeftOutAndTheRestIsServed_data()
+void TestCatalogueReader::mistakesAreLeftOutAndTheRestIsServed_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<int>("mistakes");
@@ -648,7 +648,7 @@ void tst_CatalogueReader::mistakesAreLeftOutAndTheRestIsServed_data()
         1, "MP4: 2");
 }
 
-void tst_CatalogueReader::mistakesAreLeftOutAndTheRestIsServed()
+void TestCatalogueReader::mistakesAreLeftOutAndTheRestIsServed()
 {
     QFETCH(QByteArray, json);
     QFETCH(int, mistakes);
@@ -671,7 +671,7 @@ void tst_CatalogueReader::mistakesAreLeftOutAndTheRestIsServed()
     QCOMPARE(groups.join(QStringLiteral("; ")), served);
 }
 
-void tst_CatalogueReader::unknownKeysAreReportedButServed()
+void TestCatalogueReader::unknownKeysAreReportedButServed()
 {
     const CatalogueResult result = readCatalogue(sources(
         {R"({ "category": "Audio", "note": 1, "groups": [{ "name": "MP3", "extension": "x", "mux": 2,)" +
@@ -685,7 +685,7 @@ void tst_CatalogueReader::unknownKeysAreReportedButServed()
     QCOMPARE(valueAt(presetOf(result, "Audio", "MP3"), "audioParam", "vbr"), QVariant(4));
 }
 
-void tst_CatalogueReader::everyKeyOfTheSchemaIsKnown()
+void TestCatalogueReader::everyKeyOfTheSchemaIsKnown()
 {
     QFile schemaFile(QStringLiteral(VEX_CATALOGUE_FOLDER "/catalogue.schema.json"));
     QVERIFY(schemaFile.open(QIODevice::ReadOnly));
@@ -720,7 +720,7 @@ void tst_CatalogueReader::everyKeyOfTheSchemaIsKnown()
     QCOMPARE(mistakesIn(result, true), QString());
 }
 
-void tst_CatalogueReader::thePlacesOfValuesAreKnown_data()
+void TestCatalogueReader::thePlacesOfValuesAreKnown_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("place");
@@ -737,7 +737,7 @@ void tst_CatalogueReader::thePlacesOfValuesAreKnown_data()
     row("nowhere", "videoParam.encoder", " ");
 }
 
-void tst_CatalogueReader::thePlacesOfValuesAreKnown()
+void TestCatalogueReader::thePlacesOfValuesAreKnown()
 {
     QFETCH(QString, key);
     QFETCH(QString, place);
@@ -756,6 +756,6 @@ void tst_CatalogueReader::thePlacesOfValuesAreKnown()
     QCOMPARE(group.source + QLatin1Char(' ') + group.path, QStringLiteral("file2.json groups[0]"));
 }
 
-QTEST_GUILESS_MAIN(tst_CatalogueReader)
+QTEST_GUILESS_MAIN(TestCatalogueReader)
 
 #include "tst_cataloguereader.moc"

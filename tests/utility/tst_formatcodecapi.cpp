@@ -87,11 +87,11 @@ QVariantMap groupOf(const QString &category, const QString &name)
 
 } // namespace
 
-class tst_FormatCodecApi : public QObject
+class TestFormatCodecApi : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void thereIsOneInstance();
     void builtInCategoriesComeInTheOrderOfTheScreens();
     void unknownCategoriesHaveNoGroups_data();
@@ -119,20 +119,20 @@ private slots:
     void whatMayNotBeReadIsReported();
 };
 
-void tst_FormatCodecApi::thereIsOneInstance()
+void TestFormatCodecApi::thereIsOneInstance()
 {
     QVERIFY(FormatCodecApi::getInstance());
     QCOMPARE(FormatCodecApi::getInstance(), FormatCodecApi::getInstance());
 }
 
-void tst_FormatCodecApi::builtInCategoriesComeInTheOrderOfTheScreens()
+void TestFormatCodecApi::builtInCategoriesComeInTheOrderOfTheScreens()
 {
     QCOMPARE(FormatCodecApi::getInstance()->getExportCategoryLists(),
              QVariantList({QStringLiteral("Video"), QStringLiteral("Audio"),
                            QStringLiteral("Device"), QStringLiteral("SocialVideo")}));
 }
 
-void tst_FormatCodecApi::unknownCategoriesHaveNoGroups_data()
+void TestFormatCodecApi::unknownCategoriesHaveNoGroups_data()
 {
     QTest::addColumn<QString>("category");
     QTest::newRow("empty") << QString();
@@ -141,13 +141,13 @@ void tst_FormatCodecApi::unknownCategoriesHaveNoGroups_data()
     QTest::newRow("name of a group") << QStringLiteral("MP4");
 }
 
-void tst_FormatCodecApi::unknownCategoriesHaveNoGroups()
+void TestFormatCodecApi::unknownCategoriesHaveNoGroups()
 {
     QFETCH(QString, category);
     QCOMPARE(FormatCodecApi::getInstance()->getExportGroupLists(category), QVariantList());
 }
 
-void tst_FormatCodecApi::deliveredGroupsHavePresets()
+void TestFormatCodecApi::deliveredGroupsHavePresets()
 {
     FormatCodecApi *const api = FormatCodecApi::getInstance();
     for (const QVariant &category : api->getExportCategoryLists()) {
@@ -160,7 +160,7 @@ void tst_FormatCodecApi::deliveredGroupsHavePresets()
     }
 }
 
-void tst_FormatCodecApi::groupsAreFoundByCategoryAndName()
+void TestFormatCodecApi::groupsAreFoundByCategoryAndName()
 {
     QVariantMap group = groupOf(QStringLiteral("Video"), QStringLiteral("MP4"));
     const QVariantList presets = FormatCodecApi::getInstance()->getExportGroupContents(group);
@@ -170,7 +170,7 @@ void tst_FormatCodecApi::groupsAreFoundByCategoryAndName()
     QCOMPARE(FormatCodecApi::getInstance()->getExportGroupContents(group), presets);
 }
 
-void tst_FormatCodecApi::unknownGroupsHaveNoPresets_data()
+void TestFormatCodecApi::unknownGroupsHaveNoPresets_data()
 {
     const QString category = QStringLiteral("category");
     const QString name = QStringLiteral("name");
@@ -186,13 +186,13 @@ void tst_FormatCodecApi::unknownGroupsHaveNoPresets_data()
         << QVariantMap{{category, QVariantList()}, {name, QVariantMap()}};
 }
 
-void tst_FormatCodecApi::unknownGroupsHaveNoPresets()
+void TestFormatCodecApi::unknownGroupsHaveNoPresets()
 {
     QFETCH(QVariantMap, group);
     QCOMPARE(FormatCodecApi::getInstance()->getExportGroupContents(group), QVariantList());
 }
 
-void tst_FormatCodecApi::everyCallDeliversTheSameData()
+void TestFormatCodecApi::everyCallDeliversTheSameData()
 {
     FormatCodecApi *const api = FormatCodecApi::getInstance();
     const QVariantMap group = groupOf(QStringLiteral("Video"), QStringLiteral("MP4"));
@@ -202,7 +202,7 @@ void tst_FormatCodecApi::everyCallDeliversTheSameData()
     QVERIFY(api->getExportGroupContents(group).isSharedWith(api->getExportGroupContents(group)));
 }
 
-void tst_FormatCodecApi::theDefaultPresetKeepsTheSource()
+void TestFormatCodecApi::theDefaultPresetKeepsTheSource()
 {
     const QVariantMap preset =
         FormatCodecApi::getInstance()
@@ -224,7 +224,7 @@ void tst_FormatCodecApi::theDefaultPresetKeepsTheSource()
                           {QStringLiteral("bitrateKbps"), 0}}));
 }
 
-void tst_FormatCodecApi::theVariableIsReadOnlyOnce()
+void TestFormatCodecApi::theVariableIsReadOnlyOnce()
 {
     const QByteArray before = servedCatalogue();
     qputenv(qPrintable(variable), "/nowhere");
@@ -233,14 +233,14 @@ void tst_FormatCodecApi::theVariableIsReadOnlyOnce()
     QCOMPARE(after, before);
 }
 
-void tst_FormatCodecApi::anEmptyVariableMeansTheBuiltInCatalogue()
+void TestFormatCodecApi::anEmptyVariableMeansTheBuiltInCatalogue()
 {
     const Served served = servedWith(QString());
     QCOMPARE(served.standardError, QByteArray());
     QCOMPARE(served.catalogue, servedCatalogue());
 }
 
-void tst_FormatCodecApi::aFileIsServedInsteadOfTheBuiltInCatalogue()
+void TestFormatCodecApi::aFileIsServedInsteadOfTheBuiltInCatalogue()
 {
     const QTemporaryDir folder;
     write(folder.path(), {{QStringLiteral("größe.cat"), catalogue("Mine", "ÄÖ", "1")}});
@@ -249,7 +249,7 @@ void tst_FormatCodecApi::aFileIsServedInsteadOfTheBuiltInCatalogue()
     QCOMPARE(served.catalogue, QByteArray("Mine ÄÖ 1\n"));
 }
 
-void tst_FormatCodecApi::aRelativePathStartsAtTheWorkingDirectory()
+void TestFormatCodecApi::aRelativePathStartsAtTheWorkingDirectory()
 {
     const QTemporaryDir folder;
     write(folder.path(), {{QStringLiteral("own.json"), catalogue("Mine", "A", "1")}});
@@ -258,7 +258,7 @@ void tst_FormatCodecApi::aRelativePathStartsAtTheWorkingDirectory()
     QCOMPARE(servedWith(QStringLiteral("."), folder.path()).catalogue, QByteArray("Mine A 1\n"));
 }
 
-void tst_FormatCodecApi::aFolderIsServedInTheOrderOfItsFileNames()
+void TestFormatCodecApi::aFolderIsServedInTheOrderOfItsFileNames()
 {
     const QTemporaryDir folder;
     write(folder.path(), {{QStringLiteral("b.json"), catalogue("B", "G", "2")},
@@ -272,7 +272,7 @@ void tst_FormatCodecApi::aFolderIsServedInTheOrderOfItsFileNames()
     QCOMPARE(served.catalogue, QByteArray("C G 1\nB G 2\nA G 3\n"));
 }
 
-void tst_FormatCodecApi::aCategoryCanSpanSeveralFiles()
+void TestFormatCodecApi::aCategoryCanSpanSeveralFiles()
 {
     const QTemporaryDir folder;
     write(folder.path(), {{QStringLiteral("1.json"), catalogue("Video", "MP4", "1")},
@@ -283,14 +283,14 @@ void tst_FormatCodecApi::aCategoryCanSpanSeveralFiles()
 }
 
 // So a copy of the folder can be the start of a custom catalogue.
-void tst_FormatCodecApi::theFilesOfTheBuiltInCatalogueServeItToo()
+void TestFormatCodecApi::theFilesOfTheBuiltInCatalogueServeItToo()
 {
     const Served served = servedWith(QStringLiteral(VEX_CATALOGUE_FOLDER));
     QCOMPARE(served.standardError, QByteArray());
     QCOMPARE(served.catalogue, servedCatalogue());
 }
 
-void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
+void TestFormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
 {
     // "@" stands for the temporary folder.
     QTest::addColumn<Files>("files");
@@ -339,7 +339,7 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine_data()
         << QStringLiteral("@/%1%2: cannot be read: No such file or directory");
 }
 
-void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine()
+void TestFormatCodecApi::whatCannotBeServedIsReportedInOneLine()
 {
     QFETCH(Files, files);
     QFETCH(QString, path);
@@ -357,7 +357,7 @@ void tst_FormatCodecApi::whatCannotBeServedIsReportedInOneLine()
     QCOMPARE(served.catalogue, servedCatalogue());
 }
 
-void tst_FormatCodecApi::validPresetsAreServedDespiteMistakes_data()
+void TestFormatCodecApi::validPresetsAreServedDespiteMistakes_data()
 {
     QTest::addColumn<Files>("files");
     QTest::addColumn<QString>("report");
@@ -381,7 +381,7 @@ void tst_FormatCodecApi::validPresetsAreServedDespiteMistakes_data()
         << QString();
 }
 
-void tst_FormatCodecApi::validPresetsAreServedDespiteMistakes()
+void TestFormatCodecApi::validPresetsAreServedDespiteMistakes()
 {
     QFETCH(Files, files);
     QFETCH(QString, report);
@@ -395,7 +395,7 @@ void tst_FormatCodecApi::validPresetsAreServedDespiteMistakes()
              report.isEmpty() ? report : QStringLiteral("VEX_EXPORT_CATALOGUE: ") + report);
 }
 
-void tst_FormatCodecApi::pathsThatAreNotFilesAreReported_data()
+void TestFormatCodecApi::pathsThatAreNotFilesAreReported_data()
 {
     QTest::addColumn<bool>("isPipe");
     QTest::addColumn<QString>("reason");
@@ -404,7 +404,7 @@ void tst_FormatCodecApi::pathsThatAreNotFilesAreReported_data()
         << false << QStringLiteral("cannot be read: No such file or directory");
 }
 
-void tst_FormatCodecApi::pathsThatAreNotFilesAreReported()
+void TestFormatCodecApi::pathsThatAreNotFilesAreReported()
 {
     QFETCH(bool, isPipe);
     QFETCH(QString, reason);
@@ -424,7 +424,7 @@ void tst_FormatCodecApi::pathsThatAreNotFilesAreReported()
     }
 }
 
-void tst_FormatCodecApi::whatMayNotBeReadIsReported_data()
+void TestFormatCodecApi::whatMayNotBeReadIsReported_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
@@ -434,7 +434,7 @@ void tst_FormatCodecApi::whatMayNotBeReadIsReported_data()
                             << QStringLiteral("the folder cannot be read");
 }
 
-void tst_FormatCodecApi::whatMayNotBeReadIsReported()
+void TestFormatCodecApi::whatMayNotBeReadIsReported()
 {
     QFETCH(QString, path);
     QFETCH(QString, reason);
@@ -468,7 +468,7 @@ int main(int argc, char *argv[])
         return std::fwrite(served.constData(), 1, size, stdout) == size ? 0 : 1;
     }
     qunsetenv(qPrintable(variable));
-    tst_FormatCodecApi test;
+    TestFormatCodecApi test;
     return QTest::qExec(&test, argc, argv);
 }
 
