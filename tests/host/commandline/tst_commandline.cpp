@@ -75,11 +75,11 @@ void TestCommandLine::aWrongCallIsExplained_data()
         "there is no tag \"bogus\"; choose one of video, audio, device, socialvideo");
     row("formats --tag recently", "there is no tag \"recently\"");
     row("search", "give one text to search for");
-    row("presets", "name one format");
-    row("presets MP4 MKV", "name one format");
+    row("presets", "give one format");
+    row("presets MP4 MKV", "give one format");
     row("presets bogus", "there is no format \"bogus\"; \"vexconvert formats\" lists them, "
                          "\"vexconvert search TEXT\" finds one");
-    row("show", "name one preset");
+    row("show", "give one preset id");
     row("show bogus", "no preset has the id \"bogus\"; \"vexconvert search TEXT\"");
     row("fit --type image --format MP4 --target 1", "--type must be \"video\" or \"audio\"");
     row("fit --type video --target 1x1", "--format is missing");
