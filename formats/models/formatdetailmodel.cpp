@@ -29,7 +29,7 @@ QVariant FormatDetailModel::data(const QModelIndex &index, int role) const
 {
     const PresetFields::Field *field = PresetFields::ofRole(role);
     if (!field || !hasRow(index.row())) {
-        return QVariant();
+        return {};
     }
     return PresetFields::read(*m_rows.at(index.row()), field->member);
 }

@@ -61,7 +61,7 @@ QVariant FormatListModel::data(const QModelIndex &index, int role) const
 {
     const Field *field = fieldOfRole(role);
     if (!field || !hasRow(index.row())) {
-        return QVariant();
+        return {};
     }
     return m_rows.at(index.row())->*field->member;
 }

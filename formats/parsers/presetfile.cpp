@@ -82,7 +82,7 @@ QJsonArray read(const char *operation, const char *openFailure, const QString &p
         qDebug() << operation << "-->strJson is empty!";
         return {};
     }
-    const QJsonArray elements = QJsonDocument::fromJson(json).array();
+    QJsonArray elements = QJsonDocument::fromJson(json).array();
     if (elements.isEmpty()) {
         qDebug() << operation << "-->varJson is null!";
     }

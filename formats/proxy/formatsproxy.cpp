@@ -138,7 +138,7 @@ QString FormatsProxy::addUserDefineFormat(const QString & /*tagName*/, const QSt
     FormatDetailModel *presets = d->catalogue().formatDetailModel(className);
     FormatDetailModelData preset;
     if (!presets || !presets->getModelInfoById(id, preset)) {
-        return QString();
+        return {};
     }
     UserPresets::applyValues(preset, param);
     UserPresets::applyId(preset, QString::number(presets->getIdIndex() + 1));
@@ -184,7 +184,7 @@ QVariantMap FormatsProxy::getFormat(const QString &id) const
 {
     const QVariantMap place = getTagAndClassById(id);
     if (place.isEmpty()) {
-        return QVariantMap();
+        return {};
     }
     return getFormat(place.value(QStringLiteral("tag")).toString(),
                      place.value(QStringLiteral("class")).toString(), id);
@@ -219,7 +219,7 @@ QVariantMap FormatsProxy::getTagAndClassById(const QString &id) const
     const QString tag = d->catalogue().getTagName(id);
     const QString className = d->catalogue().getGetClass(id);
     if (tag.isEmpty() || className.isEmpty()) {
-        return QVariantMap();
+        return {};
     }
     return {{QStringLiteral("tag"), tag}, {QStringLiteral("class"), className}};
 }
@@ -297,7 +297,7 @@ QMap<QString, QVariant> FormatsProxy::getConverterParameters(const QString &type
     const bool isVideo = type == QLatin1String("video");
     const bool isAudio = type == QLatin1String("audio");
     if (!isVideo && !isAudio) {
-        return QVariantMap();
+        return {};
     }
     QString name = format;
     if (!getSupportFormat(format)) {

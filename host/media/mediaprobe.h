@@ -5,7 +5,7 @@
 #include "host/tools/tool.h"
 
 /*! What a look into a file may take: any file that can be read takes far less. */
-constexpr ToolLimits probeLimits{32 * 1024 * 1024, 30000};
+constexpr ToolLimits probeLimits{32LL * 1024 * 1024, 30000};
 
 /*! Asks ffprobe what files hold, without waiting, one file after another. */
 class MediaProbe : public QObject

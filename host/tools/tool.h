@@ -15,8 +15,8 @@
 /*! Limits of a run; a tool that exceeds one is killed. */
 struct ToolLimits
 {
-    qint64 unreadBytes = 64 * 1024 * 1024; //!< of standard output, buffered until they are read
-    int milliseconds = 0;                  //!< from start to end; 0: unlimited
+    qint64 unreadBytes = 64LL * 1024 * 1024; //!< of standard output, buffered until they are read
+    int milliseconds = 0;                    //!< from start to end; 0: unlimited
 };
 
 /*! How a run of ffmpeg or ffprobe ended. */

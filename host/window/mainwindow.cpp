@@ -38,7 +38,7 @@ MainWindow::~MainWindow()
 
 Result<> MainWindow::open()
 {
-    const Result<> locked = m_store.lock(0);
+    Result<> locked = m_store.lock(0);
     if (!locked) {
         return locked;
     }
