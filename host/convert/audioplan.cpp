@@ -16,21 +16,99 @@ int wantedSampleRate(const AudioTrack &track, const StreamTarget &target)
     return wanted == 0 ? 0 : nearestAllowed(wanted, target.container.sampleRates);
 }
 
+/*! Never more than the source has, unless the container wants them. */
 int wantedChannels(const AudioTrack &track, const StreamTarget &target)
 {
     if (target.container.channels > 0) {
         return target.container.channels;
     }
-    return target.settings.channels > 0 ? target.settings.channels : track.channels;
+    const int asked = target.settings.channels;
+    const bool isFewer = asked > 0 && (asked < track.channels || track.channels == 0);
+    return isFewer ? asked : track.channels;
 }
 
-bool canBeCopied(const AudioTrack &track, const StreamTarget &target)
+bool isPcm(const QString &codec)
 {
-    return target.allowsCopies() && !target.container.hasSoundInFrames &&
-           target.settings.audioCodec.isEmpty() &&
-           target.container.audioCodecs.contains(track.codec) && target.settings.audioKbps == 0 &&
-           wantedSampleRate(track, target) == track.sampleRate &&
+    return codec.startsWith(QLatin1String("pcm_"));
+}
+
+bool isLossless(const AudioTrack &track)
+{
+    return track.bitsPerSample >= 16;
+}
+
+/*! The PCM of those held that keeps every bit of the track, in the order of bytes of \a like. */
+QString pcmAsDeep(const AudioTrack &track, const QString &like, const QStringList &held)
+{
+    const QString order = like.right(2);
+    const bool isFloat = track.sampleFormat.startsWith(QLatin1String("flt")) ||
+                         track.sampleFormat.startsWith(QLatin1String("dbl"));
+    QStringList deepEnough;
+    if (!isFloat && track.bitsPerSample <= 16) {
+        deepEnough << QStringLiteral("pcm_s16");
+    }
+    if (!isFloat && track.bitsPerSample <= 24) {
+        deepEnough << QStringLiteral("pcm_s24");
+    }
+    if (isFloat) {
+        deepEnough << QStringLiteral("pcm_f32");
+    }
+    // The best there is, where nothing is deep enough.
+    deepEnough << QStringLiteral("pcm_s32") << QStringLiteral("pcm_s24");
+    for (const QString &pcm : qAsConst(deepEnough)) {
+        if (held.contains(pcm + order)) {
+            return pcm + order;
+        }
+    }
+    return like;
+}
+
+/*! A lossless codec for a lossless track whose own codec the container doesn't hold; empty where it
+ *  holds none. */
+QString losslessCodec(const AudioTrack &track, const QStringList &held)
+{
+    const QString flac = QStringLiteral("flac");
+    if (!isPcm(track.codec) && held.contains(flac)) {
+        return flac;
+    }
+    const auto pcm = std::find_if(held.begin(), held.end(), isPcm);
+    return pcm == held.end() ? QString() : pcmAsDeep(track, *pcm, held);
+}
+
+/*! The codec that the preset means for the track; empty: the source's, or the usual one. */
+QString wantedCodec(const AudioTrack &track, const StreamTarget &target)
+{
+    const QStringList &held = target.container.audioCodecs;
+    const QString chosen = target.settings.audioCodec;
+    if (!isLossless(track)) {
+        return chosen;
+    }
+    if (chosen.isEmpty() && !held.contains(track.codec)) {
+        return losslessCodec(track, held);
+    }
+    // A film's preset says PCM, of which 16 bits are only the usual ones.
+    const bool isDeeper = target.settings.hasVideo && track.bitsPerSample > 16;
+    return isDeeper && chosen.startsWith(QLatin1String("pcm_s16")) ? pcmAsDeep(track, chosen, held)
+                                                                   : chosen;
+}
+
+bool canBeCopied(const AudioTrack &track, const QString &wanted, const StreamTarget &target)
+{
+    const bool isOwnCodec = wanted.isEmpty() ? target.container.audioCodecs.contains(track.codec)
+                                             : wanted == track.codec;
+    return target.allowsAudioCopy() && !target.container.hasSoundInFrames && isOwnCodec &&
+           target.settings.audioKbps == 0 && wantedSampleRate(track, target) == track.sampleRate &&
            wantedChannels(track, target) == track.channels;
+}
+
+/*! The layout that the encoder is to get instead of the track's; empty: none. */
+QString layoutToWrite(const AudioTrack &track, const AudioCodec &codec, int channels)
+{
+    // Side and back speakers are one pair there.
+    const QString atSides = QStringLiteral("(side)");
+    const bool isOther =
+        channels == track.channels && !codec.knowsSideSpeakers && track.layout.endsWith(atSides);
+    return isOther ? track.layout.chopped(atSides.size()) : QString();
 }
 
 /*! The bitrate that the encoder is to be given, closest to what is asked; 0 where its quality says
@@ -55,12 +133,13 @@ double encodedKbps(const AudioCodec &codec, double asked, int sampleRate, int ch
 
 Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &target)
 {
-    if (canBeCopied(track, target)) {
+    const QString wantedName = wantedCodec(track, target);
+    if (canBeCopied(track, wantedName, target)) {
         return AudioPlan{QStringLiteral("copy")};
     }
-    const AudioCodec codec = audioCodec(codecToWrite(target.settings.audioCodec, track.codec,
-                                                     audioCodec(track.codec).encoderNames(),
-                                                     target.container.audioCodecs, target));
+    const AudioCodec codec =
+        audioCodec(codecToWrite(wantedName, track.codec, audioCodec(track.codec).encoderNames(),
+                                target.container.audioCodecs, target));
     const Result<QString> encoder = availableEncoder(codec.encoderNames(), codec.name, target);
     if (!encoder) {
         return tl::make_unexpected(encoder.error());
@@ -73,6 +152,7 @@ Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &t
     plan.sampleRate = sampleRate == track.sampleRate ? 0 : sampleRate;
     // Channels without a layout get the usual one of their number.
     plan.channels = channels == track.channels && !track.layout.isEmpty() ? 0 : channels;
+    plan.layout = layoutToWrite(track, codec, channels);
     plan.kbps = encodedKbps(codec, target.settings.audioKbps, sampleRate, channels);
     plan.quality = codec.quality;
     plan.isPadded = target.container.hasSoundInFrames;
@@ -88,6 +168,10 @@ QStringList AudioPlan::arguments(int position) const
     }
     if (channels > 0) {
         format.append({QStringLiteral("ac"), QString::number(channels)});
+    }
+    if (!layout.isEmpty()) {
+        format.append(
+            {QStringLiteral("filter"), QStringLiteral("aformat=channel_layouts=%1").arg(layout)});
     }
     QStringList arguments = toArguments(format, stream);
     if (isPadded) {

@@ -8,10 +8,11 @@
 /*! How ffmpeg is to write a track of sound. */
 struct AudioPlan
 {
-    QString encoder;    //!< "copy" takes the stream over as it is
-    int sampleRate = 0; //!< Hz; 0: the source's
-    int channels = 0;   //!< 0: the source's
-    double kbps = 0;    //!< 0: as good as the quality says
+    QString encoder;     //!< "copy" takes the stream over as it is
+    int sampleRate = 0;  //!< Hz; 0: the source's
+    int channels = 0;    //!< 0: the source's
+    QString layout = {}; //!< empty: the source's, or the usual one
+    double kbps = 0;     //!< 0: as good as the quality says
     ToolOptions quality = {};
     bool isPadded = false; //!< comes a frame early, with silence behind it
 

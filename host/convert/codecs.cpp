@@ -70,6 +70,11 @@ public:
         maxChannels = channels;
         return *this;
     }
+    Audio withoutSideSpeakers()
+    {
+        knowsSideSpeakers = false;
+        return *this;
+    }
     Audio at(const QVector<int> &hertz)
     {
         sampleRates = hertz;
@@ -174,7 +179,7 @@ QVector<AudioCodec> makeAudioCodecs()
     const QVector<double> wmaKbps = {24, 32, 40, 48, 64, 80, 96, 128, 160, 192, 256, 320};
     return {
         Audio("aac").writtenBy("aac").at(upTo96000).withAnyBitrate().goodAt(96)
-            .bitsPerSampleAtMost(6),
+            .withoutSideSpeakers().bitsPerSampleAtMost(6),
         Audio("mp3").writtenBy("libmp3lame").upTo(2).at(upTo48000).withBitrates(mp3Kbps)
             .goodWith("q", "2"),
         // Below 32000 Hz layer 2 has other bitrates, and few players.
@@ -187,7 +192,7 @@ QVector<AudioCodec> makeAudioCodecs()
         Audio("vorbis").writtenBy("libvorbis").at(upTo48000).withAnyBitrate().goodWith("q", "6")
             .bitsPerSampleAtMost(3.9).bitsPerSampleAtLeast(0.75, 1.1),
         Audio("opus").writtenBy("libopus").at({8000, 12000, 16000, 24000, 48000}).withAnyBitrate()
-            .goodAt(64).bitsPerSampleAtMost(5.3).bitsPerSampleAtLeast(0.1, 0.1),
+            .goodAt(64).withoutSideSpeakers().bitsPerSampleAtMost(5.3).bitsPerSampleAtLeast(0.1, 0.1),
         Audio("speex").writtenBy("libspeex").upTo(2).at({8000, 16000, 32000}).withAnyBitrate(),
         Audio("wmav1").writtenBy("wmav1").upTo(2).at(wma).withBitrates(wmaKbps).goodAt(96),
         Audio("wmav2").writtenBy("wmav2").upTo(2).at(wma).withBitrates(wmaKbps).goodAt(96),

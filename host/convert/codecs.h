@@ -46,6 +46,7 @@ struct AudioCodec
     QStringList encoders = {};
     int maxChannels = 8;
     QVector<int> sampleRates = {}; //!< Hz, ascending
+    bool knowsSideSpeakers = true; //!< as others than the ones at the back
     int kbpsPerChannel = 0;        //!< good quality; 0: \a quality says it, or it's lossless
     ToolOptions quality = {};      //!< given when no bitrate is asked for
     bool takesBitrate = false;

@@ -67,6 +67,11 @@ public:
         tagsHevcAsHvc1 = true;
         return *this;
     }
+    Files withoutTimeStamps()
+    {
+        hasTimeStamps = false;
+        return *this;
+    }
     Files withSoundInFrames()
     {
         hasSoundInFrames = true;
@@ -91,7 +96,7 @@ QVector<Container> makeContainers()
     const QStringList mp4Audio = list("aac mp3 ac3 eac3 alac opus mp2");
     const QStringList movVideo = list("h264 hevc mpeg4 prores dnxhd mjpeg dvvideo mpeg2video");
     const QStringList movAudio = list("aac alac ac3 eac3 mp3 mp2 pcm_s16le pcm_s24le pcm_s32le "
-                                      "pcm_f32le pcm_s16be pcm_s24be");
+                                      "pcm_f32le pcm_s16be pcm_s24be pcm_s32be pcm_f32be");
     const QStringList mkvVideo = list("h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video theora "
                                       "mjpeg wmv1 wmv2 msmpeg4v3 msmpeg4v2 flv1 prores dnxhd "
                                       "dvvideo ffv1");
@@ -119,7 +124,8 @@ QVector<Container> makeContainers()
         Files("mov").indexedFirst().holding(movVideo, movAudio).inSeveralTracks()
             .withRotation().withHvc1(),
         Files("mkv").writtenBy("matroska").holding(mkvVideo, mkvAudio).inSeveralTracks(),
-        Files("avi").holding(aviVideo, list("mp3 ac3 mp2 pcm_s16le aac")).inSeveralTracks(),
+        Files("avi").holding(aviVideo, list("mp3 ac3 mp2 pcm_s16le aac")).inSeveralTracks()
+            .withoutTimeStamps(),
         Files("webm").holding(list("vp9 vp8 av1"), list("opus vorbis")).inSeveralTracks(),
         Files("wmv asf").writtenBy("asf").holding(asfVideo, asfAudio).inSeveralTracks(),
         Files("mpg mpeg").writtenBy("mpeg").holding(programVideo, list("mp2 ac3 mp3"))
@@ -145,9 +151,12 @@ QVector<Container> makeContainers()
             .holdingSound(list("aac alac")).withCover(),
         Files("flac").holdingSound(list("flac")).withCover(),
         Files("wav").holdingSound(wavAudio),
-        Files("aiff aif").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_s16le")),
-        Files("au").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_mulaw pcm_alaw")),
-        Files("caf").holdingSound(list("pcm_s16le pcm_s24le pcm_s16be alac aac opus flac")),
+        Files("aiff aif").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be "
+                                           "pcm_s16le")),
+        Files("au").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be pcm_mulaw "
+                                    "pcm_alaw")),
+        Files("caf").holdingSound(list("pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_s16be pcm_s24be "
+                                     "alac aac opus flac")),
         Files("ogg").holdingSound(oggAudio),
         Files("oga").readBy("ogg").holdingSound(oggAudio),
         Files("opus").readBy("ogg").holdingSound(list("opus")),

@@ -20,6 +20,7 @@ struct Container
     bool takesCover = false;
     bool keepsRotation = false;    //!< holds the turn of a picture that players apply
     bool tagsHevcAsHvc1 = false;   //!< the form of hevc that all players of this container know
+    bool hasTimeStamps = true;     //!< else frames are shown in the order in which they are stored
     bool hasSoundInFrames = false; //!< a frame of the picture can't be written before its sound
     QVector<int> sampleRates = {}; //!< Hz, ascending
     int channels = 0;              //!< the only number allowed; 0: any

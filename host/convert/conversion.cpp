@@ -1,5 +1,6 @@
 #include "host/convert/conversion.h"
 
+#include "host/convert/copycheck.h"
 #include "host/convert/ffmpegarguments.h"
 
 #include <QDir>
@@ -18,6 +19,9 @@ bool isSameFile(const QString &one, const QString &other)
     return std::filesystem::equivalent(QFile::encodeName(one).toStdString(),
                                        QFile::encodeName(other).toStdString(), missing);
 }
+
+/*! For the frames of a second, of whatever size. */
+constexpr ToolLimits frameLimits{1024 * 1024, 120000};
 
 /*! ffmpeg's exit code says nothing about the last bytes of the file; its errors do. */
 bool wroteAll(const ToolRun &run)
@@ -39,8 +43,9 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
             Q_EMIT progressed(m_progress.progress());
         }
     });
-    connect(&m_ffmpeg, &Tool::finished, this, &Conversion::checkResult);
-    connect(&m_resultProbe, &MediaProbe::finished, this, &Conversion::publish);
+    connect(&m_ffmpeg, &Tool::finished, this, &Conversion::checkRun);
+    connect(&m_resultProbe, &MediaProbe::finished, this, &Conversion::checkResult);
+    connect(&m_frameList, &Tool::finished, this, &Conversion::compareFrames);
 }
 
 void Conversion::start()
@@ -60,6 +65,7 @@ void Conversion::cancel()
     m_encoders.stop();
     m_ffmpeg.stop();
     m_resultProbe.stop();
+    m_frameList.stop();
 }
 
 void Conversion::listEncoders(const Result<MediaFacts> &source)
@@ -78,9 +84,7 @@ void Conversion::convertWith(const Result<QSet<QString>> &encoders)
         fail(encoders.error());
         return;
     }
-    const auto argumentsFor = [this, &encoders](const QString &target) {
-        return ffmpegArguments(m_job.settings, m_source, *encoders, m_job.source, target);
-    };
+    m_encoderNames = *encoders;
     const QString replaced = fileToReplace();
     const QString target =
         replaced.isEmpty() ? freeName(folder(), baseName(), m_job.settings.extension) : replaced;
@@ -98,11 +102,23 @@ void Conversion::convertWith(const Result<QSet<QString>> &encoders)
         fail(created.error());
         return;
     }
-    m_progress = ProgressReader(m_job.settings.cutDuration(m_source.duration));
-    m_ffmpeg.start(ffmpegCall(*argumentsFor(m_pending.path())));
+    m_firstCopies = copiesIn(*planned);
+    m_copies = m_firstCopies;
+    runFfmpeg();
 }
 
-void Conversion::checkResult(const Result<ToolRun> &run)
+void Conversion::runFfmpeg()
+{
+    const Result<QStringList> arguments = argumentsFor(m_pending.path());
+    if (!arguments) {
+        fail(arguments.error());
+        return;
+    }
+    m_progress = ProgressReader(expectedDuration());
+    m_ffmpeg.start(ffmpegCall(*arguments));
+}
+
+void Conversion::checkRun(const Result<ToolRun> &run)
 {
     if (!run) {
         fail(run.error());
@@ -110,23 +126,61 @@ void Conversion::checkResult(const Result<ToolRun> &run)
         fail({tr("the disk with %1 is full; free some space or choose another folder")
                   .arg(QDir::toNativeSeparators(folder()))});
     } else if (!wroteAll(*run)) {
+        if (retryWithFewerCopies()) {
+            return;
+        }
         fail({tr("ffmpeg couldn't convert it (%1); check the file or try another preset")
                   .arg(run->firstError())});
     } else {
+        m_hadErrors = !run->errors.isEmpty();
         m_resultProbe.start(m_pending.path());
     }
 }
 
-void Conversion::publish(const Result<MediaFacts> &result)
+void Conversion::checkResult(const Result<MediaFacts> &result)
 {
     if (!result && result.error().kind == Error::Cancelled) {
         fail(result.error());
         return;
     }
     if (!result || (m_job.settings.hasVideo && result->video() == nullptr)) {
-        fail({tr("ffmpeg wrote a file that can't be played; try another preset")});
+        if (!retryWithFewerCopies()) {
+            fail({tr("ffmpeg wrote a file that can't be played; try another preset")});
+        }
         return;
     }
+    m_result = *result;
+    const Copies lasting = copiesThatLast(m_copies, m_source, m_result, expectedDuration());
+    const bool isTooShort = m_result.duration < expectedDuration();
+    if (lasting != m_copies && !(isTooShort && m_hadErrors)) {
+        retryWith(lasting);
+    } else if (m_copies.video) {
+        m_sourceFrames.clear();
+        m_frameList.start(ffmpegCall(firstFramesArguments(m_source, m_job.source)), frameLimits);
+    } else {
+        publish();
+    }
+}
+
+void Conversion::compareFrames(const Result<ToolRun> &run)
+{
+    if (!run) {
+        fail(run.error());
+        return;
+    }
+    if (m_sourceFrames.isNull()) {
+        m_sourceFrames = run->output + '\n';
+        m_frameList.start(ffmpegCall(firstFramesArguments(m_result, m_pending.path())),
+                          frameLimits);
+    } else if (beginsAlike(m_sourceFrames, run->output)) {
+        publish();
+    } else {
+        retryWith({false, m_copies.audio});
+    }
+}
+
+void Conversion::publish()
+{
     const QString replaced = fileToReplace();
     const Result<QString> target =
         replaced.isEmpty() ? m_pending.publish(baseName(), m_job.settings.extension)
@@ -135,7 +189,33 @@ void Conversion::publish(const Result<MediaFacts> &result)
         fail(target.error());
         return;
     }
-    Q_EMIT finished(ConversionOutcome{*target, *result});
+    Q_EMIT finished(ConversionOutcome{*target, m_result});
+}
+
+Result<QStringList> Conversion::argumentsFor(const QString &target) const
+{
+    return ffmpegArguments(m_job.settings, m_source, m_encoderNames, m_job.source, target,
+                           m_copies);
+}
+
+double Conversion::expectedDuration() const
+{
+    return m_job.settings.cutDuration(m_source.duration);
+}
+
+bool Conversion::retryWithFewerCopies()
+{
+    const bool canRetry = m_copies.video || m_copies.audio;
+    if (canRetry) {
+        retryWith(fewerCopies(m_firstCopies, m_copies));
+    }
+    return canRetry;
+}
+
+void Conversion::retryWith(const Copies &copies)
+{
+    m_copies = copies;
+    runFfmpeg();
 }
 
 QString Conversion::folder() const

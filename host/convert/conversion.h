@@ -1,6 +1,7 @@
 #ifndef CONVERT_CONVERSION_H
 #define CONVERT_CONVERSION_H
 
+#include "host/convert/encoderchoice.h"
 #include "host/convert/outputsettings.h"
 #include "host/convert/progress.h"
 #include "host/files/pendingfile.h"
@@ -58,8 +59,17 @@ Q_SIGNALS:
 private:
     void listEncoders(const Result<MediaFacts> &source);
     void convertWith(const Result<QSet<QString>> &encoders);
-    void checkResult(const Result<ToolRun> &run);
-    void publish(const Result<MediaFacts> &result);
+    void runFfmpeg();
+    void checkRun(const Result<ToolRun> &run);
+    void checkResult(const Result<MediaFacts> &result);
+    void compareFrames(const Result<ToolRun> &run);
+    void publish();
+
+    [[nodiscard]] Result<QStringList> argumentsFor(const QString &target) const;
+    [[nodiscard]] double expectedDuration() const;
+    /*! Encodes what can't be copied; false where nothing is left to try. */
+    bool retryWithFewerCopies();
+    void retryWith(const Copies &copies);
 
     QString folder() const;
     QString baseName() const;
@@ -69,12 +79,19 @@ private:
 
     const ConversionJob m_job;
     MediaFacts m_source;
-    PendingFile m_pending; // ffmpeg, below, stops before the file that it writes is removed
+    MediaFacts m_result;
+    QSet<QString> m_encoderNames;
+    Copies m_firstCopies; // of the first try
+    Copies m_copies;      // of the current one
+    bool m_hadErrors = false;
+    QByteArray m_sourceFrames; // those at the start, once known
+    PendingFile m_pending;     // ffmpeg, below, stops before the file that it writes is removed
     ProgressReader m_progress;
     MediaProbe m_sourceProbe;
     EncoderList m_encoders;
     Tool m_ffmpeg;
     MediaProbe m_resultProbe;
+    Tool m_frameList;
 };
 
 #endif

@@ -8,15 +8,29 @@
 #include <QSet>
 #include <QStringList>
 
+/*! The streams that are taken over as they are, or may be. */
+struct Copies
+{
+    bool video = true;
+    bool audio = true;
+
+    [[nodiscard]] bool operator!=(const Copies &other) const
+    {
+        return video != other.video || audio != other.audio;
+    }
+};
+
 /*! What a stream is written for. */
 struct StreamTarget
 {
     const OutputSettings &settings;
     const Container &container;
     const QSet<QString> &encoders; //!< those that ffmpeg has
+    Copies allowed = {};
 
     /*! Not where the start is cut off: a copied stream can begin only at a key frame. */
-    [[nodiscard]] bool allowsCopies() const { return settings.start <= 0; }
+    [[nodiscard]] bool allowsVideoCopy() const { return allowed.video && settings.start <= 0; }
+    [[nodiscard]] bool allowsAudioCopy() const { return allowed.audio && settings.start <= 0; }
 };
 
 /*! The name of the codec that the preset has \a chosen, else the source's \a own where \a held has

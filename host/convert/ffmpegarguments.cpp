@@ -14,6 +14,18 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(FfmpegArguments)
 };
 
+const QString copied = QStringLiteral("copy");
+
+/*! Has ffmpeg work out the time stamps that a copy needs and the source lacks. */
+QStringList timeArguments(const MediaFacts &source, const Copies &copies)
+{
+    const bool lacksTimes =
+        source.container == QLatin1String("avi") || source.container == QLatin1String("mpeg");
+    return copies.video && lacksTimes
+               ? QStringList{QStringLiteral("-fflags"), QStringLiteral("+genpts")}
+               : QStringList();
+}
+
 /*! The options in front of the source that keep the wanted part of it. */
 QStringList cutArguments(const OutputSettings &settings)
 {
@@ -94,7 +106,7 @@ Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget
     const VideoTrack *cover = source.cover();
     if (picture == nullptr && keepsCover(cover, target.container)) {
         map(cover->index);
-        codecs += toArguments({{QStringLiteral("c"), QStringLiteral("copy")},
+        codecs += toArguments({{QStringLiteral("c"), copied},
                                {QStringLiteral("disposition"), QStringLiteral("attached_pic")}},
                               QStringLiteral("v:0"));
     }
@@ -106,19 +118,34 @@ Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget
 
 Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaFacts &source,
                                     const QSet<QString> &encoders, const QString &sourcePath,
-                                    const QString &targetPath)
+                                    const QString &targetPath, Copies allowed)
 {
     const Result<> possible = settings.check();
     if (!possible) {
         return tl::make_unexpected(possible.error());
     }
     const Container &container = *Container::find(settings.extension);
-    const Result<QStringList> output = outputArguments(source, {settings, container, encoders});
+    const Result<QStringList> output =
+        outputArguments(source, {settings, container, encoders, allowed});
     if (!output) {
         return output;
     }
     return QStringList{QStringLiteral("-progress"), QStringLiteral("pipe:1"),
                        QStringLiteral("-y")} +
-           cutArguments(settings) + inputArguments(sourcePath, source.container) + *output +
+           cutArguments(settings) + timeArguments(source, copiesIn(*output)) +
+           inputArguments(sourcePath, source.container) + *output +
            QStringList{fileArgument(targetPath)};
+}
+
+Copies copiesIn(const QStringList &arguments)
+{
+    const auto isCopied = [&arguments](const QString &codecOption) {
+        for (int i = 0; i + 1 < arguments.size(); ++i) {
+            if (arguments.at(i).startsWith(codecOption) && arguments.at(i + 1) == copied) {
+                return true;
+            }
+        }
+        return false;
+    };
+    return {isCopied(QStringLiteral("-c:v:")), isCopied(QStringLiteral("-c:a:"))};
 }

@@ -1,6 +1,7 @@
 #ifndef CONVERT_FFMPEGARGUMENTS_H
 #define CONVERT_FFMPEGARGUMENTS_H
 
+#include "host/convert/encoderchoice.h"
 #include "host/convert/outputsettings.h"
 #include "host/error.h"
 #include "host/media/mediafacts.h"
@@ -10,13 +11,16 @@
 
 /*!
  * The arguments for ffmpegCall() that write \a source with \a settings, or why it can't be
- * converted so. \a encoders are the names of the encoders that ffmpeg has. Depends on nothing but
- * its arguments.
+ * converted so. \a encoders are the names of the encoders that ffmpeg has. Streams that may stay as
+ * they are get copied where \a allowed lets them. Depends on nothing but its arguments.
  */
 [[nodiscard]] Result<QStringList> ffmpegArguments(const OutputSettings &settings,
                                                   const MediaFacts &source,
                                                   const QSet<QString> &encoders,
                                                   const QString &sourcePath,
-                                                  const QString &targetPath);
+                                                  const QString &targetPath, Copies allowed = {});
+
+/*! Which streams these arguments copy. */
+[[nodiscard]] Copies copiesIn(const QStringList &arguments);
 
 #endif

@@ -42,10 +42,22 @@ bool canBeCopied(const VideoTrack &track, const StreamTarget &target)
 {
     const OutputSettings &settings = target.settings;
     const bool turnIsKept = track.rotation == 0 || target.container.keepsRotation;
-    return target.allowsCopies() && settings.videoCodec.isEmpty() &&
-           target.container.videoCodecs.contains(track.codec) && settings.videoKbps == 0 &&
+    const bool isOwnCodec = settings.videoCodec.isEmpty()
+                                ? target.container.videoCodecs.contains(track.codec)
+                                : settings.videoCodec == track.codec;
+    return target.allowsVideoCopy() && isOwnCodec && settings.videoKbps == 0 &&
            wantedRate(track, settings) == track.frameRate &&
            boxedSize(track, settings.box).isEmpty() && turnIsKept;
+}
+
+/*! What a copied stream needs in another container; empty: nothing. */
+QString copyFilter(const QString &codec, const Container &container)
+{
+    if (codec == QLatin1String("h264") && !container.hasTimeStamps) {
+        return QStringLiteral("h264_mp4toannexb");
+    }
+    // Only AVI players know two frames in one packet. Others pass the filter as they are.
+    return codec == QLatin1String("mpeg4") ? QStringLiteral("mpeg4_unpack_bframes") : QString();
 }
 
 QString scaleTo(const QSize &size)
@@ -128,6 +140,12 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
         planPicture(plan, track, codec, settings);
         planQuality(plan, codec, settings.videoKbps);
     }
+    if (isCopied) {
+        plan.bitstreamFilter = copyFilter(codec.name, target.container);
+    } else if (!target.container.hasTimeStamps && codec.name == QLatin1String("h264")) {
+        // Frames written ahead of their time would come late, each against its sound.
+        plan.options.append({QStringLiteral("bf"), QStringLiteral("0")});
+    }
     if (codec.name == QLatin1String("hevc") && target.container.tagsHevcAsHvc1) {
         plan.tag = QStringLiteral("hvc1");
     }
@@ -149,6 +167,9 @@ QStringList VideoPlan::arguments() const
     all += options;
     if (kbps > 0) {
         all.append({QStringLiteral("b"), kbpsText(kbps)});
+    }
+    if (!bitstreamFilter.isEmpty()) {
+        all.append({QStringLiteral("bsf"), bitstreamFilter});
     }
     if (!tag.isEmpty()) {
         all.append({QStringLiteral("tag"), tag});

@@ -10,11 +10,12 @@ struct VideoPlan
 {
     QString encoder; //!< "copy" takes the stream over as it is
     QStringList filters = {};
-    Ratio frameRate = {};     //!< not valid: as the frames come
-    QString pixelFormat = {}; //!< empty: the encoder's choice
-    ToolOptions options = {}; //!< the encoder's
-    double kbps = 0;          //!< 0: as good as the options say
-    QString tag = {};         //!< of the codec in the file; empty: the usual one
+    Ratio frameRate = {};         //!< not valid: as the frames come
+    QString pixelFormat = {};     //!< empty: the encoder's choice
+    ToolOptions options = {};     //!< the encoder's
+    double kbps = 0;              //!< 0: as good as the options say
+    QString bitstreamFilter = {}; //!< of a copy
+    QString tag = {};             //!< of the codec in the file; empty: the usual one
 
     /*! The plan for \a track. Depends on nothing but its arguments. */
     [[nodiscard]] static Result<VideoPlan> make(const VideoTrack &track,

@@ -114,6 +114,16 @@ const AudioTrack *MediaFacts::audio() const
     return defaultOrFirst(audioTracks, [](const AudioTrack &) { return true; });
 }
 
+bool MediaFacts::hasGuessedDuration() const
+{
+    static const QStringList withoutLength = {
+        QStringLiteral("aac"),    QStringLiteral("ac3"),       QStringLiteral("dts"),
+        QStringLiteral("eac3"),   QStringLiteral("h264"),      QStringLiteral("hevc"),
+        QStringLiteral("m4v"),    QStringLiteral("mp3"),       QStringLiteral("mpeg"),
+        QStringLiteral("mpegts"), QStringLiteral("mpegvideo"), QStringLiteral("truehd")};
+    return withoutLength.contains(container);
+}
+
 QString MediaFacts::summary() const
 {
     QStringList parts;

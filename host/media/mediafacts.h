@@ -34,6 +34,9 @@ public:
     [[nodiscard]] const VideoTrack *cover() const;
     /*! The track that a player would play; null when there is none. */
     [[nodiscard]] const AudioTrack *audio() const;
+    /*! Whether the file tells no length, so that it is guessed from its bytes or its last time
+     *  stamp. */
+    [[nodiscard]] bool hasGuessedDuration() const;
     /*! One line for people: "h264 1280x720 25 fps, aac 48000 Hz stereo, 0:10, 1.2 MB". */
     [[nodiscard]] QString summary() const;
 };

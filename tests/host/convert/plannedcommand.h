@@ -20,7 +20,7 @@ inline QSet<QString> usualEncoders()
         QStringLiteral("libx264 libx265 libvpx libvpx-vp9 libsvtav1 libaom-av1 mpeg4 mpeg2video "
                        "mpeg1video wmv2 flv libtheora prores dnxhd gif dvvideo msmpeg4 aac "
                        "libmp3lame mp2 ac3 flac alac libvorbis libopus wmav2 pcm_s16le pcm_s24le "
-                       "tta truehd")
+                       "pcm_s24be pcm_f32le tta truehd")
             .split(QLatin1Char(' '));
     for (const QString &name : names) {
         encoders.insert(name);

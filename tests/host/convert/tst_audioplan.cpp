@@ -9,6 +9,12 @@ class TestAudioPlan : public QObject
 private Q_SLOTS:
     void theSoundIsAsAskedAndAsItsCodecAllows_data();
     void theSoundIsAsAskedAndAsItsCodecAllows() { compareWithRow(); }
+    void itsOwnCodecIsCopiedUnlessSomethingElseIsAsked_data();
+    void itsOwnCodecIsCopiedUnlessSomethingElseIsAsked() { compareWithRow(); }
+    void losslessSoundKeepsItsBits_data();
+    void losslessSoundKeepsItsBits() { compareWithRow(); }
+    void theSpeakersAreThoseThatTheCodecKnows_data();
+    void theSpeakersAreThoseThatTheCodecKnows() { compareWithRow(); }
 };
 
 void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
@@ -82,8 +88,7 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
         with(audio("wav", "pcm_s24le"), [](OutputSettings &s) { s.audioKbps = 320; }),
         song(QStringLiteral("mp3")), "-map 0:0 -c:a:0 pcm_s24le -f wav");
     row("channels without a layout get the usual one", audio("m4a", "aac"),
-        facts(song(QStringLiteral("tta")),
-              [](MediaFacts &f) { f.audioTracks[0].layout.clear(); }),
+        facts(song(QStringLiteral("tta")), [](MediaFacts &f) { f.audioTracks[0].layout.clear(); }),
         "-map 0:0 -c:a:0 aac -ac:a:0 2 -b:a:0 192k -movflags +faststart -f ipod");
     row("unknown rate and channels are left to ffmpeg", audio("m4a", "aac"),
         song(QStringLiteral("mp3"), 0, 0), "-map 0:0 -c:a:0 aac -movflags +faststart -f ipod");
@@ -95,6 +100,83 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
     row("of two bitrates as near the higher one",
         with(audio("mp3", "mp3"), [](OutputSettings &s) { s.audioKbps = 36; }),
         song(QStringLiteral("flac")), "-map 0:0 -c:a:0 libmp3lame -b:a:0 40k -f mp3");
+}
+
+void TestAudioPlan::itsOwnCodecIsCopiedUnlessSomethingElseIsAsked_data()
+{
+    addColumns();
+    const OutputSettings mp3 = audio("mp3", "mp3");
+    const MediaFacts source = song(QStringLiteral("mp3"));
+    row("nothing else", mp3, source, "-map 0:0 -c:a:0 copy -f mp3");
+    row("the rate and channels that it has",
+        with(mp3,
+             [](OutputSettings &s) {
+                 s.sampleRate = 44100;
+                 s.channels = 2;
+             }),
+        source, "-map 0:0 -c:a:0 copy -f mp3");
+    row("more channels than it has", with(mp3, [](OutputSettings &s) { s.channels = 6; }), source,
+        "-map 0:0 -c:a:0 copy -f mp3");
+    row("a bitrate", with(mp3, [](OutputSettings &s) { s.audioKbps = 128; }), source,
+        "-map 0:0 -c:a:0 libmp3lame -b:a:0 128k -f mp3");
+    row("another rate", with(mp3, [](OutputSettings &s) { s.sampleRate = 48000; }), source,
+        "-map 0:0 -c:a:0 libmp3lame -ar:a:0 48000 -q:a:0 2 -f mp3");
+    row("fewer channels", with(mp3, [](OutputSettings &s) { s.channels = 1; }), source,
+        "-map 0:0 -c:a:0 libmp3lame -ac:a:0 1 -q:a:0 2 -f mp3");
+}
+
+/*! A lossless song of so many bits. */
+static MediaFacts deepSong(const char *codec, int bits, const char *format)
+{
+    return facts(song(QLatin1String(codec), 96000), [bits, format](MediaFacts &f) {
+        f.audioTracks[0].bitsPerSample = bits;
+        f.audioTracks[0].sampleFormat = QLatin1String(format);
+    });
+}
+
+void TestAudioPlan::losslessSoundKeepsItsBits_data()
+{
+    addColumns();
+    row("24 bits of flac", audio("wav"), deepSong("flac", 24, "s32"),
+        "-map 0:0 -c:a:0 pcm_s24le -f wav");
+    row("16 bits of flac", audio("wav"), deepSong("flac", 16, "s16"),
+        "-map 0:0 -c:a:0 pcm_s16le -f wav");
+    row("in the container's order of bytes", audio("aiff"), deepSong("pcm_s24le", 24, "s32"),
+        "-map 0:0 -c:a:0 pcm_s24be -f aiff");
+    row("copied where it is held", audio("wav"), deepSong("pcm_f32le", 32, "flt"),
+        "-map 0:0 -c:a:0 copy -f wav");
+    row("floating ones", audio("wav"), deepSong("pcm_f64be", 64, "dbl"),
+        "-map 0:0 -c:a:0 pcm_f32le -f wav");
+    row("16 bits where they are asked for", audio("wav", "pcm_s16le"), deepSong("flac", 24, "s32"),
+        "-map 0:0 -c:a:0 pcm_s16le -f wav");
+    const auto filmWith = [](const MediaFacts &sound) {
+        return facts(film(), [&sound](MediaFacts &f) {
+            f.audioTracks = sound.audioTracks;
+            f.audioTracks[0].index = 1;
+        });
+    };
+    row("in a film's preset, which only says PCM", video("mov", "h264", "pcm_s16le"),
+        filmWith(deepSong("flac", 24, "s32")),
+        "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 pcm_s24le -movflags +faststart -f mov");
+    row("compressed stays compressed", video("mkv"), filmWith(deepSong("alac", 24, "s32p")),
+        "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -f matroska");
+    row("lossy where nothing else is held", video("webm", "vp9"),
+        facts(filmWith(deepSong("flac", 24, "s32")),
+              [](MediaFacts &f) { f.videoTracks[0].codec = QStringLiteral("vp9"); }),
+        "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 libopus -ar:a:0 48000 -b:a:0 128k -f webm");
+}
+
+void TestAudioPlan::theSpeakersAreThoseThatTheCodecKnows_data()
+{
+    addColumns();
+    const MediaFacts cinema = facts(song(QStringLiteral("ac3"), 48000, 6), [](MediaFacts &f) {
+        f.audioTracks[0].layout = QStringLiteral("5.1(side)");
+    });
+    row("side speakers become those at the back", audio("opus", "opus"), cinema,
+        "-map 0:0 -c:a:0 libopus -filter:a:0 aformat=channel_layouts=5.1 -b:a:0 384k -f opus");
+    row("side speakers stay", audio("mka", "flac"), cinema, "-map 0:0 -c:a:0 flac -f matroska");
+    row("stereo of them", with(audio("opus", "opus"), [](OutputSettings &s) { s.channels = 2; }),
+        cinema, "-map 0:0 -c:a:0 libopus -ac:a:0 2 -b:a:0 128k -f opus");
 }
 
 QTEST_GUILESS_MAIN(TestAudioPlan)

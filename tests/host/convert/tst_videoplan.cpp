@@ -36,7 +36,8 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
         "-f mp4");
     const MediaFacts odd =
         facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(321, 241); });
-    row("an odd size is made even", video("mp4", "h264"), odd,
+    row("an odd size is made even", video("mp4", "h264"),
+        facts(odd, [](MediaFacts &f) { f.videoTracks[0].codec = QStringLiteral("vp9"); }),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -filter:v:0 scale=320:240 -pix_fmt:v:0 yuv420p "
         "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart -f mp4");
     row("an odd size stays where it may", video("gif"), odd,
@@ -44,7 +45,11 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
         "[picture][palette]paletteuse -f gif");
     row("an unknown size is left alone",
         with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(640, 360); }),
-        facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(); }),
+        facts(film(),
+              [](MediaFacts &f) {
+                  f.videoTracks[0].codec = QStringLiteral("vp9");
+                  f.videoTracks[0].storedSize = QSize();
+              }),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 "
         "-c:a:0 copy -movflags +faststart -f mp4");
     row("a fixed frame keeps the picture's shape", video("dv"),
@@ -110,9 +115,9 @@ void TestVideoPlan::thePictureHasARateOfItsCodec_data()
 void TestVideoPlan::theEncoderGetsItsOptions_data()
 {
     addColumns();
-    row("hevc", video("mp4", "hevc", "aac"), film(),
+    row("hevc", video("mp4", "hevc", "ac3"), film(),
         "-map 0:0 -map 0:1 -c:v:0 libx265 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "
-        "-x265-params:v:0 log-level=error -crf:v:0 23 -tag:v:0 hvc1 -c:a:0 aac -b:a:0 192k "
+        "-x265-params:v:0 log-level=error -crf:v:0 23 -tag:v:0 hvc1 -c:a:0 ac3 -b:a:0 192k "
         "-movflags +faststart -f mp4");
     row("hevc outside of mp4 has no tag", video("mkv", "hevc"), film(),
         "-map 0:0 -map 0:1 -c:v:0 libx265 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "

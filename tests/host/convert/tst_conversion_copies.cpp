@@ -1,0 +1,99 @@
+#include "host/convert/copycheck.h"
+#include "host/tools/tool.h"
+#include "tests/host/convert/conversiontest.h"
+#include "tests/host/mediaclips.h"
+
+/*! What becomes of streams that may stay as they are. */
+class TestConversionCopies : public ConversionTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itShowsWhatItsSourceShows_data();
+    void itShowsWhatItsSourceShows();
+    void whatTheMuxerRefusesIsEncoded();
+    void soundThatItsContainerLacksIsEncodedAlone();
+
+private:
+    static QByteArray firstFramesOf(const QString &path);
+};
+
+QByteArray TestConversionCopies::firstFramesOf(const QString &path)
+{
+    const ToolCall call = ffmpegCall(firstFramesArguments(MediaClips::factsOf(path), path));
+    QProcess ffmpeg;
+    ffmpeg.start(call.program, call.arguments);
+    ffmpeg.waitForFinished();
+    return ffmpeg.readAllStandardOutput();
+}
+
+void TestConversionCopies::itShowsWhatItsSourceShows_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("extension");
+    QTest::addColumn<bool>("isCopied");
+    const QString pictures =
+        QStringLiteral("-f lavfi -i testsrc2=size=128x96:rate=25:duration=2 -f lavfi -i "
+                       "sine=duration=2:sample_rate=48000 -pix_fmt yuv420p ");
+    const QString h264 = pictures + QStringLiteral("-c:v libx264 -bf 2 -g 25 -c:a aac");
+    const QString mpeg4 = pictures + QStringLiteral("-c:v mpeg4 -bf 2 -q:v 4 -c:a libmp3lame");
+    QTest::newRow("without time stamps, into mp4")
+        << QStringLiteral("a.avi") << mpeg4 << QStringLiteral("mp4") << true;
+    QTest::newRow("without time stamps, into mkv")
+        << QStringLiteral("a.avi") << mpeg4 << QStringLiteral("mkv") << true;
+    QTest::newRow("some without time stamps")
+        << QStringLiteral("a.mpg")
+        << pictures + QStringLiteral("-c:v mpeg2video -bf 2 -q:v 4 -c:a mp2")
+        << QStringLiteral("mkv") << true;
+    QTest::newRow("start codes") << QStringLiteral("a.ts") << h264 << QStringLiteral("mp4") << true;
+    QTest::newRow("frames out of order where there are no time stamps")
+        << QStringLiteral("a.mp4") << h264 << QStringLiteral("avi") << false;
+    QTest::newRow("a raw stream") << QStringLiteral("a.h264")
+                                  << pictures + QStringLiteral("-map 0 -c:v libx264 -bf 2")
+                                  << QStringLiteral("mp4") << false;
+    QTest::newRow("ten bits") << QStringLiteral("a.mkv")
+                              << pictures + QStringLiteral("-pix_fmt yuv420p10le -c:v libx265 "
+                                                           "-x265-params log-level=error -c:a aac")
+                              << QStringLiteral("mp4") << true;
+}
+
+void TestConversionCopies::itShowsWhatItsSourceShows()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, arguments);
+    QFETCH(QString, extension);
+    QFETCH(bool, isCopied);
+    QVERIFY(MediaClips::make(path(source), arguments));
+    const Outcome outcome = convert(job(path(source), video(extension)));
+    QCOMPARE(errorOf(outcome), QString());
+    QVERIFY(qAbs(outcome->facts.duration - 2.0) < 0.2);
+    const QByteArray frames = firstFramesOf(path(source));
+    QCOMPARE(beginsAlike(frames, firstFramesOf(outcome->target)), isCopied);
+}
+
+void TestConversionCopies::whatTheMuxerRefusesIsEncoded()
+{
+    // The film starts between two key frames, which only its own container can say.
+    const QString source = path(QStringLiteral("cut.mp4"));
+    QVERIFY(MediaClips::make(source, QStringLiteral("-ss 5.4 -t 2 -i %1 -c copy")
+                                         .arg(m_clips->filePath(QStringLiteral("long.mp4")))));
+    const double seconds = MediaClips::factsOf(source).duration;
+    const Outcome outcome = convert(job(source, video(QStringLiteral("mkv"))));
+    QCOMPARE(errorOf(outcome), QString());
+    QVERIFY2(qAbs(outcome->facts.duration - seconds) < 0.15,
+             qPrintable(QString::number(outcome->facts.duration)));
+}
+
+void TestConversionCopies::soundThatItsContainerLacksIsEncodedAlone()
+{
+    const QString source = copyOf(QStringLiteral("film.mp4"), QStringLiteral("film.mp4"));
+    standIn(QStringLiteral("case \"$*\" in *'-c:a:0 copy'*) echo refused >&2; exit 1;; esac\n"
+                           "exec $REAL \"$@\""));
+    const Outcome outcome = convert(job(source, video(QStringLiteral("mkv"))));
+    QCOMPARE(errorOf(outcome), QString());
+    QVERIFY(beginsAlike(firstFramesOf(source), firstFramesOf(outcome->target)));
+}
+
+QTEST_GUILESS_MAIN(TestConversionCopies)
+#include "tst_conversion_copies.moc"
