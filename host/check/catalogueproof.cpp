@@ -103,14 +103,15 @@ void CatalogueProof::proveNextSize()
             }
         }
         if (!m_waiting.isEmpty()) {
-            makeProofClip(size, m_folder->path(), &m_running, [this](const Result<ProofClip> &clip) {
-                if (clip) {
-                    proveWaitingWith(*clip);
-                } else {
-                    Q_EMIT finished(
-                        failed(tr("couldn't make a clip to convert: %1").arg(clip.error().text)));
-                }
-            });
+            makeProofClip(
+                size, m_folder->path(), &m_running, [this](const Result<ProofClip> &clip) {
+                    if (clip) {
+                        proveWaitingWith(*clip);
+                    } else {
+                        Q_EMIT finished(failed(
+                            tr("couldn't make a clip to convert: %1").arg(clip.error().text)));
+                    }
+                });
             return;
         }
     }

@@ -2,6 +2,8 @@
 
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
+#include "host/convert/frametiming.h"
+#include "host/convert/nearest.h"
 #include "host/media/mediainput.h"
 #include "host/media/sizetext.h"
 
@@ -75,12 +77,10 @@ void Comparison::compareVideo(const Container &container)
     const VideoCodec codec = videoCodec(track->codec);
     compareCodec(track->codec, m_asked.videoCodec, source->codec, container.videoCodecs);
     compareSize(*track, source->displaySize());
-    // If none is set, the codec uses the nearest rate that it supports.
-    const bool isLimited = !codec.frameRates.isEmpty() || !codec.frames.isEmpty();
-    const bool isAsked = m_asked.frameRate.isValid();
     const double rate = track->frameRate.value();
-    const double wanted = (isAsked ? m_asked.frameRate : source->frameRate).value();
-    expect((isLimited && !isAsked) || std::abs(rate - wanted) < wanted / 100,
+    const double wanted =
+        nearestAllowed(resultRate(source->frameRate, m_asked), codec.frameRates).value();
+    expect(!codec.frames.isEmpty() || std::abs(rate - wanted) < wanted / 100,
            QStringLiteral("%1 fps, not %2").arg(rate).arg(wanted));
     compareBitrate(QStringLiteral("video"), track->index,
                    codec.takesBitrate ? m_asked.videoKbps : 0, videoTolerance);

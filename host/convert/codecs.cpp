@@ -42,6 +42,11 @@ public:
         frameRates = rates;
         return *this;
     }
+    Video atAnyTime()
+    {
+        takesAnyTime = true;
+        return *this;
+    }
     Video lastlyFilteredBy(const char *filter)
     {
         lastFilter = QLatin1String(filter);
@@ -128,16 +133,16 @@ QVector<VideoCodec> makeVideoCodecs()
                                 {50, 1}};
     return {
         Video("h264").writtenBy("libx264").with("preset", "veryfast").orElse("crf", "20")
-            .inPixels("yuv420p"),
+            .inPixels("yuv420p").atAnyTime(),
         Video("hevc").writtenBy("libx265").with("preset", "veryfast")
-            .with("x265-params", "log-level=error").orElse("crf", "23").inPixels("yuv420p"),
+            .with("x265-params", "log-level=error").orElse("crf", "23").inPixels("yuv420p").atAnyTime(),
         Video("vp8").writtenBy("libvpx").with("deadline", "good").with("cpu-used", "4")
-            .orElse("crf", "10").orElse("b", "8M").inPixels("yuv420p"),
+            .orElse("crf", "10").orElse("b", "8M").inPixels("yuv420p").atAnyTime(),
         Video("vp9").writtenBy("libvpx-vp9").with("deadline", "good").with("cpu-used", "5")
-            .with("row-mt", "1").orElse("crf", "31").orElse("b", "0").inPixels("yuv420p"),
+            .with("row-mt", "1").orElse("crf", "31").orElse("b", "0").inPixels("yuv420p").atAnyTime(),
         Video("av1").writtenBy("libsvtav1").with("preset", "9").orElse("crf", "32")
             .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1").orElse("crf", "30")
-            .orElse("b", "0").inPixels("yuv420p"),
+            .orElse("b", "0").inPixels("yuv420p").atAnyTime(),
         Video("mpeg4").writtenBy("mpeg4").orElse("q", "4").inPixels("yuv420p"),
         Video("mpeg2video").writtenBy("mpeg2video").orElse("q", "4").inPixels("yuv420p")
             .atRates(mpeg),
@@ -149,10 +154,10 @@ QVector<VideoCodec> makeVideoCodecs()
         Video("wmv2").writtenBy("wmv2").orElse("q", "4").inPixels("yuv420p"),
         Video("flv1").writtenBy("flv").orElse("q", "4").inPixels("yuv420p"),
         Video("theora").writtenBy("libtheora").orElse("q", "7").inPixels("yuv420p"),
-        Video("mjpeg").writtenBy("mjpeg").orElse("q", "3").inPixels("yuvj420p"),
-        Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate(),
+        Video("mjpeg").writtenBy("mjpeg").orElse("q", "3").inPixels("yuvj420p").atAnyTime(),
+        Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate().atAnyTime(),
         Video("dnxhd").writtenBy("dnxhd").with("profile", "dnxhr_sq").inPixels("yuv422p")
-            .withoutBitrate(),
+            .withoutBitrate().atAnyTime(),
         Video("gif").writtenBy("gif").withoutBitrate().atRates(gif)
             .lastlyFilteredBy("split[picture][sample];[sample]palettegen[palette];"
                               "[picture][palette]paletteuse"),

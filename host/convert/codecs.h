@@ -32,6 +32,7 @@ struct VideoCodec
     QString pixelFormat = {};       //!< empty: the encoder's own
     bool takesBitrate = true;
     QVector<Ratio> frameRates = {}; //!< ascending
+    bool takesAnyTime = false;      //!< frames may be shown when they like, not in steps of a rate
     QString lastFilter = {};        //!< goes behind all other filters
     QVector<Frame> frames = {};     //!< the only ones allowed
 

@@ -67,14 +67,14 @@ public:
         tagsHevcAsHvc1 = true;
         return *this;
     }
-    Files withoutTimeStamps()
-    {
-        hasTimeStamps = false;
-        return *this;
-    }
     Files withSoundInFrames()
     {
         hasSoundInFrames = true;
+        return *this;
+    }
+    Files countingFrames(Times how)
+    {
+        times = how;
         return *this;
     }
     Files at(const QVector<int> &hertz)
@@ -125,7 +125,7 @@ QVector<Container> makeContainers()
             .withRotation().withHvc1(),
         Files("mkv").writtenBy("matroska").holding(mkvVideo, mkvAudio).inSeveralTracks(),
         Files("avi").holding(aviVideo, list("mp3 ac3 mp2 pcm_s16le aac")).inSeveralTracks()
-            .withoutTimeStamps(),
+            .countingFrames(Container::Times::Gaps),
         Files("webm").holding(list("vp9 vp8 av1"), list("opus vorbis")).inSeveralTracks(),
         Files("wmv asf").writtenBy("asf").holding(asfVideo, asfAudio).inSeveralTracks(),
         Files("mpg mpeg").writtenBy("mpeg").holding(programVideo, list("mp2 ac3 mp3"))
@@ -140,9 +140,10 @@ QVector<Container> makeContainers()
         Files("3g2").indexedFirst().holding(phoneVideo, phoneAudio).withRotation(),
         Files("ogv").readBy("ogg").holding(list("theora vp8"), oggAudio).inSeveralTracks(),
         Files("mxf").holding(list("mpeg2video dnxhd h264 prores dvvideo"),
-                             list("pcm_s16le pcm_s24le")).inSeveralTracks().at({48000}),
+                             list("pcm_s16le pcm_s24le")).inSeveralTracks().at({48000})
+            .countingFrames(Container::Times::EveryFrame),
         Files("dv").holding(list("dvvideo"), list("pcm_s16le")).withSoundInFrames().at({48000})
-            .inChannels(2),
+            .inChannels(2).countingFrames(Container::Times::EveryFrame),
         Files("gif").holding(list("gif"), {}),
 
         Files("mp3").holdingSound(list("mp3")).withCover(),

@@ -10,6 +10,13 @@
  *  everything. */
 struct Container
 {
+    /*! How it says when a frame is shown. */
+    enum class Times {
+        Any,        //!< with a time for each
+        Gaps,       //!< by its number; one may be left out
+        EveryFrame, //!< by its number
+    };
+
     QStringList extensions; //!< without dot
     QString muxer;
     QString demuxer; //!< as ffprobe names such files
@@ -20,8 +27,8 @@ struct Container
     bool takesCover = false;
     bool keepsRotation = false;    //!< holds the turn of a picture that players apply
     bool tagsHevcAsHvc1 = false;   //!< the form of hevc that all players of this container know
-    bool hasTimeStamps = true;     //!< else frames are shown in the order in which they are stored
     bool hasSoundInFrames = false; //!< a frame of the picture can't be written before its sound
+    Times times = Times::Any;
     QVector<int> sampleRates = {}; //!< Hz, ascending
     int channels = 0;              //!< the only number allowed; 0: any
 

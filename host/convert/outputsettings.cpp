@@ -105,8 +105,8 @@ struct ChosenNumber
 
 auto valuesOf(const OutputSettings &settings)
 {
-    return std::tie(settings.extension, settings.hasVideo, settings.videoCodec,
-                    settings.frameRate, settings.box, settings.videoKbps, settings.audioCodec,
+    return std::tie(settings.extension, settings.hasVideo, settings.videoCodec, settings.frameRate,
+                    settings.frameRateMode, settings.box, settings.videoKbps, settings.audioCodec,
                     settings.sampleRate, settings.channels, settings.audioKbps,
                     settings.allAudioTracks, settings.start, settings.end);
 }

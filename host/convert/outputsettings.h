@@ -20,10 +20,14 @@ public:
     static constexpr double slowestFrameRate = 1;
     static constexpr double fastestFrameRate = 300;
 
+    /*! Of \a frameRate: reached by slower sources too, or only kept to. */
+    enum class FrameRateMode { Ceiling, Fixed };
+
     QString extension;
     bool hasVideo = false;
     QString videoCodec; //!< as ffprobe names it
     Ratio frameRate;
+    FrameRateMode frameRateMode = FrameRateMode::Ceiling;
     QSize box;            //!< the picture is fitted into it
     double videoKbps = 0; //!< 0: the encoder's own good quality
     QString audioCodec;

@@ -1,7 +1,6 @@
 #include "host/convert/videoplan.h"
 
 #include "host/convert/codecs.h"
-#include "host/convert/nearest.h"
 #include "host/convert/picturefit.h"
 
 namespace {
@@ -18,26 +17,6 @@ QSize boxedSize(const VideoTrack &track, const QSize &box)
     return fitted == shown && isSquare ? QSize() : fitted;
 }
 
-Ratio wantedRate(const VideoTrack &track, const OutputSettings &settings)
-{
-    return settings.frameRate.isValid() ? settings.frameRate : track.frameRate;
-}
-
-/*! The rate to encode with; one that isn't valid is left to ffmpeg. */
-Ratio encodedRate(const VideoTrack &track, const VideoCodec &codec, const OutputSettings &settings)
-{
-    // Without a rate of its own ffmpeg would repeat frames to fill the clock of the time stamps.
-    static const QVector<Ratio> usual = {
-        {10, 1},       {12, 1}, {15, 1}, {20, 1}, {24000, 1001}, {24, 1}, {25, 1},
-        {30000, 1001}, {30, 1}, {48, 1}, {50, 1}, {60000, 1001}, {60, 1}, {120, 1}};
-    const Ratio wanted = wantedRate(track, settings);
-    if (!wanted.isValid()) {
-        return wanted;
-    }
-    const bool isAverage = !settings.frameRate.isValid() && !track.hasSteadyRate;
-    return nearestAllowed(isAverage ? nearestAllowed(wanted, usual) : wanted, codec.frameRates);
-}
-
 bool canBeCopied(const VideoTrack &track, const StreamTarget &target)
 {
     const OutputSettings &settings = target.settings;
@@ -46,14 +25,14 @@ bool canBeCopied(const VideoTrack &track, const StreamTarget &target)
                                 ? target.container.videoCodecs.contains(track.codec)
                                 : settings.videoCodec == track.codec;
     return target.allowsVideoCopy() && isOwnCodec && settings.videoKbps == 0 &&
-           wantedRate(track, settings) == track.frameRate &&
+           resultRate(track.frameRate, settings) == track.frameRate &&
            boxedSize(track, settings.box).isEmpty() && turnIsKept;
 }
 
 /*! What a copied stream needs in another container; empty: nothing. */
 QString copyFilter(const QString &codec, const Container &container)
 {
-    if (codec == QLatin1String("h264") && !container.hasTimeStamps) {
+    if (codec == QLatin1String("h264") && container.times != Container::Times::Any) {
         return QStringLiteral("h264_mp4toannexb");
     }
     // Only AVI players know two frames in one packet. Others pass the filter as they are.
@@ -72,27 +51,31 @@ QSize uprightSize(const VideoTrack &track)
 }
 
 /*! Puts the picture in the middle of the frame, of those that the codec has, that fits it best. */
-void fillFrame(VideoPlan &plan, const VideoTrack &track, const QVector<VideoCodec::Frame> &frames)
+void fillFrame(VideoPlan &plan, const VideoTrack &track, const Ratio &rate,
+               const QVector<VideoCodec::Frame> &frames)
 {
-    const FrameFit fit = fitIntoFrame(track.displaySize(), plan.frameRate, frames);
+    const FrameFit fit = fitIntoFrame(track.displaySize(), rate, frames);
     plan.filters << scaleTo(fit.picture)
                  << QStringLiteral("pad=%1:%2:(ow-iw)/2:(oh-ih)/2")
                         .arg(fit.frame.size.width())
                         .arg(fit.frame.size.height())
                  << QStringLiteral("setsar=%1").arg(fit.frame.pixelAspect.toText());
-    plan.frameRate = fit.frame.frameRate;
+    plan.timing = FrameTiming::constant(fit.frame.frameRate);
     plan.pixelFormat = fit.frame.pixelFormat;
 }
 
 void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &codec,
-                 const OutputSettings &settings)
+                 const StreamTarget &target)
 {
     plan.pixelFormat = codec.pixelFormat;
-    plan.frameRate = encodedRate(track, codec, settings);
-    const QSize boxed = boxedSize(track, settings.box);
+    plan.timing = FrameTiming::make(track, codec, target.container, target.settings);
+    if (!plan.timing.filter.isEmpty()) {
+        plan.filters << plan.timing.filter;
+    }
+    const QSize boxed = boxedSize(track, target.settings.box);
     const QSize upright = uprightSize(track);
     if (!codec.frames.isEmpty() && !upright.isEmpty()) {
-        fillFrame(plan, track, codec.frames);
+        fillFrame(plan, track, resultRate(track.frameRate, target.settings), codec.frames);
     } else if (!boxed.isEmpty()) {
         plan.filters << scaleTo(boxed) << QStringLiteral("setsar=1");
     } else if (!plan.pixelFormat.isEmpty() && !upright.isEmpty() && evenSize(upright) != upright) {
@@ -100,9 +83,6 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     }
     if (!codec.lastFilter.isEmpty()) {
         plan.filters << codec.lastFilter;
-    }
-    if (plan.frameRate == track.frameRate && track.hasSteadyRate) {
-        plan.frameRate = {};
     }
 }
 
@@ -137,12 +117,13 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
             return tl::make_unexpected(encoder.error());
         }
         plan.encoder = *encoder;
-        planPicture(plan, track, codec, settings);
+        planPicture(plan, track, codec, target);
         planQuality(plan, codec, settings.videoKbps);
     }
     if (isCopied) {
         plan.bitstreamFilter = copyFilter(codec.name, target.container);
-    } else if (!target.container.hasTimeStamps && codec.name == QLatin1String("h264")) {
+    } else if (target.container.times != Container::Times::Any &&
+               codec.name == QLatin1String("h264")) {
         // Frames written ahead of their time would come late, each against its sound.
         plan.options.append({QStringLiteral("bf"), QStringLiteral("0")});
     }
@@ -155,11 +136,11 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
 QStringList VideoPlan::arguments() const
 {
     ToolOptions all = {{QStringLiteral("c"), encoder}};
+    if (encoder != QLatin1String("copy")) {
+        all += timing.options();
+    }
     if (!filters.isEmpty()) {
         all.append({QStringLiteral("filter"), filters.join(QLatin1Char(','))});
-    }
-    if (frameRate.isValid()) {
-        all.append({QStringLiteral("r"), frameRate.toText()});
     }
     if (!pixelFormat.isEmpty()) {
         all.append({QStringLiteral("pix_fmt"), pixelFormat});

@@ -2,6 +2,7 @@
 #define CONVERT_VIDEOPLAN_H
 
 #include "host/convert/encoderchoice.h"
+#include "host/convert/frametiming.h"
 #include "host/convert/tooloptions.h"
 #include "host/media/mediafacts.h"
 
@@ -10,7 +11,7 @@ struct VideoPlan
 {
     QString encoder; //!< "copy" takes the stream over as it is
     QStringList filters = {};
-    Ratio frameRate = {};         //!< not valid: as the frames come
+    FrameTiming timing = {};
     QString pixelFormat = {};     //!< empty: the encoder's choice
     ToolOptions options = {};     //!< the encoder's
     double kbps = 0;              //!< 0: as good as the options say

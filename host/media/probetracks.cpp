@@ -107,18 +107,6 @@ Ratio frameRateOf(const QJsonObject &stream, QLatin1String key)
     return rate.value() <= fastestRate ? rate : Ratio();
 }
 
-void readFrameRate(const QJsonObject &stream, VideoTrack &track)
-{
-    // With a variable rate the nominal one may be the clock of the time stamps (say 90000).
-    constexpr double fastestPlausible = 240;
-    track.averageFrameRate = frameRateOf(stream, QLatin1String("avg_frame_rate"));
-    track.frameRate = frameRateOf(stream, QLatin1String("r_frame_rate"));
-    track.hasSteadyRate = track.frameRate.isValid() && track.frameRate.value() <= fastestPlausible;
-    if (!track.hasSteadyRate) {
-        track.frameRate = track.averageFrameRate;
-    }
-}
-
 VideoTrack::FieldOrder fieldOrderOf(const QJsonObject &stream)
 {
     const QString order = probeText(stream, QLatin1String("field_order"));
@@ -133,6 +121,22 @@ VideoTrack::FieldOrder fieldOrderOf(const QJsonObject &stream)
         return VideoTrack::BottomFieldFirst;
     }
     return VideoTrack::UnknownOrder;
+}
+
+void readFrameRate(const QJsonObject &stream, VideoTrack &track)
+{
+    // With a variable rate the nominal one may be the clock of the time stamps (say 90000).
+    constexpr double fastestPlausible = 240;
+    track.averageFrameRate = frameRateOf(stream, QLatin1String("avg_frame_rate"));
+    track.frameRate = frameRateOf(stream, QLatin1String("r_frame_rate"));
+    const double fieldsPerFrame = track.frameRate.value() / track.averageFrameRate.value();
+    if (track.isInterlaced() && std::abs(fieldsPerFrame - 2) < 0.01) {
+        track.frameRate = track.averageFrameRate;
+    }
+    track.hasSteadyRate = track.frameRate.isValid() && track.frameRate.value() <= fastestPlausible;
+    if (!track.hasSteadyRate) {
+        track.frameRate = track.averageFrameRate;
+    }
 }
 
 std::optional<MasteringDisplay> masteringDisplayOf(const QJsonObject &data)
@@ -169,8 +173,8 @@ VideoTrack videoTrackFromProbe(const QJsonObject &stream)
     track.storedSize = sizeOf(stream);
     track.pixelAspect = pixelAspectOf(stream);
     track.rotation = rotationOf(stream);
-    readFrameRate(stream, track);
     track.fieldOrder = fieldOrderOf(stream);
+    readFrameRate(stream, track);
     track.pixelFormat = knownText(stream, QLatin1String("pix_fmt"));
     track.level = std::max(0, number(stream, QLatin1String("level")));
     track.colour = {knownText(stream, QLatin1String("color_range")),

@@ -9,6 +9,14 @@ bool Colour::isHdr() const
     return transfer == QLatin1String("smpte2084") || transfer == QLatin1String("arib-std-b67");
 }
 
+bool VideoTrack::hasVariableRate() const
+{
+    constexpr double tolerance = 0.01;
+    const bool strays = averageFrameRate.isValid() && frameRate.isValid() &&
+                        std::abs(averageFrameRate.value() / frameRate.value() - 1) > tolerance;
+    return strays || !hasSteadyRate;
+}
+
 QSize VideoTrack::displaySize() const
 {
     const int width = int(std::lround(storedSize.width() * pixelAspect.value()));

@@ -78,6 +78,12 @@ struct VideoTrack : Track
     std::optional<LightLevel> lightLevel;
     bool isCover = false; //!< a still picture attached to an audio file
 
+    /*! Whether the frames come at other times than those of its rate. */
+    [[nodiscard]] bool hasVariableRate() const;
+    [[nodiscard]] bool isInterlaced() const
+    {
+        return fieldOrder == TopFieldFirst || fieldOrder == BottomFieldFirst;
+    }
     /*! The size as shown: upright, with square pixels. */
     [[nodiscard]] QSize displaySize() const;
 };

@@ -68,11 +68,12 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
         "-map 0:0 -c:a:0 libopus -ar:a:0 48000 -b:a:0 128k -f opus");
     row("the container's only rate", video("mxf", "mpeg2video", "pcm_s16le"),
         facts(film(), [](MediaFacts &f) { f.audioTracks[0].sampleRate = 44100; }),
-        "-map 0:0 -map 0:1 -c:v:0 mpeg2video -pix_fmt:v:0 yuv420p -q:v:0 4 -c:a:0 pcm_s16le "
+        "-map 0:0 -map 0:1 -c:v:0 mpeg2video -r:v:0 25 -fps_mode:v:0 cfr -pix_fmt:v:0 yuv420p "
+        "-q:v:0 4 -c:a:0 pcm_s16le "
         "-ar:a:0 48000 -f mxf");
     row("the container's only number of channels", video("dv"),
         facts(film(), [](MediaFacts &f) { f.audioTracks[0].channels = 1; }),
-        "-map 0:0 -map 0:1 -c:v:0 dvvideo -filter:v:0 "
+        "-map 0:0 -map 0:1 -c:v:0 dvvideo -r:v:0 25 -fps_mode:v:0 cfr -filter:v:0 "
         "scale=720:576,pad=720:576:(ow-iw)/2:(oh-ih)/2,setsar=64/45 -pix_fmt:v:0 yuv420p "
         "-c:a:0 pcm_s16le -ac:a:0 2 -filter:a:0 apad,asetpts=PTS-0.04/TB -shortest -f dv");
     row("more bits than the encoder starts with",

@@ -30,11 +30,13 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
         facts(film(), [](MediaFacts &f) { f.videoTracks[0].codec = QStringLiteral("hevc"); }),
         "-map 0:0 -map 0:1 -c:v:0 copy -tag:v:0 hvc1 -c:a:0 copy -movflags +faststart -f mov");
     row("codecs that the file can't hold become the usual ones", video("webm"), film(),
-        "-map 0:0 -map 0:1 -c:v:0 libvpx-vp9 -pix_fmt:v:0 yuv420p -deadline:v:0 good "
+        "-map 0:0 -map 0:1 -c:v:0 libvpx-vp9 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -deadline:v:0 "
+        "good "
         "-cpu-used:v:0 5 -row-mt:v:0 1 -crf:v:0 31 -b:v:0 0 -c:a:0 libopus -b:a:0 128k -f webm");
     row("kept codec, other size",
         with(video("mkv"), [](OutputSettings &s) { s.box = QSize(1280, 720); }), film(),
-        "-map 0:0 -map 0:1 -c:v:0 libx264 -filter:v:0 scale=1280:720,setsar=1 -pix_fmt:v:0 yuv420p "
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -filter:v:0 scale=1280:720,setsar=1 "
+        "-pix_fmt:v:0 yuv420p "
         "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -f matroska");
     row("kept codec, box larger than the picture",
         with(video("mkv"), [](OutputSettings &s) { s.box = QSize(3840, 2160); }), film(),
@@ -42,11 +44,12 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
     row("kept codec, other rate",
         with(video("mkv"),
              [](OutputSettings &s) {
-                 s.frameRate = {30000, 1001};
+                 s.frameRate = {20, 1};
              }),
         film(),
-        "-map 0:0 -map 0:1 -c:v:0 libx264 -r:v:0 30000/1001 -pix_fmt:v:0 yuv420p "
-        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -f matroska");
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -r:v:0 20 -fps_mode:v:0 vfr -filter:v:0 "
+        "select=isnan(prev_t)+gt(floor(t*20+0.25)\\,floor(prev_t*20+0.25)) "
+        "-pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -f matroska");
     row("kept codec, the source's rate",
         with(video("mkv"),
              [](OutputSettings &s) {
@@ -60,7 +63,8 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
                  s.audioKbps = 96;
              }),
         film(),
-        "-map 0:0 -map 0:1 -c:v:0 libx264 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
+        "veryfast "
         "-b:v:0 1500k -c:a:0 aac -b:a:0 96k -f matroska");
     row("kept codec without an encoder becomes the usual one",
         with(video("mkv"),
@@ -73,13 +77,15 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
                   f.videoTracks[0].codec = QStringLiteral("wmv1");
                   f.audioTracks[0].codec = QStringLiteral("dts");
               }),
-        "-map 0:0 -map 0:1 -c:v:0 libx264 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
+        "veryfast "
         "-b:v:0 1500k -c:a:0 aac -ar:a:0 44100 -b:a:0 192k -f matroska");
     const MediaFacts turned = facts(film(), [](MediaFacts &f) { f.videoTracks[0].rotation = 90; });
     row("a turned picture is kept where the turn is", video("mp4"), turned,
         "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -movflags +faststart -f mp4");
     row("and written upright elsewhere", video("mkv"), turned,
-        "-map 0:0 -map 0:1 -c:v:0 libx264 -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
+        "veryfast "
         "-crf:v:0 20 -c:a:0 copy -f matroska");
 }
 
