@@ -1,7 +1,7 @@
 #include "host/convert/copycheck.h"
 #include "host/tools/tool.h"
 #include "tests/host/convert/conversiontest.h"
-#include "tests/host/mediaclips.h"
+#include "tests/support/mediaclips.h"
 
 /*! What becomes of streams that may stay as they are. */
 class TestConversionCopies : public ConversionTest
