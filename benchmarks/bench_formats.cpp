@@ -300,12 +300,12 @@ void memoryOfAPreset(benchmark::State &state)
         const double before = residentBytes();
         FormatsProxy facade;
         facade.init(QString());
-        state.counters["bytes_a_preset"] =
+        state.counters["bytes_per_preset"] =
             (residentBytes() - before) / (largeFormats * LargeCatalogue::presetsPerFormat);
     }
 }
 
-void registerLookUp(const char *name, LookUp function)
+void registerLookup(const char *name, Lookup function)
 {
     for (const bool hit : {true, false}) {
         benchmark::RegisterBenchmark((std::string(name) + (hit ? "/hit" : "/miss")).c_str(), lookUp,
@@ -325,12 +325,12 @@ BENCHMARK(addPreset)->UseManualTime()->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
-    registerLookUp("getTagAndClassById", getTagAndClassById);
-    registerLookUp("getTagName", getTagName);
-    registerLookUp("getClassIconById", getClassIconById);
-    registerLookUp("getFormat", getFormat);
-    registerLookUp("isVideoFormat", isVideoFormat);
-    registerLookUp("containId", containId);
+    registerLookup("getTagAndClassById", getTagAndClassById);
+    registerLookup("getTagName", getTagName);
+    registerLookup("getClassIconById", getClassIconById);
+    registerLookup("getFormat", getFormat);
+    registerLookup("isVideoFormat", isVideoFormat);
+    registerLookup("containId", containId);
     qputenv("QT_LOGGING_RULES", "*.debug=false");
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
