@@ -125,8 +125,10 @@ void Comparison::compareAudio(const Container &container)
     expect((m_asked.sampleRate == 0 && !canKeepRate) || track->sampleRate == rate,
            QStringLiteral("%1 Hz, not %2").arg(track->sampleRate).arg(rate));
 
-    const int most = container.channels > 0 ? container.channels : codec.maxChannels;
-    const int channels = m_asked.channels > 0 ? m_asked.channels : std::min(source->channels, most);
+    const int wanted =
+        m_asked.channels > 0 ? std::min(m_asked.channels, source->channels) : source->channels;
+    const int channels =
+        container.channels > 0 ? container.channels : std::min(wanted, codec.maxChannels);
     expect(track->channels == channels,
            QStringLiteral("%1 channels, not %2").arg(track->channels).arg(channels));
     compareBitrate(QStringLiteral("audio"), track->index,

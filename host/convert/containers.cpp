@@ -156,8 +156,9 @@ QVector<Container> makeContainers()
                                            "pcm_s16le")),
         Files("au").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be pcm_mulaw "
                                     "pcm_alaw")),
+        // ffmpeg writes neither AAC nor FLAC into it that anyone could read.
         Files("caf").holdingSound(list("pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_s16be pcm_s24be "
-                                     "alac aac opus flac")),
+                                     "alac opus")),
         Files("ogg").holdingSound(oggAudio),
         Files("oga").readBy("ogg").holdingSound(oggAudio),
         Files("opus").readBy("ogg").holdingSound(list("opus")),

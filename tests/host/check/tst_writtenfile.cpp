@@ -152,6 +152,7 @@ void TestWrittenFile::deviationsAreNamed_data()
             file.facts.videoTracks[0].codec = QStringLiteral("mpeg2video");
             file.facts.audioTracks[0].codec = QStringLiteral("mp2");
             source.videoTracks[0].frameRate = {15, 1};
+            file.facts.videoTracks[0].frameRate = {24000, 1001};
             source.audioTracks[0].sampleRate = 22050;
             source.audioTracks[0].channels = 6;
         });
@@ -283,6 +284,7 @@ void TestWrittenFile::deviationsAreNamed_data()
             asked.videoCodec = QStringLiteral("gif");
             file.facts.container = QStringLiteral("gif");
             file.facts.videoTracks[0].codec = QStringLiteral("gif");
+            file.facts.videoTracks[0].frameRate = {25, 1};
         });
     audio("another audio codec", "mp3, not aac",
           [](AudioTrack &track) { track.codec = QStringLiteral("mp3"); });

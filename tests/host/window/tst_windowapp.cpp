@@ -286,7 +286,7 @@ void TestWindowApp::badOptionsAreRefused_data()
         << QStringList{QStringLiteral("--language"), QStringLiteral("de"),
                        QStringLiteral("formats")}
         << 2
-        << QStringLiteral("vexconvert: --language is for the window; leave it out before a "
+        << QStringLiteral("vexconvert: --language is only for the window; leave it out with a "
                           "subcommand\n");
     QTest::newRow("neither subcommand nor file")
         << QStringList{QStringLiteral("none.wav")} << 2
