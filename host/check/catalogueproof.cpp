@@ -136,12 +136,12 @@ void CatalogueProof::proveNext()
     if (m_waiting.isEmpty()) {
         return;
     }
-    ProvenPreset &preset = *m_waiting.dequeue();
-    auto *proof = new PresetProof(preset.settings, m_clip, &m_running);
+    ProvenPreset *preset = m_waiting.dequeue();
+    auto *proof = new PresetProof(preset->settings, m_clip, &m_running);
     ++m_runningCount;
-    connect(proof, &PresetProof::finished, this, [this, proof, &preset](const Result<> &outcome) {
+    connect(proof, &PresetProof::finished, this, [this, proof, preset](const Result<> &outcome) {
         proof->deleteLater();
-        note(preset, outcome);
+        note(*preset, outcome);
     });
     proof->start();
 }

@@ -164,7 +164,8 @@ void Comparison::expect(bool isAsAsked, const QString &deviation)
 void WrittenFile::readPackets(const QByteArray &list)
 {
     // Each packet is "0,1234": the stream's index and the packet's size, possibly followed by more.
-    for (const QByteArray &line : list.split('\n')) {
+    const QList<QByteArray> lines = list.split('\n');
+    for (const QByteArray &line : lines) {
         const QList<QByteArray> cells = line.trimmed().split(',');
         if (cells.size() > 1) {
             bool isStream = false;

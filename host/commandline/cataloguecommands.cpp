@@ -122,7 +122,7 @@ Result<ExitCode> runPresets(const Call &call)
     list->getModelInfo(records);
     QVector<QVariantMap> presets;
     QVariantList json;
-    for (const FormatDetailModelData &record : records) {
+    for (const FormatDetailModelData &record : qAsConst(records)) {
         QVariantMap preset = record.toVarMap();
         presets.append(preset);
         preset.insert(QStringLiteral("userDefine"), record.userDefine);

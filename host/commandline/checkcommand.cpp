@@ -133,7 +133,8 @@ void printAsJson(const QVector<CatalogueMistake> &mistakes, const Result<Presets
                                    {QStringLiteral("leftOut"), !mistake.isServed}};
     }
     QVariantList presetMaps;
-    for (const ProvenPreset &preset : proven.value_or(Presets())) {
+    const Presets provenPresets = proven.value_or(Presets());
+    for (const ProvenPreset &preset : provenPresets) {
         presetMaps << QVariantMap{
             {QStringLiteral("format"), preset.format},
             {QStringLiteral("tag"), preset.tag},
@@ -205,7 +206,7 @@ Result<ExitCode> runCheck(const Call &call)
     if (!proven) {
         return failed(proven);
     }
-    const bool hasFailed = countOf(proven->begin(), proven->end(), Verdict::Failed) > 0;
+    const bool hasFailed = countOf(proven->cbegin(), proven->cend(), Verdict::Failed) > 0;
     return mistakes.isEmpty() && !hasFailed ? Success : Failure;
 }
 

@@ -191,7 +191,8 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
             CommandLine::tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
                 .arg(rest.constFirst()));
     }
-    for (const QCommandLineOption &option : windowOnlyOptions()) {
+    const QList<QCommandLineOption> forTheWindow = windowOnlyOptions();
+    for (const QCommandLineOption &option : forTheWindow) {
         const QString name = option.names().constFirst();
         if (parser.isSet(name)) {
             return wrongUsage(
@@ -199,8 +200,7 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
                     .arg(name));
         }
     }
-    const Result<ExitCode> result =
-        runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
+    Result<ExitCode> result = runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
     if (result && Console::hasFailed()) {
         return failed(CommandLine::tr("the output couldn't be written"));
     }

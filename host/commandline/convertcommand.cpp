@@ -199,7 +199,7 @@ Result<FoundPreset> chosenPreset(const Call &call)
         return findPreset(presets, id);
     }
     const Result<> opened = openToNote(presets);
-    const Result<FoundPreset> preset = findPreset(presets, id);
+    Result<FoundPreset> preset = findPreset(presets, id);
     if (preset) {
         // A failure is told and hurts nothing else.
         const Result<> noted = opened ? noteAsUsed(presets, *preset) : opened;

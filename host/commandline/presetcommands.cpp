@@ -58,7 +58,7 @@ Result<ExitCode> listRecent(const Call &call)
     QQueue<FormatDetailModelData> records;
     store.formats().recentlyFormatsModel()->getModelInfo(records);
     QVector<QVariantMap> presets;
-    for (const FormatDetailModelData &record : records) {
+    for (const FormatDetailModelData &record : qAsConst(records)) {
         presets.append(record.toVarMap());
     }
     printPresets(presets, call.options.isSet(jsonFlag),

@@ -125,8 +125,7 @@ Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaF
         return tl::make_unexpected(possible.error());
     }
     const Container &container = *Container::find(settings.extension);
-    const Result<QStringList> output =
-        outputArguments(source, {settings, container, encoders, allowed});
+    Result<QStringList> output = outputArguments(source, {settings, container, encoders, allowed});
     if (!output) {
         return output;
     }
