@@ -20,6 +20,11 @@ const QLatin1String presetOption("preset");
 const QLatin1String folderOption("to");
 const QLatin1String overwriteFlag("overwrite");
 const QLatin1String dryRunFlag("dry-run");
+const QLatin1String audioOption("audio");
+const QLatin1String subtitlesOption("subtitles");
+const QLatin1String burnOption("burn-subtitles");
+const QLatin1String keepDatesFlag("keep-dates");
+const QLatin1String durationOption("duration");
 
 /*! In the shell's quotes that take the code of a byte, for what can't be typed. */
 QString quotedByCodes(const QString &word)
@@ -84,6 +89,7 @@ private:
     QEventLoop m_loop;
     int m_toldTenths = 0;
     int m_converted = 0;
+    bool m_allWhole = true;
 };
 
 Batch::Batch(const QStringList &files, const ConversionJob &prototype)
@@ -115,7 +121,7 @@ ExitCode Batch::run()
         Console::print(
             CommandLine::tr("%1 of %2 files converted").arg(m_converted).arg(m_files.size()));
     }
-    return m_converted == m_files.size() ? Success : Failure;
+    return m_converted == m_files.size() && m_allWhole ? Success : Failure;
 }
 
 ConversionJob Batch::jobFor(const QString &file) const
@@ -154,6 +160,12 @@ void Batch::tell(const QString &file, const Result<ConversionOutcome> &outcome)
         m_job.keep << outcome->target;
         Console::print(CommandLine::tr("%1 -> %2").arg(file, outcome->target));
         Console::print(QStringLiteral("  ") + outcome->facts.summary());
+        m_allWhole = m_allWhole && outcome->shortfall.isEmpty();
+        for (const QString &note : {outcome->losses, outcome->shortfall}) {
+            if (!note.isEmpty()) {
+                Console::printError(QStringLiteral("%1: %2").arg(file, note));
+            }
+        }
     } else if (outcome.error().kind == Error::Cancelled) {
         Console::printError(CommandLine::tr("%1: stopped; nothing was written").arg(file));
     } else {
@@ -211,6 +223,45 @@ Result<FoundPreset> chosenPreset(const Call &call)
     return preset;
 }
 
+/*! Takes what the options say of tracks and of pictures. */
+Result<> readTrackOptions(const Call &call, OutputSettings &settings)
+{
+    const auto read = [&call](const QString &option, TrackChoice &choice) -> Result<> {
+        if (!call.options.isSet(option)) {
+            return {};
+        }
+        const QString text = call.options.value(option);
+        const std::optional<TrackChoice> chosen = TrackChoice::fromText(text);
+        if (!chosen) {
+            return wrongUsage(CommandLine::tr("--%1 takes a word such as all, or a language such "
+                                              "as de, not \"%2\"")
+                                  .arg(option, text));
+        }
+        choice = *chosen;
+        return {};
+    };
+    Result<> done = read(audioOption, settings.audioTracks);
+    if (done && settings.audioTracks.kind == TrackChoice::None) {
+        done = wrongUsage(CommandLine::tr("--audio takes all, first or a language such as de"));
+    }
+    if (done) {
+        done = read(subtitlesOption, settings.subtitles);
+    }
+    const auto number = [&call, &done](const QString &option, double least) {
+        bool isNumber = false;
+        const double value = call.options.value(option).toDouble(&isNumber);
+        const bool isSet = call.options.isSet(option);
+        if (isSet && !(isNumber && value >= least && value <= 86400)) {
+            done =
+                wrongUsage(CommandLine::tr("--%1 takes a number from %2").arg(option).arg(least));
+        }
+        return isSet ? value : 0;
+    };
+    settings.burnedSubtitles = int(number(burnOption, 1));
+    settings.stillSeconds = number(durationOption, 0.1);
+    return done;
+}
+
 Result<ExitCode> runConvert(const Call &call)
 {
     if (call.arguments.isEmpty()) {
@@ -223,6 +274,11 @@ Result<ExitCode> runConvert(const Call &call)
     }
     ConversionJob job;
     job.settings = preset->outputSettings();
+    const Result<> tracks = readTrackOptions(call, job.settings);
+    if (!tracks) {
+        return failed(tracks);
+    }
+    job.keepDates = call.options.isSet(keepDatesFlag);
     job.folder = call.options.value(folderOption);
     job.overwrite = call.options.isSet(overwriteFlag);
     job.planOnly = call.options.isSet(dryRunFlag);
@@ -242,6 +298,22 @@ QVector<Subcommand> convertCommands()
                     CommandLine::tr("Folder for the results, instead of the source's own."),
                     CommandLine::tr("DIR")),
         {overwriteFlag, CommandLine::tr("Write over existing results, but never over a source.")},
+        valueOption(audioOption,
+                    CommandLine::tr("Audio tracks to write: all that the format holds (the "
+                                    "default), first, or those of a language."),
+                    CommandLine::tr("all|first|LANG")),
+        valueOption(subtitlesOption,
+                    CommandLine::tr("Subtitles to write: all that the format holds (the default), "
+                                    "none, or those of a language."),
+                    CommandLine::tr("all|none|LANG")),
+        valueOption(burnOption,
+                    CommandLine::tr("Draw the subtitle track with this number, from 1, onto the "
+                                    "picture."),
+                    CommandLine::tr("N")),
+        {keepDatesFlag, CommandLine::tr("Give results the dates of their sources.")},
+        valueOption(durationOption,
+                    CommandLine::tr("Make films of single pictures, of so many seconds."),
+                    CommandLine::tr("SECONDS")),
         {dryRunFlag, CommandLine::tr("Only print the ffmpeg commands.")},
     };
     return {
@@ -254,7 +326,9 @@ QVector<Subcommand> convertCommands()
              "\n"
              "A result is named after its source; where the name is taken it becomes \"name "
              "(2)\",\nunless --overwrite is given. One file that fails doesn't stop the others, "
-             "and leaves\nnothing behind. The exit code is 1 when any failed. ffmpeg and ffprobe "
+             "and leaves\nnothing behind. What a result can't hold of its source is named. The "
+             "exit "
+             "code is 1\nwhen any failed or ended earlier than its source. ffmpeg and ffprobe "
              "do the work and\nmust be on the PATH.\n"),
          own + fittingOptions(), runConvert},
     };

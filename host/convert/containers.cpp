@@ -52,6 +52,33 @@ public:
         holdsSeveralAudioTracks = true;
         return *this;
     }
+    Files withChapters()
+    {
+        holdsChapters = true;
+        return *this;
+    }
+    Files withAttachments()
+    {
+        holdsAttachments = true;
+        return *this;
+    }
+    Files withSubtitles(const QStringList &codecs, const char *usualText = "")
+    {
+        subtitleCodecs = codecs;
+        textSubtitles = QLatin1String(usualText);
+        return *this;
+    }
+    Files withTitlesAsHandlers()
+    {
+        titlesAreHandlers = true;
+        return *this;
+    }
+    /*! Unless the source says so, no subtitles are shown. */
+    Files hidingSubtitles()
+    {
+        subtitleOptions.append({QStringLiteral("default_mode"), QStringLiteral("infer_no_subs")});
+        return *this;
+    }
     Files withCover()
     {
         takesCover = true;
@@ -117,27 +144,40 @@ QVector<Container> makeContainers()
                                       "pcm_mulaw");
     return {
         Files("mp4").indexedFirst().holding(mp4Video, mp4Audio).inSeveralTracks()
-            .withRotation().withHvc1(),
+            .withRotation().withHvc1().withChapters().withCover().withTitlesAsHandlers()
+            .withSubtitles(list("mov_text dvd_subtitle"), "mov_text"),
         Files("m4v").writtenBy("mp4").indexedFirst()
             .holding(list("h264 hevc mpeg4"), list("aac ac3 eac3 alac")).inSeveralTracks()
-            .withRotation().withHvc1(),
+            .withRotation().withHvc1().withChapters().withCover().withTitlesAsHandlers()
+            .withSubtitles(list("mov_text"), "mov_text"),
         Files("mov").indexedFirst().holding(movVideo, movAudio).inSeveralTracks()
-            .withRotation().withHvc1(),
-        Files("mkv").writtenBy("matroska").holding(mkvVideo, mkvAudio).inSeveralTracks(),
+            .withRotation().withHvc1().withChapters().withTitlesAsHandlers()
+            .withSubtitles(list("mov_text"), "mov_text"),
+        Files("mkv").writtenBy("matroska").hidingSubtitles().withChapters().withAttachments()
+            .withSubtitles(list("subrip ass ssa webvtt hdmv_pgs_subtitle dvd_subtitle "
+                                "dvb_subtitle hdmv_text_subtitle"), "srt")
+            .holding(mkvVideo, mkvAudio).inSeveralTracks(),
         Files("avi").holding(aviVideo, list("mp3 ac3 mp2 pcm_s16le aac")).inSeveralTracks()
             .countingFrames(Container::Times::Gaps),
-        Files("webm").holding(list("vp9 vp8 av1"), list("opus vorbis")).inSeveralTracks(),
-        Files("wmv asf").writtenBy("asf").holding(asfVideo, asfAudio).inSeveralTracks(),
+        Files("webm").readBy("matroska").hidingSubtitles().withChapters()
+            .withSubtitles(list("webvtt"), "webvtt")
+            .holding(list("vp9 vp8 av1"), list("opus vorbis")).inSeveralTracks(),
+        Files("wmv asf").writtenBy("asf").withChapters().holding(asfVideo, asfAudio)
+            .inSeveralTracks(),
         Files("mpg mpeg").writtenBy("mpeg").holding(programVideo, list("mp2 ac3 mp3"))
             .inSeveralTracks(),
-        Files("vob").readBy("mpeg").holding(programVideo, list("ac3 mp2")).inSeveralTracks(),
-        Files("ts").writtenBy("mpegts").holding(transportVideo, transportAudio).inSeveralTracks(),
+        Files("vob").readBy("mpeg").withSubtitles(list("dvd_subtitle")).holding(programVideo, list("ac3 mp2")).inSeveralTracks(),
+        Files("ts").writtenBy("mpegts")
+            .withSubtitles(list("dvb_subtitle dvb_teletext")).holding(transportVideo, transportAudio).inSeveralTracks(),
         Files("m2ts mts").writtenBy("mpegts").with("mpegts_m2ts_mode", "1")
+            .withSubtitles(list("hdmv_pgs_subtitle dvb_subtitle dvb_teletext"))
             .holding(transportVideo, transportAudio).inSeveralTracks(),
         Files("flv").holding(list("h264 flv1"), list("aac mp3")).at({11025, 22050, 44100, 48000}),
-        Files("f4v").readBy("mov").indexedFirst().holding(list("h264"), list("aac mp3")),
-        Files("3gp").indexedFirst().holding(phoneVideo, phoneAudio).withRotation(),
-        Files("3g2").indexedFirst().holding(phoneVideo, phoneAudio).withRotation(),
+        Files("f4v").readBy("mov").indexedFirst().holding(list("h264"), list("aac mp3")).withChapters(),
+        Files("3gp").indexedFirst().holding(phoneVideo, phoneAudio).withRotation()
+            .withChapters().withSubtitles(list("mov_text"), "mov_text"),
+        Files("3g2").indexedFirst().holding(phoneVideo, phoneAudio).withRotation()
+            .withChapters().withSubtitles(list("mov_text"), "mov_text"),
         Files("ogv").readBy("ogg").holding(list("theora vp8"), oggAudio).inSeveralTracks(),
         Files("mxf").holding(list("mpeg2video dnxhd h264 prores dvvideo"),
                              list("pcm_s16le pcm_s24le")).inSeveralTracks().at({48000})
@@ -146,14 +186,15 @@ QVector<Container> makeContainers()
             .inChannels(2).countingFrames(Container::Times::EveryFrame),
         Files("gif").holding(list("gif"), {}),
 
-        Files("mp3").holdingSound(list("mp3")).withCover(),
+        Files("mp3").holdingSound(list("mp3")).withCover().withChapters(),
         Files("aac").writtenBy("adts").readBy("aac").holdingSound(list("aac")),
         Files("m4a m4b m4r").writtenBy("ipod").readBy("m4a").indexedFirst()
-            .holdingSound(list("aac alac")).withCover(),
+            .holdingSound(list("aac alac")).withCover().withChapters(),
         Files("flac").holdingSound(list("flac")).withCover(),
         Files("wav").holdingSound(wavAudio),
         Files("aiff aif").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be "
-                                           "pcm_s16le")),
+                                           "pcm_s16le"))
+            .with("write_id3v2", "1").withCover(),
         Files("au").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be pcm_mulaw "
                                     "pcm_alaw")),
         // ffmpeg writes neither AAC nor FLAC into it that anyone could read.
@@ -161,13 +202,13 @@ QVector<Container> makeContainers()
                                      "alac opus")),
         Files("ogg").holdingSound(oggAudio),
         Files("oga").readBy("ogg").holdingSound(oggAudio),
-        Files("opus").readBy("ogg").holdingSound(list("opus")),
+        Files("opus").readBy("ogg").withChapters().holdingSound(list("opus")),
         Files("spx").readBy("ogg").holdingSound(list("speex")),
         Files("ac3").holdingSound(list("ac3")),
         Files("eac3").holdingSound(list("eac3")),
         Files("mp2").readBy("mp3").holdingSound(list("mp2")),
-        Files("wma").writtenBy("asf").holdingSound(asfAudio),
-        Files("mka").writtenBy("matroska").holdingSound(mkvAudio).inSeveralTracks(),
+        Files("wma").writtenBy("asf").withChapters().holdingSound(asfAudio),
+        Files("mka").writtenBy("matroska").withChapters().holdingSound(mkvAudio).inSeveralTracks(),
         Files("amr").holdingSound(list("amr_nb amr_wb")),
         Files("tta").holdingSound(list("tta")),
         Files("wv").holdingSound(list("wavpack")),

@@ -21,9 +21,15 @@ struct Container
     QString muxer;
     QString demuxer; //!< as ffprobe names such files
     ToolOptions options = {};
-    QStringList videoCodecs = {}; //!< those it holds, the usual one first; empty: sound only
-    QStringList audioCodecs = {}; //!< the same; empty: no sound
+    QStringList videoCodecs = {};     //!< those it holds, the usual one first; empty: sound only
+    QStringList audioCodecs = {};     //!< the same; empty: no sound
+    QStringList subtitleCodecs = {};  //!< those it holds
+    QString textSubtitles = {};       //!< what text becomes that it doesn't hold; empty: nothing
+    ToolOptions subtitleOptions = {}; //!< of the muxer, where there are subtitles
     bool holdsSeveralAudioTracks = false;
+    bool holdsChapters = false;
+    bool holdsAttachments = false;
+    bool titlesAreHandlers = false; //!< a track's title stands where others name its software
     bool takesCover = false;
     bool keepsRotation = false;    //!< holds the turn of a picture that players apply
     bool tagsHevcAsHvc1 = false;   //!< the form of hevc that all players of this container know

@@ -2,10 +2,13 @@
 
 #include "host/convert/copycheck.h"
 #include "host/convert/ffmpegarguments.h"
+#include "host/convert/losses.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <filesystem>
@@ -20,6 +23,42 @@ bool isSameFile(const QString &one, const QString &other)
                                        QFile::encodeName(other).toStdString(), missing);
 }
 
+/*! ffmpeg's reason without the names of options that nobody has typed. */
+QString inPlainWords(const QString &reason)
+{
+    struct Known
+    {
+        const char *pattern;
+        QString words;
+    };
+    const Known reasons[] = {
+        {"unknown timestamp|pts and dts|missing PTS|monoton",
+         Conversion::tr("the source doesn't say when its frames are shown")},
+        {"codec tag|tag for codec|supported in|compatible|bitstream filter|write header",
+         Conversion::tr("this kind of file can't hold one of the streams")},
+        {"parameters such as|setting option|opening encoder|initializing output|layout|"
+         "(^|[ '])-[a-z_:]+",
+         Conversion::tr("the encoder refuses these settings")},
+    };
+    for (const Known &known : reasons) {
+        const QRegularExpression pattern(QLatin1String(known.pattern),
+                                         QRegularExpression::CaseInsensitiveOption);
+        if (pattern.match(reason).hasMatch()) {
+            return known.words;
+        }
+    }
+    return reason;
+}
+
+/*! A date that can't be set hurts nothing. */
+void takeDate(const QString &file, const QString &source)
+{
+    QFile dated(file);
+    if (dated.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+        dated.setFileTime(QFileInfo(source).lastModified(), QFileDevice::FileModificationTime);
+    }
+}
+
 /*! For the frames of a second, of whatever size. */
 constexpr ToolLimits frameLimits{1024 * 1024, 120000};
 
@@ -31,6 +70,13 @@ bool wroteAll(const ToolRun &run)
 }
 
 } // namespace
+
+QString ConversionOutcome::note() const
+{
+    QStringList notes = {shortfall, losses};
+    notes.removeAll(QString());
+    return notes.join(QStringLiteral("; "));
+}
 
 Conversion::Conversion(const ConversionJob &job, QObject *parent)
     : QObject(parent)
@@ -94,7 +140,7 @@ void Conversion::convertWith(const Result<QSet<QString>> &encoders)
         return;
     }
     if (m_job.planOnly) {
-        Q_EMIT finished(ConversionOutcome{target, {}, ffmpegCall(*planned)});
+        Q_EMIT finished(ConversionOutcome{target, {}, losses(), {}, ffmpegCall(*planned)});
         return;
     }
     const Result<> created = m_pending.create(folder());
@@ -130,7 +176,7 @@ void Conversion::checkRun(const Result<ToolRun> &run)
             return;
         }
         fail({tr("ffmpeg couldn't convert it (%1); check the file or try another preset")
-                  .arg(run->firstError())});
+                  .arg(inPlainWords(run->firstError()))});
     } else {
         m_hadErrors = !run->errors.isEmpty();
         m_resultProbe.start(m_pending.path());
@@ -189,7 +235,10 @@ void Conversion::publish()
         fail(target.error());
         return;
     }
-    Q_EMIT finished(ConversionOutcome{*target, m_result});
+    if (m_job.keepDates) {
+        takeDate(*target, m_job.source);
+    }
+    Q_EMIT finished(ConversionOutcome{*target, m_result, losses(), shortfall()});
 }
 
 Result<QStringList> Conversion::argumentsFor(const QString &target) const
@@ -198,8 +247,38 @@ Result<QStringList> Conversion::argumentsFor(const QString &target) const
                            m_copies);
 }
 
+QString Conversion::losses() const
+{
+    const OutputSettings &settings = m_job.settings;
+    return lossesIn(m_source,
+                    {settings, *Container::find(settings.extension), m_encoderNames, m_copies});
+}
+
+QString Conversion::shortfall() const
+{
+    const double expected = expectedDuration();
+    double written = m_result.hasGuessedDuration() ? m_progress.progress().done : m_result.duration;
+    const VideoTrack *picture = m_result.video();
+    const VideoTrack *source = m_source.video();
+    if (picture != nullptr && source != nullptr && picture->duration > 0 &&
+        source->duration >= expected) {
+        written = std::min(written, picture->duration);
+    }
+    // The last packets of picture and sound needn't end together.
+    const double unnoticed = std::max(0.3, expected / 100);
+    if (m_source.hasGuessedDuration() || written <= 0 || written > expected - unnoticed) {
+        return {};
+    }
+    return tr("holds %1 of %2 s: the source ends early or is damaged")
+        .arg(written, 0, 'f', 1)
+        .arg(expected, 0, 'f', 1);
+}
+
 double Conversion::expectedDuration() const
 {
+    if (m_source.isStill()) {
+        return m_job.settings.stillSeconds;
+    }
     return m_job.settings.cutDuration(m_source.duration);
 }
 

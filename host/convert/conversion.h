@@ -20,15 +20,21 @@ struct ConversionJob
     QString folder;         //!< where the result goes; empty: beside the source
     bool overwrite = false; //!< false: a name in use gets " (2)", " (3)" ...
     QStringList keep;       //!< files that aren't overwritten even so; the source never is
+    bool keepDates = false; //!< gives the result the source's date
     bool planOnly = false;  //!< only say what would be done
 };
 
 /*! What a conversion gave. */
 struct ConversionOutcome
 {
-    QString target;     //!< the new file; of a plan, its name as things stand
-    MediaFacts facts;   //!< what the new file holds; of a plan, nothing
-    ToolCall plan = {}; //!< only of a plan: the run of ffmpeg that would write the target
+    QString target;         //!< the new file; of a plan, its name as things stand
+    MediaFacts facts;       //!< what the new file holds; of a plan, nothing
+    QString losses = {};    //!< what doesn't come along, one line; empty: all does
+    QString shortfall = {}; //!< says that the result is shorter than its source; empty: it isn't
+    ToolCall plan = {};     //!< only of a plan: the run of ffmpeg that would write the target
+
+    /*! Both in one line. */
+    [[nodiscard]] QString note() const;
 };
 Q_DECLARE_METATYPE(Result<ConversionOutcome>)
 
@@ -67,6 +73,8 @@ private:
 
     [[nodiscard]] Result<QStringList> argumentsFor(const QString &target) const;
     [[nodiscard]] double expectedDuration() const;
+    [[nodiscard]] QString losses() const;
+    [[nodiscard]] QString shortfall() const;
     /*! Encodes what can't be copied; false where nothing is left to try. */
     bool retryWithFewerCopies();
     void retryWith(const Copies &copies);

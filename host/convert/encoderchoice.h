@@ -27,6 +27,7 @@ struct StreamTarget
     const Container &container;
     const QSet<QString> &encoders; //!< those that ffmpeg has
     Copies allowed = {};
+    QString burnFilter = {}; //!< draws the subtitles onto the picture; empty: none are drawn
 
     /*! Not where the start is cut off: a copied stream can begin only at a key frame. */
     [[nodiscard]] bool allowsVideoCopy() const { return allowed.video && settings.start <= 0; }

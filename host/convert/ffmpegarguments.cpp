@@ -1,11 +1,15 @@
 #include "host/convert/ffmpegarguments.h"
 
 #include "host/convert/audioplan.h"
+#include "host/convert/burnedsubtitles.h"
+#include "host/convert/subtitleplan.h"
 #include "host/convert/videoplan.h"
 #include "host/media/mediainput.h"
 #include "host/tools/toolcall.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -27,8 +31,12 @@ QStringList timeArguments(const MediaFacts &source, const Copies &copies)
 }
 
 /*! The options in front of the source that keep the wanted part of it. */
-QStringList cutArguments(const OutputSettings &settings)
+QStringList cutArguments(const OutputSettings &settings, bool isStill)
 {
+    if (isStill && settings.hasVideo) {
+        return {QStringLiteral("-loop"), QStringLiteral("1"), QStringLiteral("-t"),
+                QString::number(settings.stillSeconds, 'f', 3)};
+    }
     QStringList arguments;
     if (settings.start > 0) {
         arguments << QStringLiteral("-ss") << QString::number(settings.start, 'f', 3);
@@ -39,22 +47,16 @@ QStringList cutArguments(const OutputSettings &settings)
     return arguments;
 }
 
-QVector<AudioTrack> chosenSound(const MediaFacts &source, const StreamTarget &target)
-{
-    const AudioTrack *sound = source.audio();
-    if (sound == nullptr || target.container.audioCodecs.isEmpty()) {
-        return {};
-    }
-    const bool all = target.settings.allAudioTracks && target.container.holdsSeveralAudioTracks;
-    return all ? source.audioTracks : QVector<AudioTrack>{*sound};
-}
-
 /*! Whether there is anything to write, and the file can hold it. */
-Result<> checkStreams(const VideoTrack *picture, const QVector<AudioTrack> &sound,
+Result<> checkStreams(const VideoTrack *picture, const QVector<AudioTrack> &sound, bool isLoneStill,
                       const StreamTarget &target)
 {
     if (target.settings.hasVideo && picture == nullptr) {
         return failed(Texts::tr("has no video; choose an audio preset"));
+    }
+    if (picture != nullptr && isLoneStill) {
+        return failed(Texts::tr("is a single picture and makes no film; on the command line, "
+                                "--duration SECONDS shows it for so long"));
     }
     if (picture == nullptr && sound.isEmpty()) {
         return failed(Texts::tr("has no sound; choose a video preset"));
@@ -66,51 +68,151 @@ Result<> checkStreams(const VideoTrack *picture, const QVector<AudioTrack> &soun
     return {};
 }
 
-/*! The cover as it is, where it is a still picture that the file can hold. */
-bool keepsCover(const VideoTrack *cover, const Container &container)
+/*! What the muxer doesn't take over by itself. */
+QStringList metadataArguments(const MediaFacts &source)
 {
-    return cover != nullptr && container.takesCover &&
-           (cover->codec == QLatin1String("mjpeg") || cover->codec == QLatin1String("png"));
+    QStringList arguments;
+    const auto add = [&arguments](const QString &key, const QString &value) {
+        if (!value.isEmpty()) {
+            arguments << QStringLiteral("-metadata") << key + QLatin1Char('=') + value;
+        }
+    };
+    add(QStringLiteral("creation_time"), source.creationTime);
+    add(QStringLiteral("location"), source.location);
+    return arguments;
+}
+
+/*! Where the container has no place for titles but the handler's name. */
+QStringList titleArguments(const Track &track, const QString &stream, const Container &container)
+{
+    if (track.title.isEmpty() || !container.titlesAreHandlers) {
+        return {};
+    }
+    return {QStringLiteral("-metadata:s:") + stream, QStringLiteral("handler_name=") + track.title};
+}
+
+/*! The arguments that choose and encode the streams of a result, in their order. */
+class Streams
+{
+public:
+    Streams(const MediaFacts &source, const StreamTarget &target)
+        : m_source(source)
+        , m_target(target)
+    {}
+
+    Result<> addPicture(const VideoTrack &picture);
+    Result<> addSound(const QVector<AudioTrack> &sound);
+    void addSubtitles();
+    void addAttachments();
+    void addCover();
+    QStringList arguments() const { return m_graph + m_maps + m_codecs; }
+
+private:
+    void map(int index) { map(QStringLiteral("0:%1").arg(index)); }
+    void map(const QString &stream) { m_maps << QStringLiteral("-map") << stream; }
+
+    const MediaFacts &m_source;
+    const StreamTarget &m_target;
+    QStringList m_graph;
+    QStringList m_maps;
+    QStringList m_codecs;
+    int m_pictures = 0;
+};
+
+Result<> Streams::addPicture(const VideoTrack &picture)
+{
+    const Result<VideoPlan> plan = VideoPlan::make(picture, m_target);
+    if (!plan) {
+        return failed(plan);
+    }
+    if (plan->hasGraph()) {
+        const QString drawn = QStringLiteral("[drawn]");
+        m_graph = QStringList{QStringLiteral("-filter_complex"),
+                              plan->filters.join(QLatin1Char(',')) + drawn};
+        map(drawn);
+    } else {
+        map(picture.index);
+    }
+    m_codecs += plan->arguments();
+    ++m_pictures;
+    return {};
+}
+
+Result<> Streams::addSound(const QVector<AudioTrack> &sound)
+{
+    for (int position = 0; position < sound.size(); ++position) {
+        const AudioTrack &track = sound.at(position);
+        const Result<AudioPlan> plan = AudioPlan::make(track, m_target);
+        if (!plan) {
+            return failed(plan);
+        }
+        map(track.index);
+        m_codecs += plan->arguments(position);
+        m_codecs += titleArguments(track, QStringLiteral("a:%1").arg(position), m_target.container);
+    }
+    return {};
+}
+
+void Streams::addSubtitles()
+{
+    const QVector<SubtitlePlan> plans = subtitlePlans(m_source, m_target);
+    for (int position = 0; position < plans.size(); ++position) {
+        const SubtitlePlan &plan = plans.at(position);
+        map(plan.track.index);
+        m_codecs += plan.arguments(position);
+        m_codecs +=
+            titleArguments(plan.track, QStringLiteral("s:%1").arg(position), m_target.container);
+    }
+    if (!plans.isEmpty()) {
+        m_codecs += toArguments(m_target.container.subtitleOptions);
+    }
+}
+
+void Streams::addAttachments()
+{
+    if (m_target.container.holdsAttachments && !m_source.attachments.isEmpty()) {
+        for (const Attachment &attachment : m_source.attachments) {
+            map(attachment.index);
+        }
+        m_codecs += toArguments({{QStringLiteral("c"), copied}}, QStringLiteral("t"));
+    }
+}
+
+void Streams::addCover()
+{
+    const VideoTrack *cover = m_source.cover();
+    if (cover != nullptr && keepsCover(*cover, m_target.container)) {
+        map(cover->index);
+        m_codecs += toArguments({{QStringLiteral("c"), copied},
+                                 {QStringLiteral("disposition"), QStringLiteral("attached_pic")}},
+                                QStringLiteral("v:%1").arg(m_pictures));
+    }
 }
 
 /*! The streams, their codecs and the muxer. */
 Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget &target)
 {
     const VideoTrack *picture = target.settings.hasVideo ? source.video() : nullptr;
-    const QVector<AudioTrack> sound = chosenSound(source, target);
-    const Result<> possible = checkStreams(picture, sound, target);
+    const QVector<AudioTrack> sound = chosenAudio(source, target);
+    const Result<> possible =
+        checkStreams(picture, sound, source.isStill() && target.settings.stillSeconds <= 0, target);
     if (!possible) {
-        return tl::make_unexpected(possible.error());
+        return failed(possible);
     }
-    QStringList maps;
-    QStringList codecs;
-    const auto map = [&maps](int index) {
-        maps << QStringLiteral("-map") << QStringLiteral("0:%1").arg(index);
-    };
+    Streams streams(source, target);
+    Result<> added = picture == nullptr ? Result<>() : streams.addPicture(*picture);
+    if (added) {
+        added = streams.addSound(sound);
+    }
+    if (!added) {
+        return failed(added);
+    }
     if (picture != nullptr) {
-        const Result<VideoPlan> plan = VideoPlan::make(*picture, target);
-        if (!plan) {
-            return tl::make_unexpected(plan.error());
-        }
-        map(picture->index);
-        codecs += plan->arguments();
+        streams.addSubtitles();
+        streams.addAttachments();
     }
-    for (int position = 0; position < sound.size(); ++position) {
-        const Result<AudioPlan> plan = AudioPlan::make(sound.at(position), target);
-        if (!plan) {
-            return tl::make_unexpected(plan.error());
-        }
-        map(sound.at(position).index);
-        codecs += plan->arguments(position);
-    }
-    const VideoTrack *cover = source.cover();
-    if (picture == nullptr && keepsCover(cover, target.container)) {
-        map(cover->index);
-        codecs += toArguments({{QStringLiteral("c"), copied},
-                               {QStringLiteral("disposition"), QStringLiteral("attached_pic")}},
-                              QStringLiteral("v:0"));
-    }
-    return maps + codecs + toArguments(target.container.options) +
+    streams.addCover();
+    return streams.arguments() + metadataArguments(source) + toArguments(target.container.options) +
            toArguments({{QStringLiteral("f"), target.container.muxer}});
 }
 
@@ -125,15 +227,46 @@ Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaF
         return tl::make_unexpected(possible.error());
     }
     const Container &container = *Container::find(settings.extension);
-    Result<QStringList> output = outputArguments(source, {settings, container, encoders, allowed});
+    const Result<QString> burned = burnFilter(source, settings, sourcePath);
+    if (!burned) {
+        return failed(burned);
+    }
+    Result<QStringList> output =
+        outputArguments(source, {settings, container, encoders,
+                                 source.isStill() ? Copies{false, false} : allowed, *burned});
     if (!output) {
         return output;
     }
     return QStringList{QStringLiteral("-progress"), QStringLiteral("pipe:1"),
                        QStringLiteral("-y")} +
-           cutArguments(settings) + timeArguments(source, copiesIn(*output)) +
+           cutArguments(settings, source.isStill()) + timeArguments(source, copiesIn(*output)) +
            inputArguments(sourcePath, source.container) + *output +
            QStringList{fileArgument(targetPath)};
+}
+
+QVector<AudioTrack> chosenAudio(const MediaFacts &source, const StreamTarget &target)
+{
+    if (source.audio() == nullptr || target.container.audioCodecs.isEmpty()) {
+        return {};
+    }
+    const TrackChoice &choice = target.settings.audioTracks;
+    QVector<AudioTrack> chosen;
+    std::copy_if(source.audioTracks.begin(), source.audioTracks.end(), std::back_inserter(chosen),
+                 [&choice](const AudioTrack &track) { return choice.takes(track); });
+    // The language may be missing, or not told: the file isn't silent for that.
+    const AudioTrack usual = *source.audio();
+    const bool takesUsual = chosen.isEmpty() || choice.takes(usual);
+    if (choice.kind == TrackChoice::First || chosen.isEmpty() ||
+        !target.container.holdsSeveralAudioTracks) {
+        return {takesUsual ? usual : chosen.constFirst()};
+    }
+    return chosen;
+}
+
+bool keepsCover(const VideoTrack &cover, const Container &container)
+{
+    return container.takesCover &&
+           (cover.codec == QLatin1String("mjpeg") || cover.codec == QLatin1String("png"));
 }
 
 Copies copiesIn(const QStringList &arguments)

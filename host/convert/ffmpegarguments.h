@@ -20,6 +20,12 @@
                                                   const QString &sourcePath,
                                                   const QString &targetPath, Copies allowed = {});
 
+/*! The tracks of sound that are written. */
+[[nodiscard]] QVector<AudioTrack> chosenAudio(const MediaFacts &source, const StreamTarget &target);
+
+/*! Whether the cover comes along, as it is: where it is a still picture that the file can hold. */
+[[nodiscard]] bool keepsCover(const VideoTrack &cover, const Container &container);
+
 /*! Which streams these arguments copy. */
 [[nodiscard]] Copies copiesIn(const QStringList &arguments);
 

@@ -108,7 +108,8 @@ auto valuesOf(const OutputSettings &settings)
     return std::tie(settings.extension, settings.hasVideo, settings.videoCodec, settings.frameRate,
                     settings.frameRateMode, settings.box, settings.videoKbps, settings.audioCodec,
                     settings.sampleRate, settings.channels, settings.audioKbps,
-                    settings.allAudioTracks, settings.start, settings.end);
+                    settings.audioTracks, settings.subtitles, settings.burnedSubtitles,
+                    settings.stillSeconds, settings.start, settings.end);
 }
 
 } // namespace
@@ -117,7 +118,6 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
 {
     OutputSettings settings;
     settings.extension = preset.value(QStringLiteral("extension")).toString().toLower();
-    settings.allAudioTracks = preset.value(QStringLiteral("supportMultiTrack")).toBool();
 
     // A user's audio preset has a hollow "videoParam" in its outPutNode: only this key tells.
     settings.hasVideo = preset.contains(QStringLiteral("video"));

@@ -1,6 +1,7 @@
 #ifndef CONVERT_OUTPUTSETTINGS_H
 #define CONVERT_OUTPUTSETTINGS_H
 
+#include "host/convert/trackchoice.h"
 #include "host/error.h"
 #include "host/media/ratio.h"
 
@@ -33,10 +34,13 @@ public:
     QString audioCodec;
     int sampleRate = 0; //!< Hz
     int channels = 0;
-    double audioKbps = 0;        //!< 0: the encoder's own good quality
-    bool allAudioTracks = false; //!< else only the one that a player would play
-    double start = 0;            //!< seconds; what lies before is left out
-    double end = 0;              //!< seconds; what lies behind is left out, 0: nothing
+    double audioKbps = 0;         //!< 0: the encoder's own good quality
+    TrackChoice audioTracks = {}; //!< All: as many as the container holds
+    TrackChoice subtitles = {};   //!< All: those that the container holds
+    int burnedSubtitles = 0;      //!< drawn onto the picture, counted from 1; 0: none
+    double stillSeconds = 0;      //!< of a single picture; 0: it makes no film
+    double start = 0;             //!< seconds; what lies before is left out
+    double end = 0;               //!< seconds; what lies behind is left out, 0: nothing
 
     /*!
      * Reads a preset map, as FormatDetailModelData::toVarMap() makes it. A value that can't be

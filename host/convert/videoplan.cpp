@@ -24,8 +24,8 @@ bool canBeCopied(const VideoTrack &track, const StreamTarget &target)
     const bool isOwnCodec = settings.videoCodec.isEmpty()
                                 ? target.container.videoCodecs.contains(track.codec)
                                 : settings.videoCodec == track.codec;
-    return target.allowsVideoCopy() && isOwnCodec && settings.videoKbps == 0 &&
-           resultRate(track.frameRate, settings) == track.frameRate &&
+    return target.allowsVideoCopy() && isOwnCodec && target.burnFilter.isEmpty() &&
+           settings.videoKbps == 0 && resultRate(track.frameRate, settings) == track.frameRate &&
            boxedSize(track, settings.box).isEmpty() && turnIsKept;
 }
 
@@ -118,6 +118,9 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
         }
         plan.encoder = *encoder;
         planPicture(plan, track, codec, target);
+        if (!target.burnFilter.isEmpty()) {
+            plan.filters.prepend(target.burnFilter);
+        }
         planQuality(plan, codec, settings.videoKbps);
     }
     if (isCopied) {
@@ -133,13 +136,18 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
     return plan;
 }
 
+bool VideoPlan::hasGraph() const
+{
+    return filters.value(0).startsWith(QLatin1Char('['));
+}
+
 QStringList VideoPlan::arguments() const
 {
     ToolOptions all = {{QStringLiteral("c"), encoder}};
     if (encoder != QLatin1String("copy")) {
         all += timing.options();
     }
-    if (!filters.isEmpty()) {
+    if (!filters.isEmpty() && !hasGraph()) {
         all.append({QStringLiteral("filter"), filters.join(QLatin1Char(','))});
     }
     if (!pixelFormat.isEmpty()) {

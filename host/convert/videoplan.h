@@ -22,6 +22,8 @@ struct VideoPlan
     [[nodiscard]] static Result<VideoPlan> make(const VideoTrack &track,
                                                 const StreamTarget &target);
 
+    /*! Whether the filters name their own inputs, so that they must stand in a graph. */
+    [[nodiscard]] bool hasGraph() const;
     /*! The arguments of ffmpeg for its first video stream. */
     [[nodiscard]] QStringList arguments() const;
 };

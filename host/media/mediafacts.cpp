@@ -78,6 +78,14 @@ MediaFacts MediaFacts::fromProbe(const QByteArray &json)
     facts.duration = plausibleSeconds(probeText(format, QLatin1String("duration")).toDouble());
     facts.bytes = std::max(0LL, probeText(format, QLatin1String("size")).toLongLong());
 
+    const QJsonObject tags = format.value(QLatin1String("tags")).toObject();
+    facts.creationTime = probeText(tags, QLatin1String("creation_time"));
+    for (const char *key : {"location", "LOCATION", "com.apple.quicktime.location.ISO6709"}) {
+        if (facts.location.isEmpty()) {
+            facts.location = probeText(tags, QLatin1String(key));
+        }
+    }
+
     const QJsonArray streams = probe.value(QLatin1String("streams")).toArray();
     for (const QJsonValue &value : streams) {
         const QJsonObject stream = value.toObject();
@@ -112,6 +120,11 @@ const VideoTrack *MediaFacts::cover() const
 const AudioTrack *MediaFacts::audio() const
 {
     return defaultOrFirst(audioTracks, [](const AudioTrack &) { return true; });
+}
+
+bool MediaFacts::isStill() const
+{
+    return container.endsWith(QLatin1String("_pipe")) || container == QLatin1String("image2");
 }
 
 bool MediaFacts::hasGuessedDuration() const

@@ -20,7 +20,9 @@ public:
     QVector<SubtitleTrack> subtitleTracks;
     QVector<Attachment> attachments;
     int chapters = 0;
-    double duration = 0; //!< seconds, 0 when unknown
+    QString creationTime; //!< "2020-05-06T07:08:09.000000Z"; empty where the file doesn't say
+    QString location;     //!< "+48.1000+011.5000/"; the same
+    double duration = 0;  //!< seconds, 0 when unknown
     qint64 bytes = 0;
 
     /*! Reads ffprobe's JSON (-show_format -show_streams); what is no such JSON gives no tracks.
@@ -34,6 +36,8 @@ public:
     [[nodiscard]] const VideoTrack *cover() const;
     /*! The track that a player would play; null when there is none. */
     [[nodiscard]] const AudioTrack *audio() const;
+    /*! Whether the file is a single picture. */
+    [[nodiscard]] bool isStill() const;
     /*! Whether the file tells no length, so that it is guessed from its bytes or its last time
      *  stamp. */
     [[nodiscard]] bool hasGuessedDuration() const;

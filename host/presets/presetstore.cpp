@@ -52,9 +52,7 @@ Result<> both(const Result<> &one, const Result<> &other)
 
 OutputSettings FoundPreset::outputSettings() const
 {
-    OutputSettings settings = OutputSettings::fromPreset(map);
-    settings.allAudioTracks = allAudioTracks;
-    return settings;
+    return OutputSettings::fromPreset(map);
 }
 
 PresetStore::PresetStore(FormatsProxy &formats, const QString &folder, const Tell &tell)
@@ -193,8 +191,6 @@ std::optional<FoundPreset> PresetStore::find(const QString &id) const
     if (preset.map.isEmpty()) {
         return std::nullopt;
     }
-    preset.allAudioTracks = preset.map.value(QStringLiteral("supportMultiTrack")).toBool() ||
-                            m_formats.isSupportMultiTrack(id);
 
     const FormatDetailModel *list =
         m_formats.formatListModel()->formatDetailModel(preset.className);

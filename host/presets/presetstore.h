@@ -22,7 +22,6 @@ struct FoundPreset
     QString className;
     QVariantMap map; //!< as FormatDetailModelData::toVarMap() makes it
     bool isUserDefined = false;
-    bool allAudioTracks = false;
 
     /*! What it asks of a conversion. */
     [[nodiscard]] OutputSettings outputSettings() const;

@@ -830,6 +830,10 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>eine .%1-Datei kann kein Video enthalten; wählen Sie ein Audioformat</translation>
     </message>
+    <message>
+        <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
+        <translation>ist ein einzelnes Bild und ergibt keinen Film; auf der Befehlszeile zeigt --duration SECONDS es so lange</translation>
+    </message>
 </context>
 <context>
     <name>EncoderChoice</name>
@@ -862,6 +866,22 @@
     <message>
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg hat eine nicht abspielbare Datei geschrieben; versuchen Sie ein anderes Format</translation>
+    </message>
+    <message>
+        <source>holds %1 of %2 s: the source ends early or is damaged</source>
+        <translation>enthält %1 von %2 s: die Quelle endet zu früh oder ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the encoder refuses these settings</source>
+        <translation>der Encoder lehnt diese Einstellungen ab</translation>
+    </message>
+    <message>
+        <source>this kind of file can&apos;t hold one of the streams</source>
+        <translation>diese Dateiart kann eine der Spuren nicht enthalten</translation>
+    </message>
+    <message>
+        <source>the source doesn&apos;t say when its frames are shown</source>
+        <translation>die Quelle sagt nicht, wann ihre Bilder gezeigt werden</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1093,48 @@
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
         <translation>%1 enthält Formate ohne Einstellungen (&quot;outPutNode&quot;), die unbrauchbar sind; sie sind in %2 aufgehoben</translation>
+    </message>
+</context>
+<context>
+    <name>Losses</name>
+    <message>
+        <source>left out: %1</source>
+        <translation>weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
+        <translation>%1 von %2 Tonspuren (.%3 enthält %4, .%5 alle)</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
+        <translation>Untertitelspuren: %1 (%2; nicht in .%3 möglich, in .%4 schon)</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; no format holds them)</source>
+        <translation>Untertitelspuren: %1 (%2; in keinem Format möglich)</translation>
+    </message>
+    <message>
+        <source>more video tracks: %1 (a result has one)</source>
+        <translation>weitere Videospuren: %1 (ein Ergebnis hat eine)</translation>
+    </message>
+    <message>
+        <source>attachments: %1 (.%2 doesn&apos;t hold them, .mkv does)</source>
+        <translation>Anhänge: %1 (nicht in .%2 möglich, in .mkv schon)</translation>
+    </message>
+    <message>
+        <source>chapters: %1 (.%2 doesn&apos;t hold them, .%3 does)</source>
+        <translation>Kapitel: %1 (nicht in .%2 möglich, in .%3 schon)</translation>
+    </message>
+    <message>
+        <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>
+        <translation>das Titelbild (nicht in .%1 möglich, in .%2 schon)</translation>
+    </message>
+</context>
+<context>
+    <name>BurnedSubtitles</name>
+    <message>
+        <source>has %1 subtitle tracks, so no number %2; choose another one</source>
+        <translation>enthält %1 Untertitelspuren, also keine Nummer %2; wählen Sie eine andere</translation>
     </message>
 </context>
 </TS>

@@ -830,6 +830,10 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>un archivo .%1 no admite vídeo; elige un formato de audio</translation>
     </message>
+    <message>
+        <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
+        <translation>es una sola imagen y no da una película; en la línea de órdenes, --duration SECONDS la muestra ese tiempo</translation>
+    </message>
 </context>
 <context>
     <name>EncoderChoice</name>
@@ -862,6 +866,22 @@
     <message>
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg escribió un archivo que no se puede reproducir; prueba otro formato</translation>
+    </message>
+    <message>
+        <source>holds %1 of %2 s: the source ends early or is damaged</source>
+        <translation>contiene %1 de %2 s: el origen termina antes o está dañado</translation>
+    </message>
+    <message>
+        <source>the encoder refuses these settings</source>
+        <translation>el codificador rechaza estos ajustes</translation>
+    </message>
+    <message>
+        <source>this kind of file can&apos;t hold one of the streams</source>
+        <translation>este tipo de archivo no admite una de las pistas</translation>
+    </message>
+    <message>
+        <source>the source doesn&apos;t say when its frames are shown</source>
+        <translation>el origen no dice cuándo se muestran sus fotogramas</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1093,48 @@
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
         <translation>%1 contiene formatos sin ajustes (&quot;outPutNode&quot;), que no se pueden usar; se guardan en %2</translation>
+    </message>
+</context>
+<context>
+    <name>Losses</name>
+    <message>
+        <source>left out: %1</source>
+        <translation>omitido: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
+        <translation>%1 de %2 pistas de audio (.%3 contiene %4, .%5 todas)</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
+        <translation>pistas de subtítulos: %1 (%2; .%3 no las admite, .%4 sí)</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; no format holds them)</source>
+        <translation>pistas de subtítulos: %1 (%2; ningún formato las admite)</translation>
+    </message>
+    <message>
+        <source>more video tracks: %1 (a result has one)</source>
+        <translation>más pistas de vídeo: %1 (un resultado tiene una)</translation>
+    </message>
+    <message>
+        <source>attachments: %1 (.%2 doesn&apos;t hold them, .mkv does)</source>
+        <translation>adjuntos: %1 (.%2 no los admite, .mkv sí)</translation>
+    </message>
+    <message>
+        <source>chapters: %1 (.%2 doesn&apos;t hold them, .%3 does)</source>
+        <translation>capítulos: %1 (.%2 no los admite, .%3 sí)</translation>
+    </message>
+    <message>
+        <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>
+        <translation>la carátula (.%1 no la admite, .%2 sí)</translation>
+    </message>
+</context>
+<context>
+    <name>BurnedSubtitles</name>
+    <message>
+        <source>has %1 subtitle tracks, so no number %2; choose another one</source>
+        <translation>tiene %1 pistas de subtítulos, así que ninguna número %2; elija otra</translation>
     </message>
 </context>
 </TS>

@@ -830,6 +830,10 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>un fichier .%1 ne peut pas contenir de vidéo ; choisissez un format audio</translation>
     </message>
+    <message>
+        <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
+        <translation>est une seule image et ne fait pas un film ; en ligne de commande, --duration SECONDS la montre aussi longtemps</translation>
+    </message>
 </context>
 <context>
     <name>EncoderChoice</name>
@@ -862,6 +866,22 @@
     <message>
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg a écrit un fichier illisible ; essayez un autre format</translation>
+    </message>
+    <message>
+        <source>holds %1 of %2 s: the source ends early or is damaged</source>
+        <translation>contient %1 s sur %2 : la source se termine trop tôt ou est endommagée</translation>
+    </message>
+    <message>
+        <source>the encoder refuses these settings</source>
+        <translation>l&apos;encodeur refuse ces réglages</translation>
+    </message>
+    <message>
+        <source>this kind of file can&apos;t hold one of the streams</source>
+        <translation>ce type de fichier ne peut pas contenir une des pistes</translation>
+    </message>
+    <message>
+        <source>the source doesn&apos;t say when its frames are shown</source>
+        <translation>la source ne dit pas quand ses images sont montrées</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1093,48 @@
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
         <translation>%1 contient des formats sans réglages (&quot;outPutNode&quot;), inutilisables ; ils sont gardés dans %2</translation>
+    </message>
+</context>
+<context>
+    <name>Losses</name>
+    <message>
+        <source>left out: %1</source>
+        <translation>laissé de côté : %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
+        <translation>%1 pistes audio sur %2 (.%3 en contient %4, .%5 toutes)</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
+        <translation>pistes de sous-titres : %1 (%2 ; .%3 ne les accepte pas, .%4 si)</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; no format holds them)</source>
+        <translation>pistes de sous-titres : %1 (%2 ; aucun format ne les accepte)</translation>
+    </message>
+    <message>
+        <source>more video tracks: %1 (a result has one)</source>
+        <translation>autres pistes vidéo : %1 (un résultat en a une)</translation>
+    </message>
+    <message>
+        <source>attachments: %1 (.%2 doesn&apos;t hold them, .mkv does)</source>
+        <translation>pièces jointes : %1 (.%2 ne les accepte pas, .mkv si)</translation>
+    </message>
+    <message>
+        <source>chapters: %1 (.%2 doesn&apos;t hold them, .%3 does)</source>
+        <translation>chapitres : %1 (.%2 ne les accepte pas, .%3 si)</translation>
+    </message>
+    <message>
+        <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>
+        <translation>la pochette (.%1 ne l&apos;accepte pas, .%2 si)</translation>
+    </message>
+</context>
+<context>
+    <name>BurnedSubtitles</name>
+    <message>
+        <source>has %1 subtitle tracks, so no number %2; choose another one</source>
+        <translation>contient %1 pistes de sous-titres, donc pas de numéro %2 ; choisissez-en une autre</translation>
     </message>
 </context>
 </TS>

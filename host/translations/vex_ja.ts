@@ -830,6 +830,10 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>.%1 ファイルに動画は入りません。音声の形式を選んでください</translation>
     </message>
+    <message>
+        <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
+        <translation>1 枚の画像なので映像になりません。コマンドラインの --duration SECONDS でその秒数だけ表示できます</translation>
+    </message>
 </context>
 <context>
     <name>EncoderChoice</name>
@@ -862,6 +866,22 @@
     <message>
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>再生できないファイルができました。別の形式をお試しください</translation>
+    </message>
+    <message>
+        <source>holds %1 of %2 s: the source ends early or is damaged</source>
+        <translation>%2 秒のうち %1 秒です: 元のファイルが途中で終わっているか壊れています</translation>
+    </message>
+    <message>
+        <source>the encoder refuses these settings</source>
+        <translation>エンコーダーがこの設定を受け付けません</translation>
+    </message>
+    <message>
+        <source>this kind of file can&apos;t hold one of the streams</source>
+        <translation>この種類のファイルに入らないトラックがあります</translation>
+    </message>
+    <message>
+        <source>the source doesn&apos;t say when its frames are shown</source>
+        <translation>元のファイルにフレームの表示時刻がありません</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1093,48 @@
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
         <translation>%1 に設定内容（&quot;outPutNode&quot;）のない、使えない設定があります。%2 に残しています</translation>
+    </message>
+</context>
+<context>
+    <name>Losses</name>
+    <message>
+        <source>left out: %1</source>
+        <translation>含まれないもの: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
+        <translation>音声トラック %2 本のうち %1 本（.%3 は %4 本、.%5 はすべて）</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
+        <translation>字幕トラック: %1（%2。.%3 には入りませんが .%4 には入ります）</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; no format holds them)</source>
+        <translation>字幕トラック: %1（%2。入る形式がありません）</translation>
+    </message>
+    <message>
+        <source>more video tracks: %1 (a result has one)</source>
+        <translation>その他の映像トラック: %1（結果は 1 本です）</translation>
+    </message>
+    <message>
+        <source>attachments: %1 (.%2 doesn&apos;t hold them, .mkv does)</source>
+        <translation>添付ファイル: %1（.%2 には入りませんが .mkv には入ります）</translation>
+    </message>
+    <message>
+        <source>chapters: %1 (.%2 doesn&apos;t hold them, .%3 does)</source>
+        <translation>チャプター: %1（.%2 には入りませんが .%3 には入ります）</translation>
+    </message>
+    <message>
+        <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>
+        <translation>カバー画像（.%1 には入りませんが .%2 には入ります）</translation>
+    </message>
+</context>
+<context>
+    <name>BurnedSubtitles</name>
+    <message>
+        <source>has %1 subtitle tracks, so no number %2; choose another one</source>
+        <translation>字幕トラックは %1 本で %2 番はありません。別の番号を選んでください</translation>
     </message>
 </context>
 </TS>

@@ -830,6 +830,10 @@
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
         <translation>.%1 文件不能包含视频；请选择音频预设</translation>
     </message>
+    <message>
+        <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
+        <translation>是单张图片，不能成为影片；可在命令行用 --duration SECONDS 指定显示秒数</translation>
+    </message>
 </context>
 <context>
     <name>EncoderChoice</name>
@@ -862,6 +866,22 @@
     <message>
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
         <translation>ffmpeg 写出的文件无法播放；请尝试其他预设</translation>
+    </message>
+    <message>
+        <source>holds %1 of %2 s: the source ends early or is damaged</source>
+        <translation>%2 秒中只有 %1 秒：源文件提前结束或已损坏</translation>
+    </message>
+    <message>
+        <source>the encoder refuses these settings</source>
+        <translation>编码器不接受这些设置</translation>
+    </message>
+    <message>
+        <source>this kind of file can&apos;t hold one of the streams</source>
+        <translation>此类文件无法包含其中一条轨道</translation>
+    </message>
+    <message>
+        <source>the source doesn&apos;t say when its frames are shown</source>
+        <translation>源文件没有说明各帧的显示时间</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1093,48 @@
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
         <translation>%1 含有缺少设置（&quot;outPutNode&quot;）而无法使用的预设；它们保存在 %2 中</translation>
+    </message>
+</context>
+<context>
+    <name>Losses</name>
+    <message>
+        <source>left out: %1</source>
+        <translation>未包含：%1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
+        <translation>%2 条音轨中的 %1 条（.%3 可存 %4 条，.%5 可存全部）</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
+        <translation>字幕轨：%1（%2；.%3 不支持，.%4 支持）</translation>
+    </message>
+    <message>
+        <source>subtitle tracks: %1 (%2; no format holds them)</source>
+        <translation>字幕轨：%1（%2；没有格式支持）</translation>
+    </message>
+    <message>
+        <source>more video tracks: %1 (a result has one)</source>
+        <translation>其他视频轨：%1（结果只有一条）</translation>
+    </message>
+    <message>
+        <source>attachments: %1 (.%2 doesn&apos;t hold them, .mkv does)</source>
+        <translation>附件：%1（.%2 不支持，.mkv 支持）</translation>
+    </message>
+    <message>
+        <source>chapters: %1 (.%2 doesn&apos;t hold them, .%3 does)</source>
+        <translation>章节：%1（.%2 不支持，.%3 支持）</translation>
+    </message>
+    <message>
+        <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>
+        <translation>封面（.%1 不支持，.%2 支持）</translation>
+    </message>
+</context>
+<context>
+    <name>BurnedSubtitles</name>
+    <message>
+        <source>has %1 subtitle tracks, so no number %2; choose another one</source>
+        <translation>有 %1 条字幕轨，没有第 %2 条；请选择其他字幕轨</translation>
     </message>
 </context>
 </TS>

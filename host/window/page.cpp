@@ -162,6 +162,7 @@ void Page::takeOutcome(int taskId, const Result<ConversionOutcome> &outcome)
     m_tasks.update(taskId, [&outcome](Task &task) {
         task.error = outcome ? QString() : outcome.error().text;
         task.target = outcome ? outcome->target : QString();
+        task.note = outcome ? outcome->note() : QString();
     });
 }
 

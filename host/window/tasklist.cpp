@@ -96,6 +96,8 @@ QVariant TaskList::data(const QModelIndex &index, int role) const
         return visibleText(task.error);
     case TargetRole:
         return visibleText(task.target);
+    case NoteRole:
+        return visibleText(task.note);
     case StartRole:
         return task.start;
     case EndRole:
@@ -123,6 +125,7 @@ QHash<int, QByteArray> TaskList::roleNames() const
         {TimeLeftRole, "timeLeft"},
         {ErrorRole, "error"},
         {TargetRole, "target"},
+        {NoteRole, "note"},
         {StartRole, "start"},
         {EndRole, "end"},
     };
@@ -173,6 +176,7 @@ void TaskList::setState(int id, Task::State state)
         task.progress = {};
         task.error.clear();
         task.target.clear();
+        task.note.clear();
     });
     Q_EMIT stateChanged();
 }

@@ -29,6 +29,7 @@ public:
     Progress progress;
     QString error;  //!< Failed: one line that says why
     QString target; //!< Converted: the new file
+    QString note;   //!< Converted: what the new file lacks; empty: nothing
     double start = 0;
     double end = 0; //!< seconds; 0: the source's end
 
@@ -61,6 +62,7 @@ public:
         TimeLeftRole, //!< as on a clock; empty when unknown
         ErrorRole,
         TargetRole,
+        NoteRole,
         StartRole,
         EndRole,
     };

@@ -13,6 +13,7 @@ Item {
     required property real speed
     required property string timeLeft
     required property string error
+    required property string note
 
     readonly property bool isRunning: root.taskState === Task.Running
     readonly property string words: {
@@ -22,7 +23,7 @@ Item {
         case Task.Waiting:
             return ToolFun.tr("Waiting")
         case Task.Converted:
-            return ToolFun.tr("Converted")
+            return [ToolFun.tr("Converted"), root.note].filter(Boolean).join("  ·  ")
         case Task.Failed:
             return root.error
         case Task.Cancelled:
@@ -77,7 +78,7 @@ Item {
             verticalCenter: parent.verticalCenter
         }
         wrapMode: Text.Wrap
-        maximumLineCount: root.taskState === Task.Failed ? 2 : 1
+        maximumLineCount: root.taskState === Task.Failed || root.note !== "" ? 2 : 1
         text: root.words
         font.pixelSize: Theme.smallText
         color: root.taskState === Task.Failed ? Theme.danger

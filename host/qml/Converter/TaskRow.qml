@@ -27,6 +27,7 @@ Rectangle {
     required property real speed
     required property string timeLeft
     required property string error
+    required property string note
     required property real start
     required property real end
 
@@ -133,6 +134,7 @@ Rectangle {
             speed: root.speed
             timeLeft: root.timeLeft
             error: root.error
+            note: root.note
         }
     }
 

@@ -28,9 +28,9 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
     });
     const std::function<void(OutputSettings &)> allTracks = [](OutputSettings &s) {
         s.audioCodec = QStringLiteral("ac3");
-        s.allAudioTracks = true;
     };
-    row("one track: the default one", video("mp4"), dubbed,
+    row("one track: the default one",
+        with(video("mp4"), [](OutputSettings &s) { s.audioTracks = {TrackChoice::First}; }), dubbed,
         "-map 0:0 -map 0:2 -c:v:0 copy -c:a:0 copy -movflags +faststart -f mp4");
     row("all tracks, each with its own settings", with(video("mp4"), allTracks), dubbed,
         "-map 0:0 -map 0:1 -map 0:2 -map 0:3 -c:v:0 copy -c:a:0 ac3 -b:a:0 192k "
@@ -143,7 +143,7 @@ void TestAudioPlan::losslessSoundKeepsItsBits_data()
     row("16 bits of flac", audio("wav"), deepSong("flac", 16, "s16"),
         "-map 0:0 -c:a:0 pcm_s16le -f wav");
     row("in the container's order of bytes", audio("aiff"), deepSong("pcm_s24le", 24, "s32"),
-        "-map 0:0 -c:a:0 pcm_s24be -f aiff");
+        "-map 0:0 -c:a:0 pcm_s24be -write_id3v2 1 -f aiff");
     row("copied where it is held", audio("wav"), deepSong("pcm_f32le", 32, "flt"),
         "-map 0:0 -c:a:0 copy -f wav");
     row("floating ones", audio("wav"), deepSong("pcm_f64be", 64, "dbl"),

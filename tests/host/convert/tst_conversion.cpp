@@ -18,7 +18,7 @@ private Q_SLOTS:
     void anUprightCopyOfATurnedPictureIsNotTurnedTwice();
     void widePixelsBecomeSquare();
     void allAudioTracksAreKept();
-    void onlyTheDefaultTrackIsKept();
+    void onlyTheDefaultTrackIsKeptOnDemand();
     void whatMayStayIsCopied();
     void everyContainerIsWrittenWithItsUsualCodecs_data();
     void everyContainerIsWrittenWithItsUsualCodecs();
@@ -161,7 +161,6 @@ void TestConversion::allAudioTracksAreKept()
     const QString source = copyOf(QStringLiteral("dubbed.mkv"), QStringLiteral("dubbed.mkv"));
     OutputSettings settings = video(QStringLiteral("mp4"));
     settings.audioCodec = QStringLiteral("ac3");
-    settings.allAudioTracks = true;
     const MediaFacts facts = convert(job(source, settings)).value().facts;
     QCOMPARE(facts.audioTracks.size(), 2);
     QCOMPARE(facts.audioTracks.at(0).codec, QStringLiteral("ac3"));
@@ -170,10 +169,12 @@ void TestConversion::allAudioTracksAreKept()
     QCOMPARE(facts.audioTracks.at(1).channels, 2);
 }
 
-void TestConversion::onlyTheDefaultTrackIsKept()
+void TestConversion::onlyTheDefaultTrackIsKeptOnDemand()
 {
     const QString source = copyOf(QStringLiteral("dubbed.mkv"), QStringLiteral("dubbed.mkv"));
-    const MediaFacts facts = convert(job(source, video(QStringLiteral("mp4")))).value().facts;
+    OutputSettings settings = video(QStringLiteral("mp4"));
+    settings.audioTracks = {TrackChoice::First};
+    const MediaFacts facts = convert(job(source, settings)).value().facts;
     QCOMPARE(facts.audioTracks.size(), 1);
     QCOMPARE(facts.audio()->channels, 2);
 }

@@ -13,6 +13,9 @@ private Q_SLOTS:
     void itShowsWhatItsSourceShows();
     void whatTheMuxerRefusesIsEncoded();
     void soundThatItsContainerLacksIsEncodedAlone();
+    void whatItHoldsComesAlong();
+    void aSourceThatEndsEarlyIsSaid();
+    void aPictureIsShownForSoLong();
 
 private:
     static QByteArray firstFramesOf(const QString &path);
@@ -93,6 +96,76 @@ void TestConversionCopies::soundThatItsContainerLacksIsEncodedAlone()
     const Outcome outcome = convert(job(source, video(QStringLiteral("mkv"))));
     QCOMPARE(errorOf(outcome), QString());
     QVERIFY(beginsAlike(firstFramesOf(source), firstFramesOf(outcome->target)));
+}
+
+void TestConversionCopies::whatItHoldsComesAlong()
+{
+    QFile text(path(QStringLiteral("text.srt")));
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.write("1\n00:00:00,100 --> 00:00:00,900\nGood evening\n");
+    text.close();
+    const QString source = path(QStringLiteral("film.mkv"));
+    QVERIFY(MediaClips::make(
+        source,
+        QStringLiteral("-i %1 -i %2 -map 0 -map 1 -map 1 -c copy -metadata:s:s:1 language=ger "
+                       "-metadata:s:a:1 title=Comment -disposition:s:1 forced "
+                       "-metadata creation_time=2020-05-06T07:08:09Z "
+                       "-metadata location=+48.1000+011.5000/")
+            .arg(m_clips->filePath(QStringLiteral("dubbed.mkv")), text.fileName())));
+    for (const char *extension : {"mp4", "mkv", "webm"}) {
+        const Outcome outcome = convert(job(source, video(QLatin1String(extension))));
+        QCOMPARE(errorOf(outcome), QString());
+        const MediaFacts &facts = outcome->facts;
+        QCOMPARE(outcome->note(), QString());
+        QCOMPARE(facts.audioTracks.size(), 2);
+        QCOMPARE(facts.subtitleTracks.size(), 2);
+        QCOMPARE(facts.subtitleTracks.at(1).language, QStringLiteral("ger"));
+        QVERIFY(facts.subtitleTracks.at(1).isForced);
+        QVERIFY(facts.creationTime.startsWith(QStringLiteral("2020-05-06T07:08:09")));
+        QVERIFY(facts.location.startsWith(QStringLiteral("+48.1")));
+    }
+    OutputSettings burned = video(QStringLiteral("mkv"));
+    burned.burnedSubtitles = 1;
+    burned.subtitles = {TrackChoice::None};
+    const Outcome drawn = convert(job(source, burned));
+    QCOMPARE(errorOf(drawn), QString());
+    QVERIFY(drawn->facts.subtitleTracks.isEmpty());
+}
+
+void TestConversionCopies::aSourceThatEndsEarlyIsSaid()
+{
+    const QString whole = path(QStringLiteral("whole.mkv"));
+    QVERIFY(MediaClips::make(
+        whole,
+        QStringLiteral("-t 6 -i %1 -c copy").arg(m_clips->filePath(QStringLiteral("long.mp4")))));
+    const QString source = path(QStringLiteral("short.mkv"));
+    QFile cut(source);
+    QVERIFY(cut.open(QIODevice::WriteOnly));
+    const QByteArray bytes = contentOf(whole);
+    cut.write(bytes.left(bytes.size() / 2));
+    cut.close();
+    OutputSettings small = video(QStringLiteral("mp4"));
+    small.box = QSize(160, 120);
+    for (const OutputSettings &settings : {video(QStringLiteral("mp4")), small}) {
+        const Outcome outcome = convert(job(source, settings));
+        QCOMPARE(errorOf(outcome), QString());
+        QVERIFY2(outcome->shortfall.endsWith(
+                     QStringLiteral("of 6.0 s: the source ends early or is damaged")),
+                 qPrintable(outcome->shortfall));
+        QVERIFY(QFile::exists(outcome->target));
+    }
+    QCOMPARE(convert(job(whole, video(QStringLiteral("mp4"))))->shortfall, QString());
+}
+
+void TestConversionCopies::aPictureIsShownForSoLong()
+{
+    const QString source = copyOf(QStringLiteral("cover.png"), QStringLiteral("cover.png"));
+    OutputSettings settings = video(QStringLiteral("mp4"));
+    QVERIFY(errorOf(convert(job(source, settings))).startsWith(QStringLiteral("is a single")));
+    settings.stillSeconds = 1.5;
+    const Outcome outcome = convert(job(source, settings));
+    QCOMPARE(errorOf(outcome), QString());
+    QVERIFY(qAbs(outcome->facts.duration - 1.5) < 0.1);
 }
 
 QTEST_GUILESS_MAIN(TestConversionCopies)

@@ -77,7 +77,6 @@ void TestOutputSettings::chosenValuesAreTakenFromTheMap()
     QCOMPARE(settings.sampleRate, 44100);
     QCOMPARE(settings.channels, 2);
     QCOMPARE(settings.audioKbps, 12.2);
-    QVERIFY(settings.allAudioTracks);
 }
 
 void TestOutputSettings::zeroKeepsTheSource_data()
@@ -332,7 +331,10 @@ void TestOutputSettings::settingsAreTheSameWhenAllValuesAre_data()
     row("sample rate", [](OutputSettings &s) { s.sampleRate = 8000; });
     row("channels", [](OutputSettings &s) { s.channels = 1; });
     row("audio bitrate", [](OutputSettings &s) { s.audioKbps = 12; });
-    row("audio tracks", [](OutputSettings &s) { s.allAudioTracks = false; });
+    row("audio tracks", [](OutputSettings &s) { s.audioTracks = {TrackChoice::First}; });
+    row("subtitles", [](OutputSettings &s) { s.subtitles = {TrackChoice::None}; });
+    row("burned subtitles", [](OutputSettings &s) { s.burnedSubtitles = 1; });
+    row("seconds of a picture", [](OutputSettings &s) { s.stillSeconds = 1; });
     row("start", [](OutputSettings &s) { s.start = 1; });
     row("end", [](OutputSettings &s) { s.end = 1; });
 }

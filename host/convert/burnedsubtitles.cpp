@@ -1,0 +1,61 @@
+#include "host/convert/burnedsubtitles.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(BurnedSubtitles)
+};
+
+QString withBackslashes(const QString &text, const QString &special)
+{
+    QString escaped;
+    for (const QChar character : text) {
+        if (special.contains(character)) {
+            escaped += QLatin1Char('\\');
+        }
+        escaped += character;
+    }
+    return escaped;
+}
+
+/*! A path as the value of a filter's option: the filter reads it, and the graph before. */
+QString filterValue(const QString &path)
+{
+    return withBackslashes(withBackslashes(path, QStringLiteral("\\':")),
+                           QStringLiteral("\\'[],;"));
+}
+
+} // namespace
+
+Result<QString> burnFilter(const MediaFacts &source, const OutputSettings &settings,
+                           const QString &sourcePath)
+{
+    const int number = settings.burnedSubtitles;
+    if (number == 0) {
+        return QString();
+    }
+    if (number > source.subtitleTracks.size()) {
+        return failed(Texts::tr("has %1 subtitle tracks, so no number %2; choose another one")
+                          .arg(source.subtitleTracks.size())
+                          .arg(number));
+    }
+    const SubtitleTrack &track = source.subtitleTracks.at(number - 1);
+    const VideoTrack *picture = source.video();
+    if (!track.isText() && picture != nullptr) {
+        return QStringLiteral("[0:%1][0:%2]overlay=eof_action=pass")
+            .arg(picture->index)
+            .arg(track.index);
+    }
+    const QString drawn = QStringLiteral("subtitles=filename=%1:si=%2")
+                              .arg(filterValue(QFileInfo(sourcePath).absoluteFilePath()))
+                              .arg(number - 1);
+    // The filter reads the subtitles' own times, which the cut picture has left behind.
+    const QString start = QString::number(settings.start, 'f', 3);
+    return settings.start > 0
+               ? QStringLiteral("setpts=PTS+%1/TB,%2,setpts=PTS-%1/TB").arg(start, drawn)
+               : drawn;
+}

@@ -1,0 +1,55 @@
+#include "host/convert/subtitleplan.h"
+
+#include <QStringList>
+
+namespace {
+
+/*! Text that ffmpeg can write as text of another kind. */
+bool isConvertibleText(const QString &codec)
+{
+    static const QStringList codecs = {
+        QStringLiteral("subrip"),   QStringLiteral("srt"),       QStringLiteral("ass"),
+        QStringLiteral("ssa"),      QStringLiteral("mov_text"),  QStringLiteral("webvtt"),
+        QStringLiteral("text"),     QStringLiteral("eia_608"),   QStringLiteral("microdvd"),
+        QStringLiteral("sami"),     QStringLiteral("subviewer"), QStringLiteral("subviewer1"),
+        QStringLiteral("realtext"), QStringLiteral("stl"),       QStringLiteral("mpl2"),
+        QStringLiteral("jacosub"),  QStringLiteral("pjs"),       QStringLiteral("vplayer")};
+    return codecs.contains(codec);
+}
+
+} // namespace
+
+bool holdsSubtitles(const SubtitleTrack &track, const Container &container)
+{
+    return container.subtitleCodecs.contains(track.codec) ||
+           (!container.textSubtitles.isEmpty() && isConvertibleText(track.codec));
+}
+
+QVector<SubtitlePlan> subtitlePlans(const MediaFacts &source, const StreamTarget &target)
+{
+    QVector<SubtitlePlan> plans;
+    for (const SubtitleTrack &track : source.subtitleTracks) {
+        const bool isWanted = target.settings.hasVideo && target.settings.subtitles.takes(track);
+        if (isWanted && holdsSubtitles(track, target.container)) {
+            const bool isCopied = target.container.subtitleCodecs.contains(track.codec);
+            QStringList flags;
+            if (track.isDefault) {
+                flags << QStringLiteral("default");
+            }
+            if (track.isForced) {
+                flags << QStringLiteral("forced");
+            }
+            plans.append({track, isCopied ? QStringLiteral("copy") : target.container.textSubtitles,
+                          flags.isEmpty() ? QStringLiteral("0") : flags.join(QLatin1Char('+'))});
+        }
+    }
+    return plans;
+}
+
+QStringList SubtitlePlan::arguments(int position) const
+{
+    // Else ffmpeg would have the first one shown.
+    return toArguments(
+        {{QStringLiteral("c"), encoder}, {QStringLiteral("disposition"), disposition}},
+        QStringLiteral("s:%1").arg(position));
+}

@@ -1,0 +1,65 @@
+#include "host/convert/trackchoice.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+#include <QVector>
+
+namespace {
+
+/*! The codes of languages that have more than one, those of two letters first. */
+const QVector<QStringList> &languageCodes()
+{
+    static const QVector<QStringList> codes = [] {
+        const QStringList rows =
+            QStringLiteral("ar ara|bg bul|ca cat|cs ces cze|da dan|de deu ger|el ell gre|"
+                           "en eng|es spa|et est|eu eus baq|fa fas per|fi fin|fr fra fre|"
+                           "he heb|hi hin|hr hrv|hu hun|id ind|is isl ice|it ita|ja jpn|"
+                           "ko kor|lt lit|lv lav|ms msa may|nl nld dut|no nor|pl pol|"
+                           "pt por|ro ron rum|ru rus|sk slk slo|sl slv|sr srp|sv swe|"
+                           "th tha|tr tur|uk ukr|vi vie|zh zho chi")
+                .split(QLatin1Char('|'));
+        QVector<QStringList> split;
+        for (const QString &row : rows) {
+            split.append(row.split(QLatin1Char(' ')));
+        }
+        return split;
+    }();
+    return codes;
+}
+
+/*! All codes of the language, without region: of "de-CH" those of German. */
+QStringList codesOf(const QString &language)
+{
+    const QString code =
+        language.toLower().section(QRegularExpression(QStringLiteral("[-_]")), 0, 0);
+    for (const QStringList &codes : languageCodes()) {
+        if (codes.contains(code)) {
+            return codes;
+        }
+    }
+    return {code};
+}
+
+} // namespace
+
+std::optional<TrackChoice> TrackChoice::fromText(const QString &text)
+{
+    static const QRegularExpression code(QStringLiteral("\\A[A-Za-z]{2,3}([-_][A-Za-z0-9]+)*\\z"));
+    if (text == QLatin1String("all")) {
+        return TrackChoice{All};
+    }
+    if (text == QLatin1String("first")) {
+        return TrackChoice{First};
+    }
+    if (text == QLatin1String("none")) {
+        return TrackChoice{None};
+    }
+    return code.match(text).hasMatch() ? std::optional(TrackChoice{OfLanguage, text})
+                                       : std::nullopt;
+}
+
+bool TrackChoice::takes(const Track &track) const
+{
+    return kind != None &&
+           (kind != OfLanguage || codesOf(language).contains(codesOf(track.language).constFirst()));
+}
