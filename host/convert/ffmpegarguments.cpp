@@ -271,13 +271,14 @@ bool keepsCover(const VideoTrack &cover, const Container &container)
 
 Copies copiesIn(const QStringList &arguments)
 {
-    const auto isCopied = [&arguments](const QString &codecOption) {
-        for (int i = 0; i + 1 < arguments.size(); ++i) {
-            if (arguments.at(i).startsWith(codecOption) && arguments.at(i + 1) == copied) {
-                return true;
-            }
-        }
-        return false;
-    };
-    return {isCopied(QStringLiteral("-c:v:")), isCopied(QStringLiteral("-c:a:"))};
+    Copies copies{false, false};
+    for (int i = 0; i + 1 < arguments.size(); ++i) {
+        const bool isCopied = arguments.at(i + 1) == copied;
+        copies.video = copies.video || (isCopied && arguments.at(i) == QLatin1String("-c:v:0"));
+        copies.audio =
+            copies.audio || (isCopied && arguments.at(i).startsWith(QLatin1String("-c:a:")));
+    }
+    // A cover is no film.
+    copies.video = copies.video && !arguments.contains(QStringLiteral("-disposition:v:0"));
+    return copies;
 }

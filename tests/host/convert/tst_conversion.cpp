@@ -55,7 +55,7 @@ void TestConversion::aFilmIsConverted()
     QCOMPARE(facts.video()->frameRate.toText(), QStringLiteral("15"));
     QCOMPARE(facts.audio()->codec, QStringLiteral("mp3"));
     QCOMPARE(facts.audio()->sampleRate, 48000);
-    QCOMPARE(facts.audio()->channels, 2);
+    QCOMPARE(facts.audio()->channels, 1); // never more than the source has
     QVERIFY(qAbs(facts.duration - 1.0) < 0.2);
     QCOMPARE(outcome->facts.summary(), facts.summary());
 }
