@@ -21,8 +21,6 @@ private Q_SLOTS:
     void aRemovedFolderIsMadeAgain();
     void aFailedSaveCanBeTriedAgain();
     void whyTheFolderTakesNoCopiesIsSaid();
-    void severalAudioTracksAreAskedFor_data();
-    void severalAudioTracksAreAskedFor();
 
 private:
     QString config() const { return m_folder->filePath(QStringLiteral("config")); }
@@ -93,32 +91,6 @@ void TestPresetStore::whyTheFolderTakesNoCopiesIsSaid()
                             "directory); check its disk and its permissions")
                  .arg(QDir::toNativeSeparators(config())));
     QCOMPARE(m_store->save().error().text, opened.error().text);
-}
-
-void TestPresetStore::severalAudioTracksAreAskedFor_data()
-{
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<bool>("all");
-    QTest::newRow("format that holds several") << QStringLiteral("Video_MP4_004") << true;
-    QTest::newRow("format that holds one") << QStringLiteral("Audio_MP3_002") << false;
-    QTest::newRow("user's preset that says so") << QStringLiteral("1001") << true;
-    QTest::newRow("user's preset that doesn't") << QStringLiteral("1002") << false;
-}
-
-void TestPresetStore::severalAudioTracksAreAskedFor()
-{
-    QFETCH(QString, id);
-    QFETCH(bool, all);
-    QVERIFY(QDir().mkpath(config()));
-    QVERIFY(writeFile(config() + QStringLiteral("/formatCache.json"), R"([
-        { "title": "MP3", "group": [
-            { "id": "1001", "supportMultiTrack": true, "outPutNode": { "id": "Audio_MP3_1001" } },
-            { "id": "1002", "outPutNode": { "id": "Audio_MP3_1002" } }
-        ] }])"));
-    QVERIFY(m_store->open(PresetStore::ReadOnly));
-    const std::optional<FoundPreset> preset = m_store->find(id);
-    QVERIFY(preset);
-    QCOMPARE(preset->outputSettings().allAudioTracks, all);
 }
 
 QTEST_GUILESS_MAIN(TestPresetStore)
