@@ -22,7 +22,7 @@ QStringList clipArguments(const QSize &size, const QString &path)
     return QStringLiteral("-y "
                           "-f lavfi -i testsrc2=size=%1x%2:rate=30000/1001:duration=1 "
                           "-f lavfi -i anoisesrc=color=pink:sample_rate=44100:seed=1:duration=1 "
-                          "-pix_fmt yuv420p -c:v utvideo -ac 2 -c:a adpcm_ms")
+                          "-vf setfield=prog -pix_fmt yuv420p -c:v utvideo -ac 2 -c:a adpcm_ms")
                .arg(size.width())
                .arg(size.height())
                .split(QLatin1Char(' ')) +

@@ -32,6 +32,22 @@ public:
         pixelFormat = QLatin1String(format);
         return *this;
     }
+    Video inDeepPixels(const char *format, const ToolOptions &options = {})
+    {
+        deepPixels = {QLatin1String(format), options};
+        return *this;
+    }
+    Video inAlphaPixels(const char *format, const ToolOptions &options = {})
+    {
+        alphaPixels = {QLatin1String(format), options};
+        return *this;
+    }
+    Video inOwnColour(const char *matrix, const char *range)
+    {
+        ownColour.matrix = QLatin1String(matrix);
+        ownColour.range = QLatin1String(range);
+        return *this;
+    }
     Video withoutBitrate()
     {
         takesBitrate = false;
@@ -45,6 +61,16 @@ public:
     Video atAnyTime()
     {
         takesAnyTime = true;
+        return *this;
+    }
+    Video keepingFieldsWith(const char *flags)
+    {
+        fieldOptions = {{QStringLiteral("flags"), QLatin1String(flags)}};
+        return *this;
+    }
+    Video bottomFieldFirst()
+    {
+        isBottomFieldFirst = true;
         return *this;
     }
     Video lastlyFilteredBy(const char *filter)
@@ -129,23 +155,29 @@ QVector<VideoCodec> makeVideoCodecs()
 {
     const QVector<Ratio> mpeg = {{24000, 1001}, {24, 1}, {25, 1}, {30000, 1001}, {30, 1}, {50, 1},
                                  {60000, 1001}, {60, 1}};
+    // The encoders refuse alpha together with frames that are never shown.
+    const ToolOptions flatAlpha = {{QStringLiteral("auto-alt-ref"), QStringLiteral("0")}};
     const QVector<Ratio> gif = {{5, 1}, {8, 1}, {10, 1}, {12, 1}, {15, 1}, {20, 1}, {25, 1},
                                 {50, 1}};
     return {
         Video("h264").writtenBy("libx264").with("preset", "veryfast").orElse("crf", "20")
             .inPixels("yuv420p").atAnyTime(),
         Video("hevc").writtenBy("libx265").with("preset", "veryfast")
-            .with("x265-params", "log-level=error").orElse("crf", "23").inPixels("yuv420p").atAnyTime(),
+            .with("x265-params", "log-level=error").orElse("crf", "23").inPixels("yuv420p").atAnyTime()
+            .inDeepPixels("yuv420p10le"),
         Video("vp8").writtenBy("libvpx").with("deadline", "good").with("cpu-used", "4")
-            .orElse("crf", "10").orElse("b", "8M").inPixels("yuv420p").atAnyTime(),
+            .orElse("crf", "10").orElse("b", "8M").inPixels("yuv420p").atAnyTime()
+            .inAlphaPixels("yuva420p", flatAlpha),
         Video("vp9").writtenBy("libvpx-vp9").with("deadline", "good").with("cpu-used", "5")
-            .with("row-mt", "1").orElse("crf", "31").orElse("b", "0").inPixels("yuv420p").atAnyTime(),
+            .with("row-mt", "1").orElse("crf", "31").orElse("b", "0").inPixels("yuv420p").atAnyTime()
+            .inDeepPixels("yuv420p10le").inAlphaPixels("yuva420p", flatAlpha),
         Video("av1").writtenBy("libsvtav1").with("preset", "9").orElse("crf", "32")
             .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1").orElse("crf", "30")
-            .orElse("b", "0").inPixels("yuv420p").atAnyTime(),
+            .orElse("b", "0").inPixels("yuv420p").atAnyTime()
+            .inDeepPixels("yuv420p10le"),
         Video("mpeg4").writtenBy("mpeg4").orElse("q", "4").inPixels("yuv420p"),
         Video("mpeg2video").writtenBy("mpeg2video").orElse("q", "4").inPixels("yuv420p")
-            .atRates(mpeg),
+            .atRates(mpeg).keepingFieldsWith("+ildct+ilme"),
         Video("mpeg1video").writtenBy("mpeg1video").orElse("q", "4").inPixels("yuv420p")
             .atRates(mpeg),
         Video("msmpeg4v3").writtenBy("msmpeg4").orElse("q", "4").inPixels("yuv420p"),
@@ -154,14 +186,17 @@ QVector<VideoCodec> makeVideoCodecs()
         Video("wmv2").writtenBy("wmv2").orElse("q", "4").inPixels("yuv420p"),
         Video("flv1").writtenBy("flv").orElse("q", "4").inPixels("yuv420p"),
         Video("theora").writtenBy("libtheora").orElse("q", "7").inPixels("yuv420p"),
-        Video("mjpeg").writtenBy("mjpeg").orElse("q", "3").inPixels("yuvj420p").atAnyTime(),
-        Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate().atAnyTime(),
+        Video("mjpeg").writtenBy("mjpeg").orElse("q", "3").inPixels("yuvj420p").atAnyTime().inOwnColour("bt470bg", "pc"),
+        Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate().atAnyTime()
+            .inDeepPixels("yuv422p10le").inAlphaPixels("yuva444p10le"),
         Video("dnxhd").writtenBy("dnxhd").with("profile", "dnxhr_sq").inPixels("yuv422p")
-            .withoutBitrate().atAnyTime(),
+            .withoutBitrate().atAnyTime()
+            .inDeepPixels("yuv422p10le", {{QStringLiteral("profile"), QStringLiteral("dnxhr_hqx")}}),
         Video("gif").writtenBy("gif").withoutBitrate().atRates(gif)
             .lastlyFilteredBy("split[picture][sample];[sample]palettegen[palette];"
                               "[picture][palette]paletteuse"),
-        Video("dvvideo").writtenBy("dvvideo").withoutBitrate()
+        Video("dvvideo").writtenBy("dvvideo").withoutBitrate().keepingFieldsWith("+ildct")
+            .bottomFieldFirst().inOwnColour("smpte170m", "tv")
             .inFrame({720, 576}, {16, 15}, {25, 1}, "yuv420p")
             .inFrame({720, 576}, {64, 45}, {25, 1}, "yuv420p")
             .inFrame({720, 480}, {8, 9}, {30000, 1001}, "yuv411p")

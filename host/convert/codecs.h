@@ -2,7 +2,7 @@
 #define CONVERT_CODECS_H
 
 #include "host/convert/tooloptions.h"
-#include "host/media/ratio.h"
+#include "host/media/tracks.h"
 
 #include <QSize>
 #include <QStringList>
@@ -27,14 +27,26 @@ struct VideoCodec
         QString pixelFormat;
     };
 
+    /*! A pixel format, and the options that it needs. */
+    struct Pixels
+    {
+        QString format;
+        ToolOptions options = {};
+    };
+
     QString name;
     QVector<Encoder> encoders = {}; //!< the best first; empty: ffmpeg's encoder of the same name
     QString pixelFormat = {};       //!< empty: the encoder's own
+    Pixels deepPixels = {};         //!< for sources of more than 8 bits; empty: as the others
+    Pixels alphaPixels = {};        //!< for sources that let shine through; empty: as the others
+    Colour ownColour = {};          //!< the matrix and range that all its players assume
     bool takesBitrate = true;
-    QVector<Ratio> frameRates = {}; //!< ascending
-    bool takesAnyTime = false;      //!< frames may be shown when they like, not in steps of a rate
-    QString lastFilter = {};        //!< goes behind all other filters
-    QVector<Frame> frames = {};     //!< the only ones allowed
+    QVector<Ratio> frameRates = {};  //!< ascending
+    bool takesAnyTime = false;       //!< frames may be shown when they like, not in steps of a rate
+    ToolOptions fieldOptions = {};   //!< those that keep fields; empty: it can't keep them
+    bool isBottomFieldFirst = false; //!< and never the other way round
+    QString lastFilter = {};         //!< goes behind all other filters
+    QVector<Frame> frames = {};      //!< the only ones allowed
 
     /*! The encoders' names for ffmpeg, the best first. */
     [[nodiscard]] QStringList encoderNames() const;

@@ -99,6 +99,11 @@ public:
         hasSoundInFrames = true;
         return *this;
     }
+    Files forBroadcast()
+    {
+        isForBroadcast = true;
+        return *this;
+    }
     Files countingFrames(Times how)
     {
         times = how;
@@ -166,9 +171,10 @@ QVector<Container> makeContainers()
             .inSeveralTracks(),
         Files("mpg mpeg").writtenBy("mpeg").holding(programVideo, list("mp2 ac3 mp3"))
             .inSeveralTracks(),
-        Files("vob").readBy("mpeg").withSubtitles(list("dvd_subtitle")).holding(programVideo, list("ac3 mp2")).inSeveralTracks(),
-        Files("ts").writtenBy("mpegts")
-            .withSubtitles(list("dvb_subtitle dvb_teletext")).holding(transportVideo, transportAudio).inSeveralTracks(),
+        Files("vob").readBy("mpeg").withSubtitles(list("dvd_subtitle"))
+            .holding(programVideo, list("ac3 mp2")).inSeveralTracks().forBroadcast(),
+        Files("ts").writtenBy("mpegts").withSubtitles(list("dvb_subtitle dvb_teletext"))
+            .holding(transportVideo, transportAudio).inSeveralTracks(),
         Files("m2ts mts").writtenBy("mpegts").with("mpegts_m2ts_mode", "1")
             .withSubtitles(list("hdmv_pgs_subtitle dvb_subtitle dvb_teletext"))
             .holding(transportVideo, transportAudio).inSeveralTracks(),
@@ -181,9 +187,9 @@ QVector<Container> makeContainers()
         Files("ogv").readBy("ogg").holding(list("theora vp8"), oggAudio).inSeveralTracks(),
         Files("mxf").holding(list("mpeg2video dnxhd h264 prores dvvideo"),
                              list("pcm_s16le pcm_s24le")).inSeveralTracks().at({48000})
-            .countingFrames(Container::Times::EveryFrame),
+            .countingFrames(Container::Times::EveryFrame).forBroadcast(),
         Files("dv").holding(list("dvvideo"), list("pcm_s16le")).withSoundInFrames().at({48000})
-            .inChannels(2).countingFrames(Container::Times::EveryFrame),
+            .inChannels(2).countingFrames(Container::Times::EveryFrame).forBroadcast(),
         Files("gif").holding(list("gif"), {}),
 
         Files("mp3").holdingSound(list("mp3")).withCover().withChapters(),

@@ -34,6 +34,7 @@ struct Container
     bool keepsRotation = false;    //!< holds the turn of a picture that players apply
     bool tagsHevcAsHvc1 = false;   //!< the form of hevc that all players of this container know
     bool hasSoundInFrames = false; //!< a frame of the picture can't be written before its sound
+    bool isForBroadcast = false;   //!< its players expect the fields of an interlaced picture
     Times times = Times::Any;
     QVector<int> sampleRates = {}; //!< Hz, ascending
     int channels = 0;              //!< the only number allowed; 0: any

@@ -82,7 +82,8 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
     : QObject(parent)
     , m_job(job)
 {
-    connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::listEncoders);
+    connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::lookAtSource);
+    connect(&m_look, &SourceLook::finished, this, &Conversion::listEncoders);
     connect(&m_encoders, &EncoderList::finished, this, &Conversion::convertWith);
     connect(&m_ffmpeg, &Tool::outputReady, this, [this] {
         if (m_progress.feed(m_ffmpeg.readOutput())) {
@@ -108,10 +109,20 @@ void Conversion::start()
 void Conversion::cancel()
 {
     m_sourceProbe.stop();
+    m_look.stop();
     m_encoders.stop();
     m_ffmpeg.stop();
     m_resultProbe.stop();
     m_frameList.stop();
+}
+
+void Conversion::lookAtSource(const Result<MediaFacts> &source)
+{
+    if (source && m_job.settings.hasVideo) {
+        m_look.start(m_job.source, *source);
+    } else {
+        listEncoders(source);
+    }
 }
 
 void Conversion::listEncoders(const Result<MediaFacts> &source)

@@ -7,6 +7,7 @@
 #include "host/files/pendingfile.h"
 #include "host/media/mediafacts.h"
 #include "host/media/mediaprobe.h"
+#include "host/media/sourcelook.h"
 #include "host/tools/encoderlist.h"
 
 #include <QObject>
@@ -63,6 +64,7 @@ Q_SIGNALS:
     void finished(const Result<ConversionOutcome> &outcome);
 
 private:
+    void lookAtSource(const Result<MediaFacts> &source);
     void listEncoders(const Result<MediaFacts> &source);
     void convertWith(const Result<QSet<QString>> &encoders);
     void runFfmpeg();
@@ -96,6 +98,7 @@ private:
     PendingFile m_pending;     // ffmpeg, below, stops before the file that it writes is removed
     ProgressReader m_progress;
     MediaProbe m_sourceProbe;
+    SourceLook m_look;
     EncoderList m_encoders;
     Tool m_ffmpeg;
     MediaProbe m_resultProbe;

@@ -1,6 +1,8 @@
 #include "host/convert/videoplan.h"
 
 #include "host/convert/codecs.h"
+#include "host/convert/colourplan.h"
+#include "host/convert/fieldplan.h"
 #include "host/convert/picturefit.h"
 
 namespace {
@@ -39,50 +41,82 @@ QString copyFilter(const QString &codec, const Container &container)
     return codec == QLatin1String("mpeg4") ? QStringLiteral("mpeg4_unpack_bframes") : QString();
 }
 
-QString scaleTo(const QSize &size)
-{
-    return QStringLiteral("scale=%1:%2").arg(size.width()).arg(size.height());
-}
-
 /*! The size as ffmpeg decodes the picture: turned, its pixels as they are. */
 QSize uprightSize(const VideoTrack &track)
 {
     return track.rotation % 180 == 0 ? track.storedSize : track.storedSize.transposed();
 }
 
-/*! Puts the picture in the middle of the frame, of those that the codec has, that fits it best. */
-void fillFrame(VideoPlan &plan, const VideoTrack &track, const Ratio &rate,
-               const QVector<VideoCodec::Frame> &frames)
+/*! The frame, of those that the codec has, that the picture fits best. */
+FrameFit frameFor(const VideoTrack &track, const VideoCodec &codec, const OutputSettings &settings)
 {
-    const FrameFit fit = fitIntoFrame(track.displaySize(), rate, frames);
-    plan.filters << scaleTo(fit.picture)
-                 << QStringLiteral("pad=%1:%2:(ow-iw)/2:(oh-ih)/2")
-                        .arg(fit.frame.size.width())
-                        .arg(fit.frame.size.height())
-                 << QStringLiteral("setsar=%1").arg(fit.frame.pixelAspect.toText());
-    plan.timing = FrameTiming::constant(fit.frame.frameRate);
-    plan.pixelFormat = fit.frame.pixelFormat;
+    return fitIntoFrame(track.displaySize(), resultRate(track.frameRate, settings), codec.frames);
+}
+
+/*! Puts the picture in the middle of its frame. */
+QStringList framing(const VideoCodec::Frame &frame)
+{
+    return {QStringLiteral("pad=%1:%2:(ow-iw)/2:(oh-ih)/2")
+                .arg(frame.size.width())
+                .arg(frame.size.height()),
+            QStringLiteral("setsar=%1").arg(frame.pixelAspect.toText())};
+}
+
+/*! Whether the filter names its inputs. */
+bool isFilterGraph(const QString &filter)
+{
+    return filter.startsWith(QLatin1Char('['));
+}
+
+/*! Draws them on the finished picture; pictures of subtitles have the size of the source's. */
+void addBurnedSubtitles(QStringList &filters, const QString &burnFilter)
+{
+    if (isFilterGraph(burnFilter)) {
+        filters.prepend(burnFilter);
+    } else if (!burnFilter.isEmpty()) {
+        filters.append(burnFilter);
+    }
 }
 
 void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &codec,
                  const StreamTarget &target)
 {
-    plan.pixelFormat = codec.pixelFormat;
     plan.timing = FrameTiming::make(track, codec, target.container, target.settings);
+    const QSize upright = uprightSize(track);
+    const bool isFramed = !codec.frames.isEmpty() && !upright.isEmpty();
+    const FrameFit fit = isFramed ? frameFor(track, codec, target.settings) : FrameFit();
+    const QSize boxed = isFramed ? fit.picture : boxedSize(track, target.settings.box);
+    const bool mustBeEven = !codec.pixelFormat.isEmpty() && !upright.isEmpty();
+    const QSize size = !boxed.isEmpty() ? boxed : mustBeEven ? evenSize(upright) : upright;
+
+    const FieldPlan fields = FieldPlan::make(track, codec, target.container);
+    const ColourPlan colour = ColourPlan::make(track, size, codec, target.container);
+    plan.filters = fields.filters;
     if (!plan.timing.filter.isEmpty()) {
         plan.filters << plan.timing.filter;
     }
-    const QSize boxed = boxedSize(track, target.settings.box);
-    const QSize upright = uprightSize(track);
-    if (!codec.frames.isEmpty() && !upright.isEmpty()) {
-        fillFrame(plan, track, resultRate(track.frameRate, target.settings), codec.frames);
-    } else if (!boxed.isEmpty()) {
-        plan.filters << scaleTo(boxed) << QStringLiteral("setsar=1");
-    } else if (!plan.pixelFormat.isEmpty() && !upright.isEmpty() && evenSize(upright) != upright) {
-        plan.filters << scaleTo(evenSize(upright));
+    if (!boxed.isEmpty() || size != upright || !colour.scaling.isEmpty()) {
+        plan.filters << fields.scaleTo(size, colour.scaling);
+    }
+    if (!boxed.isEmpty() && !isFramed) {
+        plan.filters << QStringLiteral("setsar=1");
+    }
+    plan.filters += colour.filters;
+    addBurnedSubtitles(plan.filters, target.burnFilter);
+    if (isFramed) {
+        plan.filters += framing(fit.frame);
+        plan.timing = FrameTiming::constant(fit.frame.frameRate);
+    }
+    if (fields.isKept && codec.isBottomFieldFirst) {
+        plan.filters << QStringLiteral("fieldorder=bff");
     }
     if (!codec.lastFilter.isEmpty()) {
         plan.filters << codec.lastFilter;
+    }
+    plan.pixelFormat = isFramed ? fit.frame.pixelFormat : colour.pixels.format;
+    plan.options += fields.options + colour.pixels.options + colour.tags();
+    if (colour.isHdrKept) {
+        addLight(plan.options, plan.encoder, track);
     }
 }
 
@@ -117,11 +151,8 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
             return tl::make_unexpected(encoder.error());
         }
         plan.encoder = *encoder;
-        planPicture(plan, track, codec, target);
-        if (!target.burnFilter.isEmpty()) {
-            plan.filters.prepend(target.burnFilter);
-        }
         planQuality(plan, codec, settings.videoKbps);
+        planPicture(plan, track, codec, target);
     }
     if (isCopied) {
         plan.bitstreamFilter = copyFilter(codec.name, target.container);
@@ -138,7 +169,7 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
 
 bool VideoPlan::hasGraph() const
 {
-    return filters.value(0).startsWith(QLatin1Char('['));
+    return isFilterGraph(filters.value(0));
 }
 
 QStringList VideoPlan::arguments() const

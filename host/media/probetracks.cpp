@@ -123,6 +123,15 @@ VideoTrack::FieldOrder fieldOrderOf(const QJsonObject &stream)
     return VideoTrack::UnknownOrder;
 }
 
+/*! Whether decoders of \a codec mark the interlaced frames. */
+bool marksFields(const QString &codec)
+{
+    static const QStringList marking = {QStringLiteral("h264"), QStringLiteral("mpeg2video"),
+                                        QStringLiteral("mpeg4"), QStringLiteral("vc1"),
+                                        QStringLiteral("dvvideo")};
+    return marking.contains(codec);
+}
+
 void readFrameRate(const QJsonObject &stream, VideoTrack &track)
 {
     // With a variable rate the nominal one may be the clock of the time stamps (say 90000).
@@ -174,6 +183,7 @@ VideoTrack videoTrackFromProbe(const QJsonObject &stream)
     track.pixelAspect = pixelAspectOf(stream);
     track.rotation = rotationOf(stream);
     track.fieldOrder = fieldOrderOf(stream);
+    track.framesTellFields = marksFields(track.codec);
     readFrameRate(stream, track);
     track.pixelFormat = knownText(stream, QLatin1String("pix_fmt"));
     track.level = std::max(0, number(stream, QLatin1String("level")));

@@ -71,8 +71,9 @@ struct VideoTrack : Track
     bool hasSteadyRate = true; //!< false: the rate is an average
     Ratio averageFrameRate;
     FieldOrder fieldOrder = UnknownOrder;
-    QString pixelFormat; //!< for example "yuv420p10le"
-    int level = 0;       //!< as the codec counts it: 41 is H.264's 4.1, 123 is HEVC's
+    bool framesTellFields = false; //!< which of them are interlaced, and how
+    QString pixelFormat;           //!< for example "yuv420p10le"
+    int level = 0;                 //!< as the codec counts it: 41 is H.264's 4.1, 123 is HEVC's
     Colour colour;
     std::optional<MasteringDisplay> masteringDisplay;
     std::optional<LightLevel> lightLevel;
