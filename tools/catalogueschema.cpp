@@ -109,6 +109,15 @@ QJsonObject listSchema(const CatalogueSetting &setting)
     return schema;
 }
 
+QJsonObject detailSchema(const CatalogueDetail &detail)
+{
+    QJsonObject schema = detail.type() == QJsonValue::String
+                             ? textSchema(detail.pattern)
+                             : numberSchema(CatalogueSetting::of(CatalogueSetting::VideoBitrate));
+    schema.insert(QStringLiteral("description"), detail.meaning);
+    return schema;
+}
+
 QJsonObject blockSchema(QLatin1String block)
 {
     QJsonObject properties;
@@ -117,6 +126,11 @@ QJsonObject blockSchema(QLatin1String block)
         if (!key.isEmpty()) {
             properties.insert(key,
                               setting.param == block ? valueSchema(setting) : listSchema(setting));
+        }
+    }
+    if (block == CatalogueBlock::videoParam) {
+        for (const CatalogueDetail &detail : CatalogueDetail::all()) {
+            properties.insert(detail.key, detailSchema(detail));
         }
     }
     return objectOf(properties);

@@ -24,8 +24,8 @@ All {formats} formats and {presets} presets of the built-in catalogue. This page
 `tools/formats-table.py`; to change it, edit the catalogue in `utility/catalogue/`.
 
 "source" keeps the source's own value, and "auto" lets the encoder choose the bitrate for good
-quality. The size is a box that the video is scaled to fit. A video bitrate is followed by those of
-the low and the high quality.
+quality. A video bitrate is the most that the video may have: easy content gets less. It is followed
+by those of the low and the high quality. The size is a box that the video is scaled to fit.
 """
 VIDEO_COLUMNS = ["Id", "Title", "File", "Video", "Size", "Fps", "kbps", "Audio", "Channels", "Hz",
                  "kbps"]
@@ -74,8 +74,10 @@ def video_cells(preset):
     param = preset["videoParam"]
     high, _, low = preset["videoOptions"]["levelList"]
     levels = f" ({low} to {high})" if high else ""
+    kbps = number(param["bitrateKbps"], "auto")
+    most = kbps if kbps == "auto" else f"at most {kbps}"
     return [number(param["encoder"]), number(param["resolution"]), number(param["frameRate"]),
-            number(param["bitrateKbps"], "auto") + levels]
+            most + levels]
 
 
 def row(preset):

@@ -47,6 +47,40 @@ const std::array<CatalogueText, 3> &CatalogueText::all()
     return texts;
 }
 
+const std::array<CatalogueDetail, 7> &CatalogueDetail::all()
+{
+    static const std::array<CatalogueDetail, 7> details{{
+        {QLatin1String("quality"), QLatin1String("high"),
+         QLatin1String("A better picture than usual at the same bitrate")},
+        {QLatin1String("peakKbps"), QLatin1String(),
+         QLatin1String("The most in any second, in kbps")},
+        {QLatin1String("h264Level"), QLatin1String("[1-6](\\.[1-3])?"),
+         QLatin1String("The level of H.264 that the device plays")},
+        {QLatin1String("h264Profile"), QLatin1String("baseline|main|high"),
+         QLatin1String("The profile of H.264 that the device plays")},
+        {QLatin1String("hevcLevel"), QLatin1String("[1-6](\\.[1-3])?"),
+         QLatin1String("The level of HEVC that the device plays, in the main tier")},
+        {QLatin1String("mpeg4Tag"), QLatin1String("[A-Z0-9]{4}"),
+         QLatin1String("The name of MPEG-4 video in the file")},
+        {QLatin1String("editLists"), QLatin1String("none"),
+         QLatin1String("The file has no edit lists, which some sites can't read")},
+    }};
+    return details;
+}
+
+const CatalogueDetail *CatalogueDetail::find(const QString &key)
+{
+    const auto row =
+        std::find_if(all().begin(), all().end(),
+                     [&key](const CatalogueDetail &detail) { return detail.key == key; });
+    return row == all().end() ? nullptr : &*row;
+}
+
+QJsonValue::Type CatalogueDetail::type() const
+{
+    return pattern.isEmpty() ? QJsonValue::Double : QJsonValue::String;
+}
+
 // The bounds are those of the converter, which refuses presets beyond them.
 const std::array<CatalogueSetting, CatalogueSetting::Count> &CatalogueSetting::all()
 {

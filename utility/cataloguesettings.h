@@ -28,6 +28,19 @@ struct CatalogueText
     [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueText, 3> &all();
 };
 
+/*! What a preset may say of its video besides its settings; the screens don't offer it. */
+struct CatalogueDetail
+{
+    QLatin1String key;     //!< in "videoParam"
+    QLatin1String pattern; //!< a regular expression of the whole text; empty: a bitrate in kbps
+    QLatin1String meaning; //!< one line
+
+    [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueDetail, 7> &all();
+    /*! The detail with that key, nullptr for none. */
+    [[nodiscard]] static const CatalogueDetail *find(const QString &key);
+    [[nodiscard]] VEX_UTILITY_EXPORT QJsonValue::Type type() const;
+};
+
 /*! A setting of a preset: its chosen value and the offered ones. */
 struct CatalogueSetting
 {

@@ -119,7 +119,11 @@ void SettingsReader::readBlock(QLatin1String block, const QJsonValue &value, con
         CataloguePlace &place = settings.places[memberPath(block, it.key())];
         place = m_inspector.placeOf(valuePath);
         const CatalogueSetting *setting = CatalogueSetting::find(block, it.key());
-        if (setting == nullptr) {
+        const CatalogueDetail *detail =
+            block == CatalogueBlock::videoParam ? CatalogueDetail::find(it.key()) : nullptr;
+        if (detail != nullptr) {
+            m_inspector.expect(detail->type(), it.value(), valuePath);
+        } else if (setting == nullptr) {
             m_inspector.noteUnknownKey(valuePath);
         } else if (setting->param == block) {
             m_inspector.expect(setting->type(), it.value(), valuePath);

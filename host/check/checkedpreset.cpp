@@ -22,6 +22,11 @@ QVariant CheckedPreset::chosen(const CatalogueSetting &setting) const
     return m_preset.value(setting.param).toMap().value(setting.key);
 }
 
+QVariant CheckedPreset::stated(const CatalogueDetail &detail) const
+{
+    return m_preset.value(CatalogueBlock::videoParam).toMap().value(detail.key);
+}
+
 QStringList CheckedPreset::offered(const CatalogueSetting &setting) const
 {
     return m_preset.value(setting.options).toMap().value(setting.listKey).toStringList();

@@ -18,6 +18,8 @@ public:
     [[nodiscard]] QString extension() const;
     /*! The chosen value; invalid if the preset doesn't have the setting. */
     [[nodiscard]] QVariant chosen(const CatalogueSetting &setting) const;
+    /*! The value of a detail, invalid where the preset has none. */
+    [[nodiscard]] QVariant stated(const CatalogueDetail &detail) const;
     [[nodiscard]] QStringList offered(const CatalogueSetting &setting) const;
 
     /*! Notes a mistake in the value of a key such as "id" or "videoParam.encoder". If it conflicts

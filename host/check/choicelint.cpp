@@ -1,5 +1,7 @@
 #include "host/check/choicelint.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 void lintOffered(CheckedPreset &preset, const CatalogueSetting &setting)
@@ -30,6 +32,27 @@ void lintChosen(CheckedPreset &preset, const CatalogueSetting &setting)
     if (value.isValid() && !preset.offered(setting).contains(value.toString())) {
         preset.note(setting.paramPath(), notOffered(value.toString(), setting),
                     setting.optionsPath());
+    }
+}
+
+void lintDetail(CheckedPreset &preset, const CatalogueDetail &detail)
+{
+    const QVariant value = preset.stated(detail);
+    const QString key = CatalogueBlock::videoParam + QLatin1Char('.') + detail.key;
+    const CatalogueSetting &bitrate = CatalogueSetting::of(CatalogueSetting::VideoBitrate);
+    if (!value.isValid()) {
+        return;
+    }
+    if (detail.type() == QJsonValue::Double && !bitrate.accepts(value.toString())) {
+        preset.note(
+            key,
+            QStringLiteral("must be %1, not %2").arg(bitrate.acceptedText(), value.toString()));
+    }
+    const QRegularExpression form(QRegularExpression::anchoredPattern(detail.pattern));
+    if (detail.type() == QJsonValue::String && !form.match(value.toString()).hasMatch()) {
+        preset.note(
+            key,
+            QStringLiteral("must be of the form %1, not %2").arg(detail.pattern, value.toString()));
     }
 }
 
@@ -66,4 +89,7 @@ void lintChoices(CheckedPreset &preset)
         }
     }
     lintLevels(preset);
+    for (const CatalogueDetail &detail : CatalogueDetail::all()) {
+        lintDetail(preset, detail);
+    }
 }

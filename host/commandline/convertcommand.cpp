@@ -25,6 +25,8 @@ const QLatin1String subtitlesOption("subtitles");
 const QLatin1String burnOption("burn-subtitles");
 const QLatin1String keepDatesFlag("keep-dates");
 const QLatin1String durationOption("duration");
+const QLatin1String averageFlag("average");
+const QLatin1String sizeOption("size");
 
 /*! In the shell's quotes that take the code of a byte, for what can't be typed. */
 QString quotedByCodes(const QString &word)
@@ -262,6 +264,21 @@ Result<> readTrackOptions(const Call &call, OutputSettings &settings)
     return done;
 }
 
+/*! The size that each result may have; 0 for any. */
+Result<double> wantedMegabytes(const Call &call)
+{
+    if (!call.options.isSet(sizeOption)) {
+        return 0;
+    }
+    bool isNumber = false;
+    const double megabytes = call.options.value(sizeOption).toDouble(&isNumber);
+    constexpr double most = 1e6;
+    if (!isNumber || megabytes <= 0 || megabytes > most) {
+        return wrongUsage(CommandLine::tr("--size takes a number of megabytes, such as 25"));
+    }
+    return megabytes;
+}
+
 Result<ExitCode> runConvert(const Call &call)
 {
     if (call.arguments.isEmpty()) {
@@ -272,6 +289,10 @@ Result<ExitCode> runConvert(const Call &call)
     if (!preset) {
         return failed(preset);
     }
+    const Result<double> megabytes = wantedMegabytes(call);
+    if (!megabytes) {
+        return failed(megabytes);
+    }
     ConversionJob job;
     job.settings = preset->outputSettings();
     const Result<> tracks = readTrackOptions(call, job.settings);
@@ -279,6 +300,8 @@ Result<ExitCode> runConvert(const Call &call)
         return failed(tracks);
     }
     job.keepDates = call.options.isSet(keepDatesFlag);
+    job.settings.averagesBitrate = call.options.isSet(averageFlag);
+    job.settings.targetBytes = *megabytes * 1000000;
     job.folder = call.options.value(folderOption);
     job.overwrite = call.options.isSet(overwriteFlag);
     job.planOnly = call.options.isSet(dryRunFlag);
@@ -314,6 +337,10 @@ QVector<Subcommand> convertCommands()
         valueOption(durationOption,
                     CommandLine::tr("Make films of single pictures, of so many seconds."),
                     CommandLine::tr("SECONDS")),
+        {averageFlag, CommandLine::tr("Reach the preset's video bitrate on average, instead of "
+                                      "taking it for the most.")},
+        valueOption(sizeOption, CommandLine::tr("Make each result at most that large."),
+                    CommandLine::tr("MB")),
         {dryRunFlag, CommandLine::tr("Only print the ffmpeg commands.")},
     };
     return {

@@ -111,6 +111,13 @@ QString layoutToWrite(const AudioTrack &track, const AudioCodec &codec, int chan
     return isOther ? track.layout.chopped(atSides.size()) : QString();
 }
 
+/*! The preset's bitrate is meant for its channels: fewer need less. */
+double askedKbps(const OutputSettings &settings, int channels)
+{
+    const bool areFewer = settings.channels > channels && channels > 0;
+    return areFewer ? settings.audioKbps * channels / settings.channels : settings.audioKbps;
+}
+
 /*! The bitrate that the encoder is to be given, closest to what is asked; 0 where its quality says
  *  it. */
 double encodedKbps(const AudioCodec &codec, double asked, int sampleRate, int channels)
@@ -153,7 +160,7 @@ Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &t
     // Channels without a layout get the usual one of their number.
     plan.channels = channels == track.channels && !track.layout.isEmpty() ? 0 : channels;
     plan.layout = layoutToWrite(track, codec, channels);
-    plan.kbps = encodedKbps(codec, target.settings.audioKbps, sampleRate, channels);
+    plan.kbps = encodedKbps(codec, askedKbps(target.settings, channels), sampleRate, channels);
     plan.quality = codec.quality;
     plan.isPadded = target.container.hasSoundInFrames;
     return plan;

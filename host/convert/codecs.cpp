@@ -4,6 +4,8 @@
 
 namespace {
 
+using Ceiling = VideoCodec::Ceiling;
+
 /*! A row of the table of video codecs. */
 class Video : public VideoCodec
 {
@@ -21,11 +23,32 @@ public:
         encoders.last().options.append({QLatin1String(option), QLatin1String(value)});
         return *this;
     }
-    /*! The same, where no bitrate is asked for. */
+    /*! The quality of the encoder named last, and how far a better one is. */
+    Video goodAt(const char *option, double usual, double step, double finest)
+    {
+        encoders.last().quality = {QLatin1String(option), usual, step, finest};
+        return *this;
+    }
+    Video keepsBelow(Ceiling ceiling)
+    {
+        encoders.last().ceiling = ceiling;
+        return *this;
+    }
+    /*! A further option where no bitrate is asked for. */
     Video orElse(const char *option, const char *value)
     {
-        encoders.last().quality.append({QLatin1String(option), QLatin1String(value)});
+        encoders.last().unlimited.append({QLatin1String(option), QLatin1String(value)});
         return *this;
+    }
+    Video takesLevelAs(const char *option, const char *value)
+    {
+        encoders.last().level = {QLatin1String(option), QLatin1String(value)};
+        return *this;
+    }
+    /*! An encoder of ffmpeg's own that was first made for MPEG. */
+    Video writtenLikeMpegBy(const char *encoder)
+    {
+        return writtenBy(encoder).goodAt("q", 4, -1, 2).keepsBelow(Ceiling::LeastQuantiser);
     }
     Video inPixels(const char *format)
     {
@@ -160,33 +183,38 @@ QVector<VideoCodec> makeVideoCodecs()
     const QVector<Ratio> gif = {{5, 1}, {8, 1}, {10, 1}, {12, 1}, {15, 1}, {20, 1}, {25, 1},
                                 {50, 1}};
     return {
-        Video("h264").writtenBy("libx264").with("preset", "veryfast").orElse("crf", "20")
-            .inPixels("yuv420p").atAnyTime(),
+        Video("h264").writtenBy("libx264").with("preset", "medium").goodAt("crf", 21.5, -3, 0)
+            .takesLevelAs("level", "%1").inPixels("yuv420p").atAnyTime(),
         Video("hevc").writtenBy("libx265").with("preset", "veryfast")
-            .with("x265-params", "log-level=error").orElse("crf", "23").inPixels("yuv420p").atAnyTime()
-            .inDeepPixels("yuv420p10le"),
+            .with("x265-params", "log-level=error").goodAt("crf", 23, -3, 0)
+            .takesLevelAs("x265-params", "log-level=error:high-tier=0:level-idc=%1")
+            .inPixels("yuv420p").atAnyTime().inDeepPixels("yuv420p10le"),
         Video("vp8").writtenBy("libvpx").with("deadline", "good").with("cpu-used", "4")
-            .orElse("crf", "10").orElse("b", "8M").inPixels("yuv420p").atAnyTime()
-            .inAlphaPixels("yuva420p", flatAlpha),
+            .goodAt("crf", 10, -3, 4).keepsBelow(Ceiling::Targeted).orElse("b", "8M")
+            .inPixels("yuv420p").atAnyTime().inAlphaPixels("yuva420p", flatAlpha),
         Video("vp9").writtenBy("libvpx-vp9").with("deadline", "good").with("cpu-used", "5")
-            .with("row-mt", "1").orElse("crf", "31").orElse("b", "0").inPixels("yuv420p").atAnyTime()
-            .inDeepPixels("yuv420p10le").inAlphaPixels("yuva420p", flatAlpha),
-        Video("av1").writtenBy("libsvtav1").with("preset", "9").orElse("crf", "32")
-            .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1").orElse("crf", "30")
-            .orElse("b", "0").inPixels("yuv420p").atAnyTime()
-            .inDeepPixels("yuv420p10le"),
-        Video("mpeg4").writtenBy("mpeg4").orElse("q", "4").inPixels("yuv420p"),
-        Video("mpeg2video").writtenBy("mpeg2video").orElse("q", "4").inPixels("yuv420p")
-            .atRates(mpeg).keepingFieldsWith("+ildct+ilme"),
-        Video("mpeg1video").writtenBy("mpeg1video").orElse("q", "4").inPixels("yuv420p")
-            .atRates(mpeg),
-        Video("msmpeg4v3").writtenBy("msmpeg4").orElse("q", "4").inPixels("yuv420p"),
-        Video("msmpeg4v2").writtenBy("msmpeg4v2").orElse("q", "4").inPixels("yuv420p"),
-        Video("wmv1").writtenBy("wmv1").orElse("q", "4").inPixels("yuv420p"),
-        Video("wmv2").writtenBy("wmv2").orElse("q", "4").inPixels("yuv420p"),
-        Video("flv1").writtenBy("flv").orElse("q", "4").inPixels("yuv420p"),
-        Video("theora").writtenBy("libtheora").orElse("q", "7").inPixels("yuv420p"),
-        Video("mjpeg").writtenBy("mjpeg").orElse("q", "3").inPixels("yuvj420p").atAnyTime().inOwnColour("bt470bg", "pc"),
+            .with("row-mt", "1").with("max-intra-rate", "200")
+            .goodAt("crf", 31, -4, 0).keepsBelow(Ceiling::Targeted)
+            .orElse("b", "0").inPixels("yuv420p").atAnyTime().inDeepPixels("yuv420p10le")
+            .inAlphaPixels("yuva420p", flatAlpha),
+        Video("av1").writtenBy("libsvtav1").with("preset", "9").goodAt("crf", 32, -5, 1)
+            .keepsBelow(Ceiling::Capped)
+            .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1")
+            .goodAt("crf", 30, -5, 0).keepsBelow(Ceiling::Targeted).orElse("b", "0")
+            .inPixels("yuv420p").atAnyTime().inDeepPixels("yuv420p10le"),
+        Video("mpeg4").writtenLikeMpegBy("mpeg4").inPixels("yuv420p"),
+        Video("mpeg2video").writtenLikeMpegBy("mpeg2video").inPixels("yuv420p").atRates(mpeg)
+            .keepingFieldsWith("+ildct+ilme"),
+        Video("mpeg1video").writtenLikeMpegBy("mpeg1video").inPixels("yuv420p").atRates(mpeg),
+        Video("msmpeg4v3").writtenLikeMpegBy("msmpeg4").inPixels("yuv420p"),
+        Video("msmpeg4v2").writtenLikeMpegBy("msmpeg4v2").inPixels("yuv420p"),
+        Video("wmv1").writtenLikeMpegBy("wmv1").inPixels("yuv420p"),
+        Video("wmv2").writtenLikeMpegBy("wmv2").inPixels("yuv420p"),
+        Video("flv1").writtenLikeMpegBy("flv").inPixels("yuv420p"),
+        Video("theora").writtenBy("libtheora").goodAt("q", 7, 1.5, 10)
+            .keepsBelow(Ceiling::BitsPerPixel).inPixels("yuv420p"),
+        Video("mjpeg").writtenLikeMpegBy("mjpeg").inPixels("yuvj420p").atAnyTime()
+            .inOwnColour("bt470bg", "pc"),
         Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate().atAnyTime()
             .inDeepPixels("yuv422p10le").inAlphaPixels("yuva444p10le"),
         Video("dnxhd").writtenBy("dnxhd").with("profile", "dnxhr_sq").inPixels("yuv422p")

@@ -12,11 +12,30 @@
  */
 struct VideoCodec
 {
+    /*! How an encoder keeps a constant quality below a bitrate. */
+    enum class Ceiling {
+        Buffered,       //!< its quality, with a buffer that fills at the bitrate
+        Capped,         //!< the same, but it takes no average together with a buffer
+        Targeted,       //!< the same, and it has to know the bitrate as its target, too
+        LeastQuantiser, //!< the bitrate, with its quality as the finest quantiser
+        BitsPerPixel,   //!< it can't: the bitrate is no higher than the picture needs
+    };
+    /*! The option for the quality of the picture. */
+    struct Quality
+    {
+        QString option;
+        double usual = 0;
+        double step = 0; //!< from the usual to the high quality, and back to the low one
+        double finest = 0;
+    };
     struct Encoder
     {
         QString name;
         ToolOptions options = {}; //!< always given
-        ToolOptions quality = {}; //!< given when no bitrate is asked for
+        Quality quality = {};     //!< no option: the encoder sets its quality itself
+        Ceiling ceiling = Ceiling::Buffered;
+        ToolOptions unlimited = {}; //!< given when no bitrate is asked for
+        ToolOption level = {};      //!< takes the level of a device as "%1"
     };
     /*! A picture of fixed size, rate and pixel shape, as studio formats have it. */
     struct Frame

@@ -2,6 +2,7 @@
 
 #include "host/convert/audioplan.h"
 #include "host/convert/burnedsubtitles.h"
+#include "host/convert/ratecontrol.h"
 #include "host/convert/subtitleplan.h"
 #include "host/convert/videoplan.h"
 #include "host/media/mediainput.h"
@@ -189,6 +190,20 @@ void Streams::addCover()
     }
 }
 
+ToolOptions muxerOptions(const StreamTarget &target)
+{
+    ToolOptions options = target.container.options;
+    const QString flags = QStringLiteral("movflags");
+    const auto isFlags = [&flags](const ToolOption &option) { return option.name == flags; };
+    const auto own = std::find_if(options.begin(), options.end(), isFlags);
+    if (!target.settings.hasEditLists && own != options.end()) {
+        // The first picture is shown at once then, although those behind it are decoded first.
+        own->value += QStringLiteral("+negative_cts_offsets");
+        options.append({QStringLiteral("use_editlist"), QStringLiteral("0")});
+    }
+    return options;
+}
+
 /*! The streams, their codecs and the muxer. */
 Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget &target)
 {
@@ -212,7 +227,7 @@ Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget
         streams.addAttachments();
     }
     streams.addCover();
-    return streams.arguments() + metadataArguments(source) + toArguments(target.container.options) +
+    return streams.arguments() + metadataArguments(source) + toArguments(muxerOptions(target)) +
            toArguments({{QStringLiteral("f"), target.container.muxer}});
 }
 
@@ -226,13 +241,17 @@ Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaF
     if (!possible) {
         return tl::make_unexpected(possible.error());
     }
+    const Result<OutputSettings> fitted = fittedToSize(settings, source);
+    if (!fitted) {
+        return tl::make_unexpected(fitted.error());
+    }
     const Container &container = *Container::find(settings.extension);
     const Result<QString> burned = burnFilter(source, settings, sourcePath);
     if (!burned) {
         return failed(burned);
     }
     Result<QStringList> output =
-        outputArguments(source, {settings, container, encoders,
+        outputArguments(source, {*fitted, container, encoders,
                                  source.isStill() ? Copies{false, false} : allowed, *burned});
     if (!output) {
         return output;

@@ -53,15 +53,56 @@ QSize boxFromText(const QString &text)
     return text.isEmpty() ? QSize() : sizeFromText(text).value_or(unreadableSize);
 }
 
-double videoKbpsOf(const QVariantMap &preset)
+/*! A block of the converter's settings, of which the record knows only some. */
+QVariantMap converterBlock(const QVariantMap &preset, const char *block)
 {
     const QVariantMap node = preset.value(QStringLiteral("outPutNode")).toMap();
-    const QVariant kbps =
-        node.value(QStringLiteral("videoParam")).toMap().value(QStringLiteral("bitrateKbps"));
+    return node.value(QLatin1String(block)).toMap();
+}
+
+double videoKbpsOf(const QVariantMap &preset)
+{
+    const QVariant kbps = converterBlock(preset, "videoParam").value(QStringLiteral("bitrateKbps"));
     const QVariantMap video = preset.value(QStringLiteral("video")).toMap();
     return numberFromText(
         (kbps.isValid() ? kbps : video.value(QStringLiteral("bitrateMid"))).toString(),
         unreadableKbps);
+}
+
+/*! Where \a kbps stands among the bitrates of the high, the usual and the low quality: 1, 0, -1 and
+ *  between them. A usual one of 0 leaves the quality to the encoder. */
+double qualityAmong(const QVariantList &levels, double kbps)
+{
+    const double high = levels.value(0).toDouble();
+    const double low = levels.value(2).toDouble();
+    const bool areLevels = low > 0 && high > low && kbps > 0;
+    if (!areLevels || kbps >= high || kbps <= low) {
+        return !areLevels ? 0 : kbps >= high ? 1 : -1;
+    }
+    const double stated = levels.value(1).toDouble();
+    const double usual = stated > low && stated < high ? stated : std::sqrt(high * low);
+    return kbps >= usual ? std::log(kbps / usual) / std::log(high / usual)
+                         : std::log(kbps / usual) / std::log(usual / low);
+}
+
+/*! What only converters know of a preset: the limits of its device and the quality. */
+void readConverterSettings(OutputSettings &settings, const QVariantMap &preset)
+{
+    const QVariantMap param = converterBlock(preset, "videoParam");
+    const QVariantMap options = converterBlock(preset, "videoOptions");
+    const auto ofCodec = [&param, &settings](const char *key) {
+        return chosenText(param, settings.videoCodec + QLatin1String(key));
+    };
+    const bool isBetter = chosenText(param, QStringLiteral("quality")) == QLatin1String("high");
+    settings.quality =
+        qualityAmong(options.value(QStringLiteral("levelList")).toList(), settings.videoKbps) +
+        (isBetter ? 1 : 0);
+    settings.peakKbps =
+        numberFromText(chosenText(param, QStringLiteral("peakKbps")), unreadableKbps);
+    settings.level = ofCodec("Level");
+    settings.profile = ofCodec("Profile");
+    settings.videoTag = ofCodec("Tag");
+    settings.hasEditLists = chosenText(param, QStringLiteral("editLists")) != QLatin1String("none");
 }
 
 /*! Text of a file that may hold anything, fit for a line of a message. */
@@ -106,10 +147,12 @@ struct ChosenNumber
 auto valuesOf(const OutputSettings &settings)
 {
     return std::tie(settings.extension, settings.hasVideo, settings.videoCodec, settings.frameRate,
-                    settings.frameRateMode, settings.box, settings.videoKbps, settings.audioCodec,
-                    settings.sampleRate, settings.channels, settings.audioKbps,
-                    settings.audioTracks, settings.subtitles, settings.burnedSubtitles,
-                    settings.stillSeconds, settings.start, settings.end);
+                    settings.frameRateMode, settings.box, settings.videoKbps, settings.quality,
+                    settings.averagesBitrate, settings.targetBytes, settings.bufferSeconds,
+                    settings.peakKbps, settings.level, settings.profile, settings.videoTag,
+                    settings.hasEditLists, settings.audioCodec, settings.sampleRate,
+                    settings.channels, settings.audioKbps, settings.audioTracks, settings.subtitles,
+                    settings.burnedSubtitles, settings.stillSeconds, settings.start, settings.end);
 }
 
 } // namespace
@@ -127,6 +170,7 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
         settings.frameRate = rateFromText(chosenText(video, QStringLiteral("frameRate")));
         settings.box = boxFromText(chosenText(video, QStringLiteral("resolution")));
         settings.videoKbps = videoKbpsOf(preset);
+        readConverterSettings(settings, preset);
     }
 
     const QVariantMap audio = preset.value(QStringLiteral("audio")).toMap();
@@ -144,7 +188,7 @@ Result<> OutputSettings::check() const
         return failed(tr("files of the kind \".%1\" can't be written; choose another preset")
                           .arg(shortened(extension)));
     }
-    for (const QString &codec : {videoCodec, audioCodec}) {
+    for (const QString &codec : {videoCodec, audioCodec, level, profile, videoTag}) {
         if (!isName(codec)) {
             return failed(tr("no encoder has a name like \"%1\"; choose another preset")
                               .arg(shortened(codec)));
@@ -156,6 +200,7 @@ Result<> OutputSettings::check() const
         {"video.frameRate", rate, slowestFrameRate, fastestFrameRate, " fps"},
         {"video.resolution", double(side), 1, 16384, " px", sizeText(box)},
         {"video.bitrate", videoKbps, 1, 1000000, " kbps"},
+        {"videoParam.peakKbps", peakKbps, 1, 1000000, " kbps"},
         {"audio.sampleRate", double(sampleRate), 1000, 768000, " Hz"},
         {"audio.channel", double(channels), 1, 64, ""},
         {"audio.bitrate", audioKbps, 1, 100000, " kbps"},

@@ -29,8 +29,17 @@ public:
     QString videoCodec; //!< as ffprobe names it
     Ratio frameRate;
     FrameRateMode frameRateMode = FrameRateMode::Ceiling;
-    QSize box;            //!< the picture is fitted into it
-    double videoKbps = 0; //!< 0: the encoder's own good quality
+    QSize box;                    //!< the picture is fitted into it
+    double videoKbps = 0;         //!< the most; 0: the encoder's own good quality
+    double quality = 0;           //!< of the picture: 1 is the high, 0 the usual, -1 the low one
+    bool averagesBitrate = false; //!< videoKbps on average, whatever the picture needs
+    double targetBytes = 0;       //!< the most that the result may have; 0: any
+    double bufferSeconds = 1;     //!< of video that may come early where the picture needs it
+    double peakKbps = 0;          //!< the most within any second; 0: as the buffer lets
+    QString level;                //!< of the video codec, as a device needs it
+    QString profile;              //!< the same
+    QString videoTag;             //!< the codec's name in the file; empty: the usual one
+    bool hasEditLists = true;     //!< where the container knows them
     QString audioCodec;
     int sampleRate = 0; //!< Hz
     int channels = 0;

@@ -4,6 +4,9 @@
 #include "host/convert/colourplan.h"
 #include "host/convert/fieldplan.h"
 #include "host/convert/picturefit.h"
+#include "host/convert/ratecontrol.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -120,17 +123,17 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     }
 }
 
-void planQuality(VideoPlan &plan, const VideoCodec &codec, double kbps)
+void planQuality(VideoPlan &plan, const VideoTrack &track, const VideoCodec &codec,
+                 const OutputSettings &settings)
 {
-    plan.kbps = codec.takesBitrate ? kbps : 0;
-    for (const VideoCodec::Encoder &encoder : codec.encoders) {
-        if (encoder.name == plan.encoder) {
-            plan.options = encoder.options;
-            if (plan.kbps == 0) {
-                plan.options += encoder.quality;
-            }
-        }
-    }
+    const QSize boxed = boxedSize(track, settings.box);
+    const VideoCodec::Encoder unknown{plan.encoder};
+    const auto row = std::find_if(
+        codec.encoders.begin(), codec.encoders.end(),
+        [&plan](const VideoCodec::Encoder &each) { return each.name == plan.encoder; });
+    plan.options = rateOptions(
+        codec, row == codec.encoders.end() ? unknown : *row, settings,
+        {boxed.isEmpty() ? track.storedSize : boxed, resultRate(track.frameRate, settings)});
 }
 
 } // namespace
@@ -151,7 +154,7 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
             return tl::make_unexpected(encoder.error());
         }
         plan.encoder = *encoder;
-        planQuality(plan, codec, settings.videoKbps);
+        planQuality(plan, track, codec, settings);
         planPicture(plan, track, codec, target);
     }
     if (isCopied) {
@@ -161,7 +164,9 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
         // Frames written ahead of their time would come late, each against its sound.
         plan.options.append({QStringLiteral("bf"), QStringLiteral("0")});
     }
-    if (codec.name == QLatin1String("hevc") && target.container.tagsHevcAsHvc1) {
+    if (!isCopied && !settings.videoTag.isEmpty()) {
+        plan.tag = settings.videoTag;
+    } else if (codec.name == QLatin1String("hevc") && target.container.tagsHevcAsHvc1) {
         plan.tag = QStringLiteral("hvc1");
     }
     return plan;
@@ -185,9 +190,6 @@ QStringList VideoPlan::arguments() const
         all.append({QStringLiteral("pix_fmt"), pixelFormat});
     }
     all += options;
-    if (kbps > 0) {
-        all.append({QStringLiteral("b"), kbpsText(kbps)});
-    }
     if (!bitstreamFilter.isEmpty()) {
         all.append({QStringLiteral("bsf"), bitstreamFilter});
     }

@@ -14,7 +14,6 @@ struct VideoPlan
     FrameTiming timing = {};
     QString pixelFormat = {};     //!< empty: the encoder's choice
     ToolOptions options = {};     //!< the encoder's
-    double kbps = 0;              //!< 0: as good as the options say
     QString bitstreamFilter = {}; //!< of a copy
     QString tag = {};             //!< of the codec in the file; empty: the usual one
 

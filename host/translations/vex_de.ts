@@ -847,6 +847,17 @@
     </message>
 </context>
 <context>
+    <name>RateControl</name>
+    <message>
+        <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
+        <translation>gibt keine Länge an, sodass keine Bitrate die gewünschte Größe ergibt; wählen Sie stattdessen eine Bitrate</translation>
+    </message>
+    <message>
+        <source>is too long for the asked size; choose a larger size or less audio</source>
+        <translation>ist zu lang für die gewünschte Größe; wählen Sie eine größere oder weniger Ton</translation>
+    </message>
+</context>
+<context>
     <name>EncoderList</name>
     <message>
         <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>

@@ -847,6 +847,17 @@
     </message>
 </context>
 <context>
+    <name>RateControl</name>
+    <message>
+        <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
+        <translation>no indica su duración, así que ninguna tasa de bits da el tamaño pedido; elija en su lugar una tasa de bits</translation>
+    </message>
+    <message>
+        <source>is too long for the asked size; choose a larger size or less audio</source>
+        <translation>es demasiado largo para el tamaño pedido; elija un tamaño mayor o menos audio</translation>
+    </message>
+</context>
+<context>
     <name>EncoderList</name>
     <message>
         <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>

@@ -847,6 +847,17 @@
     </message>
 </context>
 <context>
+    <name>RateControl</name>
+    <message>
+        <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
+        <translation>n&apos;indique pas de durée, si bien qu&apos;aucun débit ne donne la taille voulue ; choisissez plutôt un débit</translation>
+    </message>
+    <message>
+        <source>is too long for the asked size; choose a larger size or less audio</source>
+        <translation>est trop long pour la taille voulue ; choisissez une taille plus grande ou moins de son</translation>
+    </message>
+</context>
+<context>
     <name>EncoderList</name>
     <message>
         <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>

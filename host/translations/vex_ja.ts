@@ -847,6 +847,17 @@
     </message>
 </context>
 <context>
+    <name>RateControl</name>
+    <message>
+        <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
+        <translation>長さの情報がないため、指定のサイズになるビットレートを決められません。代わりにビットレートを選んでください</translation>
+    </message>
+    <message>
+        <source>is too long for the asked size; choose a larger size or less audio</source>
+        <translation>指定のサイズには長すぎます。より大きいサイズか、より少ない音声を選んでください</translation>
+    </message>
+</context>
+<context>
     <name>EncoderList</name>
     <message>
         <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>

@@ -847,6 +847,17 @@
     </message>
 </context>
 <context>
+    <name>RateControl</name>
+    <message>
+        <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
+        <translation>没有说明时长，因此无法确定达到指定大小的码率；请改为选择码率</translation>
+    </message>
+    <message>
+        <source>is too long for the asked size; choose a larger size or less audio</source>
+        <translation>对于指定的大小来说太长；请选择更大的大小或更少的音频</translation>
+    </message>
+</context>
+<context>
     <name>EncoderList</name>
     <message>
         <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>

@@ -253,11 +253,25 @@ void TestWrittenFile::deviationsAreNamed_data()
     frameRate("a frame rate nearly one percent higher", "", {302, 10});
     frameRate("a frame rate over one percent lower", "29.6 fps, not 29.97", {296, 10});
     frameRate("a frame rate over one percent higher", "30.3 fps, not 29.97", {303, 10});
-    bytes("video of nearly three times the bitrate", "", 0, 1499000);
-    bytes("video of little over a third of the bitrate", "", 0, 167000);
-    bytes("video of less than a third of the bitrate", "video has 1328 kbps, not 4000", 0, 166000);
-    bytes("far too much video", "video has 12000 kbps, not 4000", 0, 1500000);
-    bytes("far too little video", "video has 1000 kbps, not 4000", 0, 125000);
+    bytes("video of two and a half times the bitrate", "", 0, 1250000);
+    bytes("far too much video", "video has 12000 kbps, more than 10000", 0, 1500000);
+    bytes("an easy picture far below the bitrate", "", 0, 1000);
+    bytes("no video at all", "video has 0 kbps, more than 10000", 0, 0);
+    row("video beyond the device's peak", "video has 6400 kbps, more than 6000",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
+            asked.peakKbps = 6000;
+            file.streamBytes[0] = 800000;
+        });
+    row("a level beyond the device's", "the level is 4.2, not 4.1",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
+            asked.level = QStringLiteral("4.1");
+            file.facts.videoTracks[0].level = 42;
+        });
+    row("another tag than the preset's", "the tag is FMP4, not XVID",
+        [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
+            asked.videoTag = QStringLiteral("XVID");
+            file.facts.videoTracks[0].codecTag = QStringLiteral("FMP4");
+        });
     row("no video bitrate of a codec that sets its own", "",
         [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
             asked.extension = QStringLiteral("mov");

@@ -202,7 +202,7 @@ void TestVideoPlan::theEncoderGetsItsOptions_data()
         "-map 0:0 -map 0:1 -c:v:0 prores -fps_mode:v:0 vfr -pix_fmt:v:0 yuv422p10le -c:a:0 "
         "pcm_s16le "
         "-movflags +faststart -f mov");
-    row("a bitrate replaces the quality",
+    row("a bitrate is a ceiling",
         with(video("wmv", "wmv2", "wmav2"),
              [](OutputSettings &s) {
                  s.videoKbps = 2000;

@@ -1,0 +1,161 @@
+#include "tests/host/convert/conversiontest.h"
+
+#include "host/check/writtenfile.h"
+#include "host/tools/toolcall.h"
+
+#include <QProcess>
+
+/*! What a preset's bitrate comes to in the file. */
+class TestConversionRate : public ConversionTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noSecondExceedsTheCeilingByMoreThanTheBuffer_data();
+    void noSecondExceedsTheCeilingByMoreThanTheBuffer();
+    void anEasyPictureStaysFarBelowTheCeiling_data();
+    void anEasyPictureStaysFarBelowTheCeiling();
+    void theHighQualityIsTheLargerFile();
+    void theResultHasTheAskedSize_data();
+    void theResultHasTheAskedSize();
+
+private:
+    QString noise() const;
+    QString easy() const;
+    static QVector<double> secondsOf(const QString &file);
+    static void addCodecs();
+    static OutputSettings settingsOfRow(double kbps);
+};
+
+QString TestConversionRate::noise() const
+{
+    const QString file = path(QStringLiteral("noise.mkv"));
+    return MediaClips::make(file, QStringLiteral("-f lavfi -i testsrc2=size=320x240:rate=25 -vf "
+                                                 "noise=alls=40:allf=t -t 3 -c:v ffv1"))
+               ? file
+               : QString();
+}
+
+QString TestConversionRate::easy() const
+{
+    const QString file = path(QStringLiteral("easy.mkv"));
+    return MediaClips::make(file, QStringLiteral("-f lavfi -i testsrc=size=320x240:rate=25 -t 2 "
+                                                 "-c:v ffv1"))
+               ? file
+               : QString();
+}
+
+/*! The kbit of video in each second. */
+QVector<double> TestConversionRate::secondsOf(const QString &file)
+{
+    QProcess ffprobe;
+    ffprobe.start(QStringLiteral("ffprobe"),
+                  {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-select_streams"),
+                   QStringLiteral("v:0"), QStringLiteral("-show_entries"),
+                   QStringLiteral("packet=size"), QStringLiteral("-of"),
+                   QStringLiteral("csv=print_section=0"), file});
+    ffprobe.waitForFinished();
+    constexpr int framesPerSecond = 25;
+    QVector<double> seconds;
+    int frame = 0;
+    const QList<QByteArray> lines = ffprobe.readAllStandardOutput().split('\n');
+    for (const QByteArray &line : lines) {
+        if (!line.trimmed().isEmpty()) {
+            seconds.resize(frame / framesPerSecond + 1);
+            seconds.last() += line.split(',').constFirst().toDouble() * 8 / 1000;
+            ++frame;
+        }
+    }
+    return seconds;
+}
+
+void TestConversionRate::addCodecs()
+{
+    QTest::addColumn<QString>("extension");
+    QTest::addColumn<QString>("codec");
+    const char *rows[][2] = {{"mp4", "h264"}, {"mkv", "hevc"},       {"webm", "vp9"},
+                             {"webm", "vp8"}, {"avi", "mpeg4"},      {"wmv", "wmv2"},
+                             {"flv", "flv1"}, {"mpg", "mpeg2video"}, {"mkv", "av1"}};
+    for (const auto &row : rows) {
+        QTest::newRow(row[1]) << QString::fromLatin1(row[0]) << QString::fromLatin1(row[1]);
+    }
+}
+
+OutputSettings TestConversionRate::settingsOfRow(double kbps)
+{
+    QFETCH(QString, extension);
+    QFETCH(QString, codec);
+    OutputSettings settings = video(extension);
+    settings.videoCodec = codec;
+    settings.videoKbps = kbps;
+    return settings;
+}
+
+void TestConversionRate::noSecondExceedsTheCeilingByMoreThanTheBuffer_data()
+{
+    addCodecs();
+}
+
+void TestConversionRate::noSecondExceedsTheCeilingByMoreThanTheBuffer()
+{
+    const double ceiling = 800;
+    const OutputSettings settings = settingsOfRow(ceiling);
+    const Outcome outcome = convert(job(noise(), settings));
+    QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+    const QVector<double> seconds = secondsOf(outcome->target);
+    QVERIFY(seconds.size() >= 3);
+    // One second of the bitrate is in the buffer.
+    QVERIFY(*std::max_element(seconds.begin(), seconds.end()) <= 2 * ceiling);
+    QVERIFY(seconds.constLast() <= 1.5 * ceiling);
+}
+
+void TestConversionRate::anEasyPictureStaysFarBelowTheCeiling_data()
+{
+    addCodecs();
+}
+
+void TestConversionRate::anEasyPictureStaysFarBelowTheCeiling()
+{
+    const double ceiling = 8000;
+    const Outcome outcome = convert(job(easy(), settingsOfRow(ceiling)));
+    QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+    const QVector<double> seconds = secondsOf(outcome->target);
+    QVERIFY(!seconds.isEmpty());
+    QVERIFY(*std::max_element(seconds.begin(), seconds.end()) <= ceiling / 6);
+}
+
+void TestConversionRate::theHighQualityIsTheLargerFile()
+{
+    QVector<qint64> sizes;
+    for (const double quality : {-1.0, 0.0, 1.0}) {
+        OutputSettings settings = video(QStringLiteral("mkv"));
+        settings.videoCodec = QStringLiteral("h264");
+        settings.videoKbps = 8000;
+        settings.quality = quality;
+        const Outcome outcome = convert(job(easy(), settings));
+        QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+        sizes << QFileInfo(outcome->target).size();
+        QVERIFY(QFile::remove(outcome->target));
+    }
+    QVERIFY(sizes.at(0) < sizes.at(1));
+    QVERIFY(sizes.at(1) < sizes.at(2));
+}
+
+void TestConversionRate::theResultHasTheAskedSize_data()
+{
+    addCodecs();
+}
+
+void TestConversionRate::theResultHasTheAskedSize()
+{
+    OutputSettings settings = settingsOfRow(0);
+    settings.targetBytes = 300000;
+    const Outcome outcome = convert(job(noise(), settings));
+    QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+    const qint64 bytes = QFileInfo(outcome->target).size();
+    QVERIFY2(bytes <= settings.targetBytes * 1.0, qPrintable(QString::number(bytes)));
+    QVERIFY2(bytes >= settings.targetBytes * 0.5, qPrintable(QString::number(bytes)));
+}
+
+QTEST_GUILESS_MAIN(TestConversionRate)
+#include "tst_conversion_rate.moc"
