@@ -141,7 +141,9 @@ VideoTrack::FieldOrder fieldOrderInSample(const QByteArray &lines)
     const double top = counted(lines, "tff");
     const double bottom = counted(lines, "bff");
     const double fields = top + bottom;
-    if (fields <= counted(lines, "progressive")) {
+    // Frames in which nothing moves count as progressive.
+    constexpr double fewest = 0.25;
+    if (fields <= fewest * (fields + counted(lines, "progressive"))) {
         return VideoTrack::Progressive;
     }
     return top >= bottom ? VideoTrack::TopFieldFirst : VideoTrack::BottomFieldFirst;
