@@ -1,5 +1,6 @@
 #include "host/check/writtenfile.h"
 
+#include "host/convert/audioplan.h"
 #include "host/convert/codecs.h"
 #include "host/convert/containers.h"
 #include "host/convert/frametiming.h"
@@ -134,7 +135,7 @@ void Comparison::compareAudio(const Container &container)
     expect(track->channels == channels,
            QStringLiteral("%1 channels, not %2").arg(track->channels).arg(channels));
     compareBitrate(QStringLiteral("audio"), track->index,
-                   codec.takesBitrate ? m_asked.audioKbps : 0, audioTolerance);
+                   codec.takesBitrate ? askedKbps(m_asked, channels) : 0, audioTolerance);
 }
 
 /*! If none is set, the source's codec is kept if the container supports it, else its default one is

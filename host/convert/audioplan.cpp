@@ -111,13 +111,6 @@ QString layoutToWrite(const AudioTrack &track, const AudioCodec &codec, int chan
     return isOther ? track.layout.chopped(atSides.size()) : QString();
 }
 
-/*! The preset's bitrate is meant for its channels: fewer need less. */
-double askedKbps(const OutputSettings &settings, int channels)
-{
-    const bool areFewer = settings.channels > channels && channels > 0;
-    return areFewer ? settings.audioKbps * channels / settings.channels : settings.audioKbps;
-}
-
 /*! The bitrate that the encoder is to be given, closest to what is asked; 0 where its quality says
  *  it. */
 double encodedKbps(const AudioCodec &codec, double asked, int sampleRate, int channels)
@@ -137,6 +130,12 @@ double encodedKbps(const AudioCodec &codec, double asked, int sampleRate, int ch
 }
 
 } // namespace
+
+double askedKbps(const OutputSettings &settings, int channels)
+{
+    const bool areFewer = settings.channels > channels && channels > 0;
+    return areFewer ? settings.audioKbps * channels / settings.channels : settings.audioKbps;
+}
 
 Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &target)
 {

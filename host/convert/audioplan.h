@@ -24,4 +24,8 @@ struct AudioPlan
     [[nodiscard]] QStringList arguments(int position) const;
 };
 
+/*! The bitrate that \a settings ask for in kbps, where there are only \a channels: fewer than the
+ *  preset's need less. 0: any. */
+[[nodiscard]] double askedKbps(const OutputSettings &settings, int channels);
+
 #endif

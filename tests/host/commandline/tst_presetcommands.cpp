@@ -70,7 +70,7 @@ void TestPresetCommands::aUsersPresetIsMadeChangedAndDeleted()
     QCOMPARE(run("convert film.mp4 --preset 1001").exitCode, 0);
     const MediaFacts facts = MediaClips::factsOf(path(QStringLiteral("film (2).mp4")));
     QCOMPARE(facts.video()->codec, QStringLiteral("mpeg4"));
-    QCOMPARE(facts.video()->frameRate.toText(), QStringLiteral("30000/1001"));
+    QCOMPARE(facts.video()->frameRate.toText(), QStringLiteral("25"));
     QCOMPARE(facts.video()->displaySize(), QSize(120, 90));
 
     const CommandRun changed = run("user change 1001 --video-bitrate 4000 --title New");

@@ -32,12 +32,14 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
     row("codecs that the file can't hold become the usual ones", video("webm"), film(),
         "-map 0:0 -map 0:1 -c:v:0 libvpx-vp9 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -deadline:v:0 "
         "good "
-        "-cpu-used:v:0 5 -row-mt:v:0 1 -crf:v:0 31 -b:v:0 0 -c:a:0 libopus -b:a:0 128k -f webm");
+        "-cpu-used:v:0 5 -row-mt:v:0 1 -max-intra-rate:v:0 200 -crf:v:0 31 -b:v:0 0 -c:a:0 libopus "
+        "-b:a:0 128k -f webm");
     row("kept codec, other size",
         with(video("mkv"), [](OutputSettings &s) { s.box = QSize(1280, 720); }), film(),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -filter:v:0 scale=1280:720,setsar=1 "
         "-pix_fmt:v:0 yuv420p "
-        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -f matroska");
+        "-preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -f matroska");
     row("kept codec, box larger than the picture",
         with(video("mkv"), [](OutputSettings &s) { s.box = QSize(3840, 2160); }), film(),
         "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -f matroska");
@@ -49,7 +51,8 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
         film(),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -r:v:0 20 -fps_mode:v:0 vfr -filter:v:0 "
         "select=isnan(prev_t)+gt(floor(t*20+0.25)\\,floor(prev_t*20+0.25)) "
-        "-pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -f matroska");
+        "-pix_fmt:v:0 yuv420p -preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -f matroska");
     row("kept codec, the source's rate",
         with(video("mkv"),
              [](OutputSettings &s) {
@@ -64,8 +67,8 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
              }),
         film(),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
-        "veryfast "
-        "-b:v:0 1500k -c:a:0 aac -b:a:0 96k -f matroska");
+        "medium "
+        "-crf:v:0 21.5 -maxrate:v:0 1500k -bufsize:v:0 1500k -c:a:0 aac -b:a:0 96k -f matroska");
     row("kept codec without an encoder becomes the usual one",
         with(video("mkv"),
              [](OutputSettings &s) {
@@ -78,15 +81,16 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
                   f.audioTracks[0].codec = QStringLiteral("dts");
               }),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
-        "veryfast "
-        "-b:v:0 1500k -c:a:0 aac -ar:a:0 44100 -b:a:0 192k -f matroska");
+        "medium "
+        "-crf:v:0 21.5 -maxrate:v:0 1500k -bufsize:v:0 1500k -c:a:0 aac -ar:a:0 44100 -b:a:0 192k "
+        "-f matroska");
     const MediaFacts turned = facts(film(), [](MediaFacts &f) { f.videoTracks[0].rotation = 90; });
     row("a turned picture is kept where the turn is", video("mp4"), turned,
         "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -movflags +faststart -f mp4");
     row("and written upright elsewhere", video("mkv"), turned,
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
-        "veryfast "
-        "-crf:v:0 20 -c:a:0 copy -f matroska");
+        "medium "
+        "-crf:v:0 21.5 -c:a:0 copy -f matroska");
 }
 
 void TestFfmpegArguments::aCoverIsKeptWhereItCanBe_data()

@@ -10,8 +10,8 @@ class TestSubtitlePlan : public QObject
 private Q_SLOTS:
     void subtitlesTravelAsTheContainerHoldsThem_data();
     void subtitlesTravelAsTheContainerHoldsThem() { compareWithRow(); }
-    void burnedSubtitlesAreDrawnBeforeThePictureIsScaled_data();
-    void burnedSubtitlesAreDrawnBeforeThePictureIsScaled() { compareWithRow(); }
+    void burnedSubtitlesAreDrawnOnThePicture_data();
+    void burnedSubtitlesAreDrawnOnThePicture() { compareWithRow(); }
     void aLanguageHasSeveralCodes_data();
     void aLanguageHasSeveralCodes();
 };
@@ -61,7 +61,7 @@ void TestSubtitlePlan::subtitlesTravelAsTheContainerHoldsThem_data()
     row("none beside sound alone", audio("mka"), subtitled(), "-map 0:1 -c:a:0 copy -f matroska");
 }
 
-void TestSubtitlePlan::burnedSubtitlesAreDrawnBeforeThePictureIsScaled_data()
+void TestSubtitlePlan::burnedSubtitlesAreDrawnOnThePicture_data()
 {
     addColumns();
     const auto burning = [](int number) {
@@ -72,13 +72,15 @@ void TestSubtitlePlan::burnedSubtitlesAreDrawnBeforeThePictureIsScaled_data()
         });
     };
     row("text", burning(1), subtitled(),
-        "-map 0:0 -map 0:1 -c:v:0 libx264 -filter:v:0 "
-        "subtitles=filename=/in:si=0,scale=1280:720,setsar=1 -pix_fmt:v:0 yuv420p "
-        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart -f mp4");
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -filter:v:0 "
+        "scale=1280:720,setsar=1,subtitles=filename=/in:si=0 -pix_fmt:v:0 yuv420p "
+        "-preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
     row("pictures", burning(2), subtitled(),
         "-filter_complex [0:0][0:3]overlay=eof_action=pass,scale=1280:720,setsar=1[drawn] "
-        "-map [drawn] -map 0:1 -c:v:0 libx264 -pix_fmt:v:0 yuv420p "
-        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart -f mp4");
+        "-map [drawn] -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p "
+        "-preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
 }
 
 void TestSubtitlePlan::aLanguageHasSeveralCodes_data()

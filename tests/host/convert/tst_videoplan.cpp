@@ -29,7 +29,8 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
     row("portrait by its turn",
         with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(1280, 720); }), turned,
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -filter:v:0 scale=720:1280,setsar=1 "
-        "-pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart "
+        "-pix_fmt:v:0 yuv420p -preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart "
         "-f mp4");
     row("wide pixels become square in a box",
         with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(1920, 1080); }),
@@ -39,7 +40,8 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
                   f.videoTracks[0].pixelAspect = {64, 45};
               }),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -filter:v:0 scale=1024:576,setsar=1 "
-        "-pix_fmt:v:0 yuv420p -preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart "
+        "-pix_fmt:v:0 yuv420p -preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart "
         "-f mp4");
     const MediaFacts odd =
         facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(321, 241); });
@@ -47,7 +49,8 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
         facts(odd, [](MediaFacts &f) { f.videoTracks[0].codec = QStringLiteral("vp9"); }),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -filter:v:0 scale=320:240 "
         "-pix_fmt:v:0 yuv420p "
-        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -movflags +faststart -f mp4");
+        "-preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
     row("an odd size stays where it may", video("gif"), odd,
         "-map 0:0 -c:v:0 gif -fps_mode:v:0 vfr -filter:v:0 "
         "split[picture][sample];[sample]palettegen[palette];"
@@ -60,7 +63,8 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
                   f.videoTracks[0].storedSize = QSize();
               }),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p "
-        "-preset:v:0 veryfast -crf:v:0 20 "
+        "-preset:v:0 medium "
+        "-crf:v:0 21.5 "
         "-c:a:0 copy -movflags +faststart -f mp4");
     row("a fixed frame keeps the picture's shape", video("dv"),
         facts(film(), [](MediaFacts &f) { f.videoTracks[0].storedSize = QSize(1920, 800); }),
@@ -76,7 +80,8 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
               }),
         "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -filter:v:0 scale=240:320 -pix_fmt:v:0 "
         "yuv420p "
-        "-preset:v:0 veryfast -crf:v:0 20 -c:a:0 copy -f matroska");
+        "-preset:v:0 medium "
+        "-crf:v:0 21.5 -c:a:0 copy -f matroska");
 }
 
 void TestVideoPlan::thePictureHasARateOfItsCodec_data()
@@ -209,7 +214,8 @@ void TestVideoPlan::theEncoderGetsItsOptions_data()
                  s.audioKbps = 100;
              }),
         film(),
-        "-map 0:0 -map 0:1 -c:v:0 wmv2 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -b:v:0 2000k -c:a:0 "
+        "-map 0:0 -map 0:1 -c:v:0 wmv2 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -b:v:0 2000k "
+        "-qmin:v:0 4 -maxrate:v:0 2000k -bufsize:v:0 2000k -c:a:0 "
         "wmav2 "
         "-b:a:0 96k -f asf");
 }
