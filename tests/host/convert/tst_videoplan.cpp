@@ -113,7 +113,7 @@ void TestVideoPlan::thePictureHasARateOfItsCodec_data()
               }),
         "-map 0:0 -map 0:1 -c:v:0 mpeg4 -r:v:0 30000/1001 -fps_mode:v:0 cfr -pix_fmt:v:0 yuv420p "
         "-q:v:0 4 "
-        "-c:a:0 copy -f avi");
+        "-c:a:0 copy -avoid_negative_ts disabled -f avi");
     row("an unknown rate is left to ffmpeg", video("mpg", "mpeg2video"),
         facts(film(),
               [](MediaFacts &f) {
