@@ -39,7 +39,7 @@ QString Languages::ofSystem()
 {
     const QStringList wanted = QLocale::system().uiLanguages();
     for (const QString &locale : wanted) {
-        const QString code = suiting(locale);
+        QString code = suiting(locale);
         if (!code.isEmpty()) {
             return code;
         }

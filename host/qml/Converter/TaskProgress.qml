@@ -23,7 +23,8 @@ Item {
         case Task.Waiting:
             return ToolFun.tr("Waiting")
         case Task.Converted:
-            return [ToolFun.tr("Converted"), root.note].filter(Boolean).join("  ·  ")
+            return root.note ? ToolFun.tr("Converted") + "  ·  " + root.note
+                             : ToolFun.tr("Converted")
         case Task.Failed:
             return root.error
         case Task.Cancelled:
