@@ -17,29 +17,17 @@ private Q_SLOTS:
         m_log.reset();
     }
 
-    void aProbedFilmTellsItsTracks();
-    void subtitlesAttachmentsAndChaptersAreTold();
-    void anHdrPictureTellsItsLight();
-    void theFieldOrderIsThatOfDisplay_data();
-    void theFieldOrderIsThatOfDisplay();
-    void aLosslessTrackTellsItsBits();
-    void whatIsNoProbeHoldsNothing_data();
-    void whatIsNoProbeHoldsNothing();
-    void theShownSizeIsUprightWithSquarePixels_data();
-    void theShownSizeIsUprightWithSquarePixels();
-    void theRotationIsTheTurnToTheRight_data();
-    void theRotationIsTheTurnToTheRight();
-    void aVariableRateIsTheAverage();
-    void aRateFasterThanCamerasIsNoSteadyOne_data();
-    void aRateFasterThanCamerasIsNoSteadyOne();
-    void theRateIsUnknownWhenTheFileDoesNotSay();
-    void aCoverIsNoPicture();
+    void aProbedFilmHasItsTracks();
+    void subtitlesAttachmentsAndChaptersAreRead();
+    void anythingButProbeOutputHasNoTracks_data();
+    void anythingButProbeOutputHasNoTracks();
+    void aCoverIsNotTheVideo();
     void theDefaultTrackComesFirst();
     void withoutADefaultTheFirstTrackIsTaken();
     void theDurationComesFromATrackWhenTheFileHasNone();
     void otherStreamsAreLeftOut();
-    void theSummaryIsOneLineForPeople_data();
-    void theSummaryIsOneLineForPeople();
+    void theSummaryIsOneLine_data();
+    void theSummaryIsOneLine();
 
 private:
     static MediaFacts probe(const QByteArray &streams,
@@ -52,7 +40,7 @@ private:
     std::optional<MessageLog> m_log;
 };
 
-void TestMediaFacts::aProbedFilmTellsItsTracks()
+void TestMediaFacts::aProbedFilmHasItsTracks()
 {
     const MediaFacts facts = probe(
         R"({"index": 0, "codec_type": "video", "codec_name": "h264", "width": 720, "height": 576,
@@ -86,7 +74,7 @@ void TestMediaFacts::aProbedFilmTellsItsTracks()
     QCOMPARE(audio.layout, QStringLiteral("stereo"));
 }
 
-void TestMediaFacts::subtitlesAttachmentsAndChaptersAreTold()
+void TestMediaFacts::subtitlesAttachmentsAndChaptersAreRead()
 {
     const MediaFacts facts = MediaFacts::fromProbe(R"({"streams": [
         {"index": 2, "codec_type": "subtitle", "codec_name": "subrip",
@@ -109,83 +97,17 @@ void TestMediaFacts::subtitlesAttachmentsAndChaptersAreTold()
     QCOMPARE(facts.chapters, 2);
 }
 
-void TestMediaFacts::anHdrPictureTellsItsLight()
-{
-    const MediaFacts facts = probe(R"({"codec_type": "video", "codec_name": "hevc",
-        "codec_tag_string": "hvc1", "profile": "Main 10", "level": 150,
-        "pix_fmt": "yuv420p10le", "color_range": "tv", "color_space": "bt2020nc",
-        "color_transfer": "smpte2084", "color_primaries": "unknown",
-        "side_data_list": [
-            {"side_data_type": "Mastering display metadata", "red_x": "34000/50000",
-             "red_y": "16000/50000", "green_x": "13250/50000", "green_y": "34500/50000",
-             "blue_x": "7500/50000", "blue_y": "3000/50000", "white_point_x": "15635/50000",
-             "white_point_y": "16450/50000", "min_luminance": "50/10000",
-             "max_luminance": "10000000/10000"},
-            {"side_data_type": "Content light level metadata", "max_content": 1000,
-             "max_average": 400}]})");
-    const VideoTrack &track = facts.videoTracks.constFirst();
-    QCOMPARE(track.codecTag, QStringLiteral("hvc1"));
-    QCOMPARE(track.profile, QStringLiteral("Main 10"));
-    QCOMPARE(track.level, 150);
-    QCOMPARE(track.pixelFormat, QStringLiteral("yuv420p10le"));
-    QCOMPARE(track.colour.range, QStringLiteral("tv"));
-    QCOMPARE(track.colour.matrix, QStringLiteral("bt2020nc"));
-    QCOMPARE(track.colour.primaries, QString());
-    QVERIFY(track.colour.isHdr());
-    QVERIFY(track.masteringDisplay.has_value());
-    QVERIFY((track.masteringDisplay->green.y == Ratio{345, 500}));
-    QVERIFY((track.masteringDisplay->white.x == Ratio{15635, 50000}));
-    QVERIFY((track.masteringDisplay->brightest == Ratio{1000, 1}));
-    QVERIFY(track.lightLevel.has_value());
-    QCOMPARE(track.lightLevel->brightestPixel, 1000);
-    QCOMPARE(track.lightLevel->brightestFrame, 400);
-    QVERIFY(!probe(R"({"codec_type": "video"})").videoTracks.constFirst().colour.isHdr());
-}
-
-void TestMediaFacts::theFieldOrderIsThatOfDisplay_data()
-{
-    QTest::addColumn<QByteArray>("told");
-    QTest::addColumn<int>("order");
-    QTest::newRow("frames") << QByteArray("progressive") << int(VideoTrack::Progressive);
-    QTest::newRow("top") << QByteArray("tt") << int(VideoTrack::TopFieldFirst);
-    QTest::newRow("bottom") << QByteArray("bb") << int(VideoTrack::BottomFieldFirst);
-    QTest::newRow("stored top, shown bottom first")
-        << QByteArray("tb") << int(VideoTrack::BottomFieldFirst);
-    QTest::newRow("stored bottom, shown top first")
-        << QByteArray("bt") << int(VideoTrack::TopFieldFirst);
-    QTest::newRow("nothing") << QByteArray("unknown") << int(VideoTrack::UnknownOrder);
-}
-
-void TestMediaFacts::theFieldOrderIsThatOfDisplay()
-{
-    QFETCH(QByteArray, told);
-    const MediaFacts facts = probe(R"({"codec_type": "video", "field_order": ")" + told + R"("})");
-    QTEST(int(facts.videoTracks.constFirst().fieldOrder), "order");
-}
-
-void TestMediaFacts::aLosslessTrackTellsItsBits()
-{
-    const auto bits = [](const QByteArray &keys) {
-        return probe(R"({"codec_type": "audio", )" + keys + "}").audioTracks.constFirst();
-    };
-    QCOMPARE(bits(R"("bits_per_raw_sample": "24", "bits_per_sample": 0)").bitsPerSample, 24);
-    QCOMPARE(bits(R"("bits_per_sample": 16, "sample_fmt": "s16")").bitsPerSample, 16);
-    QCOMPARE(bits(R"("bits_per_sample": 0, "sample_fmt": "fltp")").bitsPerSample, 0);
-    QCOMPARE(bits(R"("bits_per_raw_sample": "99")").bitsPerSample, 0);
-    QCOMPARE(bits(R"("bit_rate": "128000")").kbps, 128.0);
-}
-
-void TestMediaFacts::whatIsNoProbeHoldsNothing_data()
+void TestMediaFacts::anythingButProbeOutputHasNoTracks_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("empty object") << QByteArray("{}");
     QTest::newRow("list") << QByteArray("[1]");
-    QTest::newRow("no JSON") << QByteArray("ffprobe: error");
+    QTest::newRow("not JSON") << QByteArray("ffprobe: error");
     QTest::newRow("wrong types") << QByteArray(R"({"streams": 3, "format": "x"})");
 }
 
-void TestMediaFacts::whatIsNoProbeHoldsNothing()
+void TestMediaFacts::anythingButProbeOutputHasNoTracks()
 {
     QFETCH(QByteArray, json);
     const MediaFacts facts = MediaFacts::fromProbe(json);
@@ -196,98 +118,7 @@ void TestMediaFacts::whatIsNoProbeHoldsNothing()
     QVERIFY(facts.cover() == nullptr);
 }
 
-void TestMediaFacts::theShownSizeIsUprightWithSquarePixels_data()
-{
-    QTest::addColumn<QByteArray>("more");
-    QTest::addColumn<QSize>("shown");
-
-    QTest::newRow("plain") << QByteArray(R"("sample_aspect_ratio": "1:1")") << QSize(720, 480);
-    QTest::newRow("aspect unknown")
-        << QByteArray(R"("sample_aspect_ratio": "0:1")") << QSize(720, 480);
-    QTest::newRow("narrow pixels")
-        << QByteArray(R"("sample_aspect_ratio": "8:9")") << QSize(640, 480);
-    QTest::newRow("wide pixels") << QByteArray(R"("sample_aspect_ratio": "32:27")")
-                                 << QSize(853, 480);
-    QTest::newRow("turned by the matrix")
-        << QByteArray(
-               R"("side_data_list": [{"side_data_type": "Display Matrix", "rotation": -90}])")
-        << QSize(480, 720);
-    QTest::newRow("turned behind other side data")
-        << QByteArray(R"("side_data_list": [{"side_data_type": "CPB"}, {"rotation": 90}])")
-        << QSize(480, 720);
-    QTest::newRow("upside down") << QByteArray(R"("side_data_list": [{"rotation": 180}])")
-                                 << QSize(720, 480);
-    QTest::newRow("turned by the tag")
-        << QByteArray(R"("tags": {"rotate": "270"})") << QSize(480, 720);
-    QTest::newRow("turned with narrow pixels")
-        << QByteArray(R"("sample_aspect_ratio": "8:9", "side_data_list": [{"rotation": 90}])")
-        << QSize(480, 640);
-}
-
-void TestMediaFacts::theShownSizeIsUprightWithSquarePixels()
-{
-    QFETCH(QByteArray, more);
-    QFETCH(QSize, shown);
-    const MediaFacts facts =
-        probe(R"({"codec_type": "video", "width": 720, "height": 480, )" + more + "}");
-    QCOMPARE(facts.video()->displaySize(), shown);
-    QCOMPARE(facts.video()->storedSize, QSize(720, 480));
-}
-
-void TestMediaFacts::theRotationIsTheTurnToTheRight_data()
-{
-    QTest::addColumn<QByteArray>("said");
-    QTest::addColumn<int>("rotation");
-    // The matrix counts to the left, the tag to the right.
-    QTest::newRow("matrix, right") << QByteArray(R"("side_data_list": [{"rotation": -90}])") << 90;
-    QTest::newRow("matrix, left") << QByteArray(R"("side_data_list": [{"rotation": 90}])") << 270;
-    QTest::newRow("matrix, over") << QByteArray(R"("side_data_list": [{"rotation": -180}])") << 180;
-    QTest::newRow("tag, right") << QByteArray(R"("tags": {"rotate": "90"})") << 90;
-    QTest::newRow("tag, left") << QByteArray(R"("tags": {"rotate": "270"})") << 270;
-    QTest::newRow("tag, left, negative") << QByteArray(R"("tags": {"rotate": "-90"})") << 270;
-}
-
-void TestMediaFacts::theRotationIsTheTurnToTheRight()
-{
-    QFETCH(QByteArray, said);
-    QTEST(probe(R"({"codec_type": "video", )" + said + "}").video()->rotation, "rotation");
-}
-
-void TestMediaFacts::aRateFasterThanCamerasIsNoSteadyOne_data()
-{
-    QTest::addColumn<QByteArray>("nominal");
-    QTest::addColumn<bool>("isSteady");
-    QTest::newRow("fastest") << QByteArray("240/1") << true;
-    QTest::newRow("faster") << QByteArray("241/1") << false;
-}
-
-void TestMediaFacts::aRateFasterThanCamerasIsNoSteadyOne()
-{
-    QFETCH(QByteArray, nominal);
-    QFETCH(bool, isSteady);
-    const MediaFacts facts = probe(R"({"codec_type": "video", "r_frame_rate": ")" + nominal +
-                                   R"(", "avg_frame_rate": "30/1"})");
-    QCOMPARE(facts.video()->hasSteadyRate, isSteady);
-    QCOMPARE(facts.video()->frameRate.value(), isSteady ? 240.0 : 30.0);
-}
-
-void TestMediaFacts::aVariableRateIsTheAverage()
-{
-    const MediaFacts facts = probe(
-        R"({"codec_type": "video", "r_frame_rate": "90000/1", "avg_frame_rate": "2997/100"})");
-    QVERIFY(!facts.video()->hasSteadyRate);
-    QCOMPARE(facts.video()->frameRate.value(), 29.97);
-}
-
-void TestMediaFacts::theRateIsUnknownWhenTheFileDoesNotSay()
-{
-    const MediaFacts facts =
-        probe(R"({"codec_type": "video", "r_frame_rate": "0/0", "avg_frame_rate": "0/0"})");
-    QVERIFY(!facts.video()->frameRate.isValid());
-    QVERIFY(!facts.video()->hasSteadyRate);
-}
-
-void TestMediaFacts::aCoverIsNoPicture()
+void TestMediaFacts::aCoverIsNotTheVideo()
 {
     const MediaFacts facts = probe(
         R"({"index": 0, "codec_type": "audio", "codec_name": "mp3"},
@@ -332,7 +163,7 @@ void TestMediaFacts::otherStreamsAreLeftOut()
     QVERIFY(probe(R"({"codec_type": "subtitle"}, {"codec_type": "data"}, {})").isEmpty());
 }
 
-void TestMediaFacts::theSummaryIsOneLineForPeople_data()
+void TestMediaFacts::theSummaryIsOneLine_data()
 {
     QTest::addColumn<QByteArray>("streams");
     QTest::addColumn<QString>("summary");
@@ -359,7 +190,7 @@ void TestMediaFacts::theSummaryIsOneLineForPeople_data()
         << QStringLiteral("ac3 48000 Hz 6 channels, 1:02, 1.5 kB");
 }
 
-void TestMediaFacts::theSummaryIsOneLineForPeople()
+void TestMediaFacts::theSummaryIsOneLine()
 {
     QFETCH(QByteArray, streams);
     QFETCH(QString, summary);
