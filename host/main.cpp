@@ -1,5 +1,5 @@
 #include "host/commandline/commandline.h"
-#include "host/files/filenames.h"
+#include "host/files/filenamecodec.h"
 #include "host/window/windowapp.h"
 
 #include <QCoreApplication>
@@ -38,7 +38,7 @@ void occupyClosedStreams()
 int main(int argc, char **argv)
 {
     occupyClosedStreams();
-    keepBytesOfFileNames();
+    installFileNameCodec();
     // The library's messages, such as a file missing at the first start, are for developers.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
 #ifdef SIGPIPE

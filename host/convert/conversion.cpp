@@ -3,6 +3,7 @@
 #include "host/convert/copycheck.h"
 #include "host/convert/ffmpegarguments.h"
 #include "host/convert/losses.h"
+#include "host/files/freename.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -12,7 +12,7 @@
 
 namespace {
 
-/*! Where symbolic links lead, also when nothing stands there yet. */
+/*! Where symbolic links lead, even if nothing exists there yet. */
 QString withoutLinks(QString path)
 {
     constexpr int mostLinks = 40; // as many as the system follows
@@ -24,7 +24,7 @@ QString withoutLinks(QString path)
 
 Result<> writeToDisk(QFile &file, const QByteArray &content)
 {
-    // The first part of a write to a full disk succeeds.
+    // On a full disk a write may succeed in part.
     for (qint64 done = 0; done < content.size();) {
         const qint64 written = file.write(content.constData() + done, content.size() - done);
         if (written <= 0) {
@@ -38,7 +38,7 @@ Result<> writeToDisk(QFile &file, const QByteArray &content)
     return ::fsync(file.handle()) == 0 ? Result<>() : failed(qt_error_string(errno));
 }
 
-/*! A rename is on the disk only when its folder is. */
+/*! A rename is on disk only once its folder is. */
 void syncFolder(const QString &path)
 {
     const int descriptor =
@@ -55,7 +55,7 @@ Result<> writeAtomically(const QString &path, const QByteArray &content, const Q
 {
     const QString target = withoutLinks(path);
     const QString folder = QFileInfo(target).absolutePath();
-    // A rename would take no notice of it.
+    // A rename would ignore a read-only file's permissions.
     if (QFileInfo::exists(target) && !QFileInfo(target).isWritable()) {
         return failed(qt_error_string(EACCES));
     }

@@ -7,10 +7,10 @@
 #include <QString>
 
 /*!
- * Gives the file at \a path this content in one step that outlasts a power cut, with the
- * permissions of the file \a model where that exists. A symbolic link stays, and what it leads to
- * is written. A failure leaves all as it was; its text is the system's reason alone. What a
- * killed process leaves is a WorkFolder's, which goes as those do.
+ * Replaces the content of the file at \a path in one step that survives a power failure. The file
+ * gets the permissions of the file \a model if that exists. Symbolic links are followed and kept.
+ * On failure nothing changes, and the error's text is only the system's reason. Leftovers of a
+ * killed process are swept as those of a WorkFolder.
  */
 [[nodiscard]] Result<> writeAtomically(const QString &path, const QByteArray &content,
                                        const QString &model);

@@ -12,7 +12,7 @@ namespace {
 
 int openToLock(const QByteArray &path)
 {
-    // Network file systems lock only what is open for writing, and a folder can't be.
+    // Network file systems only lock what is open for writing, which a folder can't be.
     const int descriptor = ::open(path.constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
     return descriptor < 0 && errno == EISDIR
                ? ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)

@@ -8,8 +8,8 @@
 #include <utility>
 
 /*!
- * Keeps other processes from what a file or folder stands for. The kernel drops the lock with the
- * process, however that ends, so that what is left behind by a dead one never locks anyone out.
+ * A lock on a file or folder that excludes other processes. The kernel releases it when the process
+ * ends, however it ends, so a stale lock file never locks anyone out.
  */
 class FileLock
 {
@@ -28,15 +28,15 @@ public:
     ~FileLock() { release(); }
 
     /*!
-     * Locks the file or folder at \a path, which exists, without waiting. Fails with Error::InUse
-     * where another process, or another lock of this one, has it; else the failure's text is the
-     * system's reason alone.
+     * Locks the existing file or folder at \a path without waiting. Fails with Error::InUse if
+     * another process, or another lock of this process, holds it. Any other error's text is only
+     * the system's reason.
      */
     [[nodiscard]] Result<> tryLock(const QString &path);
     void release();
 
     [[nodiscard]] bool isLocked() const { return m_descriptor >= 0; }
-    /*! Whether \a path still names what is locked: it may have been removed or replaced. */
+    /*! Whether \a path still refers to the locked file: it may have been removed or replaced. */
     [[nodiscard]] bool isAt(const QString &path) const;
 
 private:

@@ -9,14 +9,15 @@
 
 QString localPath(const QUrl &url)
 {
-    // Some programs write their machine's name into what they let drop.
+    // Some programs put the machine's name into the URLs that they drop.
     const QString host = url.host();
     const bool isHere = host.isEmpty() || host == QLatin1String("localhost") ||
                         host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
     if (!url.isLocalFile() || !isHere) {
         return {};
     }
-    // Bytes that are no UTF-8 stand in the encoded form alone, unless the URL was made of a path.
+    // Only the encoded form has bytes that are not valid UTF-8, unless the URL was made from a
+    // path.
     const QString path = url.path(QUrl::FullyDecoded);
     return path.contains(QChar::ReplacementCharacter)
                ? QFile::decodeName(

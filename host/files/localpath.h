@@ -6,14 +6,12 @@
 #include <QStringList>
 #include <QUrl>
 
-/*!
- * The path that a file: URL names on this machine, byte for byte, also where these bytes are no
- * UTF-8. Empty for any other URL.
- */
+/*! The path that a file: URL has on this machine, even if its bytes are not valid UTF-8. Empty for
+ *  any other URL. */
 [[nodiscard]] QString localPath(const QUrl &url);
-/*! The paths of those that name something on this machine. */
+/*! The local paths of those that have one. */
 [[nodiscard]] QStringList localPaths(const QList<QUrl> &urls);
-/*! The file: URL for a path, byte for byte. */
+/*! The file: URL of a path, even if its bytes are not valid UTF-8. */
 [[nodiscard]] QUrl localUrl(const QString &path);
 
 #endif

@@ -1,5 +1,7 @@
 #include "host/files/pendingfile.h"
 
+#include "host/files/freename.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,33 +11,6 @@
 #include <utility>
 
 namespace {
-
-bool isTaken(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.exists() || file.isSymLink();
-}
-
-/*! The longest beginning of \a text that takes no more than \a bytes in a file's name. */
-QString beginningOf(const QString &text, int bytes)
-{
-    QString beginning = text.left(bytes);
-    while (QFile::encodeName(beginning).size() > bytes ||
-           (!beginning.isEmpty() && qAsConst(beginning).back().isHighSurrogate())) {
-        beginning.chop(1);
-    }
-    return beginning;
-}
-
-/*! The base shortened where needed, since file systems take names of 255 bytes. */
-QString numberedName(const QString &baseName, int number, const QString &extension)
-{
-    constexpr int longestName = 255;
-    const QString tail = beginningOf(
-        (number > 1 ? QStringLiteral(" (%1).").arg(number) : QStringLiteral(".")) + extension,
-        longestName);
-    return beginningOf(baseName, longestName - QFile::encodeName(tail).size()) + tail;
-}
 
 Error nameRefused(const QString &path, const QString &reason)
 {
@@ -81,7 +56,7 @@ Result<QString> PendingFile::publish(const QString &baseName, const QString &ext
     const QString folder = QFileInfo(m_work->path()).absolutePath();
     for (;;) {
         const QString path = freeName(folder, baseName, extension);
-        // Making the file claims the name; the move then replaces only what was made here.
+        // Creating the file claims the name; the rename then replaces only this empty file.
         QFile claim(path);
         if (claim.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
             claim.close();
@@ -94,17 +69,6 @@ Result<QString> PendingFile::publish(const QString &baseName, const QString &ext
         }
         if (!isTaken(path)) {
             return tl::make_unexpected(nameRefused(path, claim.errorString()));
-        }
-    }
-}
-
-QString freeName(const QString &folder, const QString &baseName, const QString &extension)
-{
-    const QDir place(folder);
-    for (int number = 1;; ++number) {
-        const QString path = place.absoluteFilePath(numberedName(baseName, number, extension));
-        if (!isTaken(path)) {
-            return path;
         }
     }
 }

@@ -9,8 +9,8 @@
 #include <optional>
 
 /*!
- * A file that is hidden until it is complete: it is written in a folder of its own. That folder is
- * what is locked against sweeping, as some network shares refuse writing to a locked file.
+ * A file that stays hidden until it is complete. It is written in a folder of its own; that folder
+ * is locked against sweeping, as some network shares don't allow writing to a locked file.
  */
 class PendingFile
 {
@@ -20,27 +20,23 @@ class PendingFile
 public:
     PendingFile() = default;
 
-    /*! Makes the place for it in \a folder. */
+    /*! Prepares the file's place in \a folder. */
     [[nodiscard]] Result<> create(const QString &folder);
-    /*! Where the file is to be written; empty when there is no place for it. */
+    /*! Where to write the file; empty before create() and after publishing or discarding. */
     [[nodiscard]] QString path() const;
-    /*! Removes the file, so that nothing half-written stays; so does the destructor. */
+    /*! Removes the unfinished file, as the destructor does. */
     void discard() { m_work.reset(); }
 
-    /*! Takes the place of \a path, whatever is there. A failure leaves all as it was. */
+    /*! Replaces the file at \a path, if any. On failure nothing changes. */
     [[nodiscard]] Result<> publishOver(const QString &path);
     /*!
-     * Takes the first free name of freeName() in its folder and returns the path. A file that
-     * appears there at the same time is left alone.
+     * Gives the file the name that freeName() chooses in its folder, and returns its path. Never
+     * replaces a file, even one that appears at the same moment.
      */
     [[nodiscard]] Result<QString> publish(const QString &baseName, const QString &extension);
 
 private:
     std::optional<WorkFolder> m_work;
 };
-
-/*! "name.ext" in \a folder where that is free, else "name (2).ext", "name (3).ext" and so on. */
-[[nodiscard]] QString freeName(const QString &folder, const QString &baseName,
-                               const QString &extension);
 
 #endif

@@ -4,12 +4,13 @@
 #include <QString>
 
 /*!
- * Whether the code unit at \a index can be shown as it is: no control character, line separator or
- * change of the writing direction, and no half of a character, such as a byte that is no UTF-8.
+ * Whether the code unit at \a index can be shown as it is: not a control character, a line
+ * separator, a change of the writing direction or a lone surrogate, such as an invalid byte of a
+ * file name.
  */
 [[nodiscard]] bool isVisible(const QString &text, int index);
 
-/*! A line to show, with U+FFFD in the place of each code unit that isn't visible. */
+/*! The text as a line to show, with U+FFFD for each code unit that isn't visible. */
 [[nodiscard]] QString visibleText(const QString &text);
 
 #endif

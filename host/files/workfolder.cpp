@@ -17,8 +17,8 @@
 namespace {
 
 /*!
- * What the names of this machine's folders begin with. On a network share a folder's lock is known
- * to its own machine only: to any other it looks free.
+ * What the names of this machine's folders begin with. On a network share a lock may be known to
+ * its own machine only: to any other the folder looks free.
  */
 QString namePrefix()
 {
@@ -36,7 +36,7 @@ bool isName(const QString &name)
     return form.match(name).hasMatch();
 }
 
-/*! Not through a link, which may lead anywhere. */
+/*! Doesn't follow a link, which may lead anywhere. */
 bool isOwnFolder(const QString &path)
 {
     struct stat found = {};
@@ -44,7 +44,7 @@ bool isOwnFolder(const QString &path)
            found.st_uid == ::geteuid();
 }
 
-/*! QDir::removeRecursively() would follow a link that takes the folder's place meanwhile. */
+/*! QDir::removeRecursively() would follow a link that replaced the folder in the meantime. */
 void removeFolder(const QString &path)
 {
     std::error_code ignored;
@@ -63,8 +63,8 @@ Result<WorkFolder> WorkFolder::make(const QString &parent)
         if (::mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0) {
             return failed(qt_error_string(errno));
         }
-        // Until it is locked, another process may take the new folder for a dead one's and sweep
-        // it. Where nothing can be locked, nothing is swept either.
+        // Until it is locked, another process may sweep the new folder. Where nothing can be
+        // locked, nothing is swept either.
         FileLock lock;
         const Result<> locked = lock.tryLock(path);
         const bool isBeingSwept = !locked && locked.error().kind == Error::InUse;

@@ -8,8 +8,8 @@
 #include <utility>
 
 /*!
- * A hidden temporary folder that goes with the object. What a process that was killed leaves is
- * swept as soon as another folder is made beside it; what a living one works with never is.
+ * A hidden temporary folder that is removed with the object. Folders left by killed processes are
+ * swept as soon as another one is made beside them; those of running processes never are.
  */
 class WorkFolder
 {
@@ -17,8 +17,8 @@ class WorkFolder
 
 public:
     /*!
-     * Makes a folder, for the user alone, in \a parent or else where the system has such. A
-     * failure's text is the system's reason alone.
+     * Makes a folder that only the user can access in \a parent, by default the system's temporary
+     * folder. An error's text is only the system's reason.
      */
     [[nodiscard]] static Result<WorkFolder> make(const QString &parent = {});
     WorkFolder(WorkFolder &&) noexcept = default;
@@ -29,10 +29,10 @@ public:
     [[nodiscard]] QString path() const { return m_path; }
     [[nodiscard]] QString filePath(const QString &name) const;
 
-    /*! Makes the folder again, empty, where somebody has removed it. */
+    /*! Makes the folder again, empty, if somebody has removed it. */
     void restore();
 
-    /*! Removes from \a parent what dead processes of this user on this machine left there. */
+    /*! Removes the folders that killed processes of this user on this machine left in \a parent. */
     static void sweep(const QString &parent);
 
 private:
@@ -41,7 +41,7 @@ private:
         , m_lock(std::move(lock))
     {}
 
-    QString m_path; //!< empty once it has moved elsewhere
+    QString m_path; //!< empty when moved from
     FileLock m_lock;
 };
 

@@ -16,17 +16,17 @@
 
 namespace {
 
-// A file can say anything. What lies beyond these limits can't be true and counts as unknown.
+// A file can claim anything. Beyond this limit a duration counts as unknown.
 constexpr double longestSeconds = 10 * 366.0 * 24 * 3600;
 
-/*! "mov,mp4,m4a" as it is; empty for a text that names no demuxers. */
+/*! Keeps "mov,mp4,m4a"; empty for anything but demuxer names. */
 QString demuxerNames(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("\\A[A-Za-z0-9_.,-]+\\z"));
     return form.match(text).hasMatch() ? text : QString();
 }
 
-/*! The first track that `wanted` accepts and the file marks as default, else the first accepted. */
+/*! The first default track among those that `wanted` accepts, else the first of those. */
 template <typename AnyTrack, typename Wanted>
 const AnyTrack *defaultOrFirst(const QVector<AnyTrack> &tracks, Wanted wanted)
 {

@@ -3,11 +3,11 @@
 
 #include <QStringList>
 
-/*! The usual extensions of films and songs, in lower case, without a dot. */
+/*! The usual extensions of video and audio files, in lower case, without a dot. */
 [[nodiscard]] const QStringList &mediaExtensions();
-/*! Whether a file's name has one of them. */
+/*! Whether a file name has one of them. */
 [[nodiscard]] bool isMediaName(const QString &name);
-/*! The paths of a folder's own files that are media by their names, sorted. */
+/*! The sorted paths of the files in the folder itself that isMediaName() accepts. */
 [[nodiscard]] QStringList mediaFilesIn(const QString &folder);
 
 #endif

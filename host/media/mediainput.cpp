@@ -17,10 +17,10 @@ struct Texts
 };
 
 /*!
- * Demuxers of one kind. A name is here when the file holds the media itself and says by its
- * content how they are stored. Not here are those that follow names to other files or to the
- * network, take part of a file's name for a pattern, run what a file says, or read text; nor raw
- * samples, of which nobody knows the rate. Names that this ffmpeg lacks do no harm.
+ * Demuxers that are allowed because their files contain the media itself and describe its format.
+ * Excluded are demuxers that follow names to other files or to the network, treat part of a file
+ * name as a pattern, execute scripts or read text, and those of raw samples, whose rate nobody
+ * knows. Names that the installed ffmpeg lacks do no harm.
  */
 struct DemuxerKind
 {
@@ -30,13 +30,13 @@ struct DemuxerKind
 
 // clang-format off
 const DemuxerKind mediaKinds[] = {
-    {"films", {
+    {"video", {
         "asf", "asf_o", "avi", "dv", "flv", "gxf", "iamf", "ifv", "ivf", "ivr", "kux", "live_flv",
         "lvf", "lxf", "matroska", "mov", "mpeg", "mpegts", "mpjpeg", "mxf", "nsv", "nut", "nuv",
         "ogg", "pmp", "pva", "rm", "swf", "ty", "vividas", "vivo", "wtv", "yuv4mpegpipe"}},
-    {"recordings of cameras", {
+    {"camera recordings", {
         "cine", "dhav", "iv8", "luodat", "msnwctcp", "mxg", "nc", "r3d", "ser"}},
-    {"films of games and old players", {
+    {"video of games and old players", {
         "3dostr", "4xm", "anm", "argo_brp", "argo_cvg", "avs", "bethsoftvid", "bfi", "bink", "bmv",
         "c93", "cdg", "cdxl", "dcstr", "derf", "dfa", "dsicin", "dxa", "ea", "ea_cdata",
         "film_cpk", "filmstrip", "flic", "frm", "gdv", "hnm", "idcin", "iff", "ipmovie", "ipu",
@@ -46,7 +46,7 @@ const DemuxerKind mediaKinds[] = {
     {"video streams", {
         "apv", "av1", "avs2", "avs3", "cavsvideo", "dirac", "dnxhd", "evc", "h261", "h263", "h264",
         "hevc", "m4v", "mjpeg", "mjpeg_2000", "mpegvideo", "obu", "simbiosis_imx", "vc1", "vvc"}},
-    {"sound", {
+    {"audio", {
         "aa", "aac", "aax", "ac3", "ac4", "act", "aea", "aiff", "amr", "amrnb", "amrwb", "ape",
         "aptx", "aptx_hd", "au", "avr", "bit", "bonk", "caf", "codec2", "daud", "dsf", "dss",
         "dts", "dtshd", "eac3", "epaf", "flac", "g722", "g723_1", "g729", "gsm", "hcom", "ilbc",
@@ -54,12 +54,12 @@ const DemuxerKind mediaKinds[] = {
         "mpc8", "nistsphere", "nsp", "oma", "osq", "pvf", "qcp", "qoa", "rka", "rso", "s337m",
         "sbc", "sds", "sdx", "shn", "sln", "sox", "spdif", "tak", "truehd", "tta", "voc", "vqf",
         "w64", "wav", "wsd", "wv", "wve", "xwma"}},
-    {"sound of games", {
+    {"audio of games", {
         "ace", "acm", "adp", "ads", "adx", "afc", "aix", "alp", "apc", "apm", "argo_asf", "ast",
         "bfstm", "binka", "boa", "brstm", "fsb", "fwse", "genh", "hca", "kvag", "laf", "mca",
         "msf", "mtaf", "musx", "pp_bnk", "redspark", "rsd", "scd", "sdns", "svag", "svs", "vag",
         "vpk", "wady", "wsaud", "xa", "xmd", "xvag"}},
-    {"pictures", {
+    {"images", {
         "alias_pix", "apng", "bmp_pipe", "brender_pix", "cri_pipe", "dds_pipe", "dpx_pipe",
         "exr_pipe", "fits", "gem_pipe", "gif", "gif_pipe", "hdr_pipe", "ico", "j2k_pipe",
         "jpeg_pipe", "jpegls_pipe", "jpegxl_anim", "jpegxl_pipe", "msp", "pam_pipe", "pbm_pipe",
@@ -70,7 +70,7 @@ const DemuxerKind mediaKinds[] = {
 };
 // clang-format on
 
-const QLatin1String seriesDemuxer("image2");
+const QLatin1String sequenceDemuxer("image2");
 const char *const playlistDemuxers[] = {"concat", "dash", "hls", "imf",
                                         "rtp",    "rtsp", "sdp", "webm_dash_manifest"};
 const char *const playlistTypes[] = {"audio/x-mpegurl", "application/vnd.apple.mpegurl",
@@ -83,23 +83,22 @@ bool contains(const Names &names, const QString &name)
                        [&name](const char *each) { return name == QLatin1String(each); });
 }
 
-/*! Characters with which the demuxer of single pictures takes a path for a pattern. */
+/*! Characters that make the image demuxer treat a path as a pattern. */
 const QRegularExpression &patternLetter()
 {
     static const QRegularExpression letter(QStringLiteral("[%*?\\[\\]{}]"));
     return letter;
 }
 
-/*! Pictures that only the demuxer of series knows. Others it may seek in further files. */
-bool isPlainPicture(const QString &path)
+/*! Images that only the sequence demuxer reads. For other names it may open further files. */
+bool isPlainImage(const QString &path)
 {
     static const QRegularExpression form(QStringLiteral("\\.(jpg|jpeg|pam|tga)\\z"),
                                          QRegularExpression::CaseInsensitiveOption);
     return form.match(path).hasMatch() && !path.contains(patternLetter());
 }
 
-/*! The demuxer that ffprobe would have taken for the file, were it allowed; empty: another error.
- */
+/*! The demuxer that ffprobe would have used if it were allowed; empty after any other error. */
 QString refusedDemuxer(const QByteArray &errors)
 {
     static const QRegularExpression refusal(
@@ -118,8 +117,8 @@ QString demuxersFor(const QString &path)
             names << QLatin1String(name);
         }
     }
-    if (isPlainPicture(fileArgument(path))) {
-        names << seriesDemuxer;
+    if (isPlainImage(fileArgument(path))) {
+        names << sequenceDemuxer;
     }
     return names.join(QLatin1Char(','));
 }
@@ -137,7 +136,7 @@ QStringList inputArguments(const QString &path, const QString &demuxers)
 std::optional<QString> refusedKind(const QString &path, const QByteArray &errors)
 {
     const QString demuxer = refusedDemuxer(errors);
-    // Lists of other programs may look like lyrics to ffprobe, or like nothing.
+    // ffprobe takes some playlists for lyrics, or doesn't recognize them.
     const bool isPlaylist =
         contains(playlistDemuxers, demuxer) ||
         contains(playlistTypes,
@@ -145,9 +144,9 @@ std::optional<QString> refusedKind(const QString &path, const QByteArray &errors
     if (isPlaylist) {
         return Texts::tr("is a playlist; choose the files that it lists");
     }
-    if (demuxer == seriesDemuxer && fileArgument(path).contains(patternLetter())) {
-        return Texts::tr("stands for a series of pictures; rename it and its folders without "
-                         "any of % * ? [ ] { }");
+    if (demuxer == sequenceDemuxer && fileArgument(path).contains(patternLetter())) {
+        return Texts::tr("stands for an image sequence; rename it and its folders without any "
+                         "of % * ? [ ] { }");
     }
     if (demuxer.isEmpty()) {
         return std::nullopt;

@@ -7,18 +7,18 @@
 
 #include <optional>
 
-/*! The names of the demuxers that read \a path and no other file, commas between. */
+/*! The comma-separated names of the demuxers that may read \a path and open no other file. */
 [[nodiscard]] QString demuxersFor(const QString &path);
 
 /*!
- * The arguments with which ffmpeg and ffprobe take \a path as their source, and open no other file
- * whatever it says. \a demuxers are those that may read it: demuxersFor(path), or the one that has
- * read it before; where that isn't known, an empty text is as good as demuxersFor(path).
+ * The arguments that make ffmpeg and ffprobe read \a path and no other file, whatever its content
+ * refers to. \a demuxers are those allowed, such as MediaFacts::container; empty means
+ * demuxersFor(path).
  */
 [[nodiscard]] QStringList inputArguments(const QString &path, const QString &demuxers);
 
-/*! What the file is instead, and what to choose, where \a errors of ffprobe tell that no demuxer
- *  of those may read it. */
+/*! Why the file is refused and what to choose instead, if ffprobe's \a errors say that none of the
+ *  allowed demuxers reads it. */
 [[nodiscard]] std::optional<QString> refusedKind(const QString &path, const QByteArray &errors);
 
 #endif

@@ -4,10 +4,10 @@
 #include "host/media/mediafacts.h"
 #include "host/tools/tool.h"
 
-/*! What a look into a file may take: any file that can be read takes far less. */
+/*! Limits of a probe. Any readable file stays far below them. */
 constexpr ToolLimits probeLimits{32LL * 1024 * 1024, 30000};
 
-/*! Asks ffprobe what files hold, without waiting, one file after another. */
+/*! Asks ffprobe asynchronously what files contain, one file at a time. */
 class MediaProbe : public QObject
 {
     Q_OBJECT
@@ -16,12 +16,11 @@ class MediaProbe : public QObject
 public:
     explicit MediaProbe(QObject *parent = nullptr);
 
-    /*! finished() follows from the event loop, once. A question that is open already is abandoned.
-     */
+    /*! finished() follows from the event loop, once. A running probe is abandoned first. */
     void start(const QString &path, const ToolLimits &limits = probeLimits);
-    /*! Gives the question up; finished() follows with Error::Cancelled. */
+    /*! Cancels the probe; finished() follows with Error::Cancelled. */
     void stop() { m_tool.stop(); }
-    /*! Gives the question up; no finished() follows. */
+    /*! Cancels the probe; finished() does not follow. */
     void abandon() { m_tool.abandon(); }
 
 Q_SIGNALS:

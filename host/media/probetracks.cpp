@@ -9,23 +9,23 @@
 
 namespace {
 
-// A file can say anything. What lies beyond these limits can't be true and counts as unknown.
+// A file can claim anything. Values beyond these limits count as unknown.
 constexpr int largestSide = 65536;                // pixels
 constexpr double mostStretchedPixel = 100;        // one side to the other
-constexpr double fastestRate = 1000;              // frames a second
+constexpr double fastestRate = 1000;              // fps
 constexpr int fastestSampling = 10 * 1000 * 1000; // Hz
 constexpr int mostChannels = 512;
 constexpr int mostBits = 64;
 constexpr double mostKbps = 1e8;
 
-/*! \a number where it is one from 0 to \a most, else 0. */
+/*! \a number if it is between 0 and \a most, else 0. */
 template <typename Number>
 Number plausible(Number number, Number most)
 {
     return number >= 0 && number <= most ? number : 0;
 }
 
-/*! The value of \a key; empty where it says nothing: ffprobe's "unknown" and "und". */
+/*! The value of \a key; empty for ffprobe's words for unknown. */
 QString knownText(const QJsonObject &object, QLatin1String key)
 {
     const QString value = probeText(object, key);
@@ -123,7 +123,7 @@ VideoTrack::FieldOrder fieldOrderOf(const QJsonObject &stream)
     return VideoTrack::UnknownOrder;
 }
 
-/*! Whether decoders of \a codec mark the interlaced frames. */
+/*! Whether decoders of \a codec flag the interlaced frames. */
 bool marksFields(const QString &codec)
 {
     static const QStringList marking = {QStringLiteral("h264"), QStringLiteral("mpeg2video"),
@@ -134,7 +134,7 @@ bool marksFields(const QString &codec)
 
 void readFrameRate(const QJsonObject &stream, VideoTrack &track)
 {
-    // With a variable rate the nominal one may be the clock of the time stamps (say 90000).
+    // With a variable rate the nominal one may be the timestamps' clock, for example 90000.
     constexpr double fastestPlausible = 240;
     track.averageFrameRate = frameRateOf(stream, QLatin1String("avg_frame_rate"));
     track.frameRate = frameRateOf(stream, QLatin1String("r_frame_rate"));

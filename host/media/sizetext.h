@@ -9,7 +9,7 @@
 /*! "1280x720". */
 [[nodiscard]] QString sizeText(const QSize &size);
 
-/*! The size of such a text; nothing for any other. */
+/*! Reads "1280x720"; nullopt for any other form. */
 [[nodiscard]] std::optional<QSize> sizeFromText(const QString &text);
 
 #endif

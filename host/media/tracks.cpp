@@ -26,8 +26,8 @@ QSize VideoTrack::displaySize() const
 
 bool SubtitleTrack::isText() const
 {
-    static const QStringList pictures = {QStringLiteral("hdmv_pgs_subtitle"),
-                                         QStringLiteral("dvd_subtitle"),
-                                         QStringLiteral("dvb_subtitle"), QStringLiteral("xsub")};
-    return !pictures.contains(codec);
+    static const QStringList bitmaps = {QStringLiteral("hdmv_pgs_subtitle"),
+                                        QStringLiteral("dvd_subtitle"),
+                                        QStringLiteral("dvb_subtitle"), QStringLiteral("xsub")};
+    return !bitmaps.contains(codec);
 }

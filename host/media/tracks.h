@@ -8,15 +8,15 @@
 
 #include <optional>
 
-// What a media file says of its streams. Names are ffprobe's; an empty text, an invalid ratio and,
-// unless it says otherwise, 0 mean that the file doesn't say.
+// The streams of a media file. Names are ffprobe's. An empty text, an invalid ratio and, unless
+// documented otherwise, 0 mean unknown.
 
-/*! What every stream has. */
+/*! What all kinds of streams have in common. */
 struct Track
 {
     int index = -1;   //!< stream number in the file
     QString codec;    //!< for example "h264"
-    QString codecTag; //!< the container's own name for the codec, for example "hvc1"
+    QString codecTag; //!< the container's name for the codec, for example "hvc1"
     QString profile;  //!< for example "Main 10"
     QString language; //!< for example "eng"
     QString title;
@@ -26,7 +26,7 @@ struct Track
     double kbps = 0;
 };
 
-/*! The colours that a picture's numbers stand for. */
+/*! How pixel values map to colours. */
 struct Colour
 {
     QString range;     //!< "tv" or "pc"
@@ -37,7 +37,7 @@ struct Colour
     [[nodiscard]] bool isHdr() const;
 };
 
-/*! The display that an HDR10 picture was graded on. */
+/*! The display that an HDR10 video was graded on. */
 struct MasteringDisplay
 {
     struct Point
@@ -53,11 +53,11 @@ struct MasteringDisplay
     Ratio brightest; //!< cd/m²
 };
 
-/*! The light of an HDR10 picture, in cd/m². */
+/*! The light level of an HDR10 video, in cd/m². */
 struct LightLevel
 {
     int brightestPixel = 0;
-    int brightestFrame = 0; //!< on average
+    int brightestFrame = 0; //!< average over its pixels
 };
 
 struct VideoTrack : Track
@@ -66,26 +66,26 @@ struct VideoTrack : Track
 
     QSize storedSize;
     Ratio pixelAspect = {1, 1};
-    int rotation = 0; //!< quarter turns needed to show it upright, in degrees: 0, 90, 180, 270
+    int rotation = 0; //!< clockwise degrees to show it upright: 0, 90, 180 or 270
     Ratio frameRate;
     bool hasSteadyRate = true; //!< false: the rate is an average
     Ratio averageFrameRate;
     FieldOrder fieldOrder = UnknownOrder;
-    bool framesTellFields = false; //!< which of them are interlaced, and how
+    bool framesTellFields = false; //!< decoded frames are flagged as interlaced or not
     QString pixelFormat;           //!< for example "yuv420p10le"
-    int level = 0;                 //!< as the codec counts it: 41 is H.264's 4.1, 123 is HEVC's
+    int level = 0;                 //!< in the codec's units: 4.1 is 41 in H.264, 123 in HEVC
     Colour colour;
     std::optional<MasteringDisplay> masteringDisplay;
     std::optional<LightLevel> lightLevel;
-    bool isCover = false; //!< a still picture attached to an audio file
+    bool isCover = false; //!< an attached image, such as an album cover
 
-    /*! Whether the frames come at other times than those of its rate. */
+    /*! Whether the intervals between frames differ. */
     [[nodiscard]] bool hasVariableRate() const;
     [[nodiscard]] bool isInterlaced() const
     {
         return fieldOrder == TopFieldFirst || fieldOrder == BottomFieldFirst;
     }
-    /*! The size as shown: upright, with square pixels. */
+    /*! The size when shown upright with square pixels. */
     [[nodiscard]] QSize displaySize() const;
 };
 
@@ -93,20 +93,20 @@ struct AudioTrack : Track
 {
     int sampleRate = 0; //!< Hz
     int channels = 0;
-    QString layout;        //!< where each channel is heard, for example "5.1(side)"
+    QString layout;        //!< speaker layout, for example "5.1(side)"
     QString sampleFormat;  //!< as decoded, for example "s16" or "fltp"
-    int bitsPerSample = 0; //!< of a lossless codec; 0 of a lossy one
+    int bitsPerSample = 0; //!< of lossless codecs; 0 for lossy ones
 };
 
 struct SubtitleTrack : Track
 {
     bool isForced = false;
 
-    /*! Text, not pictures. */
+    /*! Whether the subtitles are text, not bitmaps. */
     [[nodiscard]] bool isText() const;
 };
 
-/*! A file in the file: a font, a cover. */
+/*! An embedded file, such as a font. */
 struct Attachment
 {
     int index = -1;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/*! "vexconvert (process 123 on desk)", as the holder wrote it into the file that it locks. */
+/*! "vexconvert (process 123 on desk)", as the holder wrote it into the lock file. */
 QString holderIn(const QString &path)
 {
     QFile file(path);
@@ -22,7 +22,7 @@ QString holderIn(const QString &path)
                : FolderLock::tr("%1 (process %2 on %3)").arg(lines.at(1), lines.at(0), lines.at(2));
 }
 
-/*! Only for people: the lock itself doesn't depend on it. */
+/*! For messages only: the lock doesn't depend on it. */
 void writeHolder(const QString &path)
 {
     QFile file(path);
@@ -36,19 +36,19 @@ void writeHolder(const QString &path)
 
 } // namespace
 
-Result<> FolderLock::lock(const QString &folder, int patience, const Tell &tell)
+Result<> FolderLock::lock(const QString &folder, int patience, const Report &report)
 {
     constexpr int pause = 20;      // ms
-    constexpr int unnoticed = 300; // ms that a wait isn't worth a word
+    constexpr int unnoticed = 300; // ms; shorter waits aren't reported
     const QString shownFolder = QDir::toNativeSeparators(folder);
     const QString path = QDir(folder).absoluteFilePath(QStringLiteral("vexconvert.lock"));
     QDir().mkpath(folder);
     const QFileInfo file(path);
     if (file.isSymLink() || (file.exists() && !file.isFile())) {
-        // Writing into it would change another file, and reading from a pipe wait for ever.
+        // Writing would change another file, and reading a pipe would block forever.
         return failed(tr("%1 is no plain file; remove it").arg(QDir::toNativeSeparators(path)));
     }
-    // Made without touching what another process wrote into it.
+    // Creates the file, but keeps what another process wrote into it.
     QFile(path).open(QIODevice::ReadWrite);
 
     QElapsedTimer total;
@@ -56,7 +56,7 @@ Result<> FolderLock::lock(const QString &folder, int patience, const Tell &tell)
     total.start();
     sinceChange.start();
     QString holder;
-    bool isTold = false;
+    bool isReported = false;
     for (;;) {
         const Result<> locked = m_lock.tryLock(path);
         if (locked) {
@@ -78,9 +78,9 @@ Result<> FolderLock::lock(const QString &folder, int patience, const Tell &tell)
                     .arg(holder, shownFolder),
                 Error::InUse);
         }
-        if (tell && !isTold && total.elapsed() >= unnoticed) {
-            tell(tr("waiting for %1, which is using the presets in %2").arg(holder, shownFolder));
-            isTold = true;
+        if (report && !isReported && total.elapsed() >= unnoticed) {
+            report(tr("waiting for %1, which is using the presets in %2").arg(holder, shownFolder));
+            isReported = true;
         }
         QThread::msleep(pause);
     }

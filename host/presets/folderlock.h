@@ -9,20 +9,20 @@
 
 #include <functional>
 
-/*! Makes one process at a time the writer of a configuration folder. */
+/*! Lets one process at a time write to a configuration folder. */
 class FolderLock
 {
     Q_DECLARE_TR_FUNCTIONS(FolderLock)
 
 public:
-    using Tell = std::function<void(const QString &line)>;
+    using Report = std::function<void(const QString &line)>;
 
     /*!
-     * Makes the folder where it is missing and locks it. Where another process has it, says so
-     * with \a tell and waits, but no longer than \a patience ms for one and the same. Then it is
+     * Makes the folder if it is missing, and locks it. If another process holds the lock, calls
+     * \a report and waits, but at most \a patience ms for the same process; then fails with
      * Error::InUse.
      */
-    [[nodiscard]] Result<> lock(const QString &folder, int patience, const Tell &tell = {});
+    [[nodiscard]] Result<> lock(const QString &folder, int patience, const Report &report = {});
     void release() { m_lock.release(); }
     [[nodiscard]] bool isLocked() const { return m_lock.isLocked(); }
 

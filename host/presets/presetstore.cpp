@@ -42,8 +42,8 @@ QJsonArray listIn(const UserFile &file)
     return content ? QJsonDocument::fromJson(content->json).array() : QJsonArray();
 }
 
-/*! The first failure of both. */
-Result<> both(const Result<> &one, const Result<> &other)
+/*! The first error of the two. */
+Result<> firstError(const Result<> &one, const Result<> &other)
 {
     return one ? other : one;
 }
@@ -55,23 +55,23 @@ OutputSettings FoundPreset::outputSettings() const
     return OutputSettings::fromPreset(map);
 }
 
-PresetStore::PresetStore(FormatsProxy &formats, const QString &folder, const Tell &tell)
+PresetStore::PresetStore(FormatsProxy &formats, const QString &folder, const Report &report)
     : m_formats(formats)
     , m_folder(absoluteFolder(folder))
-    , m_tell(tell)
+    , m_report(report)
     , m_userPresets(filePath(QStringLiteral("formatCache.json")))
     , m_recently(filePath(QStringLiteral("recently.json")))
 {}
 
 Result<> PresetStore::lock(int patience)
 {
-    return m_lock.lock(m_folder, patience, m_tell);
+    return m_lock.lock(m_folder, patience, m_report);
 }
 
-Result<> PresetStore::open(Access access, UserFile::Hopeless hopeless)
+Result<> PresetStore::open(Access access, UserFile::Unrecoverable unrecoverable)
 {
-    m_opened = access == ReadWrite ? openToWrite(hopeless) : openToRead();
-    // The library would wait for a pipe, and read a file of any size.
+    m_opened = access == ReadWrite ? openToWrite(unrecoverable) : openToRead();
+    // The library would block on a pipe, and read a file of any size.
     const bool isReadable = m_userPresets.content() && m_recently.content();
     const QString nothing = QProcess::nullDevice();
     m_formats.init(m_work ? m_work->path() : isReadable ? m_folder : nothing);
@@ -80,44 +80,44 @@ Result<> PresetStore::open(Access access, UserFile::Hopeless hopeless)
 
 Result<> PresetStore::openToRead() const
 {
-    const Result<> checked = both(m_userPresets.check(), m_recently.check());
+    const Result<> checked = firstError(m_userPresets.check(), m_recently.check());
     FolderLock lock;
-    return checked || !lock.lock(m_folder, 0) ? checked : putRight(UserFile::StaysInPlace);
+    return checked || !lock.lock(m_folder, 0) ? checked : repair(UserFile::LeaveInPlace);
 }
 
-Result<> PresetStore::openToWrite(UserFile::Hopeless hopeless)
+Result<> PresetStore::openToWrite(UserFile::Unrecoverable unrecoverable)
 {
     const Result<> locked = m_lock.isLocked() ? Result<>() : lock(0);
     if (!locked) {
         return locked;
     }
-    return putRight(hopeless)
+    return repair(unrecoverable)
         .and_then([this] {
-            return tellNote(m_userPresets.keepUnusable(unusableFormats(listIn(m_userPresets))));
+            return reportNote(m_userPresets.keepUnusable(unusableFormats(listIn(m_userPresets))));
         })
         .and_then([this] {
-            return tellNote(m_recently.keepUnusable(unusablePresets(listIn(m_recently))));
+            return reportNote(m_recently.keepUnusable(unusablePresets(listIn(m_recently))));
         })
         .and_then([this] { return copyIntoWorkFolder(); });
 }
 
-Result<> PresetStore::tellNote(const Result<QString> &note) const
+Result<> PresetStore::reportNote(const Result<QString> &note) const
 {
     if (!note) {
         return failed(note);
     }
-    if (m_tell && !note->isEmpty()) {
-        m_tell(*note);
+    if (m_report && !note->isEmpty()) {
+        m_report(*note);
     }
     return {};
 }
 
-Result<> PresetStore::putRight(UserFile::Hopeless hopeless) const
+Result<> PresetStore::repair(UserFile::Unrecoverable unrecoverable) const
 {
-    // Both, whatever comes of the first.
-    const Result<> userPresets = tellNote(m_userPresets.recover(hopeless));
-    const Result<> recently = tellNote(m_recently.recover(hopeless));
-    return both(userPresets, recently);
+    // Both, even if the first fails.
+    const Result<> userPresets = reportNote(m_userPresets.recover(unrecoverable));
+    const Result<> recently = reportNote(m_recently.recover(unrecoverable));
+    return firstError(userPresets, recently);
 }
 
 Result<> PresetStore::copyIntoWorkFolder()
@@ -162,7 +162,7 @@ Result<> PresetStore::save()
         {m_userPresets, m_formats.formatListModel()->toVariantListForSave()},
         {m_recently, m_formats.recentlyFormatsModel()->toVariantListForSave()},
     };
-    // The library writes only there, also after the user has removed the configuration folder.
+    // The library writes only there, even after the user has removed the configuration folder.
     m_work->restore();
     m_formats.uninit();
     for (const Part &part : parts) {

@@ -15,25 +15,25 @@
 
 class FormatsProxy;
 
-/*! A preset with the place where it was found. */
+/*! A preset and where it was found. */
 struct FoundPreset
 {
-    QString tag; //!< "recently" for one that only the recently-used list still has
+    QString tag; //!< "recently" if only the recently used list still has it
     QString className;
     QVariantMap map; //!< as FormatDetailModelData::toVarMap() makes it
     bool isUserDefined = false;
 
-    /*! What it asks of a conversion. */
+    /*! The settings of a conversion with this preset. */
     [[nodiscard]] OutputSettings outputSettings() const;
 };
 
 /*!
- * The library of presets, opened on the user's configuration folder and saved there so that the
- * user's files survive whatever goes wrong.
+ * Opens the preset library on the user's configuration folder, and saves so that the user's files
+ * survive whatever goes wrong.
  *
- * The library writes over its files, where a crash or a full disk would leave half of them. So it
- * works on copies in a folder of its own, and only what it wrote whole takes the place of the
- * user's file, in one step.
+ * The library overwrites its files, and a crash or a full disk would leave them incomplete. So it
+ * works on copies in a folder of its own, and only a file that it wrote completely replaces the
+ * user's, in one step.
  */
 class PresetStore
 {
@@ -41,52 +41,51 @@ class PresetStore
     Q_DISABLE_COPY(PresetStore)
 
 public:
-    using Tell = FolderLock::Tell;
+    using Report = FolderLock::Report;
     enum Access { ReadOnly, ReadWrite };
 
     /*!
-     * An empty \a folder is the platform's configuration folder of this program. \a tell gets a
-     * line for each thing that the user ought to know: what was put right, and for whom it waits.
+     * An empty \a folder means the platform's configuration folder of this program. \a report gets
+     * lines for the user: what was repaired, and which process holds the lock.
      */
-    PresetStore(FormatsProxy &formats, const QString &folder, const Tell &tell = {});
+    PresetStore(FormatsProxy &formats, const QString &folder, const Report &report = {});
 
     /*!
-     * Makes the folder where it is missing and keeps other processes from writing there as long as
-     * this store lives; see FolderLock::lock(). open() does it for ReadWrite, without waiting,
-     * where it hasn't been done.
+     * Keeps other processes from writing to the folder while this store exists; see
+     * FolderLock::lock(). Without it, open() locks for ReadWrite, without waiting.
      */
     [[nodiscard]] Result<> lock(int patience);
     /*!
-     * Loads the catalogue and the user's files, after putting right what a crash left of them. A
-     * file that is damaged without a good copy is a failure, or \a hopeless puts it aside. The
-     * catalogue is loaded in any case. To be called once for a facade.
+     * Loads the catalogue and the user's files, after repairing what a crash damaged. A damaged
+     * file without a good copy is an error, or moved aside if \a unrecoverable says so. The
+     * catalogue is loaded in any case. Call it once per FormatsProxy.
      */
     [[nodiscard]] Result<> open(Access access,
-                                UserFile::Hopeless hopeless = UserFile::StaysInPlace);
-    /*! Writes the user's files. A file that a failure names is as before. */
+                                UserFile::Unrecoverable unrecoverable = UserFile::LeaveInPlace);
+    /*! Writes the user's files. A file that an error names is unchanged. */
     [[nodiscard]] Result<> save();
 
     /*! The path of a file in the configuration folder. */
     [[nodiscard]] QString filePath(const QString &name) const;
     [[nodiscard]] FormatsProxy &formats() const { return m_formats; }
-    /*! The catalogue's or the user's preset with this id, else the recently-used one. */
+    /*! The preset with this id of the catalogue or the user, else of the recently used list. */
     [[nodiscard]] std::optional<FoundPreset> find(const QString &id) const;
 
 private:
     Result<> openToRead() const;
-    Result<> openToWrite(UserFile::Hopeless hopeless);
-    Result<> tellNote(const Result<QString> &note) const;
-    Result<> putRight(UserFile::Hopeless hopeless) const;
+    Result<> openToWrite(UserFile::Unrecoverable unrecoverable);
+    Result<> reportNote(const Result<QString> &note) const;
+    Result<> repair(UserFile::Unrecoverable unrecoverable) const;
     Result<> copyIntoWorkFolder();
 
     FormatsProxy &m_formats;
     const QString m_folder;
-    const Tell m_tell;
+    const Report m_report;
     const UserFile m_userPresets;
     const UserFile m_recently;
     FolderLock m_lock;
-    std::optional<WorkFolder> m_work; //!< what the library reads and writes; none: read in place
-    Result<> m_opened;                //!< a failure: nothing is saved
+    std::optional<WorkFolder> m_work; //!< what the library works on; none if opened in place
+    Result<> m_opened;                //!< if an error, nothing is saved
 };
 
 #endif

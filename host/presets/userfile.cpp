@@ -1,6 +1,7 @@
 #include "host/presets/userfile.h"
 
 #include "host/files/atomicwrite.h"
+#include "host/files/freename.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,7 +16,7 @@ namespace {
 
 using Content = UserFile::Content;
 
-/*! Some 20,000 presets; what is larger isn't a list that a person made. */
+/*! Some 20,000 presets: more than anyone creates. */
 constexpr qint64 largestFile = 64 * 1024 * 1024;
 
 QString shown(const QString &path)
@@ -44,7 +45,7 @@ Result<Content> contentOf(const QString &path)
     if (!info.exists()) {
         return Content{};
     }
-    // Opening a pipe would wait for whoever writes into it.
+    // Opening a pipe would block until something writes to it.
     if (!info.isFile()) {
         return failed(UserFile::tr("%1 is no file; move it away").arg(shown(path)));
     }
@@ -63,19 +64,18 @@ Result<Content> contentOf(const QString &path)
                    json};
 }
 
-/*! What a copy is good for; nothing where it isn't. */
+/*! The content of a good file; nullopt for any other. */
 std::optional<QByteArray> goodContentOf(const QString &path)
 {
     const Result<Content> content = contentOf(path);
     return content && content->state == Content::Good ? std::optional(content->json) : std::nullopt;
 }
 
-/*! \a path, or "path-2", "path-3" ...: what was kept before stays. */
-QString freeName(const QString &path)
+/*! \a path, or "path-2", "path-3" ... where that is taken. */
+QString unusedPath(const QString &path)
 {
     QString candidate = path;
-    for (int number = 2; QFileInfo::exists(candidate) || QFileInfo(candidate).isSymLink();
-         ++number) {
+    for (int number = 2; isTaken(candidate); ++number) {
         candidate = QStringLiteral("%1-%2").arg(path).arg(number);
     }
     return candidate;
@@ -118,7 +118,7 @@ Result<> UserFile::check() const
                       .arg(shown(isMissing ? copyPath() : m_path)));
 }
 
-Result<QString> UserFile::recover(Hopeless hopeless) const
+Result<QString> UserFile::recover(Unrecoverable unrecoverable) const
 {
     const Result<> checked = check();
     if (checked) {
@@ -127,7 +127,7 @@ Result<QString> UserFile::recover(Hopeless hopeless) const
     }
     const Result<Content> own = content();
     const std::optional<QByteArray> copy = goodContentOf(copyPath());
-    if (!own || (!copy && hopeless == StaysInPlace)) {
+    if (!own || (!copy && unrecoverable == LeaveInPlace)) {
         return failed(checked);
     }
 
@@ -136,7 +136,7 @@ Result<QString> UserFile::recover(Hopeless hopeless) const
         return tr("%1 was missing and its copy, %2, is damaged").arg(file, fileName(copyPath()));
     }
     const QString aside =
-        own->json.isEmpty() ? QString() : freeName(m_path + QStringLiteral(".damaged"));
+        own->json.isEmpty() ? QString() : unusedPath(m_path + QStringLiteral(".damaged"));
     const bool isKept = aside.isEmpty() || writeAtomically(aside, own->json, m_path);
     const bool isDone =
         isKept && (copy ? bool(writeAtomically(m_path, *copy, copyPath())) : QFile::remove(m_path));
@@ -169,10 +169,10 @@ Result<> UserFile::replace(const QByteArray &json) const
     }
     QString keptAs;
     if (before->state == Content::Damaged && !before->json.isEmpty()) {
-        keptAs = freeName(m_path + QStringLiteral(".damaged"));
+        keptAs = unusedPath(m_path + QStringLiteral(".damaged"));
     } else if (before->state == Content::Good && before->json != goodContentOf(copyPath())) {
-        // Somebody else has written it since it was opened.
-        keptAs = freeName(m_path + QStringLiteral(".changed"));
+        // Another program has changed it since recover().
+        keptAs = unusedPath(m_path + QStringLiteral(".changed"));
     }
     Result<> done = keptAs.isEmpty() ? Result<>() : writeAtomically(keptAs, before->json, m_path);
     if (done && before->json != json) {
@@ -194,11 +194,11 @@ void UserFile::keepCopy() const
     if (!own || own->state != Content::Good || !copy || own->json == copy->json) {
         return;
     }
-    // A damaged copy may be all that is left of presets that were lost before.
+    // A damaged backup may be all that is left of presets lost earlier.
     const bool isToKeep = copy->state == Content::Damaged && !copy->json.isEmpty();
-    if (!isToKeep || writeAtomically(freeName(copyPath() + QStringLiteral(".damaged")), copy->json,
-                                     copyPath())) {
-        // Where this fails the copy stays what it was: older, but good.
+    if (!isToKeep || writeAtomically(unusedPath(copyPath() + QStringLiteral(".damaged")),
+                                     copy->json, copyPath())) {
+        // If this fails, the older backup remains.
         static_cast<void>(writeAtomically(copyPath(), own->json, m_path));
     }
 }

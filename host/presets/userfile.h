@@ -9,23 +9,23 @@
 #include <QString>
 
 /*!
- * One of the user's preset files: a JSON list, whole at every moment, with its last good copy
- * beside it. Everything but reading is for the one process that has the folder's lock.
+ * One of the user's preset files: a JSON array that is complete at every moment, with a backup
+ * beside it. Only the process that holds the folder's lock may do more than read.
  */
 class UserFile
 {
     Q_DECLARE_TR_FUNCTIONS(UserFile)
 
 public:
-    /*! What becomes of a file that is damaged and has no good copy. */
-    enum Hopeless { StaysInPlace, IsPutAside };
+    /*! What to do with a damaged file that has no good backup. */
+    enum Unrecoverable { LeaveInPlace, MoveAside };
 
     struct Content
     {
         enum State {
             Missing,
             Good,
-            Damaged //!< empty, cut or no list: a crash or another program left it
+            Damaged //!< empty, truncated or not a JSON array
         };
 
         State state = Missing;
@@ -40,24 +40,24 @@ public:
     [[nodiscard]] const QString &path() const { return m_path; }
     /*! "formatCache.json.bak" */
     [[nodiscard]] QString copyPath() const { return m_path + QStringLiteral(".bak"); }
-    /*! Fails for what mustn't be read: a folder, a pipe, a file that is too large. */
+    /*! Fails for anything that must not be read: a folder, a pipe, a file that is too large. */
     [[nodiscard]] Result<Content> content() const;
-    /*! Fails where the file can't be used as it is, and names its good copy if there is one. */
+    /*! Fails if the file can't be used as it is; the error names the good backup, if any. */
     [[nodiscard]] Result<> check() const;
 
     /*!
-     * Puts the last good copy in the place of a file that is missing or damaged, which is kept, and
-     * removes what else a crash left. Gives one line that says what was done, or an empty text.
+     * Replaces a missing or damaged file by its good backup; the damaged file is kept under another
+     * name. Returns one line that says what was done, or an empty text.
      */
-    [[nodiscard]] Result<QString> recover(Hopeless hopeless) const;
+    [[nodiscard]] Result<QString> recover(Unrecoverable unrecoverable) const;
     /*!
-     * Puts \a json in the file's place in one step, and a copy beside it; what another program has
-     * written there since recover() is kept too. A failure leaves the file as it was.
+     * Replaces the file by \a json in one step, and updates the backup. What another program wrote
+     * to the file since recover() is kept under another name. On failure the file is unchanged.
      */
     [[nodiscard]] Result<> replace(const QByteArray &json) const;
     /*!
-     * Adds records that no reader takes to "formatCache.json.unusable", but none that it has
-     * already. Gives one line that says so, or an empty text.
+     * Adds records that the library would drop to "formatCache.json.unusable", unless it already
+     * contains them. Returns one line that says so, or an empty text.
      */
     [[nodiscard]] Result<QString> keepUnusable(const QJsonArray &records) const;
 
@@ -67,7 +67,7 @@ private:
     QString m_path;
 };
 
-/*! The parts of a preset file that the library drops: of formats those with a "group". */
+/*! The records of a preset file that the library would drop. */
 [[nodiscard]] QJsonArray unusablePresets(const QJsonArray &presets);
 [[nodiscard]] QJsonArray unusableFormats(const QJsonArray &formats);
 

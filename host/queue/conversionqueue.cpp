@@ -10,7 +10,7 @@ void ConversionQueue::add(int id, const JobSource &job)
 void ConversionQueue::start()
 {
     const auto isRunning = [](const auto &entry) { return entry.second.conversion != nullptr; };
-    // A receiver of started() may change the queue, so each round searches again.
+    // A slot connected to started() may change the queue, so each round searches again.
     for (;;) {
         const auto next = std::find_if_not(m_jobs.begin(), m_jobs.end(), isRunning);
         if (next == m_jobs.end() ||

@@ -7,8 +7,8 @@
 #include <map>
 
 /*!
- * Conversions that run in the order of their ids, one at a time unless more may run side by side.
- * One that fails doesn't stop the others.
+ * Runs conversions in the order of their ids, one at a time unless setMaxRunning() allows more. A
+ * failed conversion doesn't stop the others.
  */
 class ConversionQueue : public QObject
 {
@@ -20,23 +20,23 @@ public:
 
     using QObject::QObject;
 
-    /*! How many jobs may run side by side. Those that run already go on. */
+    /*! How many jobs may run at a time. Running ones are not stopped. */
     void setMaxRunning(int count) { m_maxRunning = count; }
 
-    /*! Lets a job wait for its turn; only then \a job is asked what there is to convert. \a id
-     *  names it in the signals, and no other job in the queue has it. */
+    /*! Adds a waiting job. \a job is called when its turn comes. \a id is unique in the queue and
+     *  identifies the job in the signals. */
     void add(int id, const JobSource &job);
-    /*! Runs as many jobs as may run; the others, also later ones, follow as those end. */
+    /*! Starts the jobs. Those that must wait, and those added later, start as others end. */
     void start();
-    /*! finished() follows with Error::Cancelled: at once for a job that waits, from the event loop
-     *  for one that runs. */
+    /*! finished() follows with Error::Cancelled: at once for a waiting job, from the event loop for
+     *  a running one. */
     void cancel(int id);
-    /*! Takes the job out, and ends it if it runs. No finished() follows. */
+    /*! Removes the job and stops it if it is running. finished() does not follow. */
     void remove(int id);
-    /*! Cancels the jobs that run, and takes out those that wait. */
+    /*! Cancels the running jobs and removes the waiting ones. */
     void stop();
 
-    /*! Whether no job waits or runs. */
+    /*! Whether no job is waiting or running. */
     [[nodiscard]] bool isEmpty() const { return m_jobs.empty(); }
 
 Q_SIGNALS:

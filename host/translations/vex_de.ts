@@ -176,8 +176,8 @@
         <translation>Dateien</translation>
     </message>
     <message>
-        <source>Drop videos or songs here</source>
-        <translation>Videos oder Musik hierher ziehen</translation>
+        <source>Drop video or audio files here</source>
+        <translation>Video- oder Audiodateien hierher ziehen</translation>
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
@@ -796,16 +796,16 @@
         <translation>nova HD 1080P</translation>
     </message>
     <message>
-        <source>Videos and songs</source>
-        <translation>Videos und Musik</translation>
+        <source>Video and audio files</source>
+        <translation>Video- und Audiodateien</translation>
     </message>
     <message>
         <source>All files</source>
         <translation>Alle Dateien</translation>
     </message>
     <message>
-        <source>There are no videos or songs in the folder %1; add the files themselves</source>
-        <translation>Im Ordner %1 sind weder Videos noch Musik; fügen Sie die Dateien selbst hinzu</translation>
+        <source>There are no video or audio files in the folder %1; add the files themselves</source>
+        <translation>Im Ordner %1 sind keine Video- oder Audiodateien; fügen Sie die Dateien selbst hinzu</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>
@@ -902,8 +902,8 @@
         <translation>ist eine Wiedergabeliste; wählen Sie die Dateien, die darin stehen</translation>
     </message>
     <message>
-        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
-        <translation>steht für eine Reihe von Bildern; benennen Sie Datei und Ordner ohne % * ? [ ] { }</translation>
+        <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>steht für eine Bildfolge; benennen Sie Datei und Ordner ohne % * ? [ ] { }</translation>
     </message>
     <message>
         <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>

@@ -176,8 +176,8 @@
         <translation>Files</translation>
     </message>
     <message>
-        <source>Drop videos or songs here</source>
-        <translation>Drop videos or songs here</translation>
+        <source>Drop video or audio files here</source>
+        <translation>Drop video or audio files here</translation>
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
@@ -796,16 +796,16 @@
         <translation>nova HD 1080P</translation>
     </message>
     <message>
-        <source>Videos and songs</source>
-        <translation>Videos and songs</translation>
+        <source>Video and audio files</source>
+        <translation>Video and audio files</translation>
     </message>
     <message>
         <source>All files</source>
         <translation>All files</translation>
     </message>
     <message>
-        <source>There are no videos or songs in the folder %1; add the files themselves</source>
-        <translation>There are no videos or songs in the folder %1; add the files themselves</translation>
+        <source>There are no video or audio files in the folder %1; add the files themselves</source>
+        <translation>There are no video or audio files in the folder %1; add the files themselves</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>

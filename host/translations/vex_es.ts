@@ -176,8 +176,8 @@
         <translation>Archivos</translation>
     </message>
     <message>
-        <source>Drop videos or songs here</source>
-        <translation>Suelta aquí vídeos o música</translation>
+        <source>Drop video or audio files here</source>
+        <translation>Suelte aquí archivos de vídeo o audio</translation>
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
@@ -796,16 +796,16 @@
         <translation>nova HD 1080P</translation>
     </message>
     <message>
-        <source>Videos and songs</source>
-        <translation>Vídeos y canciones</translation>
+        <source>Video and audio files</source>
+        <translation>Archivos de vídeo y audio</translation>
     </message>
     <message>
         <source>All files</source>
         <translation>Todos los archivos</translation>
     </message>
     <message>
-        <source>There are no videos or songs in the folder %1; add the files themselves</source>
-        <translation>En la carpeta %1 no hay vídeos ni canciones; añada los archivos directamente</translation>
+        <source>There are no video or audio files in the folder %1; add the files themselves</source>
+        <translation>En la carpeta %1 no hay archivos de vídeo ni de audio; añada los archivos directamente</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>
@@ -902,8 +902,8 @@
         <translation>es una lista de reproducción; elija los archivos que contiene</translation>
     </message>
     <message>
-        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
-        <translation>representa una serie de imágenes; cambie el nombre del archivo y sus carpetas para que no tenga % * ? [ ] { }</translation>
+        <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>representa una secuencia de imágenes; cambie el nombre del archivo y sus carpetas para que no tenga % * ? [ ] { }</translation>
     </message>
     <message>
         <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>

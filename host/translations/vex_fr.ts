@@ -176,8 +176,8 @@
         <translation>Fichiers</translation>
     </message>
     <message>
-        <source>Drop videos or songs here</source>
-        <translation>Déposez ici vidéos ou musiques</translation>
+        <source>Drop video or audio files here</source>
+        <translation>Déposez ici des fichiers vidéo ou audio</translation>
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
@@ -796,16 +796,16 @@
         <translation>nova HD 1080P</translation>
     </message>
     <message>
-        <source>Videos and songs</source>
-        <translation>Vidéos et musique</translation>
+        <source>Video and audio files</source>
+        <translation>Fichiers vidéo et audio</translation>
     </message>
     <message>
         <source>All files</source>
         <translation>Tous les fichiers</translation>
     </message>
     <message>
-        <source>There are no videos or songs in the folder %1; add the files themselves</source>
-        <translation>Le dossier %1 ne contient ni vidéo ni musique ; ajoutez directement les fichiers</translation>
+        <source>There are no video or audio files in the folder %1; add the files themselves</source>
+        <translation>Le dossier %1 ne contient aucun fichier vidéo ou audio ; ajoutez directement les fichiers</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>
@@ -902,8 +902,8 @@
         <translation>est une liste de lecture ; choisissez les fichiers qu’elle contient</translation>
     </message>
     <message>
-        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
-        <translation>désigne une série d’images ; renommez le fichier et ses dossiers sans % * ? [ ] { }</translation>
+        <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
+        <translation>désigne une séquence d’images ; renommez le fichier et ses dossiers sans % * ? [ ] { }</translation>
     </message>
     <message>
         <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>

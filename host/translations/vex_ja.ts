@@ -176,7 +176,7 @@
         <translation>ファイル</translation>
     </message>
     <message>
-        <source>Drop videos or songs here</source>
+        <source>Drop video or audio files here</source>
         <translation>動画や音楽をここにドロップ</translation>
     </message>
     <message>
@@ -796,7 +796,7 @@
         <translation>nova HD 1080P</translation>
     </message>
     <message>
-        <source>Videos and songs</source>
+        <source>Video and audio files</source>
         <translation>動画と音楽</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>すべてのファイル</translation>
     </message>
     <message>
-        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <source>There are no video or audio files in the folder %1; add the files themselves</source>
         <translation>フォルダー %1 には動画も音楽もありません。ファイルを直接追加してください</translation>
     </message>
     <message>
@@ -902,7 +902,7 @@
         <translation>プレイリストです。その中のファイルを選んでください</translation>
     </message>
     <message>
-        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
+        <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
         <translation>連番画像を表す名前です。ファイル名とフォルダー名から % * ? [ ] { } を取り除いてください</translation>
     </message>
     <message>

@@ -176,7 +176,7 @@
         <translation>文件</translation>
     </message>
     <message>
-        <source>Drop videos or songs here</source>
+        <source>Drop video or audio files here</source>
         <translation>将视频或音乐拖放到此处</translation>
     </message>
     <message>
@@ -796,7 +796,7 @@
         <translation>nova HD 1080P</translation>
     </message>
     <message>
-        <source>Videos and songs</source>
+        <source>Video and audio files</source>
         <translation>视频和音乐</translation>
     </message>
     <message>
@@ -804,7 +804,7 @@
         <translation>所有文件</translation>
     </message>
     <message>
-        <source>There are no videos or songs in the folder %1; add the files themselves</source>
+        <source>There are no video or audio files in the folder %1; add the files themselves</source>
         <translation>文件夹 %1 中没有视频或音乐；请直接添加文件</translation>
     </message>
     <message>
@@ -902,7 +902,7 @@
         <translation>是播放列表；请选择其中列出的文件</translation>
     </message>
     <message>
-        <source>stands for a series of pictures; rename it and its folders without any of % * ? [ ] { }</source>
+        <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
         <translation>表示一组图片序列；请重命名文件及其文件夹，不要包含 % * ? [ ] { }</translation>
     </message>
     <message>

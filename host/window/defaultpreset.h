@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/*! The id of the preset that a page starts with, and that stands in for one that is gone. */
+/*! The id of the preset that a page starts with, and that replaces a deleted one. */
 inline QString defaultPresetId()
 {
     return QStringLiteral("Video_MP4_001");

@@ -11,8 +11,8 @@
 class QQmlEngine;
 
 /*!
- * A dialog in a window of its own. The QML file that is its content has it as its "frame" and knows
- * it as "O_Frame"; the window follows the content's size.
+ * A dialog in a window of its own. The QML file with its content refers to it as "frame" and
+ * "O_Frame"; the window follows the content's size.
  */
 class DialogFrame : public QObject
 {
@@ -20,7 +20,7 @@ class DialogFrame : public QObject
     Q_PROPERTY(QVariantMap info READ info CONSTANT)
 
 public:
-    /*! \a info is what the dialog is about. Deletes itself when it is closed. */
+    /*! \a info is the dialog's input. The dialog deletes itself when it is closed. */
     DialogFrame(QQmlEngine &engine, const QUrl &content, const QVariantMap &info,
                 QWindow *transientParent);
     ~DialogFrame() override;
@@ -31,7 +31,7 @@ public:
     Q_INVOKABLE void resizeWinSize(int width, int height);
     /*! Closes the dialog. \a id is the preset that it saved, if any. */
     Q_INVOKABLE void cancelClicked(const QString &id = QString());
-    /*! For a press on the title bar: the window system moves the window with the mouse. */
+    /*! Call it on a press of the title bar: the window system then moves the window. */
     Q_INVOKABLE void startMoving();
 
 Q_SIGNALS:

@@ -18,8 +18,8 @@
 namespace {
 
 /*!
- * Qt's own dialog selects each folder on the way while a path is typed, and with Return would open
- * one of them instead of choosing the file.
+ * While the user types a path, Qt's own dialog selects each folder on the way. Return would then
+ * open one of them instead of choosing the file.
  */
 class FilesDialog : public QFileDialog
 {
@@ -28,7 +28,7 @@ public:
 
     void accept() override
     {
-        // A platform's dialog has no such list.
+        // Native dialogs have no such list.
         if (const auto *list = findChild<QListView *>(QStringLiteral("listView"))) {
             deselectFoldersElsewhere(*list);
         }
@@ -72,15 +72,15 @@ QStringList mediaPatterns()
 {
     QStringList patterns;
     for (const QString &extension : mediaExtensions()) {
-        // Cameras write capitals, and not every dialog ignores case.
+        // Cameras use upper case, and not every dialog ignores case.
         patterns << QStringLiteral("*.") + extension << QStringLiteral("*.") + extension.toUpper();
     }
     return patterns;
 }
 
 /*!
- * Hides files other than media in Qt's own dialog. Its name filters do that too, but take seconds
- * for a thousand files when there are so many patterns.
+ * Hides all but media files in Qt's own dialog. Its name filters would do so too, but with that
+ * many patterns they take seconds for a thousand files.
  */
 class MediaOnly : public QSortFilterProxyModel
 {
@@ -93,7 +93,7 @@ public:
         invalidateFilter();
     }
 
-    /*! The files' own model sorts better: by what a column stands for, folders first. */
+    /*! The source model sorts by what a column means, folders first. */
     void sort(int column, Qt::SortOrder order) override { sourceModel()->sort(column, order); }
 
 protected:
@@ -113,12 +113,12 @@ void showMediaFirst(QFileDialog *dialog)
     const QStringList everything = {QStringLiteral("*")};
     const QString all = nameFilter(QStringLiteral("All files"), everything);
     const bool isQtsOwn = dialog->layout() != nullptr;
-    const QString media =
-        nameFilter(QStringLiteral("Videos and songs"), isQtsOwn ? everything : mediaPatterns());
+    const QString media = nameFilter(QStringLiteral("Video and audio files"),
+                                     isQtsOwn ? everything : mediaPatterns());
     if (isQtsOwn) {
         auto *mediaOnly = new MediaOnly(dialog);
         dialog->setProxyModel(mediaOnly);
-        // The dialog tells the filter's title alone.
+        // The dialog emits only the filter's title.
         QObject::connect(
             dialog, &QFileDialog::filterSelected, mediaOnly,
             [=](const QString &title) { mediaOnly->setActive(media.startsWith(title)); });
@@ -154,7 +154,7 @@ void FileChooser::chooseFolder(Page *page)
 void FileChooser::open(QFileDialog *dialog, Page *page,
                        const std::function<void(const QStringList &)> &take)
 {
-    // A platform's dialog emits both signals, Qt's own one the second alone.
+    // Native dialogs emit both signals, Qt's own one only the second.
     connect(dialog, &QFileDialog::urlsSelected, page,
             [dialog, page, take](const QList<QUrl> &urls) {
                 disconnect(dialog, &QFileDialog::filesSelected, page, nullptr);
@@ -180,7 +180,7 @@ void FileChooser::placeOverWindow(QFileDialog *dialog) const
     if (m_window == nullptr) {
         return;
     }
-    dialog->winId(); // makes the dialog's QWindow
+    dialog->winId(); // creates the dialog's QWindow
     dialog->windowHandle()->setTransientParent(m_window);
     const QRect screen = m_window->screen()->availableGeometry();
     QRect place(QPoint(), dialog->size().boundedTo(screen.size()));

@@ -19,16 +19,16 @@ class FileChooser : public QObject
 public:
     using QObject::QObject;
 
-    /*! The dialogs open in front of \a window. */
+    /*! Sets the window that the dialogs open in front of. */
     void setWindow(QWindow *window) { m_window = window; }
 
-    /*! Lets the user choose files for the page's list. Returns at once. */
+    /*! Lets the user add files to the page's list. Returns at once. */
     Q_INVOKABLE void chooseFiles(Page *page);
-    /*! Lets the user choose where the page's results go. Returns at once. */
+    /*! Lets the user choose the page's output folder. Returns at once. */
     Q_INVOKABLE void chooseFolder(Page *page);
 
 private:
-    /*! \a take gets the paths, unless the user cancels or \a page is gone. */
+    /*! \a take gets the paths, unless the user cancels or \a page is destroyed. */
     void open(QFileDialog *dialog, Page *page,
               const std::function<void(const QStringList &)> &take);
     void placeOverWindow(QFileDialog *dialog) const;

@@ -32,7 +32,7 @@ void Inspector::forget(int id)
     const bool isBeingRead = found == m_requests.begin();
     m_requests.erase(found);
     if (isBeingRead) {
-        // A tool that hangs mustn't keep the other files waiting.
+        // A hanging tool must not block the other files.
         m_probe.abandon();
         m_ffmpeg.abandon();
         readNext();
@@ -60,7 +60,7 @@ void Inspector::takeFacts(const Result<MediaFacts> &facts)
 
 void Inspector::makeThumbnail(const Request &request, const MediaFacts &facts)
 {
-    // The very first frames of films are often black.
+    // The first frames of a video are often black.
     const double moment = facts.video() == nullptr ? 0 : facts.duration / 10;
     const VideoTrack *track = facts.video() == nullptr ? facts.cover() : facts.video();
     m_ffmpeg.start(

@@ -7,9 +7,7 @@
 #include <QObject>
 #include <QQueue>
 
-/*!
- * Reads files one after another, without blocking: what they hold, and a thumbnail of each video or
- * cover. Any number of files may wait.
+/*! Reads files asynchronously, one at a time: their facts, and a thumbnail of each video or cover.
  */
 class Inspector : public QObject
 {
@@ -18,14 +16,14 @@ class Inspector : public QObject
 public:
     explicit Inspector(QObject *parent = nullptr);
 
-    /*! \a id names the file in the signals. */
+    /*! Queues the file. \a id identifies it in the signals. */
     void inspect(int id, const QString &path);
-    /*! Gives the file up at once, also while a tool works on it. */
+    /*! Removes the file from the queue, even while a tool is reading it. */
     void forget(int id);
 
 Q_SIGNALS:
     void read(int id, const Result<MediaFacts> &facts);
-    /*! After read(), for a file with a picture. The file at \a url lives as long as this object. */
+    /*! Follows read() if the file has a video or cover. \a url is valid as long as this object. */
     void thumbnailReady(int id, const QString &url);
 
 private:
@@ -43,7 +41,7 @@ private:
 
     QQueue<Request> m_requests;
     const Result<WorkFolder> m_thumbnails = WorkFolder::make();
-    // They work on the first request, and stop before the folder is removed.
+    // Run for the first request. Declared last, so that they stop before the folder is removed.
     MediaProbe m_probe;
     Tool m_ffmpeg;
 };

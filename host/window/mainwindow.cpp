@@ -13,7 +13,7 @@
 #include <QQuickWindow>
 #include <QSessionManager>
 
-/*! The resources of a static library have to be asked for, from outside of any namespace. */
+/*! A static library's resources need this call, which must not be in a namespace. */
 static void initResources()
 {
     Q_INIT_RESOURCE(window);
@@ -42,7 +42,7 @@ Result<> MainWindow::open()
     if (!locked) {
         return locked;
     }
-    const Result<> opened = m_store.open(PresetStore::ReadWrite, UserFile::IsPutAside);
+    const Result<> opened = m_store.open(PresetStore::ReadWrite, UserFile::MoveAside);
     if (!opened) {
         m_notices.add(opened.error().text);
     }
@@ -65,7 +65,7 @@ Result<> MainWindow::open()
         return failed(ToolFun::text(QStringLiteral("The window can't be made")));
     }
     m_files.setWindow(window());
-    // Another program may cancel the log-out: the window stays open and only saves.
+    // Another program may cancel the logout, so the window only saves and stays open.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
         m_presets->flush();
@@ -119,11 +119,11 @@ void MainWindow::publish()
     m_engine = std::make_unique<QQmlApplicationEngine>(this);
     m_engine->addImportPath(QStringLiteral("qrc:/modules"));
     registerQmlTypes();
-    // The scene is scaled as a whole for dense screens: sizes are the same everywhere.
+    // High-DPI scaling applies to the whole scene, so sizes need no factor.
     m_engine->globalObject().setProperty(QStringLiteral("dpi"),
                                          m_engine->evaluate(QStringLiteral("(function (n) { "
                                                                            "return n })")));
-    // The names by which the library's screens know these.
+    // The names that the library's screens use.
     QQmlContext *context = m_engine->rootContext();
     const QVector<QQmlContext::PropertyPair> objects = {
         {QStringLiteral("O_FormatsProxy"), QVariant::fromValue(&m_store.formats())},
@@ -150,7 +150,7 @@ void MainWindow::editPreset(const QVariantMap &info)
             return;
         }
         if (!isUserDefined) {
-            // The picker stays and shows the new preset.
+            // The picker stays open and shows the new preset.
             Q_EMIT m_converter->signalCreateNewFormatMsgClose(id);
         } else if (row != nullptr) {
             QMetaObject::invokeMethod(row, "colseItem");

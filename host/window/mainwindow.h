@@ -20,38 +20,36 @@ class QQuickWindow;
 class WindowSettings;
 class SingleInstance;
 
-/*! The window with its two pages, and everything that the QML files find in their context. */
+/*! The window with its two pages, and all objects that its QML files use. */
 class MainWindow : public QObject
 {
     Q_OBJECT
 
 public:
-    /*! An empty \a configFolder is the platform's. */
+    /*! An empty \a configFolder means the platform's. */
     explicit MainWindow(const QString &configFolder, QObject *parent = nullptr);
     ~MainWindow() override;
 
     /*!
-     * Locks the configuration folder, restores damaged files from good copies and shows the
-     * window. Error::InUse: another program has the folder, or another window on it, and
-     * it may be tried again.
+     * Locks the configuration folder, repairs damaged files and shows the window. Fails with
+     * Error::InUse if another program or window uses the folder; may then be called again.
      */
     [[nodiscard]] Result<> open();
-    /*! Hands the files to that window. False when none answers within \a patience ms. */
+    /*! Passes the files to that window. False if none answers within \a patience ms. */
     [[nodiscard]] bool handOver(const QStringList &paths, int patience) const;
-    /*! Where nothing can be shown any more: saves, stops the conversions and removes what they
-     * left. */
+    /*! For when the display is lost: saves, stops the conversions and removes unfinished files. */
     void stopWork();
 
     /*! Null before open(). */
     QQuickWindow *window() const;
-    /*! The dialog that is open; null when there is none. */
+    /*! The open dialog; null if there is none. */
     DialogFrame *dialog() const { return m_dialog; }
     ConverterProxy &converter() const { return *m_converter; }
     EditorProxy &editor() const { return *m_editor; }
     WindowSettings &settings() const { return *m_settings; }
 
 private:
-    /*! Brings the window to the front, with these files added to the converter page. */
+    /*! Adds the files to the converter page and raises the window. */
     void present(const QStringList &paths);
     QString configFolder() const;
     void publish();
@@ -68,7 +66,7 @@ private:
     std::unique_ptr<EditorProxy> m_editor;
     std::unique_ptr<SingleInstance> m_instance;
     QPointer<DialogFrame> m_dialog;
-    // Destroyed first, as it shows all of the above.
+    // Destroyed first, as it uses all of the above.
     std::unique_ptr<QQmlApplicationEngine> m_engine;
 };
 

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
-/*! What the user should know, until it is dismissed. */
+/*! Notices for the user, shown until they are dismissed. */
 class Notices : public QObject
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class Notices : public QObject
 public:
     using QObject::QObject;
 
-    /*! One line a notice; empty when there is none. */
+    /*! One line per notice; empty if there is none. */
     QString text() const { return m_lines.join(QLatin1Char('\n')); }
     /*! Shows the line and writes it to the log; a line already shown isn't repeated. */
     void add(const QString &line);

@@ -77,7 +77,7 @@ void Page::addPaths(const QStringList &paths)
         const bool isFolder = QFileInfo(path).isDir();
         const QStringList files = isFolder ? mediaFilesIn(path) : QStringList{path};
         if (files.isEmpty()) {
-            Q_EMIT noticed(ToolFun::text(QStringLiteral("There are no videos or songs in the "
+            Q_EMIT noticed(ToolFun::text(QStringLiteral("There are no video or audio files in the "
                                                         "folder %1; add the files themselves"))
                                .arg(QDir::toNativeSeparators(path)));
         }

@@ -9,8 +9,8 @@
 #include <QUrl>
 
 /*!
- * A page of the window: its list of files, its format and its folder, and the conversions, which
- * run one after another. A task that fails says why and the next one has its turn.
+ * A page of the window: its list of files, its preset, its output folder, and its conversions,
+ * which run one at a time. A failed task keeps its error, and the next one starts.
  */
 class Page : public QObject
 {
@@ -28,23 +28,23 @@ public:
     TaskList *tasks() { return &m_tasks; }
     QString globalCaption() const { return m_formats.globalCaption(); }
     QString globalIcon() const { return m_formats.globalIcon(); }
-    /*! Where results go; empty: beside their sources. */
+    /*! The output folder; empty: beside each source. */
     QString folder() const { return m_settings.folder(m_kind); }
     /*! The same, for display. */
     QString folderText() const;
     void setFolder(const QString &folder);
-    /*! Whether any task is converted or waits for its turn. */
+    /*! Whether any task is running or waiting. */
     bool isBusy() const;
     /*! Whether convertAll() would do anything. */
     bool canConvert() const;
 
-    /*! Appends the files, and the media files in folders. Only file: URLs count. */
+    /*! Appends the files, and the media files in folders. Ignores all but file: URLs. */
     Q_INVOKABLE void addFiles(const QList<QUrl> &urls);
     void addPaths(const QStringList &paths);
     /*! A running task is stopped first. */
     Q_INVOKABLE void remove(int taskId);
     Q_INVOKABLE void convert(int taskId);
-    /*! Converts whatever isn't converted yet. */
+    /*! Converts all files that aren't converted yet. */
     Q_INVOKABLE void convertAll();
     Q_INVOKABLE void cancel(int taskId);
     Q_INVOKABLE void cancelAll();
@@ -58,14 +58,14 @@ Q_SIGNALS:
     void globalFormatChanged();
     void folderChanged();
     void queueChanged();
-    /*! One line that the user should know. */
+    /*! One line for the user. */
     void noticed(const QString &line);
 
 protected:
-    /*! The format of the page, for new files and for all in the list that aren't at work. */
+    /*! Sets the preset of the page, used for new files and all tasks that aren't queued. */
     void setGlobalFormat(const QString &id) { m_formats.chooseGlobal(id); }
     void setTaskFormat(int taskId, const QString &id) { m_formats.choose(taskId, id); }
-    /*! The part of the file to convert, in seconds; an \a end of 0 is the file's end. */
+    /*! Sets the part to convert, in seconds; an \a end of 0 means the file's end. */
     void setCut(int taskId, double start, double end);
 
 private:

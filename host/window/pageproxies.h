@@ -32,7 +32,7 @@ public:
 Q_SIGNALS:
     void editingAsked(const QVariantMap &info);
     void messageAsked(const QVariantMap &info);
-    /*! The user made the preset \a id in the dialog. */
+    /*! The user created the preset \a id in the dialog. */
     void signalCreateNewFormatMsgClose(const QString &id);
 };
 
@@ -52,10 +52,10 @@ public:
         setTaskFormat(listId, id);
     }
 
-    /*! Seconds for a moment such as "1:02.5"; -1 for anything else. */
+    /*! Seconds of a clock text such as "1:02.5"; -1 for any other text. */
     Q_INVOKABLE double secondsOf(const QString &text) const;
     Q_INVOKABLE QString clockOf(double seconds) const;
-    /*! Cuts the task to the part between these seconds; an \a end of 0 is the file's end. */
+    /*! Converts only the part between these seconds; an \a end of 0 means the file's end. */
     Q_INVOKABLE void cut(int taskId, double start, double end) { setCut(taskId, start, end); }
 };
 

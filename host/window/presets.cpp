@@ -9,7 +9,7 @@ Presets::Presets(PresetStore &store, QObject *parent)
     : QObject(parent)
     , m_store(store)
 {
-    // One action of the user may change several rows: they are saved together.
+    // One user action may change several rows, which are saved together.
     m_change.setSingleShot(true);
     m_change.setInterval(0);
     connect(&m_change, &QTimer::timeout, this, &Presets::save);

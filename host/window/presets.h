@@ -8,7 +8,7 @@
 
 class QAbstractItemModel;
 
-/*! The presets as the window's pages use them; saves every change of the user's as it happens. */
+/*! Presets for the window's pages. Saves each change that the user makes. */
 class Presets : public QObject
 {
     Q_OBJECT
@@ -21,22 +21,22 @@ public:
     {
         return m_store.find(id);
     }
-    /*! The first of these that there is: \a id, \a standIn, the default preset, the catalogue's
-     *  first; empty when there is none. */
+    /*! The first preset that exists of \a id, \a standIn, the default preset and the catalogue's
+     *  first one; empty if there is none. */
     [[nodiscard]] QString usable(const QString &id, const QString &standIn) const;
     /*! The preset's format and translated title; empty for an unknown id. */
     [[nodiscard]] QString caption(const QString &id) const;
-    /*! URL of its format's icon; empty where there is none. */
+    /*! URL of its format's icon; empty if there is none. */
     [[nodiscard]] QString icon(const QString &id) const;
 
-    /*! Puts the preset at the head of the recently used ones. */
+    /*! Puts the preset at the top of the recently used list. */
     void noteUse(const QString &id);
 
-    /*! Writes what hasn't been written yet, also where that has failed before. */
+    /*! Saves unsaved changes, including those whose save failed. */
     void flush();
 
 Q_SIGNALS:
-    /*! The user's presets or the recently used ones have changed. */
+    /*! The user's presets or the recently used list changed. */
     void changed();
     /*! One line that says why a change isn't saved. */
     void saveFailed(const QString &reason);

@@ -20,7 +20,7 @@ QString socketPathFor(const QString &configFolder)
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
     const QString place = QFileInfo(runtime).isDir() ? runtime : QDir::tempPath();
-    // The folder's own path could be longer than a socket's may be.
+    // The folder's path could be too long for a socket's.
     const QByteArray folder = QFile::encodeName(QFileInfo(configFolder).canonicalFilePath());
     const QByteArray key =
         QCryptographicHash::hash(folder, QCryptographicHash::Sha256).toHex().left(16);
@@ -42,20 +42,20 @@ SingleInstance::SingleInstance(const QString &configFolder, QObject *parent)
 
 void SingleInstance::listen()
 {
-    // What is there was left behind by a program that was killed.
+    // An existing socket was left by a killed process.
     QLocalServer::removeServer(m_socketPath);
     m_server.listen(m_socketPath);
 }
 
 bool SingleInstance::handOver(const QStringList &paths, int patience) const
 {
-    // In a folder for all users, another one may have made it.
+    // In a shared folder, another user may have created it.
     if (QFileInfo(m_socketPath).ownerId() != ::getuid()) {
         return false;
     }
     QLocalSocket socket;
     socket.connectToServer(m_socketPath);
-    // A window that hangs isn't ready and gets nothing that it could come back to later.
+    // A hanging window must not get paths that it would handle much later.
     if (!socket.waitForConnected(patience) || !socket.waitForReadyRead(patience)) {
         return false;
     }

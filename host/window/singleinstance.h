@@ -6,8 +6,8 @@
 #include <QStringList>
 
 /*!
- * Lets a second start of the window hand its files to the first one. They find each other by the
- * user and the configuration folder.
+ * Lets a second instance pass its files to the first. Instances of the same user and configuration
+ * folder find each other.
  */
 class SingleInstance : public QObject
 {
@@ -15,19 +15,19 @@ class SingleInstance : public QObject
     Q_DISABLE_COPY(SingleInstance)
 
 public:
-    /*! \a configFolder exists. */
+    /*! \a configFolder must exist. */
     explicit SingleInstance(const QString &configFolder, QObject *parent = nullptr);
 
-    /*! Answers later starts. Only for the process that has locked the folder. */
+    /*! Answers later instances. Only for the process that has locked the folder. */
     void listen();
     /*!
-     * Hands the paths, if any, to the window that listens, which comes to the front. False when
-     * none answers within \a patience ms.
+     * Passes the paths, if any, to the listening instance, which raises its window. False if none
+     * answers within \a patience ms.
      */
     [[nodiscard]] bool handOver(const QStringList &paths, int patience) const;
 
 Q_SIGNALS:
-    /*! A later start handed these over. */
+    /*! A later instance passed these paths. */
     void asked(const QStringList &paths);
 
 private:

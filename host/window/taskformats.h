@@ -7,7 +7,7 @@
 
 class Presets;
 
-/*! The presets that a page converts with: its own, and those of its tasks. */
+/*! The presets of a page: its default one and those of its tasks. */
 class TaskFormats : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ public:
     [[nodiscard]] QString globalCaption() const;
     [[nodiscard]] QString globalIcon() const;
 
-    /*! Gives a new task the page's preset. */
+    /*! Sets a new task to the page's preset. */
     void assignGlobal(int taskId);
-    /*! Chooses the preset of the page, and of all tasks that aren't queued. */
+    /*! Sets the preset of the page and of all tasks that aren't queued. */
     void chooseGlobal(const QString &id);
-    /*! Chooses the preset of one task, unless it is queued. */
+    /*! Sets the preset of one task, unless it is queued. */
     void choose(int taskId, const QString &id);
 
-    /*! What the task's preset asks of its conversion. */
+    /*! The settings of the task's conversion. */
     [[nodiscard]] OutputSettings outputSettings(const Task &task) const;
 
 Q_SIGNALS:

@@ -20,8 +20,8 @@ int nextId()
 QString detailsOf(const MediaFacts &facts)
 {
     QStringList parts;
-    if (const VideoTrack *picture = facts.video()) {
-        const QSize size = picture->displaySize();
+    if (const VideoTrack *video = facts.video()) {
+        const QSize size = video->displaySize();
         parts << QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
     }
     if (facts.duration > 0) {
@@ -36,11 +36,11 @@ QString detailsOf(const MediaFacts &facts)
 QString codecsOf(const MediaFacts &facts)
 {
     QStringList codecs;
-    if (const VideoTrack *picture = facts.video()) {
-        codecs << picture->codec;
+    if (const VideoTrack *video = facts.video()) {
+        codecs << video->codec;
     }
-    if (const AudioTrack *sound = facts.audio()) {
-        codecs << sound->codec;
+    if (const AudioTrack *audio = facts.audio()) {
+        codecs << audio->codec;
     }
     return codecs.join(QStringLiteral(", "));
 }

@@ -18,10 +18,10 @@ public:
     enum State { Reading, Ready, Waiting, Running, Converted, Failed, Cancelled };
     Q_ENUM(State)
 
-    int id = 0; //!< TaskList::add() gives it; never given twice
+    int id = 0; //!< assigned by TaskList::add(), unique in the process
     QString source;
     MediaFacts facts;
-    QString thumbnail; //!< URL, empty while there is none
+    QString thumbnail; //!< URL; empty until there is one
     QString format;    //!< id of the preset
     QString formatCaption;
     QString formatIcon; //!< URL
@@ -29,7 +29,7 @@ public:
     Progress progress;
     QString error;  //!< Failed: one line that says why
     QString target; //!< Converted: the new file
-    QString note;   //!< Converted: what the new file lacks; empty: nothing
+    QString note;   //!< Converted: what the new file lacks; empty if nothing
     double start = 0;
     double end = 0; //!< seconds; 0: the source's end
 
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] bool hasEnded() const { return state >= Converted; }
 };
 
-/*! The files of a page, in the order in which they came. */
+/*! The files of a page, in the order in which they were added. */
 class TaskList : public QAbstractListModel
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ public:
         StateRole,    //!< a State
         PercentRole,  //!< 0 to 100; -1 when unknown
         SpeedRole,    //!< times real time; 0 when unknown
-        TimeLeftRole, //!< as on a clock; empty when unknown
+        TimeLeftRole, //!< clock text; empty when unknown
         ErrorRole,
         TargetRole,
         NoteRole,
@@ -74,17 +74,17 @@ public:
 
     int count() const { return m_tasks.size(); }
     [[nodiscard]] const QVector<Task> &tasks() const { return m_tasks; }
-    /*! Null when there is no such task. */
+    /*! Null if there is no such task. */
     [[nodiscard]] const Task *find(int id) const;
 
-    /*! Appends it and returns the id that it got. */
+    /*! Appends the task and returns its new id. */
     int add(Task task);
     void remove(int id);
-    /*! Lets \a change alter the task, its id excepted. */
+    /*! Calls \a change, which may change anything but the task's id. */
     void update(int id, const std::function<void(Task &)> &change);
-    /*! Clears the progress, error and target of the state before. */
+    /*! Also clears the progress, error and target of the previous state. */
     void setState(int id, Task::State state);
-    /*! Makes a task that has ended ready again, unless its file can't be read. */
+    /*! Makes an ended task ready again, unless its file can't be read. */
     void reopen(int id);
 
 Q_SIGNALS:

@@ -13,7 +13,7 @@ class ToolFun : public QObject
 public:
     using QObject::QObject;
 
-    /*! The text for \a key in the user's language; \a key itself where there is none. */
+    /*! The text for \a key in the user's language; \a key itself if it isn't translated. */
     static QString text(const QString &key);
     Q_INVOKABLE QString tr(const QString &key) const { return text(key); }
 

@@ -19,7 +19,7 @@
 
 namespace {
 
-/*! While the application connects to the display. Qt would abort where it can't. */
+/*! Handles messages while connecting to the display: on failure Qt would abort. */
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &)
 {
     if (type == QtFatalMsg) {
@@ -32,21 +32,21 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString
 
 MainWindow *shownWindow = nullptr;
 
-/*! Qt ends the process at once when the display goes away, as it may at a log-out. */
+/*! Qt ends the process at once when the display is lost, for example at logout. */
 void endWithDisplay()
 {
     if (shownWindow != nullptr) {
-        // The screens complain about what they lose, and nobody sees them any more.
+        // QML warns about the objects that disappear, which no longer matters.
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         shownWindow->stopWork();
     }
 }
 
-/*! Reports it on standard error and, as a user of the window may not see that, in a dialog. */
+/*! Reports the error on standard error and, as the user may not see that, in a dialog. */
 ExitCode refuse(const Error &error)
 {
     const ExitCode exitCode = report(error);
-    // Without a screen nobody could close it.
+    // Offscreen nobody could close the dialog.
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
         QMessageBox dialog(QMessageBox::Critical, QStringLiteral("VexConvert"),
                            ToolFun::text(QStringLiteral("VexConvert can't open its window")));
@@ -58,11 +58,11 @@ ExitCode refuse(const Error &error)
 
 ExitCode showWindow(const WindowOptions &options)
 {
-    Interrupt interrupt; // signals are caught until all is shut down
+    Interrupt interrupt; // catches signals until everything is shut down
     QObject::connect(&interrupt, &Interrupt::caught, qApp, &QCoreApplication::quit);
     MainWindow window(options.configFolder);
     Result<> opened = window.open();
-    // Whoever has the folder may be about to quit, or about to open its window.
+    // The process that has the folder may be about to quit, or to open its window.
     constexpr int patience = 5000;
     constexpr int pause = 100;
     const QDeadlineTimer deadline(patience);

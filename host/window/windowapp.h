@@ -4,8 +4,8 @@
 struct WindowOptions;
 
 /*!
- * Shows the window until it is closed, or hands its files to a window that is open already. Returns
- * the exit code; where there is no display, ends the program with the one for a wrong call.
+ * Shows the window until it is closed, or passes the files to a window that is already open.
+ * Returns the exit code. Without a display, ends the program with the exit code for wrong usage.
  */
 int runWindow(int &argc, char **argv, const WindowOptions &options);
 

@@ -7,8 +7,7 @@
 
 enum class PageKind { Converter, Editor };
 
-/*! What the window remembers from one start to the next; the library's screens call it
- *  "O_Setting". */
+/*! The window's persistent settings; the library's screens call it "O_Setting". */
 class WindowSettings : public QObject
 {
     Q_OBJECT
@@ -21,10 +20,10 @@ public:
     /*! \a path is the ini file. */
     explicit WindowSettings(const QString &path, QObject *parent = nullptr);
 
-    /*! The preset that the page converts with, where the user chose no other for a task. */
+    /*! The page's preset, for tasks without one of their own. */
     QString globalId(PageKind page) const;
     void setGlobalId(PageKind page, const QString &id);
-    /*! Where the page's results go; empty: beside their sources. */
+    /*! The page's output folder; empty: beside each source. */
     QString folder(PageKind page) const;
     void setFolder(PageKind page, const QString &folder);
 

@@ -49,11 +49,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     put(file.copyPath(), copy);
 
     // The previous contents are still there, or beside the file.
-    const Result<QString> note = file.recover(UserFile::StaysInPlace);
+    const Result<QString> note = file.recover(UserFile::LeaveInPlace);
     require(note.has_value() == (isList(own) || isList(copy)));
     require(!note || note->isEmpty() == isList(own));
     require(own.isEmpty() || hasFileWith(folder, own));
-    require(file.recover(UserFile::IsPutAside).has_value());
+    require(file.recover(UserFile::MoveAside).has_value());
     // Only a damaged copy can be left of presets that were lost earlier.
     require(file.check().has_value() || (!copy.isEmpty() && !isList(copy)));
     require(own.isEmpty() || hasFileWith(folder, own));

@@ -7,13 +7,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/*! A copy of the test's process that does something, tells a text about it and stays. */
+/*! A copy of the test's process that does some work, reports a text and then idles. */
 class ForkedProcess
 {
     Q_DISABLE_COPY(ForkedProcess)
 
 public:
-    /*! \a work takes a function to tell the text with, up to 4 kB, from where the process stays. */
+    /*! \a work is called with a function that reports a text of up to 4 kB and then idles. */
     template <typename Work>
     explicit ForkedProcess(const Work &work)
     {
@@ -25,9 +25,9 @@ public:
         if (m_id == 0) {
             work([&ends](const QString &text) {
                 const QByteArray bytes = text.toUtf8();
-                const ssize_t told = write(ends[1], bytes.constData(), size_t(bytes.size()));
+                const ssize_t written = write(ends[1], bytes.constData(), size_t(bytes.size()));
                 close(ends[1]);
-                while (told == bytes.size()) {
+                while (written == bytes.size()) {
                     pause();
                 }
             });
@@ -35,16 +35,16 @@ public:
         }
         close(ends[1]);
         char bytes[4096];
-        const ssize_t heard = read(ends[0], bytes, sizeof bytes);
-        m_told = QString::fromUtf8(bytes, int(heard));
+        const ssize_t received = read(ends[0], bytes, sizeof bytes);
+        m_report = QString::fromUtf8(bytes, int(received));
         close(ends[0]);
     }
-    ~ForkedProcess() { endWithoutGoodbye(); }
+    ~ForkedProcess() { killNow(); }
 
-    /*! What it told; empty when it ended instead. */
-    [[nodiscard]] QString told() const { return m_told; }
+    /*! The reported text; empty if the process ended instead. */
+    [[nodiscard]] QString report() const { return m_report; }
 
-    void endWithoutGoodbye()
+    void killNow()
     {
         if (m_id > 0) {
             kill(m_id, SIGKILL);
@@ -55,7 +55,7 @@ public:
 
 private:
     pid_t m_id = 0;
-    QString m_told;
+    QString m_report;
 };
 
 #endif

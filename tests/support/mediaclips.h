@@ -6,24 +6,23 @@
 #include <QString>
 #include <QStringList>
 
-/*! Small clips made with ffmpeg, and looked at with ffprobe, both awaited. */
+/*! Small clips, made with ffmpeg and probed with ffprobe; each call waits for the tool. */
 namespace MediaClips {
 
-/*! Runs ffmpeg with these arguments, written with blanks between, and the file to write. */
+/*! Runs ffmpeg with these space-separated arguments, and the file to write. */
 bool make(const QString &path, const QString &arguments);
 
-/*! A film with sound: 320x240, 25 fps, h264; a sine, aac 44100 Hz mono. */
+/*! A video with audio: 320x240, 25 fps, h264; a sine, aac 44100 Hz mono. */
 bool makeFilm(const QString &path, int seconds = 1);
-/*! A sine: 44100 Hz mono, in the usual codec of the file's extension. */
+/*! A sine: 44100 Hz mono, in the extension's usual codec. */
 bool makeSong(const QString &path);
 
 MediaFacts factsOf(const QString &path);
 bool hasEncoder(const QString &name);
 
 /*!
- * Puts a shell script in \a folder in the place of \a tool, for the PATH. In it $REAL is the tool
- * itself, and questions for the encoders are answered by it already: all of ffmpeg's but \a
- * lacking.
+ * Writes a shell script to \a folder that replaces \a tool on the PATH. In the script $REAL is the
+ * real tool. Queries for the encoders are already answered: with all of ffmpeg's except \a lacking.
  */
 bool makeStandIn(const QString &folder, const QString &script,
                  const QString &lacking = QStringLiteral("nothing"),

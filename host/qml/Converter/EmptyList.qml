@@ -41,7 +41,7 @@ Item {
             VEXLabel {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: ToolFun.tr("Drop videos or songs here")
+                text: ToolFun.tr("Drop video or audio files here")
                 font.pixelSize: Theme.largeText
                 font.weight: Font.DemiBold
             }

@@ -134,9 +134,9 @@ void TestLanguages::everyKeyIsTranslated()
              QStringLiteral("Choose folder"),
              QStringLiteral("Add files"),
              QStringLiteral("All files"),
-             QStringLiteral("Videos and songs"),
+             QStringLiteral("Video and audio files"),
              QStringLiteral("VexConvert can't open its window"),
-             QStringLiteral("There are no videos or songs in the folder %1; add the files "
+             QStringLiteral("There are no video or audio files in the folder %1; add the files "
                             "themselves"),
              QStringLiteral("No file manager could be started to show the folder %1; open it by "
                             "hand")};

@@ -71,25 +71,25 @@ class TestCatalogueLint : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aRightCatalogueHasNoMistake();
-    void whatIsWrongIsNamed_data();
-    void whatIsWrongIsNamed();
+    void aValidCatalogueHasNoMistakes();
+    void everyMistakeIsReported_data();
+    void everyMistakeIsReported();
     void offeredValuesHaveTheBoundsOfTheConverter_data();
     void offeredValuesHaveTheBoundsOfTheConverter();
-    void thePresetIsNamedWhereItsOwnValueClashes();
+    void aPresetsInvalidValueIsReportedWithThePreset();
     void onlyAContainerWithoutAudioNeedsNoSettings();
     void aCategoryIsATag();
-    void aMistakeOfSeveralPresetsIsNamedOnce();
+    void aMistakeSharedByPresetsIsReportedOnce();
     void aGroupNameIsUniqueInAllCategories();
-    void mistakesKeepNothingFromBeingServed();
+    void presetsWithMistakesAreStillServed();
 };
 
-void TestCatalogueLint::aRightCatalogueHasNoMistake()
+void TestCatalogueLint::aValidCatalogueHasNoMistakes()
 {
     QCOMPARE(mistakesIn({right}), QStringList());
 }
 
-void TestCatalogueLint::whatIsWrongIsNamed_data()
+void TestCatalogueLint::everyMistakeIsReported_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("mistake");
@@ -308,7 +308,7 @@ void TestCatalogueLint::whatIsWrongIsNamed_data()
         "2");
 }
 
-void TestCatalogueLint::whatIsWrongIsNamed()
+void TestCatalogueLint::everyMistakeIsReported()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, mistake);
@@ -362,7 +362,7 @@ void TestCatalogueLint::offeredValuesHaveTheBoundsOfTheConverter()
     QCOMPARE(OutputSettings::fromPreset(preset).check().has_value(), isPossible);
 }
 
-void TestCatalogueLint::thePresetIsNamedWhereItsOwnValueClashes()
+void TestCatalogueLint::aPresetsInvalidValueIsReportedWithThePreset()
 {
     const QByteArray json = changed({R"("title": "T" }])", R"("title": "T" },
         { "id": "Video_MPEG2_002", "title": "T", "audioOptions": { "channelList": [0, 1] } },
@@ -396,7 +396,7 @@ void TestCatalogueLint::aCategoryIsATag()
                                     "upper or lower case, to be shown")}));
 }
 
-void TestCatalogueLint::aMistakeOfSeveralPresetsIsNamedOnce()
+void TestCatalogueLint::aMistakeSharedByPresetsIsReportedOnce()
 {
     const QByteArray json = changed({R"("title": "T" }])", R"("title": "T" },
         { "id": "Video_MPEG2_002", "title": "T",
@@ -422,7 +422,7 @@ void TestCatalogueLint::aGroupNameIsUniqueInAllCategories()
                                     "rename this one")}));
 }
 
-void TestCatalogueLint::mistakesKeepNothingFromBeingServed()
+void TestCatalogueLint::presetsWithMistakesAreStillServed()
 {
     const CatalogueResult catalogue =
         readCatalogue({{QStringLiteral("f"), changed({"fmt_mp4", "fmt_none"})}});

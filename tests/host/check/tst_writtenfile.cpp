@@ -85,14 +85,14 @@ class TestWrittenFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void deviationsAreNamed_data();
-    void deviationsAreNamed();
-    void allDeviationsAreNamed();
+    void aDeviationIsReported_data();
+    void aDeviationIsReported();
+    void allDeviationsAreReported();
     void packetsAreCountedByStream();
-    void packetsThatCannotBeDoNotCount();
+    void implausiblePacketsAreNotCounted();
 };
 
-void TestWrittenFile::deviationsAreNamed_data()
+void TestWrittenFile::aDeviationIsReported_data()
 {
     QTest::addColumn<Change>("change");
     QTest::addColumn<QString>("deviation");
@@ -313,7 +313,7 @@ void TestWrittenFile::deviationsAreNamed_data()
     bytes("far too little audio", "audio has 32 kbps, not 192", 1, 4000);
 }
 
-void TestWrittenFile::deviationsAreNamed()
+void TestWrittenFile::aDeviationIsReported()
 {
     QFETCH(Change, change);
     QFETCH(QString, deviation);
@@ -324,7 +324,7 @@ void TestWrittenFile::deviationsAreNamed()
     QCOMPARE(file.deviations(asked, source).join(QStringLiteral("; ")), deviation);
 }
 
-void TestWrittenFile::allDeviationsAreNamed()
+void TestWrittenFile::allDeviationsAreReported()
 {
     WrittenFile file = writtenFile();
     file.facts.videoTracks[0].codec = QStringLiteral("hevc");
@@ -340,7 +340,7 @@ void TestWrittenFile::packetsAreCountedByStream()
     QCOMPARE(file.streamBytes, (QHash<int, qint64>{{0, 1234}, {1, 20}, {2, 7}}));
 }
 
-void TestWrittenFile::packetsThatCannotBeDoNotCount()
+void TestWrittenFile::implausiblePacketsAreNotCounted()
 {
     WrittenFile file;
     file.readPackets("0,9223372036854775807\n0,9223372036854775807\n0,-5\n-1,5\nN/A,5\n0,8");

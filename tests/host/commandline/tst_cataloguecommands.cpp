@@ -16,22 +16,22 @@ private Q_SLOTS:
     void presetsAreListedInColumns_data();
     void presetsAreListedInColumns();
     void aPresetIsShownWithItsChoices();
-    void listsComeAsJson_data();
-    void listsComeAsJson();
+    void listsCanBePrintedAsJson_data();
+    void listsCanBePrintedAsJson();
     void theFittingPresetIsPrinted_data();
     void theFittingPresetIsPrinted();
-    void anUnknownFormatIsReplacedAndSaid();
+    void anUnknownFormatIsReplacedAndReported();
 };
 
 void TestCatalogueCommands::formatsAreListedInColumns()
 {
-    const CommandRun told = run("formats");
-    QCOMPARE(told.exitCode, 0);
-    QCOMPARE(told.out, QStringLiteral("Format  Tag    Presets\n"
-                                      "MP4     video  2\n"
-                                      "MKV     video  1\n"
-                                      "MP3     audio  2\n"));
-    QCOMPARE(told.err, QString());
+    const CommandRun result = run("formats");
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.out, QStringLiteral("Format  Tag    Presets\n"
+                                        "MP4     video  2\n"
+                                        "MKV     video  1\n"
+                                        "MP3     audio  2\n"));
+    QCOMPARE(result.err, QString());
 }
 
 void TestCatalogueCommands::formatsAreListedByTag()
@@ -65,7 +65,7 @@ void TestCatalogueCommands::presetsAreListedInColumns_data()
         "V_MP4_2  Tiny            mp4   h264    160x90  25      500         aac     2         "
         "48000   96\n");
     QTest::newRow("video") << QStringLiteral("MP4") << mp4;
-    QTest::newRow("in whatever case") << QStringLiteral("mp4") << mp4;
+    QTest::newRow("in any case") << QStringLiteral("mp4") << mp4;
     QTest::newRow("audio") << QStringLiteral("MP3")
                            << QStringLiteral(
                                   "Id       Title   File  Audio  Channels  Hz     Audio "
@@ -103,7 +103,7 @@ void TestCatalogueCommands::aPresetIsShownWithItsChoices()
     QVERIFY(!run("show A_MP3_1").out.contains(QStringLiteral("Video")));
 }
 
-void TestCatalogueCommands::listsComeAsJson_data()
+void TestCatalogueCommands::listsCanBePrintedAsJson_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("size");
@@ -114,14 +114,14 @@ void TestCatalogueCommands::listsComeAsJson_data()
     QTest::newRow("user") << QStringLiteral("user list --json") << 0;
 }
 
-void TestCatalogueCommands::listsComeAsJson()
+void TestCatalogueCommands::listsCanBePrintedAsJson()
 {
     QFETCH(QString, line);
     QFETCH(int, size);
-    const CommandRun told = run(line.split(QLatin1Char(' ')));
-    QCOMPARE(told.exitCode, 0);
-    const QJsonDocument json = QJsonDocument::fromJson(told.out.toUtf8());
-    QVERIFY2(json.isArray(), qPrintable(told.out));
+    const CommandRun result = run(line.split(QLatin1Char(' ')));
+    QCOMPARE(result.exitCode, 0);
+    const QJsonDocument json = QJsonDocument::fromJson(result.out.toUtf8());
+    QVERIFY2(json.isArray(), qPrintable(result.out));
     QCOMPARE(json.array().size(), size);
 }
 
@@ -142,19 +142,20 @@ void TestCatalogueCommands::theFittingPresetIsPrinted()
 {
     QFETCH(QString, wish);
     QFETCH(QString, id);
-    const CommandRun told = run(QStringList{QStringLiteral("fit")} + wish.split(QLatin1Char(' ')));
-    QCOMPARE(told.exitCode, 0);
-    const QJsonObject preset = QJsonDocument::fromJson(told.out.toUtf8()).object();
+    const CommandRun result =
+        run(QStringList{QStringLiteral("fit")} + wish.split(QLatin1Char(' ')));
+    QCOMPARE(result.exitCode, 0);
+    const QJsonObject preset = QJsonDocument::fromJson(result.out.toUtf8()).object();
     QCOMPARE(preset.value(QStringLiteral("id")).toString(), id);
-    QCOMPARE(told.err, QString());
+    QCOMPARE(result.err, QString());
 }
 
-void TestCatalogueCommands::anUnknownFormatIsReplacedAndSaid()
+void TestCatalogueCommands::anUnknownFormatIsReplacedAndReported()
 {
-    const CommandRun told = run("fit --type audio --format bogus --target 320");
-    QCOMPARE(told.exitCode, 0);
-    QVERIFY(told.out.contains(QStringLiteral("A_MP3_1")));
-    QCOMPARE(told.err,
+    const CommandRun result = run("fit --type audio --format bogus --target 320");
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.out.contains(QStringLiteral("A_MP3_1")));
+    QCOMPARE(result.err,
              QStringLiteral("vexconvert: there is no format \"bogus\"; the default one for "
                             "audio is used instead\n"));
 }

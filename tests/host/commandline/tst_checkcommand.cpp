@@ -58,17 +58,17 @@ private Q_SLOTS:
     void cleanup();
 
     void everyPresetIsConverted();
-    void presetsThatAskForTheSameShareAConversion();
-    void quickTakesTheLastPresetOfEachFormat();
-    void whatFailsIsNamedWithItsReason_data();
-    void whatFailsIsNamedWithItsReason();
+    void presetsWithEqualSettingsShareAConversion();
+    void quickChecksTheLastPresetOfEachFormat();
+    void failuresAreNamedWithTheirReasons_data();
+    void failuresAreNamedWithTheirReasons();
     void aResultThatCannotBeMeasuredFails();
-    void aFormatThatIsNeverShownFails();
+    void aHiddenFormatFails();
     void mistakesAreNamedAndTheRestIsConverted();
     void withoutAValidPresetNothingIsConverted();
-    void itComesAsJson();
+    void theReportCanBePrintedAsJson();
     void interruptingLeavesNothing();
-    void whatAKilledCheckLeftGoesWithTheNext();
+    void theNextCheckRemovesWhatAKilledOneLeft();
     void withoutFfmpegItSaysWhatToInstall();
 
 private:
@@ -134,8 +134,8 @@ void TestCheckCommand::cleanup()
 
 void TestCheckCommand::everyPresetIsConverted()
 {
-    const CommandRun told = run();
-    QCOMPARE(told.out,
+    const CommandRun result = run();
+    QCOMPARE(result.out,
              QStringLiteral(
                  "No mistakes in the catalogue's files.\n"
                  "\n"
@@ -148,11 +148,11 @@ void TestCheckCommand::everyPresetIsConverted()
                  "\n"
                  "2 of 3 presets convert as expected, 1 need an encoder that this ffmpeg lacks, 0 "
                  "failed.\n"));
-    QCOMPARE(told.err, QString());
-    QCOMPARE(told.exitCode, 0);
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.exitCode, 0);
 }
 
-void TestCheckCommand::presetsThatAskForTheSameShareAConversion()
+void TestCheckCommand::presetsWithEqualSettingsShareAConversion()
 {
     const QString conversions = path(QStringLiteral("conversions"));
     putInPlaceOfFfmpeg(QStringLiteral("case \"$*\" in *libmp3lame*) echo x >> %1;; esac\n"
@@ -169,7 +169,7 @@ void TestCheckCommand::presetsThatAskForTheSameShareAConversion()
     QCOMPARE(conversionsOf(R"(, "audioParam": { "channel": 2 })"), 2);
 }
 
-void TestCheckCommand::quickTakesTheLastPresetOfEachFormat()
+void TestCheckCommand::quickChecksTheLastPresetOfEachFormat()
 {
     const QJsonObject json =
         QJsonDocument::fromJson(
@@ -182,7 +182,7 @@ void TestCheckCommand::quickTakesTheLastPresetOfEachFormat()
     QCOMPARE(ids, QStringList({QStringLiteral("Video_AVI_002"), QStringLiteral("Video_AMR_001")}));
 }
 
-void TestCheckCommand::whatFailsIsNamedWithItsReason_data()
+void TestCheckCommand::failuresAreNamedWithTheirReasons_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("reason");
@@ -201,19 +201,19 @@ void TestCheckCommand::whatFailsIsNamedWithItsReason_data()
         << QStringLiteral("64x36 isn't scaled to fit 160x90; 44100 Hz, not 48000");
 }
 
-void TestCheckCommand::whatFailsIsNamedWithItsReason()
+void TestCheckCommand::failuresAreNamedWithTheirReasons()
 {
     QFETCH(QString, script);
     QFETCH(QString, reason);
     putInPlaceOfFfmpeg(script);
-    const CommandRun told = run({QStringLiteral("--quick")});
-    QCOMPARE(told.exitCode, 1);
-    QVERIFY2(told.out.contains(QStringLiteral("\nAVI     video  1        0          0            "
-                                              "    1\n")),
-             qPrintable(told.out));
-    QVERIFY2(told.out.contains(QStringLiteral("\nVideo_AVI_002  %1\n").arg(reason)),
-             qPrintable(told.out));
-    QVERIFY(told.out.endsWith(QStringLiteral(
+    const CommandRun result = run({QStringLiteral("--quick")});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.out.contains(QStringLiteral("\nAVI     video  1        0          0            "
+                                                "    1\n")),
+             qPrintable(result.out));
+    QVERIFY2(result.out.contains(QStringLiteral("\nVideo_AVI_002  %1\n").arg(reason)),
+             qPrintable(result.out));
+    QVERIFY(result.out.endsWith(QStringLiteral(
         "\n0 of 2 presets convert as expected, 1 need an encoder that this ffmpeg lacks, 1 "
         "failed.\n")));
 }
@@ -225,19 +225,20 @@ void TestCheckCommand::aResultThatCannotBeMeasuredFails()
         QStringLiteral("case \"$*\" in *packet*) echo 'no luck' >&2; exit 1;; esac\n"
                        "exec $REAL \"$@\""),
         QStringLiteral("nothing"), QStringLiteral("ffprobe")));
-    const CommandRun told = run({QStringLiteral("--quick")});
-    QCOMPARE(told.exitCode, 1);
-    QVERIFY2(told.out.contains(QStringLiteral("\nVideo_AVI_002  no luck\n")), qPrintable(told.out));
+    const CommandRun result = run({QStringLiteral("--quick")});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.out.contains(QStringLiteral("\nVideo_AVI_002  no luck\n")),
+             qPrintable(result.out));
 }
 
-void TestCheckCommand::aFormatThatIsNeverShownFails()
+void TestCheckCommand::aHiddenFormatFails()
 {
     writeCatalogue(R"("name": "AMR")", R"("name": "优酷")");
-    const CommandRun told = run({QStringLiteral("--quick")});
-    QCOMPARE(told.exitCode, 1);
-    QVERIFY2(told.out.contains(QStringLiteral(
+    const CommandRun result = run({QStringLiteral("--quick")});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.out.contains(QStringLiteral(
                  "\nVideo_AMR_001  the library has no such preset in this format\n")),
-             qPrintable(told.out));
+             qPrintable(result.out));
 }
 
 void TestCheckCommand::mistakesAreNamedAndTheRestIsConverted()
@@ -269,21 +270,21 @@ void TestCheckCommand::mistakesAreNamedAndTheRestIsConverted()
 void TestCheckCommand::withoutAValidPresetNothingIsConverted()
 {
     writeCatalogue("{ \"category\": \"Video\" ");
-    const CommandRun told = run();
-    QCOMPARE(told.out,
+    const CommandRun result = run();
+    QCOMPARE(result.out,
              path(QStringLiteral("own.json")) +
                  QStringLiteral(":1:22: expected a comma, a closing brace or a key in double "
                                 "quotes; left out\n"
                                 "Mistakes in the catalogue's files: 1\n"));
-    QCOMPARE(told.exitCode, 1);
+    QCOMPARE(result.exitCode, 1);
 }
 
-void TestCheckCommand::itComesAsJson()
+void TestCheckCommand::theReportCanBePrintedAsJson()
 {
     writeCatalogue(R"("fmt_amr")", R"("fmt_none")");
-    const CommandRun told = run({QStringLiteral("--quick"), QStringLiteral("--json")});
-    QCOMPARE(told.exitCode, 1);
-    const QJsonObject json = QJsonDocument::fromJson(told.out.toUtf8()).object();
+    const CommandRun result = run({QStringLiteral("--quick"), QStringLiteral("--json")});
+    QCOMPARE(result.exitCode, 1);
+    const QJsonObject json = QJsonDocument::fromJson(result.out.toUtf8()).object();
     QCOMPARE(json[QStringLiteral("mistakes")].toArray(),
              QJsonArray({QJsonObject{
                  {QStringLiteral("file"), path(QStringLiteral("own.json"))},
@@ -314,7 +315,7 @@ void TestCheckCommand::startEndless(QProcess &process) const
     QVERIFY(!temporaryFiles().isEmpty());
 }
 
-void TestCheckCommand::whatAKilledCheckLeftGoesWithTheNext()
+void TestCheckCommand::theNextCheckRemovesWhatAKilledOneLeft()
 {
     QProcess process;
     startEndless(process);
@@ -338,10 +339,10 @@ void TestCheckCommand::interruptingLeavesNothing()
 void TestCheckCommand::withoutFfmpegItSaysWhatToInstall()
 {
     m_environment.insert(QStringLiteral("PATH"), path(QStringLiteral("tmp")));
-    const CommandRun told = run();
-    QCOMPARE(told.exitCode, 1);
+    const CommandRun result = run();
+    QCOMPARE(result.exitCode, 1);
     QCOMPARE(
-        told.err,
+        result.err,
         QStringLiteral("vexconvert: couldn't make a clip to convert: ffmpeg is not on the PATH; "
                        "install ffmpeg (Debian: apt-get install ffmpeg) and try "
                        "again\n"));

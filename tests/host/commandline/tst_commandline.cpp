@@ -12,16 +12,16 @@ private Q_SLOTS:
     void helpIsPrinted_data();
     void helpIsPrinted();
     void theVersionIsPrinted();
-    void aWrongCallIsExplained_data();
-    void aWrongCallIsExplained();
-    void outputThatGetsLostIsSaid();
-    void closedStreamsSendNoOutputIntoFiles();
-    void aReaderThatWantsNoMoreIsNoError_data();
-    void aReaderThatWantsNoMoreIsNoError();
-    void readingWritesNothing();
-    void aConfigFolderThatCannotBeIsSaid();
-    void theUsualConfigFolderIsThePlatforms();
-    void aConfigFolderMayBeNamedBehindTheSubcommand();
+    void wrongUsageIsExplained_data();
+    void wrongUsageIsExplained();
+    void lostOutputIsReported();
+    void closedStandardStreamsNeverWriteToFiles();
+    void aClosedPipeIsNotAnError_data();
+    void aClosedPipeIsNotAnError();
+    void readOnlyCommandsWriteNothing();
+    void anUnusableConfigFolderIsReported();
+    void theDefaultConfigFolderIsThePlatforms();
+    void theConfigOptionMayFollowTheSubcommand();
 };
 
 void TestCommandLine::helpIsPrinted_data()
@@ -45,21 +45,21 @@ void TestCommandLine::helpIsPrinted()
 {
     QFETCH(QString, line);
     QFETCH(QString, start);
-    const CommandRun told = run(line.split(QLatin1Char(' ')));
-    QCOMPARE(told.exitCode, 0);
-    QVERIFY2(told.out.startsWith(start), qPrintable(told.out));
-    QVERIFY(told.out.contains(QStringLiteral("--config <DIR>")));
-    QCOMPARE(told.err, QString());
+    const CommandRun result = run(line.split(QLatin1Char(' ')));
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.out.startsWith(start), qPrintable(result.out));
+    QVERIFY(result.out.contains(QStringLiteral("--config <DIR>")));
+    QCOMPARE(result.err, QString());
 }
 
 void TestCommandLine::theVersionIsPrinted()
 {
-    const CommandRun told = run("--version");
-    QCOMPARE(told.exitCode, 0);
-    QCOMPARE(told.out, QStringLiteral("vexconvert " VEX_VERSION "\n"));
+    const CommandRun result = run("--version");
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.out, QStringLiteral("vexconvert " VEX_VERSION "\n"));
 }
 
-void TestCommandLine::aWrongCallIsExplained_data()
+void TestCommandLine::wrongUsageIsExplained_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("error");
@@ -113,30 +113,30 @@ void TestCommandLine::aWrongCallIsExplained_data()
     row("user delete bogus", "no preset has the id \"bogus\"");
 }
 
-void TestCommandLine::aWrongCallIsExplained()
+void TestCommandLine::wrongUsageIsExplained()
 {
     QFETCH(QString, line);
     QFETCH(QString, error);
-    const CommandRun told = run(line.split(QLatin1Char(' ')));
-    QCOMPARE(told.exitCode, 2);
-    QCOMPARE(told.out, QString());
-    QVERIFY2(told.err.startsWith(QStringLiteral("vexconvert: ") + error), qPrintable(told.err));
-    QCOMPARE(told.err.count(QLatin1Char('\n')), 1);
+    const CommandRun result = run(line.split(QLatin1Char(' ')));
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(result.out, QString());
+    QVERIFY2(result.err.startsWith(QStringLiteral("vexconvert: ") + error), qPrintable(result.err));
+    QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
     QCOMPARE(everything(), QStringList{QStringLiteral("film.mp4")});
     QVERIFY(!QFile::exists(config() + QStringLiteral("/formatCache.json")));
 }
 
-void TestCommandLine::outputThatGetsLostIsSaid()
+void TestCommandLine::lostOutputIsReported()
 {
     QProcess process;
     process.setStandardOutputFile(QStringLiteral("/dev/full"));
     start(process, words("formats"));
-    const CommandRun told = CommandRun::of(process);
-    QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.err, QStringLiteral("vexconvert: the output couldn't be written\n"));
+    const CommandRun result = CommandRun::of(process);
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.err, QStringLiteral("vexconvert: the output couldn't be written\n"));
 }
 
-void TestCommandLine::closedStreamsSendNoOutputIntoFiles()
+void TestCommandLine::closedStandardStreamsNeverWriteToFiles()
 {
     ProcessWithoutStreams process;
     start(process,
@@ -151,7 +151,7 @@ void TestCommandLine::closedStreamsSendNoOutputIntoFiles()
     }
 }
 
-void TestCommandLine::aReaderThatWantsNoMoreIsNoError_data()
+void TestCommandLine::aClosedPipeIsNotAnError_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("exitCode");
@@ -165,7 +165,7 @@ void TestCommandLine::aReaderThatWantsNoMoreIsNoError_data()
         << QStringLiteral("film.mkv|film.mp4");
 }
 
-void TestCommandLine::aReaderThatWantsNoMoreIsNoError()
+void TestCommandLine::aClosedPipeIsNotAnError()
 {
     QFETCH(QString, line);
     QFETCH(int, exitCode);
@@ -173,14 +173,14 @@ void TestCommandLine::aReaderThatWantsNoMoreIsNoError()
     ProcessWithoutReader process;
     start(process,
           QStringList{QStringLiteral("--config"), config()} + line.split(QLatin1Char(' ')));
-    const CommandRun told = CommandRun::of(process);
-    QCOMPARE(told.exitCode, exitCode);
-    QVERIFY2(!told.err.contains(QStringLiteral("the output")), qPrintable(told.err));
-    QCOMPARE(told.err.count(QLatin1Char('\n')), exitCode);
+    const CommandRun result = CommandRun::of(process);
+    QCOMPARE(result.exitCode, exitCode);
+    QVERIFY2(!result.err.contains(QStringLiteral("the output")), qPrintable(result.err));
+    QCOMPARE(result.err.count(QLatin1Char('\n')), exitCode);
     QCOMPARE(everything(), result.split(QLatin1Char('|')));
 }
 
-void TestCommandLine::readingWritesNothing()
+void TestCommandLine::readOnlyCommandsWriteNothing()
 {
     for (const char *line : {"formats", "presets MP4", "show V_MP4_1", "recent", "user list",
                              "fit --type audio --format MP3 --target 1"}) {
@@ -189,19 +189,19 @@ void TestCommandLine::readingWritesNothing()
     QVERIFY(!QFile::exists(config()));
 }
 
-void TestCommandLine::aConfigFolderThatCannotBeIsSaid()
+void TestCommandLine::anUnusableConfigFolderIsReported()
 {
     QVERIFY(writeFile(config(), "a file"));
-    const CommandRun told = run("user add V_MP4_1 --title x");
-    QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.err, QStringLiteral("vexconvert: can't write into the configuration folder %1 "
-                                      "(Not a directory); name another one\n")
-                           .arg(config()));
+    const CommandRun result = run("user add V_MP4_1 --title x");
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.err, QStringLiteral("vexconvert: can't write into the configuration folder %1 "
+                                        "(Not a directory); name another one\n")
+                             .arg(config()));
     QCOMPARE(contentOf(config()), QByteArray("a file"));
     QCOMPARE(run("convert film.mp4 --preset V_MKV_1").exitCode, 0);
 }
 
-void TestCommandLine::theUsualConfigFolderIsThePlatforms()
+void TestCommandLine::theDefaultConfigFolderIsThePlatforms()
 {
     m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("home")));
     QProcess process;
@@ -210,7 +210,7 @@ void TestCommandLine::theUsualConfigFolderIsThePlatforms()
     QVERIFY(QFile::exists(path(QStringLiteral("home/vexconvert/formatCache.json"))));
 }
 
-void TestCommandLine::aConfigFolderMayBeNamedBehindTheSubcommand()
+void TestCommandLine::theConfigOptionMayFollowTheSubcommand()
 {
     QCOMPARE(run("user add V_MP4_1 --title x").exitCode, 0);
     m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("home")));

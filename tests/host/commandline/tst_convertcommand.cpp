@@ -25,9 +25,9 @@ private Q_SLOTS:
     void aNameInUseIsNumberedUnlessOverwriting();
     void interruptingLeavesNothing_data();
     void interruptingLeavesNothing();
-    void killedItLeavesNoToolRunning();
+    void aKillLeavesNoToolRunning();
     void withoutFfmpegItSaysWhatToInstall();
-    void shortOfFileDescriptorsItSaysSo();
+    void aLackOfFileDescriptorsIsReported();
     void aPlaylistIsRefused();
     void aDamagedPresetIsRefused_data();
     void aDamagedPresetIsRefused();
@@ -42,25 +42,25 @@ void TestConvertCommand::initTestCase()
 
 void TestConvertCommand::aFileIsConverted()
 {
-    const CommandRun told = run("convert film.mp4 --preset V_MKV_1");
-    QCOMPARE(told.err, QString());
-    QCOMPARE(told.exitCode, 0);
+    const CommandRun result = run("convert film.mp4 --preset V_MKV_1");
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.exitCode, 0);
     const QString target = path(QStringLiteral("film.mkv"));
     const MediaFacts facts = MediaClips::factsOf(target);
     QCOMPARE(facts.video()->codec, QStringLiteral("mpeg4"));
-    const QStringList lines = told.out.trimmed().split(QLatin1Char('\n'));
+    const QStringList lines = result.out.trimmed().split(QLatin1Char('\n'));
     QVERIFY(lines.size() >= 2);
     QCOMPARE(lines.at(lines.size() - 2), QStringLiteral("film.mp4 -> ") + target);
     QCOMPARE(lines.constLast(), QStringLiteral("  ") + facts.summary());
     QVERIFY2(lines.constFirst().startsWith(QStringLiteral("film.mp4: ")),
              qPrintable(lines.constFirst()));
-    QVERIFY(!told.out.contains(QLatin1Char('\r')));
+    QVERIFY(!result.out.contains(QLatin1Char('\r')));
 }
 
 void TestConvertCommand::aFittingPresetConverts()
 {
-    const CommandRun told = run("convert film.mp4 --type audio --format MP3 --target 320");
-    QCOMPARE(told.exitCode, 0);
+    const CommandRun result = run("convert film.mp4 --type audio --format MP3 --target 320");
+    QCOMPARE(result.exitCode, 0);
     QCOMPARE(MediaClips::factsOf(path(QStringLiteral("film.mp3"))).audio()->codec,
              QStringLiteral("mp3"));
     QCOMPARE(recentIds(), QStringList());
@@ -69,13 +69,13 @@ void TestConvertCommand::aFittingPresetConverts()
 void TestConvertCommand::oneBadFileDoesNotStopTheOthers()
 {
     QVERIFY(writeFile(path(QStringLiteral("bad.avi")), "no media"));
-    const CommandRun told = run("convert missing.mp4 bad.avi film.mp4 --preset V_MKV_1");
-    QCOMPARE(told.exitCode, 1);
-    QVERIFY(
-        told.err.startsWith(QStringLiteral("vexconvert: missing.mp4: no such file; check its name\n"
-                                           "vexconvert: bad.avi: cannot be read as media (")));
-    QCOMPARE(told.err.count(QLatin1Char('\n')), 2);
-    QVERIFY(told.out.endsWith(QStringLiteral("1 of 3 files converted\n")));
+    const CommandRun result = run("convert missing.mp4 bad.avi film.mp4 --preset V_MKV_1");
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(result.err.startsWith(
+        QStringLiteral("vexconvert: missing.mp4: no such file; check its name\n"
+                       "vexconvert: bad.avi: cannot be read as media (")));
+    QCOMPARE(result.err.count(QLatin1Char('\n')), 2);
+    QVERIFY(result.out.endsWith(QStringLiteral("1 of 3 files converted\n")));
     QCOMPARE(everything(), words("bad.avi film.mkv film.mp4"));
 }
 
@@ -96,11 +96,11 @@ void TestConvertCommand::resultsOfOneRunAreNotOverwritten()
 void TestConvertCommand::aDryRunOnlyPrintsTheCommand()
 {
     QVERIFY(QFile::rename(path(QStringLiteral("film.mp4")), path(QStringLiteral("it's.mp4"))));
-    const CommandRun told =
+    const CommandRun result =
         run({QStringLiteral("convert"), QStringLiteral("it's.mp4"), QStringLiteral("--preset"),
              QStringLiteral("V_MP4_1"), QStringLiteral("--dry-run")});
-    QCOMPARE(told.exitCode, 0);
-    QCOMPARE(told.out,
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.out,
              QStringLiteral(
                  "ffmpeg -nostdin -hide_banner -v error -progress pipe:1 -y "
                  "-protocol_whitelist file -format_whitelist "
@@ -145,9 +145,9 @@ void TestConvertCommand::interruptingLeavesNothing()
     GroupProcess process;
     start(process, QStringList{QStringLiteral("--config"), config()} +
                        words("convert long.mp4 film.mp4 --preset V_MKV_1"));
-    QByteArray told;
-    while (!told.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
-        told += process.readAllStandardOutput();
+    QByteArray result;
+    while (!result.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
+        result += process.readAllStandardOutput();
     }
     QCOMPARE(everything().size(), 3);
     QCOMPARE(::kill(-pid_t(process.processId()), signalNumber), 0);
@@ -159,7 +159,7 @@ void TestConvertCommand::interruptingLeavesNothing()
     QCOMPARE(contentOf(path(QStringLiteral("long.mp4"))), before);
 }
 
-void TestConvertCommand::killedItLeavesNoToolRunning()
+void TestConvertCommand::aKillLeavesNoToolRunning()
 {
     const QTemporaryDir tools;
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("long.mp4")),
@@ -173,9 +173,9 @@ void TestConvertCommand::killedItLeavesNoToolRunning()
     QProcess process;
     start(process, QStringList{QStringLiteral("--config"), config()} +
                        words("convert long.mp4 --preset V_MKV_1"));
-    QByteArray told;
-    while (!told.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
-        told += process.readAllStandardOutput();
+    QByteArray result;
+    while (!result.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
+        result += process.readAllStandardOutput();
     }
     const qint64 helper =
         contentOf(tools.filePath(QStringLiteral("helper"))).trimmed().toLongLong();
@@ -188,14 +188,14 @@ void TestConvertCommand::killedItLeavesNoToolRunning()
 void TestConvertCommand::withoutFfmpegItSaysWhatToInstall()
 {
     m_environment.insert(QStringLiteral("PATH"), m_folder->path());
-    const CommandRun told = run("convert film.mp4 --preset V_MKV_1");
-    QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.err, QStringLiteral("vexconvert: film.mp4: ffprobe is not on the PATH; install "
-                                      "ffmpeg (Debian: apt-get install ffmpeg) and try again\n"));
+    const CommandRun result = run("convert film.mp4 --preset V_MKV_1");
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.err, QStringLiteral("vexconvert: film.mp4: ffprobe is not on the PATH; install "
+                                        "ffmpeg (Debian: apt-get install ffmpeg) and try again\n"));
     QCOMPARE(run("formats").exitCode, 0);
 }
 
-void TestConvertCommand::shortOfFileDescriptorsItSaysSo()
+void TestConvertCommand::aLackOfFileDescriptorsIsReported()
 {
     const QString reason = QStringLiteral("vexconvert: film.mp4: ffprobe couldn't be started (");
     bool isSaid = false;
@@ -209,10 +209,10 @@ void TestConvertCommand::shortOfFileDescriptorsItSaysSo()
              QStringLiteral(VEXCONVERT), QStringLiteral("--config"), config(),
              QStringLiteral("convert"), QStringLiteral("film.mp4"), QStringLiteral("--preset"),
              QStringLiteral("V_MKV_1"), QStringLiteral("--dry-run")});
-        const CommandRun told = CommandRun::of(process);
-        QVERIFY2(!told.err.contains(QStringLiteral("PATH")), qPrintable(told.err));
-        QVERIFY2(told.err.count(QStringLiteral("film.mp4: ")) <= 1, qPrintable(told.err));
-        isSaid = isSaid || (told.exitCode == 1 && told.err.contains(reason));
+        const CommandRun result = CommandRun::of(process);
+        QVERIFY2(!result.err.contains(QStringLiteral("PATH")), qPrintable(result.err));
+        QVERIFY2(result.err.count(QStringLiteral("film.mp4: ")) <= 1, qPrintable(result.err));
+        isSaid = isSaid || (result.exitCode == 1 && result.err.contains(reason));
     }
     QVERIFY(isSaid);
 }
@@ -222,10 +222,10 @@ void TestConvertCommand::aPlaylistIsRefused()
     QVERIFY(writeFile(path(QStringLiteral("holiday.mp4")),
                       "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n"
                       "film.mp4\n#EXT-X-ENDLIST\n"));
-    const CommandRun told = run("convert holiday.mp4 --preset V_MKV_1");
-    QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.err, QStringLiteral("vexconvert: holiday.mp4: is a playlist; choose the files "
-                                      "that it lists\n"));
+    const CommandRun result = run("convert holiday.mp4 --preset V_MKV_1");
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.err, QStringLiteral("vexconvert: holiday.mp4: is a playlist; choose the files "
+                                        "that it lists\n"));
     QCOMPARE(everything(), words("film.mp4 holiday.mp4"));
 }
 
@@ -252,11 +252,12 @@ void TestConvertCommand::aDamagedPresetIsRefused()
     QVERIFY(writeFile(file, presets.replace(good, bad)));
     const QString id =
         run("user list").out.section(QLatin1Char('\n'), 1).section(QLatin1Char(' '), 0, 0);
-    const CommandRun told = run(
+    const CommandRun result = run(
         {QStringLiteral("convert"), QStringLiteral("film.mp4"), QStringLiteral("--preset"), id});
-    QCOMPARE(told.exitCode, 1);
-    QVERIFY2(told.err.endsWith(QStringLiteral("; choose another preset\n")), qPrintable(told.err));
-    QCOMPARE(told.err.count(QLatin1Char('\n')), 1);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.err.endsWith(QStringLiteral("; choose another preset\n")),
+             qPrintable(result.err));
+    QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
     QCOMPARE(everything(), words("film.mp4"));
 }
 

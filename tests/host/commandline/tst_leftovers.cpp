@@ -16,8 +16,8 @@ private Q_SLOTS:
     void initTestCase();
     void init();
 
-    void whatAKilledConversionWroteGoesWithTheNext();
-    void whatALivingConversionWritesStays();
+    void theNextConversionRemovesWhatAKilledOneWrote();
+    void filesOfARunningConversionStay();
 
 private:
     QStringList hidden() const
@@ -41,7 +41,7 @@ private:
     void startSlowly(QProcess &process) const
     {
         start(process, QStringLiteral("long.mp4"), MediaClips::pathWith(m_tools.path()));
-        // The output's first line tells that ffmpeg writes.
+        // The first line of output means that ffmpeg is writing.
         QVERIFY(process.waitForReadyRead(patience));
     }
     CommandRun convertFilm() const
@@ -69,7 +69,7 @@ void TestLeftovers::init()
     QVERIFY(m_folder->isValid());
 }
 
-void TestLeftovers::whatAKilledConversionWroteGoesWithTheNext()
+void TestLeftovers::theNextConversionRemovesWhatAKilledOneWrote()
 {
     QProcess killed;
     startSlowly(killed);
@@ -81,7 +81,7 @@ void TestLeftovers::whatAKilledConversionWroteGoesWithTheNext()
     QCOMPARE(results(), QStringList{QStringLiteral("film.mkv")});
 }
 
-void TestLeftovers::whatALivingConversionWritesStays()
+void TestLeftovers::filesOfARunningConversionStay()
 {
     QProcess living;
     startSlowly(living);

@@ -1,4 +1,4 @@
-#include "host/files/filenames.h"
+#include "host/files/filenamecodec.h"
 
 #include "tests/support/commandrun.h"
 #include "tests/support/mediaclips.h"
@@ -27,11 +27,11 @@ private Q_SLOTS:
     void aNameInUseIsNumbered();
     void aDryRunCanBePasted_data() { aResultKeepsTheBytesOfTheName_data(); }
     void aDryRunCanBePasted();
-    void noNameMovesTheCursorOrForgesALine_data();
-    void noNameMovesTheCursorOrForgesALine();
-    void whatFfmpegSaysAboutANameIsSafeToo();
+    void noNameCanMoveTheCursorOrForgeALine_data();
+    void noNameCanMoveTheCursorOrForgeALine();
+    void ffmpegsMessagesAboutNamesAreSafe();
     void aTitleIsSafeInTablesAndJson();
-    void aMistakeInACatalogueIsSafeToo();
+    void messagesAboutCataloguesAreSafe();
 
 private:
     QString path(const QByteArray &name) const
@@ -80,7 +80,7 @@ private:
 
 void TestOddNames::initTestCase()
 {
-    keepBytesOfFileNames();
+    installFileNameCodec();
     QVERIFY(MediaClips::makeFilm(m_clips.filePath(QStringLiteral("film.mp4"))));
 }
 
@@ -116,9 +116,9 @@ void TestOddNames::aResultKeepsTheBytesOfTheName()
     QFETCH(QByteArray, result);
     QVERIFY(QDir().mkpath(path(folder)));
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("film.mp4")), path(folder + name)));
-    const CommandRun told = convert(folder + name);
-    QCOMPARE(told.err, QString());
-    QCOMPARE(told.exitCode, 0);
+    const CommandRun result = convert(folder + name);
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.exitCode, 0);
     QByteArrayList both = {name, result};
     QByteArrayList found = names(QFile::decodeName(folder));
     std::sort(both.begin(), both.end());
@@ -142,18 +142,18 @@ void TestOddNames::aDryRunCanBePasted()
     QFETCH(QByteArray, result);
     QVERIFY(QDir().mkpath(path(folder)));
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("film.mp4")), path(folder + name)));
-    const CommandRun told = convert(folder + name, {QStringLiteral("--dry-run")});
-    QCOMPARE(told.exitCode, 0);
-    QCOMPARE(told.out.count(QLatin1Char('\n')), 1);
-    verifyVisible(told.out);
-    QVERIFY(!told.out.contains(QChar::ReplacementCharacter));
+    const CommandRun result = convert(folder + name, {QStringLiteral("--dry-run")});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.out.count(QLatin1Char('\n')), 1);
+    verifyVisible(result.out);
+    QVERIFY(!result.out.contains(QChar::ReplacementCharacter));
     QProcess shell;
-    shell.start(QStringLiteral("bash"), {QStringLiteral("-c"), told.out});
+    shell.start(QStringLiteral("bash"), {QStringLiteral("-c"), result.out});
     QCOMPARE(CommandRun::of(shell).exitCode, 0);
     QVERIFY(QFile::exists(path(folder + result)));
 }
 
-void TestOddNames::noNameMovesTheCursorOrForgesALine_data()
+void TestOddNames::noNameCanMoveTheCursorOrForgeALine_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<QString>("shown");
@@ -178,16 +178,16 @@ void TestOddNames::noNameMovesTheCursorOrForgesALine_data()
         "a�b�.mp4");
 }
 
-void TestOddNames::noNameMovesTheCursorOrForgesALine()
+void TestOddNames::noNameCanMoveTheCursorOrForgeALine()
 {
     QFETCH(QByteArray, name);
     QFETCH(QString, shown);
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("film.mp4")), path(name)));
-    const CommandRun told = convert(name);
-    QCOMPARE(told.exitCode, 0);
-    verifyVisible(told.out);
-    QVERIFY2(told.out.contains(shown + QStringLiteral(": 100%")), qPrintable(told.out));
-    QVERIFY2(told.out.contains(shown + QStringLiteral(" -> ")), qPrintable(told.out));
+    const CommandRun result = convert(name);
+    QCOMPARE(result.exitCode, 0);
+    verifyVisible(result.out);
+    QVERIFY2(result.out.contains(shown + QStringLiteral(": 100%")), qPrintable(result.out));
+    QVERIFY2(result.out.contains(shown + QStringLiteral(" -> ")), qPrintable(result.out));
 
     const CommandRun missing = convert("no " + name);
     QCOMPARE(missing.exitCode, 1);
@@ -198,7 +198,7 @@ void TestOddNames::noNameMovesTheCursorOrForgesALine()
     verifyVisible(unknown.err);
 }
 
-void TestOddNames::whatFfmpegSaysAboutANameIsSafeToo()
+void TestOddNames::ffmpegsMessagesAboutNamesAreSafe()
 {
     const QTemporaryDir tools;
     QVERIFY(MediaClips::makeStandIn(
@@ -206,10 +206,10 @@ void TestOddNames::whatFfmpegSaysAboutANameIsSafeToo()
     m_environment.insert(QStringLiteral("PATH"),
                          QString::fromLocal8Bit(MediaClips::pathWith(tools.path())));
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("film.mp4")), path("film.mp4")));
-    const CommandRun told = convert("film.mp4");
-    QCOMPARE(told.exitCode, 1);
-    verifyVisible(told.err);
-    QVERIFY2(told.err.contains(QString::fromUtf8("(a�[2Jb�c�)")), qPrintable(told.err));
+    const CommandRun result = convert("film.mp4");
+    QCOMPARE(result.exitCode, 1);
+    verifyVisible(result.err);
+    QVERIFY2(result.err.contains(QString::fromUtf8("(a�[2Jb�c�)")), qPrintable(result.err));
 }
 
 void TestOddNames::aTitleIsSafeInTablesAndJson()
@@ -233,14 +233,14 @@ void TestOddNames::aTitleIsSafeInTablesAndJson()
              QString::fromUtf8("a\x1b[2J\nb\x7f\u009b\u202e\\u\uFFFD\U0001F600"));
 }
 
-void TestOddNames::aMistakeInACatalogueIsSafeToo()
+void TestOddNames::messagesAboutCataloguesAreSafe()
 {
     m_environment.insert(QStringLiteral("VEX_EXPORT_CATALOGUE"),
                          path("no\x1b[2J\n\xe2\x80\xae\xe9.json"));
-    const CommandRun told = run({QStringLiteral("formats")});
-    QCOMPARE(told.exitCode, 0);
-    QCOMPARE(told.err.count(QLatin1Char('\n')), 1);
-    verifyVisible(told.err);
+    const CommandRun result = run({QStringLiteral("formats")});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
+    verifyVisible(result.err);
 
     const CommandRun json = run({QStringLiteral("check-catalogue"), QStringLiteral("--json")});
     verifyVisible(json.out);

@@ -9,18 +9,18 @@ class TestPresetCommands : public CommandLineTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void usedPresetsAreListedLatestFirst();
+    void usedPresetsAreListedMostRecentFirst();
     void aUsedPresetIsForgotten();
-    void aUsersPresetIsMadeChangedAndDeleted();
+    void aUsersPresetIsCreatedChangedAndDeleted();
     void aUsersAudioPresetConverts();
-    void aDeletedPresetIsStillUsableFromTheRecentOnes();
-    void aDamagedFileIsNeverWrittenOver_data();
-    void aDamagedFileIsNeverWrittenOver();
-    void theGoodCopyOfADamagedFileIsUsedAndSaid();
-    void presetsThatCannotBeUsedAreKeptBeside();
+    void aDeletedPresetStaysUsableWhileRecentlyUsed();
+    void aDamagedFileIsNeverOverwritten_data();
+    void aDamagedFileIsNeverOverwritten();
+    void theGoodCopyOfADamagedFileIsUsedAndReported();
+    void unusablePresetsAreKeptInAnotherFile();
 };
 
-void TestPresetCommands::usedPresetsAreListedLatestFirst()
+void TestPresetCommands::usedPresetsAreListedMostRecentFirst()
 {
     QCOMPARE(run("recent").out, QStringLiteral("No presets have been used yet.\n"));
     for (const char *line :
@@ -43,13 +43,13 @@ void TestPresetCommands::aUsedPresetIsForgotten()
 {
     run("convert missing.mp4 --preset V_MKV_1");
     run("convert missing.mp4 --preset A_MP3_1");
-    const CommandRun told = run("recent delete V_MKV_1");
-    QCOMPARE(told.exitCode, 0);
-    QCOMPARE(told.out, QStringLiteral("V_MKV_1 is no longer listed as recently used\n"));
+    const CommandRun result = run("recent delete V_MKV_1");
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.out, QStringLiteral("V_MKV_1 is no longer listed as recently used\n"));
     QCOMPARE(recentIds(), QStringList{QStringLiteral("A_MP3_1")});
 }
 
-void TestPresetCommands::aUsersPresetIsMadeChangedAndDeleted()
+void TestPresetCommands::aUsersPresetIsCreatedChangedAndDeleted()
 {
     QVERIFY(
         run("user list").out.startsWith(QStringLiteral("You have no presets of your own yet; ")));
@@ -94,7 +94,7 @@ void TestPresetCommands::aUsersAudioPresetConverts()
     QCOMPARE(facts.audio()->channels, 1);
 }
 
-void TestPresetCommands::aDeletedPresetIsStillUsableFromTheRecentOnes()
+void TestPresetCommands::aDeletedPresetStaysUsableWhileRecentlyUsed()
 {
     // A preset of a catalogue that is no longer served lives on among the recently used ones.
     QCOMPARE(run("convert film.mp4 --preset V_MKV_1").exitCode, 0);
@@ -110,17 +110,18 @@ void TestPresetCommands::aDeletedPresetIsStillUsableFromTheRecentOnes()
     QVERIFY(refused.err.contains(QStringLiteral("is only among the recently used ones")));
 }
 
-void TestPresetCommands::aDamagedFileIsNeverWrittenOver_data()
+void TestPresetCommands::aDamagedFileIsNeverOverwritten_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QByteArray>("content");
     for (const char *file : {"recently.json", "formatCache.json"}) {
-        QTest::addRow("%s, cut off", file) << QString::fromLatin1(file) << QByteArray("[{\"id\": ");
-        QTest::addRow("%s, no list", file) << QString::fromLatin1(file) << QByteArray("{}");
+        QTest::addRow("%s, truncated", file)
+            << QString::fromLatin1(file) << QByteArray("[{\"id\": ");
+        QTest::addRow("%s, not an array", file) << QString::fromLatin1(file) << QByteArray("{}");
     }
 }
 
-void TestPresetCommands::aDamagedFileIsNeverWrittenOver()
+void TestPresetCommands::aDamagedFileIsNeverOverwritten()
 {
     QFETCH(QString, file);
     QFETCH(QByteArray, content);
@@ -150,7 +151,7 @@ void TestPresetCommands::aDamagedFileIsNeverWrittenOver()
     QCOMPARE(QDir(config()).entryList({QStringLiteral("*.json*")}, QDir::Files), QStringList{file});
 }
 
-void TestPresetCommands::theGoodCopyOfADamagedFileIsUsedAndSaid()
+void TestPresetCommands::theGoodCopyOfADamagedFileIsUsedAndReported()
 {
     QCOMPARE(run("user add V_MP4_1 --title x").exitCode, 0);
     const QString file = config() + QStringLiteral("/formatCache.json");
@@ -164,7 +165,7 @@ void TestPresetCommands::theGoodCopyOfADamagedFileIsUsedAndSaid()
     QCOMPARE(run("user list").err, QString());
 }
 
-void TestPresetCommands::presetsThatCannotBeUsedAreKeptBeside()
+void TestPresetCommands::unusablePresetsAreKeptInAnotherFile()
 {
     QVERIFY(QDir().mkpath(config()));
     const QString file = config() + QStringLiteral("/formatCache.json");

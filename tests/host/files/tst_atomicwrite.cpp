@@ -16,12 +16,12 @@ class TestAtomicWrite : public QObject
 private Q_SLOTS:
     void init() { m_folder.emplace(); }
 
-    void aFileIsReplacedNotWrittenOver();
+    void aFileIsReplacedNotOverwritten();
     void permissionsAreThoseOfTheModel();
     void aSymbolicLinkStays_data();
     void aSymbolicLinkStays();
-    void aFailureLeavesNothing();
-    void filesBesideStay();
+    void aFailureLeavesNoFiles();
+    void otherFilesInTheFolderStay();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -33,7 +33,7 @@ private:
     std::optional<QTemporaryDir> m_folder;
 };
 
-void TestAtomicWrite::aFileIsReplacedNotWrittenOver()
+void TestAtomicWrite::aFileIsReplacedNotOverwritten()
 {
     const QString file = path(QStringLiteral("file"));
     QVERIFY(writeFile(file, "old"));
@@ -83,7 +83,7 @@ void TestAtomicWrite::aSymbolicLinkStays()
     QCOMPARE(contentOf(target), QByteArray("new"));
 }
 
-void TestAtomicWrite::aFailureLeavesNothing()
+void TestAtomicWrite::aFailureLeavesNoFiles()
 {
     QVERIFY(!writeAtomically(path(QStringLiteral("missing/file")), "new", {}));
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
@@ -91,7 +91,7 @@ void TestAtomicWrite::aFailureLeavesNothing()
     QCOMPARE(names(), QStringList());
 }
 
-void TestAtomicWrite::filesBesideStay()
+void TestAtomicWrite::otherFilesInTheFolderStay()
 {
     // Six letters at the end are what Qt gives its temporary files.
     const QStringList beside = {QStringLiteral("file.AbCdEf"), QStringLiteral("file.backup"),

@@ -16,10 +16,10 @@ private Q_SLOTS:
 
     void oneHolderAtATime_data();
     void oneHolderAtATime();
-    void theContentMeansNothing();
-    void aProcessThatIsKilledHoldsNothing();
-    void whatWasRemovedOrReplacedIsKnown();
-    void whatCannotBeOpenedIsSaid();
+    void theContentDoesNotMatter();
+    void aKilledProcessReleasesItsLock();
+    void aRemovedOrReplacedFileIsDetected();
+    void aFileThatCannotBeOpenedIsAnError();
 
 private:
     QTemporaryDir m_folder;
@@ -53,29 +53,29 @@ void TestFileLock::oneHolderAtATime()
     QVERIFY(second.tryLock(path));
 }
 
-void TestFileLock::theContentMeansNothing()
+void TestFileLock::theContentDoesNotMatter()
 {
     QVERIFY(writeFile(m_file, "1\nsomeone\nsomewhere else\n"));
     FileLock lock;
     QVERIFY(lock.tryLock(m_file));
 }
 
-void TestFileLock::aProcessThatIsKilledHoldsNothing()
+void TestFileLock::aKilledProcessReleasesItsLock()
 {
-    ForkedProcess holder([this](const auto &tell) {
+    ForkedProcess holder([this](const auto &report) {
         FileLock lock;
         if (lock.tryLock(m_file)) {
-            tell(QStringLiteral("locked"));
+            report(QStringLiteral("locked"));
         }
     });
-    QCOMPARE(holder.told(), QStringLiteral("locked"));
+    QCOMPARE(holder.report(), QStringLiteral("locked"));
     FileLock lock;
     QCOMPARE(lock.tryLock(m_file).error().kind, Error::InUse);
-    holder.endWithoutGoodbye();
+    holder.killNow();
     QVERIFY(lock.tryLock(m_file));
 }
 
-void TestFileLock::whatWasRemovedOrReplacedIsKnown()
+void TestFileLock::aRemovedOrReplacedFileIsDetected()
 {
     FileLock lock;
     QVERIFY(!lock.isAt(m_file));
@@ -87,7 +87,7 @@ void TestFileLock::whatWasRemovedOrReplacedIsKnown()
     QVERIFY(!lock.isAt(m_file));
 }
 
-void TestFileLock::whatCannotBeOpenedIsSaid()
+void TestFileLock::aFileThatCannotBeOpenedIsAnError()
 {
     FileLock lock;
     const Result<> locked = lock.tryLock(m_folder.filePath(QStringLiteral("missing")));

@@ -7,11 +7,11 @@ class TestVisibleText : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatCannotBeShownIsReplaced_data();
-    void whatCannotBeShownIsReplaced();
+    void invisibleCharactersAreReplaced_data();
+    void invisibleCharactersAreReplaced();
 };
 
-void TestVisibleText::whatCannotBeShownIsReplaced_data()
+void TestVisibleText::invisibleCharactersAreReplaced_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shown");
@@ -40,7 +40,7 @@ void TestVisibleText::whatCannotBeShownIsReplaced_data()
         QStringLiteral("\uFFFD\U0001F600"));
 }
 
-void TestVisibleText::whatCannotBeShownIsReplaced()
+void TestVisibleText::invisibleCharactersAreReplaced()
 {
     QFETCH(QString, text);
     QFETCH(QString, shown);

@@ -24,18 +24,18 @@ private Q_SLOTS:
         QVERIFY(m_place->isValid());
     }
 
-    void itIsHiddenAndForTheUserAlone();
-    void itGoesWithAllThatIsInIt();
-    void itIsMadeInTheTemporaryPlaceOfTheSystem();
-    void aRemovedOneComesBackAndIsNotSwept();
-    void whatADeadProcessLeftIsSwept();
-    void whatALivingProcessUsesStays();
+    void itIsHiddenAndPrivateToTheUser();
+    void itIsRemovedWithItsContent();
+    void itsDefaultParentIsTheTemporaryFolder();
+    void aRestoredFolderIsNotSwept();
+    void theFolderOfAKilledProcessIsSwept();
+    void theFolderOfARunningProcessStays();
     void linksAreNeverFollowed();
-    void whatIsNotOursStays_data();
-    void whatIsNotOursStays();
-    void whatAnotherUserLeftStays();
-    void foldersMadeAtTheSameTimeAllStay();
-    void whyItCannotBeMadeIsSaid();
+    void otherFoldersStay_data();
+    void otherFoldersStay();
+    void theFolderOfAnotherUserStays();
+    void foldersMadeAtTheSameTimeStay();
+    void theErrorSaysWhyItCannotBeMade();
 
 private:
     QStringList everything() const
@@ -46,20 +46,20 @@ private:
     /*! The path of a folder that a dead process left, with a file in a folder in it. */
     QString leftover() const
     {
-        ForkedProcess process([this](const auto &tell) {
+        ForkedProcess process([this](const auto &report) {
             const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
             QDir(folder->path()).mkdir(QStringLiteral("inner"));
             QFile file(folder->filePath(QStringLiteral("inner/file")));
             file.open(QIODevice::WriteOnly);
-            tell(folder->path());
+            report(folder->path());
         });
-        return process.told();
+        return process.report();
     }
 
     std::optional<QTemporaryDir> m_place;
 };
 
-void TestWorkFolder::itIsHiddenAndForTheUserAlone()
+void TestWorkFolder::itIsHiddenAndPrivateToTheUser()
 {
     const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
     QVERIFY(folder);
@@ -71,7 +71,7 @@ void TestWorkFolder::itIsHiddenAndForTheUserAlone()
     QCOMPARE(found.st_mode & 07777U, unsigned(S_IRWXU));
 }
 
-void TestWorkFolder::itGoesWithAllThatIsInIt()
+void TestWorkFolder::itIsRemovedWithItsContent()
 {
     {
         const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
@@ -82,13 +82,13 @@ void TestWorkFolder::itGoesWithAllThatIsInIt()
     QCOMPARE(everything(), QStringList());
 }
 
-void TestWorkFolder::itIsMadeInTheTemporaryPlaceOfTheSystem()
+void TestWorkFolder::itsDefaultParentIsTheTemporaryFolder()
 {
     const Result<WorkFolder> folder = WorkFolder::make();
     QCOMPARE(QFileInfo(folder->path()).path(), QDir::tempPath());
 }
 
-void TestWorkFolder::aRemovedOneComesBackAndIsNotSwept()
+void TestWorkFolder::aRestoredFolderIsNotSwept()
 {
     Result<WorkFolder> work = WorkFolder::make(m_place->path());
     QVERIFY(QDir(m_place->path()).removeRecursively());
@@ -98,7 +98,7 @@ void TestWorkFolder::aRemovedOneComesBackAndIsNotSwept()
     QVERIFY(QFileInfo(work->path()).isDir());
 }
 
-void TestWorkFolder::whatADeadProcessLeftIsSwept()
+void TestWorkFolder::theFolderOfAKilledProcessIsSwept()
 {
     const QString left = leftover();
     QVERIFY(QFile::exists(left + QStringLiteral("/inner/file")));
@@ -107,16 +107,16 @@ void TestWorkFolder::whatADeadProcessLeftIsSwept()
     QVERIFY(QFile::exists(next->path()));
 }
 
-void TestWorkFolder::whatALivingProcessUsesStays()
+void TestWorkFolder::theFolderOfARunningProcessStays()
 {
     const Result<WorkFolder> own = WorkFolder::make(m_place->path());
-    ForkedProcess other([this](const auto &tell) {
+    ForkedProcess other([this](const auto &report) {
         const Result<WorkFolder> folder = WorkFolder::make(m_place->path());
-        tell(folder->path());
+        report(folder->path());
     });
     const Result<WorkFolder> next = WorkFolder::make(m_place->path());
     QVERIFY(QFile::exists(own->path()));
-    QVERIFY(QFile::exists(other.told()));
+    QVERIFY(QFile::exists(other.report()));
     QVERIFY(QFile::exists(next->path()));
     QCOMPARE(everything().size(), 3);
 }
@@ -138,7 +138,7 @@ void TestWorkFolder::linksAreNeverFollowed()
     QVERIFY(QFile::exists(kept));
 }
 
-void TestWorkFolder::whatIsNotOursStays_data()
+void TestWorkFolder::otherFoldersStay_data()
 {
     QTest::addColumn<int>("changed");
     QTest::addColumn<QString>("by");
@@ -149,7 +149,7 @@ void TestWorkFolder::whatIsNotOursStays_data()
     QTest::newRow("with a longer name") << machine + 10 << QStringLiteral("ab");
 }
 
-void TestWorkFolder::whatIsNotOursStays()
+void TestWorkFolder::otherFoldersStay()
 {
     QFETCH(int, changed);
     QFETCH(QString, by);
@@ -161,7 +161,7 @@ void TestWorkFolder::whatIsNotOursStays()
     QCOMPARE(everything(), QStringList{name});
 }
 
-void TestWorkFolder::whatAnotherUserLeftStays()
+void TestWorkFolder::theFolderOfAnotherUserStays()
 {
     const QString left = leftover();
     constexpr uid_t another = 65534;
@@ -172,7 +172,7 @@ void TestWorkFolder::whatAnotherUserLeftStays()
     QVERIFY(QFile::exists(left));
 }
 
-void TestWorkFolder::foldersMadeAtTheSameTimeAllStay()
+void TestWorkFolder::foldersMadeAtTheSameTimeStay()
 {
     constexpr int makers = 8;
     constexpr int foldersEach = 50;
@@ -196,7 +196,7 @@ void TestWorkFolder::foldersMadeAtTheSameTimeAllStay()
     QCOMPARE(everything(), QStringList());
 }
 
-void TestWorkFolder::whyItCannotBeMadeIsSaid()
+void TestWorkFolder::theErrorSaysWhyItCannotBeMade()
 {
     const Result<WorkFolder> folder =
         WorkFolder::make(m_place->filePath(QStringLiteral("missing")));

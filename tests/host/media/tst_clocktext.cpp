@@ -7,15 +7,15 @@ class TestClockText : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void momentsAreReadAsPeopleWriteThem_data();
-    void momentsAreReadAsPeopleWriteThem();
+    void commonNotationsAreRead_data();
+    void commonNotationsAreRead();
     void secondsAreWrittenShort_data();
     void secondsAreWrittenShort();
-    void aClockTellsHoursOnlyWhenThereAreSome_data();
-    void aClockTellsHoursOnlyWhenThereAreSome();
+    void hoursAreShownOnlyIfThereAreAny_data();
+    void hoursAreShownOnlyIfThereAreAny();
 };
 
-void TestClockText::momentsAreReadAsPeopleWriteThem_data()
+void TestClockText::commonNotationsAreRead_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("seconds");
@@ -40,7 +40,7 @@ void TestClockText::momentsAreReadAsPeopleWriteThem_data()
     row("1.5:2", -1);
 }
 
-void TestClockText::momentsAreReadAsPeopleWriteThem()
+void TestClockText::commonNotationsAreRead()
 {
     QFETCH(QString, text);
     QTEST(secondsFromClockText(text), "seconds");
@@ -70,14 +70,14 @@ void TestClockText::secondsAreWrittenShort()
     QTEST(exactClockText(seconds), "text");
 }
 
-void TestClockText::aClockTellsHoursOnlyWhenThereAreSome_data()
+void TestClockText::hoursAreShownOnlyIfThereAreAny_data()
 {
     QTest::addColumn<double>("seconds");
     QTest::addColumn<QString>("text");
     QTest::newRow("nothing") << 0.0 << QStringLiteral("0:00");
     QTest::newRow("negative") << -3.0 << QStringLiteral("0:00");
     QTest::newRow("too many") << 1e300 << QStringLiteral("0:00");
-    QTest::newRow("no number") << qQNaN() << QStringLiteral("0:00");
+    QTest::newRow("not a number") << qQNaN() << QStringLiteral("0:00");
     QTest::newRow("rounded") << 0.98 << QStringLiteral("0:01");
     QTest::newRow("minutes") << 754.0 << QStringLiteral("12:34");
     QTest::newRow("an hour less one") << 3599.0 << QStringLiteral("59:59");
@@ -86,7 +86,7 @@ void TestClockText::aClockTellsHoursOnlyWhenThereAreSome_data()
     QTest::newRow("hours") << 3723.0 << QStringLiteral("1:02:03");
 }
 
-void TestClockText::aClockTellsHoursOnlyWhenThereAreSome()
+void TestClockText::hoursAreShownOnlyIfThereAreAny()
 {
     QFETCH(double, seconds);
     QFETCH(QString, text);

@@ -8,16 +8,16 @@ class TestMediaFactsLimits : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aPictureThatCannotBeIsUnknown_data();
-    void aPictureThatCannotBeIsUnknown();
-    void aRateThatCannotBeIsUnknown_data();
-    void aRateThatCannotBeIsUnknown();
-    void soundThatCannotBeIsUnknown_data();
-    void soundThatCannotBeIsUnknown();
-    void aLengthThatCannotBeIsUnknown_data();
-    void aLengthThatCannotBeIsUnknown();
-    void aContainerThatCannotBeIsUnknown_data();
-    void aContainerThatCannotBeIsUnknown();
+    void implausibleVideoValuesAreUnknown_data();
+    void implausibleVideoValuesAreUnknown();
+    void anImplausibleFrameRateIsUnknown_data();
+    void anImplausibleFrameRateIsUnknown();
+    void implausibleAudioValuesAreUnknown_data();
+    void implausibleAudioValuesAreUnknown();
+    void anImplausibleDurationIsUnknown_data();
+    void anImplausibleDurationIsUnknown();
+    void anImplausibleContainerIsUnknown_data();
+    void anImplausibleContainerIsUnknown();
 
 private:
     static MediaFacts probe(const QByteArray &stream, const QByteArray &format = {})
@@ -27,7 +27,7 @@ private:
     }
 };
 
-void TestMediaFactsLimits::aPictureThatCannotBeIsUnknown_data()
+void TestMediaFactsLimits::implausibleVideoValuesAreUnknown_data()
 {
     QTest::addColumn<QByteArray>("stream");
     QTest::addColumn<QSize>("stored");
@@ -77,7 +77,7 @@ void TestMediaFactsLimits::aPictureThatCannotBeIsUnknown_data()
     tag("a tag that is no number", "nan");
 }
 
-void TestMediaFactsLimits::aPictureThatCannotBeIsUnknown()
+void TestMediaFactsLimits::implausibleVideoValuesAreUnknown()
 {
     QFETCH(QByteArray, stream);
     const MediaFacts facts = probe(R"({"codec_type": "video", )" + stream + "}");
@@ -86,7 +86,7 @@ void TestMediaFactsLimits::aPictureThatCannotBeIsUnknown()
     QTEST(facts.video()->rotation, "rotation");
 }
 
-void TestMediaFactsLimits::aRateThatCannotBeIsUnknown_data()
+void TestMediaFactsLimits::anImplausibleFrameRateIsUnknown_data()
 {
     QTest::addColumn<QByteArray>("average");
     QTest::addColumn<QString>("rate");
@@ -96,7 +96,7 @@ void TestMediaFactsLimits::aRateThatCannotBeIsUnknown_data()
     QTest::newRow("beyond numbers") << QByteArray("99999999999/1") << QString();
 }
 
-void TestMediaFactsLimits::aRateThatCannotBeIsUnknown()
+void TestMediaFactsLimits::anImplausibleFrameRateIsUnknown()
 {
     QFETCH(QByteArray, average);
     QFETCH(QString, rate);
@@ -108,7 +108,7 @@ void TestMediaFactsLimits::aRateThatCannotBeIsUnknown()
     QVERIFY(!facts.video()->hasSteadyRate);
 }
 
-void TestMediaFactsLimits::soundThatCannotBeIsUnknown_data()
+void TestMediaFactsLimits::implausibleAudioValuesAreUnknown_data()
 {
     QTest::addColumn<QByteArray>("stream");
     QTest::addColumn<int>("sampleRate");
@@ -122,7 +122,7 @@ void TestMediaFactsLimits::soundThatCannotBeIsUnknown_data()
         << QByteArray(R"("sample_rate": "1e300", "channels": 1e300)") << 0 << 0;
 }
 
-void TestMediaFactsLimits::soundThatCannotBeIsUnknown()
+void TestMediaFactsLimits::implausibleAudioValuesAreUnknown()
 {
     QFETCH(QByteArray, stream);
     const MediaFacts facts = probe(R"({"codec_type": "audio", "index": -1, )" + stream + "}");
@@ -131,7 +131,7 @@ void TestMediaFactsLimits::soundThatCannotBeIsUnknown()
     QCOMPARE(facts.audio()->index, 0);
 }
 
-void TestMediaFactsLimits::aLengthThatCannotBeIsUnknown_data()
+void TestMediaFactsLimits::anImplausibleDurationIsUnknown_data()
 {
     QTest::addColumn<QByteArray>("duration");
     QTest::addColumn<double>("seconds");
@@ -139,10 +139,10 @@ void TestMediaFactsLimits::aLengthThatCannotBeIsUnknown_data()
     QTest::newRow("twenty years") << QByteArray("630720000") << 0.0;
     QTest::newRow("huge") << QByteArray("1e300") << 0.0;
     QTest::newRow("infinite") << QByteArray("inf") << 0.0;
-    QTest::newRow("no number") << QByteArray("nan") << 0.0;
+    QTest::newRow("not a number") << QByteArray("nan") << 0.0;
 }
 
-void TestMediaFactsLimits::aLengthThatCannotBeIsUnknown()
+void TestMediaFactsLimits::anImplausibleDurationIsUnknown()
 {
     QFETCH(QByteArray, duration);
     const QByteArray said = R"("duration": ")" + duration + R"(", "size": "-9223372036854775808")";
@@ -152,7 +152,7 @@ void TestMediaFactsLimits::aLengthThatCannotBeIsUnknown()
     QTEST(probe(R"({"codec_type": "audio", )" + said + "}").duration, "seconds");
 }
 
-void TestMediaFactsLimits::aContainerThatCannotBeIsUnknown_data()
+void TestMediaFactsLimits::anImplausibleContainerIsUnknown_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<QString>("container");
@@ -163,7 +163,7 @@ void TestMediaFactsLimits::aContainerThatCannotBeIsUnknown_data()
     QTest::newRow("line break") << QByteArray("mp4\\n") << QString();
 }
 
-void TestMediaFactsLimits::aContainerThatCannotBeIsUnknown()
+void TestMediaFactsLimits::anImplausibleContainerIsUnknown()
 {
     QFETCH(QByteArray, name);
     const MediaFacts facts = probe({}, R"("format_name": ")" + name + '"');

@@ -15,11 +15,11 @@ class TestMediaFiles : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatPresetsWriteCountsAsMedia();
-    void aFolderGivesItsOwnMediaFilesByName();
+    void filesThatPresetsWriteAreMedia();
+    void onlyTheFoldersOwnMediaFilesAreListedByName();
 };
 
-void TestMediaFiles::whatPresetsWriteCountsAsMedia()
+void TestMediaFiles::filesThatPresetsWriteAreMedia()
 {
     QTemporaryDir folder;
     PresetStore store(*FormatsProxy::getInstance(), folder.path());
@@ -40,7 +40,7 @@ void TestMediaFiles::whatPresetsWriteCountsAsMedia()
     QCOMPARE(unknown, QStringList());
 }
 
-void TestMediaFiles::aFolderGivesItsOwnMediaFilesByName()
+void TestMediaFiles::onlyTheFoldersOwnMediaFilesAreListedByName()
 {
     QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("more.mp4")));

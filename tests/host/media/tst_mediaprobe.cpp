@@ -22,14 +22,14 @@ private Q_SLOTS:
     void init() { m_log.emplace(); }
     void cleanup();
 
-    void whatOnlyNamesOtherFilesIsRefused_data();
-    void whatOnlyNamesOtherFilesIsRefused();
-    void whatHoldsItsMediaIsRead_data();
-    void whatHoldsItsMediaIsRead();
-    void aQuestionThatIsStoppedIsCancelled();
+    void aFileThatRefersToOtherFilesIsRefused_data();
+    void aFileThatRefersToOtherFilesIsRefused();
+    void aFileThatContainsItsMediaIsRead_data();
+    void aFileThatContainsItsMediaIsRead();
+    void aStoppedProbeIsCancelled();
     void oneProbeReadsSeveralFiles();
-    void anAnswerThatNeverComesIsGivenUp();
-    void anAnswerWithoutEndIsGivenUp();
+    void aHangingProbeIsEnded();
+    void endlessOutputIsEnded();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -77,7 +77,7 @@ void TestMediaProbe::cleanup()
     m_log.reset();
 }
 
-void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused_data()
+void TestMediaProbe::aFileThatRefersToOtherFilesIsRefused_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("content");
@@ -115,21 +115,21 @@ void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused_data()
     QTest::newRow("metadata") << film << QByteArray(";FFMETADATA1\ntitle=x\n")
                               << QStringLiteral("is of a kind that isn't converted (ffmetadata); "
                                                 "choose a video or audio file");
-    const QString pattern = QStringLiteral("stands for a series of pictures; rename it and its "
+    const QString pattern = QStringLiteral("stands for an image sequence; rename it and its "
                                            "folders without any of % * ? [ ] { }");
-    QFile picture(path(QStringLiteral("other1.png")));
-    QVERIFY(picture.open(QIODevice::ReadOnly));
-    QTest::newRow("pattern of pictures")
-        << QStringLiteral("other%01d.png") << picture.readAll() << pattern;
+    QFile image(path(QStringLiteral("other1.png")));
+    QVERIFY(image.open(QIODevice::ReadOnly));
+    QTest::newRow("image sequence pattern")
+        << QStringLiteral("other%01d.png") << image.readAll() << pattern;
     QTest::newRow("pattern of photos")
         << QStringLiteral("other%01d.jpg") << QByteArray() << pattern;
-    QTest::newRow("planes in files of their own")
+    QTest::newRow("planes in separate files")
         << QStringLiteral("plane.y") << QByteArray(100, 'y')
         << QStringLiteral("is of a kind that isn't converted (image2); choose a video or audio "
                           "file");
 }
 
-void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused()
+void TestMediaProbe::aFileThatRefersToOtherFilesIsRefused()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, content);
@@ -138,38 +138,38 @@ void TestMediaProbe::whatOnlyNamesOtherFilesIsRefused()
     QCOMPARE(errorOf(probe(name)), error);
 }
 
-void TestMediaProbe::whatHoldsItsMediaIsRead_data()
+void TestMediaProbe::aFileThatContainsItsMediaIsRead_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("arguments");
 
-    const QString picture = QStringLiteral("-f lavfi -i testsrc2=size=352x288:rate=25:duration=1");
+    const QString video = QStringLiteral("-f lavfi -i testsrc2=size=352x288:rate=25:duration=1");
     const QString sine = QStringLiteral(" -f lavfi -i sine=duration=1:sample_rate=48000");
     const auto row = [](const char *name, const QString &arguments) {
         QTest::newRow(name) << QString::fromLatin1(name) << arguments;
     };
     for (const char *name : {"film.mov", "film.mkv", "film.avi", "film.ts", "film.mpg", "film.vob",
                              "film.nut", "film.ogv", "film.mxf"}) {
-        row(name, picture + sine);
+        row(name, video + sine);
     }
-    row("film.wmv", picture + sine + QStringLiteral(" -c:v wmv2 -c:a wmav2"));
-    row("film.m2ts", picture + sine + QStringLiteral(" -mpegts_m2ts_mode 1"));
-    row("film.flv", picture + sine + QStringLiteral(" -ar 44100"));
-    row("film.webm", picture + sine + QStringLiteral(" -c:v vp8 -deadline realtime -cpu-used 8"));
-    row("film.dv", picture + sine + QStringLiteral(" -s 720x576 -pix_fmt yuv420p -ac 2"));
-    row("film.3gp", picture + sine + QStringLiteral(" -c:v h263 -c:a aac"));
-    row("timecode.mov", picture + QStringLiteral(" -timecode 01:00:00:00"));
+    row("film.wmv", video + sine + QStringLiteral(" -c:v wmv2 -c:a wmav2"));
+    row("film.m2ts", video + sine + QStringLiteral(" -mpegts_m2ts_mode 1"));
+    row("film.flv", video + sine + QStringLiteral(" -ar 44100"));
+    row("film.webm", video + sine + QStringLiteral(" -c:v vp8 -deadline realtime -cpu-used 8"));
+    row("film.dv", video + sine + QStringLiteral(" -s 720x576 -pix_fmt yuv420p -ac 2"));
+    row("film.3gp", video + sine + QStringLiteral(" -c:v h263 -c:a aac"));
+    row("timecode.mov", video + QStringLiteral(" -timecode 01:00:00:00"));
     for (const char *name : {"film.h264", "film.m2v", "film.m1v", "film.mjpeg", "film.ivf",
                              "film.gif", "film.apng", "film.y4m", "film.swf"}) {
-        row(name, picture + QStringLiteral(" -pix_fmt yuv420p -s 320x240"));
+        row(name, video + QStringLiteral(" -pix_fmt yuv420p -s 320x240"));
     }
-    row("film.hevc", picture + QStringLiteral(" -preset ultrafast -x265-params log-level=error"));
-    row("still.jpg", picture + QStringLiteral(" -frames:v 1 -update 1"));
-    row("still.tga", picture + QStringLiteral(" -frames:v 1 -update 1"));
-    row("still.png", picture + QStringLiteral(" -frames:v 1 -update 1"));
-    row("still.webp", picture + QStringLiteral(" -frames:v 1"));
-    row("still.tiff", picture + QStringLiteral(" -frames:v 1 -update 1"));
-    row("still.bmp", picture + QStringLiteral(" -frames:v 1 -update 1"));
+    row("film.hevc", video + QStringLiteral(" -preset ultrafast -x265-params log-level=error"));
+    row("still.jpg", video + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.tga", video + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.png", video + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.webp", video + QStringLiteral(" -frames:v 1"));
+    row("still.tiff", video + QStringLiteral(" -frames:v 1 -update 1"));
+    row("still.bmp", video + QStringLiteral(" -frames:v 1 -update 1"));
     for (const char *name :
          {"song.wav", "song.w64",  "song.aiff", "song.au",  "song.caf", "song.flac",
           "song.mp3", "song.mp2",  "song.aac",  "song.m4a", "song.ac3", "song.eac3",
@@ -183,7 +183,7 @@ void TestMediaProbe::whatHoldsItsMediaIsRead_data()
     row("song.gsm", sine.trimmed() + QStringLiteral(" -c:a libgsm -ar 8000"));
 }
 
-void TestMediaProbe::whatHoldsItsMediaIsRead()
+void TestMediaProbe::aFileThatContainsItsMediaIsRead()
 {
     QFETCH(QString, name);
     QFETCH(QString, arguments);
@@ -196,7 +196,7 @@ void TestMediaProbe::whatHoldsItsMediaIsRead()
     QVERIFY(!facts->isEmpty());
 }
 
-void TestMediaProbe::aQuestionThatIsStoppedIsCancelled()
+void TestMediaProbe::aStoppedProbeIsCancelled()
 {
     MediaProbe probe;
     std::optional<Result<MediaFacts>> facts;
@@ -227,7 +227,7 @@ void TestMediaProbe::oneProbeReadsSeveralFiles()
     QCOMPARE(codecs, (QStringList{QStringLiteral("h264"), QStringLiteral("png")}));
 }
 
-void TestMediaProbe::anAnswerThatNeverComesIsGivenUp()
+void TestMediaProbe::aHangingProbeIsEnded()
 {
     const QTemporaryDir tools;
     QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("sleep 1000; exit 0"),
@@ -237,7 +237,7 @@ void TestMediaProbe::anAnswerThatNeverComesIsGivenUp()
              QStringLiteral("takes too long to read; check the disk or network that it is on"));
 }
 
-void TestMediaProbe::anAnswerWithoutEndIsGivenUp()
+void TestMediaProbe::endlessOutputIsEnded()
 {
     const QTemporaryDir tools;
     QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("exec yes"),

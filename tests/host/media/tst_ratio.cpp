@@ -9,14 +9,14 @@ class TestRatio : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aFractionIsReadAsItStands_data();
-    void aFractionIsReadAsItStands();
-    void aFrameRateIsReadAsPeopleWriteIt_data();
-    void aFrameRateIsReadAsPeopleWriteIt();
+    void aFractionIsRead_data();
+    void aFractionIsRead();
+    void roundedFrameRatesAreRecognized_data();
+    void roundedFrameRatesAreRecognized();
     void equalFractionsAreEqualHoweverWritten();
 };
 
-void TestRatio::aFractionIsReadAsItStands_data()
+void TestRatio::aFractionIsRead_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
@@ -36,7 +36,7 @@ void TestRatio::aFractionIsReadAsItStands_data()
     QTest::newRow("too large") << QStringLiteral("99999999999/1") << QString();
 }
 
-void TestRatio::aFractionIsReadAsItStands()
+void TestRatio::aFractionIsRead()
 {
     QFETCH(QString, text);
     QFETCH(QString, expected);
@@ -49,7 +49,7 @@ void TestRatio::aFractionIsReadAsItStands()
     }
 }
 
-void TestRatio::aFrameRateIsReadAsPeopleWriteIt_data()
+void TestRatio::roundedFrameRatesAreRecognized_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<Ratio>("expected");
@@ -74,7 +74,7 @@ void TestRatio::aFrameRateIsReadAsPeopleWriteIt_data()
     QTest::newRow("tiny") << QStringLiteral("1e-300") << Ratio();
 }
 
-void TestRatio::aFrameRateIsReadAsPeopleWriteIt()
+void TestRatio::roundedFrameRatesAreRecognized()
 {
     QFETCH(QString, text);
     QFETCH(Ratio, expected);
@@ -88,7 +88,7 @@ void TestRatio::equalFractionsAreEqualHoweverWritten()
     QVERIFY((Ratio{50, 2} == Ratio{25, 1}));
     QVERIFY((Ratio{30, 1} != Ratio{30000, 1001}));
     QVERIFY((Ratio() != Ratio{25, 1}));
-    // Products beyond 32 bits are still told apart.
+    // Products beyond 32 bits are still distinguished.
     QVERIFY((Ratio{2000000000, 1} != Ratio{2000000001, 1}));
 }
 

@@ -25,32 +25,32 @@ class TestFolderLock : public QObject
 private Q_SLOTS:
     void init() { m_temporary.emplace(); }
 
-    void theFolderIsMade();
+    void theFolderIsCreated();
     void theHolderIsNamed();
-    void whatTheFileSaysLocksNobodyOut_data();
-    void whatTheFileSaysLocksNobodyOut();
-    void aHolderThatIsKilledHoldsNothing();
-    void aWaitIsToldAndEndsWithTheHolder();
-    void aFolderThatCannotBeIsSaid();
-    void whatIsNoPlainFileIsLeftAlone_data();
-    void whatIsNoPlainFileIsLeftAlone();
+    void theContentOfTheLockFileDoesNotMatter_data();
+    void theContentOfTheLockFileDoesNotMatter();
+    void aKilledHolderReleasesTheLock();
+    void aWaitIsReportedAndEndsWithTheHolder();
+    void aFolderThatCannotBeCreatedIsAnError();
+    void onlyAPlainFileIsUsedAsLock_data();
+    void onlyAPlainFileIsUsedAsLock();
 
 private:
     QString folder() const { return m_temporary->filePath(QStringLiteral("config")); }
     QString lockFile() const { return folder() + QStringLiteral("/vexconvert.lock"); }
     std::unique_ptr<ForkedProcess> holder() const
     {
-        return std::make_unique<ForkedProcess>([this](const auto &tell) {
+        return std::make_unique<ForkedProcess>([this](const auto &report) {
             FolderLock lock;
-            tell(lock.lock(folder(), 0) ? QString::number(QCoreApplication::applicationPid())
-                                        : QString());
+            report(lock.lock(folder(), 0) ? QString::number(QCoreApplication::applicationPid())
+                                          : QString());
         });
     }
 
     std::optional<QTemporaryDir> m_temporary;
 };
 
-void TestFolderLock::theFolderIsMade()
+void TestFolderLock::theFolderIsCreated()
 {
     FolderLock lock;
     QVERIFY(lock.lock(folder(), 0));
@@ -63,28 +63,28 @@ void TestFolderLock::theFolderIsMade()
 void TestFolderLock::theHolderIsNamed()
 {
     const auto other = holder();
-    QVERIFY(!other->told().isEmpty());
+    QVERIFY(!other->report().isEmpty());
     FolderLock lock;
     const Error refusal = lock.lock(folder(), 0).error();
     QCOMPARE(refusal.kind, Error::InUse);
     QCOMPARE(refusal.text,
              QStringLiteral("tst_folderlock (process %1 on %2) is using the presets in %3; close "
                             "it, or try again when it is done")
-                 .arg(other->told(), QSysInfo::machineHostName(), folder()));
+                 .arg(other->report(), QSysInfo::machineHostName(), folder()));
     QVERIFY(!lock.isLocked());
 }
 
-void TestFolderLock::whatTheFileSaysLocksNobodyOut_data()
+void TestFolderLock::theContentOfTheLockFileDoesNotMatter_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("garbage") << QByteArray("\0\xff\n\n\n", 5);
     QTest::newRow("another machine") << QByteArray("1\nvexconvert\nanother-machine\n");
-    QTest::newRow("a process that lives")
+    QTest::newRow("a running process")
         << QByteArray("1\nvexconvert\n") + QSysInfo::machineHostName().toLocal8Bit() + '\n';
 }
 
-void TestFolderLock::whatTheFileSaysLocksNobodyOut()
+void TestFolderLock::theContentOfTheLockFileDoesNotMatter()
 {
     QFETCH(QByteArray, content);
     QVERIFY(QDir().mkpath(folder()));
@@ -94,33 +94,33 @@ void TestFolderLock::whatTheFileSaysLocksNobodyOut()
     QVERIFY(lock.lock(folder(), 0));
 }
 
-void TestFolderLock::aHolderThatIsKilledHoldsNothing()
+void TestFolderLock::aKilledHolderReleasesTheLock()
 {
     const auto other = holder();
-    QVERIFY(!other->told().isEmpty());
+    QVERIFY(!other->report().isEmpty());
     FolderLock lock;
     QVERIFY(!lock.lock(folder(), 0));
-    other->endWithoutGoodbye();
+    other->killNow();
     QVERIFY(lock.lock(folder(), 0));
 }
 
-void TestFolderLock::aWaitIsToldAndEndsWithTheHolder()
+void TestFolderLock::aWaitIsReportedAndEndsWithTheHolder()
 {
     const auto other = holder();
-    QVERIFY(!other->told().isEmpty());
-    QStringList told;
+    QVERIFY(!other->report().isEmpty());
+    QStringList lines;
     FolderLock lock;
     constexpr int patience = 60000;
-    QVERIFY(lock.lock(folder(), patience, [&told, &other](const QString &line) {
-        told << line;
-        other->endWithoutGoodbye();
+    QVERIFY(lock.lock(folder(), patience, [&lines, &other](const QString &line) {
+        lines << line;
+        other->killNow();
     }));
-    QCOMPARE(told.size(), 1);
-    QVERIFY2(told.constFirst().startsWith(QStringLiteral("waiting for tst_folderlock (process ")),
-             qUtf8Printable(told.constFirst()));
+    QCOMPARE(lines.size(), 1);
+    QVERIFY2(lines.constFirst().startsWith(QStringLiteral("waiting for tst_folderlock (process ")),
+             qUtf8Printable(lines.constFirst()));
 }
 
-void TestFolderLock::aFolderThatCannotBeIsSaid()
+void TestFolderLock::aFolderThatCannotBeCreatedIsAnError()
 {
     FolderLock lock;
     const Error refusal = lock.lock(QStringLiteral("/dev/null/config"), 0).error();
@@ -130,7 +130,7 @@ void TestFolderLock::aFolderThatCannotBeIsSaid()
                             "directory); name another one"));
 }
 
-void TestFolderLock::whatIsNoPlainFileIsLeftAlone_data()
+void TestFolderLock::onlyAPlainFileIsUsedAsLock_data()
 {
     QTest::addColumn<QString>("command");
     QTest::newRow("link to another file") << QStringLiteral("ln -s ../other vexconvert.lock");
@@ -139,7 +139,7 @@ void TestFolderLock::whatIsNoPlainFileIsLeftAlone_data()
     QTest::newRow("folder") << QStringLiteral("mkdir vexconvert.lock");
 }
 
-void TestFolderLock::whatIsNoPlainFileIsLeftAlone()
+void TestFolderLock::onlyAPlainFileIsUsedAsLock()
 {
     QFETCH(QString, command);
     const QByteArray precious = "precious";

@@ -92,11 +92,11 @@ private Q_SLOTS:
     void aKillAtAnyMomentLosesNothing();
     void aFullDiskLosesNothing_data();
     void aFullDiskLosesNothing();
-    void aLimitOfTheFileSizeLosesNothing();
-    void aReadOnlyFolderIsSaid();
-    void allOfManyAtATimeAreStored();
+    void aFileSizeLimitLosesNothing();
+    void aReadOnlyFolderIsReported();
+    void allPresetsAddedAtTheSameTimeAreStored();
     void aHugeFileIsRefusedAtOnce();
-    void whatIsNoFileIsRefused();
+    void anythingButAFileIsRefused();
 
 private:
     QString config() const { return m_folder.filePath(QStringLiteral("config")); }
@@ -116,7 +116,7 @@ private:
     /*! What the change makes of the presets when nothing disturbs it. */
     QByteArray undisturbed(const QStringList &words);
     void checkIsWhole(const QByteArray &after) const;
-    void checkIsTold(const CommandRun &told, const QByteArray &after) const;
+    void verifyReported(const CommandRun &result, const QByteArray &after) const;
 
     QTemporaryDir m_folder;
     QMap<QString, QByteArray> m_before;
@@ -181,19 +181,20 @@ void TestPresetSafety::checkIsWhole(const QByteArray &after) const
 }
 
 /*! What the program says it did is what it did. */
-void TestPresetSafety::checkIsTold(const CommandRun &told, const QByteArray &after) const
+void TestPresetSafety::verifyReported(const CommandRun &result, const QByteArray &after) const
 {
     checkIsWhole(after);
-    if (told.exitCode == 0) {
+    if (result.exitCode == 0) {
         QCOMPARE(contentOf(presets()), after);
-        QCOMPARE(told.err, QString());
+        QCOMPARE(result.err, QString());
     } else {
-        QCOMPARE(told.exitCode, 1);
+        QCOMPARE(result.exitCode, 1);
         QCOMPARE(contentOf(presets()), m_before.value(presetsName));
-        QVERIFY2(told.err.contains(QStringLiteral("which is as before")) ||
-                     told.err.contains(QStringLiteral("can't write into the configuration folder")),
-                 qUtf8Printable(told.err));
-        QCOMPARE(told.out, QString());
+        QVERIFY2(
+            result.err.contains(QStringLiteral("which is as before")) ||
+                result.err.contains(QStringLiteral("can't write into the configuration folder")),
+            qUtf8Printable(result.err));
+        QCOMPARE(result.out, QString());
     }
 }
 
@@ -305,19 +306,19 @@ void TestPresetSafety::aFullDiskLosesNothing()
         if (!isFilled) {
             continue; // too small even for what is there
         }
-        const CommandRun told = run(addition);
-        checkIsTold(told, after);
+        const CommandRun result = run(addition);
+        verifyReported(result, after);
         if (QTest::currentTestFailed()) {
             QFAIL(qPrintable(options.arg(size)));
         }
-        ++(told.exitCode == 0 ? successes : refusals);
+        ++(result.exitCode == 0 ? successes : refusals);
     }
     qInfo("%d refused, %d stored", refusals, successes);
     QVERIFY(refusals > 0);
     QVERIFY(successes > 0);
 }
 
-void TestPresetSafety::aLimitOfTheFileSizeLosesNothing()
+void TestPresetSafety::aFileSizeLimitLosesNothing()
 {
     const QByteArray after = undisturbed(addition);
     QVERIFY(!after.isEmpty());
@@ -326,18 +327,18 @@ void TestPresetSafety::aLimitOfTheFileSizeLosesNothing()
     for (rlim_t limit = 0; !wasStored; limit += 509) {
         LimitedProcess process(limit);
         process.start(QStringLiteral(VEXCONVERT), call(addition));
-        const CommandRun told = CommandRun::of(process);
-        checkIsTold(told, after);
+        const CommandRun result = CommandRun::of(process);
+        verifyReported(result, after);
         if (QTest::currentTestFailed()) {
             QFAIL(qPrintable(QStringLiteral("%1 bytes").arg(limit)));
         }
-        wasStored = told.exitCode == 0;
+        wasStored = result.exitCode == 0;
         wasRefused = wasRefused || !wasStored;
     }
     QVERIFY(wasRefused);
 }
 
-void TestPresetSafety::aReadOnlyFolderIsSaid()
+void TestPresetSafety::aReadOnlyFolderIsReported()
 {
     QDir(config()).removeRecursively();
     QVERIFY(QDir().mkpath(config()));
@@ -349,11 +350,11 @@ void TestPresetSafety::aReadOnlyFolderIsSaid()
         QVERIFY(writeFile(config() + QLatin1Char('/') + file.key(), file.value()));
     }
     QVERIFY(disk.makeReadOnly());
-    const CommandRun told = run(addition);
-    QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.err, QStringLiteral("vexconvert: can't write into the configuration folder %1 "
-                                      "(Read-only file system); name another one\n")
-                           .arg(config()));
+    const CommandRun result = run(addition);
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.err, QStringLiteral("vexconvert: can't write into the configuration folder %1 "
+                                        "(Read-only file system); name another one\n")
+                             .arg(config()));
     checkIsWhole({});
     const CommandRun list = run({QStringLiteral("list")});
     QCOMPARE(list.exitCode, 0);
@@ -361,7 +362,7 @@ void TestPresetSafety::aReadOnlyFolderIsSaid()
     QVERIFY(list.out.contains(QStringLiteral("Three")));
 }
 
-void TestPresetSafety::allOfManyAtATimeAreStored()
+void TestPresetSafety::allPresetsAddedAtTheSameTimeAreStored()
 {
     constexpr int count = 100;
     std::vector<std::unique_ptr<QProcess>> processes;
@@ -372,13 +373,13 @@ void TestPresetSafety::allOfManyAtATimeAreStored()
     bool wasWaitTold = false;
     for (const auto &process : processes) {
         QVERIFY(process->waitForFinished(5 * patience));
-        const QString told = QString::fromUtf8(process->readAllStandardError());
-        QVERIFY2(process->exitCode() == 0, qUtf8Printable(told));
+        const QString result = QString::fromUtf8(process->readAllStandardError());
+        QVERIFY2(process->exitCode() == 0, qUtf8Printable(result));
         wasWaitTold =
             wasWaitTold ||
-            (told.startsWith(QStringLiteral("vexconvert: waiting for vexconvert "
-                                            "(process ")) &&
-             told.endsWith(QStringLiteral(", which is using the presets in %1\n").arg(config())));
+            (result.startsWith(QStringLiteral("vexconvert: waiting for vexconvert "
+                                              "(process ")) &&
+             result.endsWith(QStringLiteral(", which is using the presets in %1\n").arg(config())));
     }
     QVERIFY(wasWaitTold);
     const QString list = run({QStringLiteral("list"), QStringLiteral("--json")}).out;
@@ -393,22 +394,23 @@ void TestPresetSafety::aHugeFileIsRefusedAtOnce()
                                   .arg(presets());
     for (const QStringList &words :
          {QStringList{QStringLiteral("list"), QStringLiteral("--json")}, addition}) {
-        const CommandRun told = run(words);
-        QCOMPARE(told.exitCode, 1);
-        QCOMPARE(told.out, QString());
-        QCOMPARE(told.err, complaint);
+        const CommandRun result = run(words);
+        QCOMPARE(result.exitCode, 1);
+        QCOMPARE(result.out, QString());
+        QCOMPARE(result.err, complaint);
     }
     QCOMPARE(QFileInfo(presets()).size(), 500LL * 1024 * 1024);
 }
 
-void TestPresetSafety::whatIsNoFileIsRefused()
+void TestPresetSafety::anythingButAFileIsRefused()
 {
     QVERIFY(QFile::remove(presets()));
     QCOMPARE(::mkfifo(QFile::encodeName(presets()).constData(), 0600), 0);
-    const CommandRun told = run({QStringLiteral("list"), QStringLiteral("--json")});
-    QCOMPARE(told.exitCode, 1);
-    QCOMPARE(told.out, QString());
-    QCOMPARE(told.err, QStringLiteral("vexconvert: %1 is no file; move it away\n").arg(presets()));
+    const CommandRun result = run({QStringLiteral("list"), QStringLiteral("--json")});
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.out, QString());
+    QCOMPARE(result.err,
+             QStringLiteral("vexconvert: %1 is no file; move it away\n").arg(presets()));
 }
 
 QTEST_GUILESS_MAIN(TestPresetSafety)

@@ -17,10 +17,10 @@ private Q_SLOTS:
     void initTestCase() { qputenv("VEX_EXPORT_CATALOGUE", ""); }
     void init();
 
-    void whatIsUsedIsSaved();
-    void aRemovedFolderIsMadeAgain();
-    void aFailedSaveCanBeTriedAgain();
-    void whyTheFolderTakesNoCopiesIsSaid();
+    void usedPresetsAreSaved();
+    void aRemovedFolderIsRecreated();
+    void aFailedSaveCanBeRetried();
+    void theErrorSaysWhyCopyingFails();
 
 private:
     QString config() const { return m_folder->filePath(QStringLiteral("config")); }
@@ -45,7 +45,7 @@ void TestPresetStore::init()
     m_store.emplace(*m_formats, config());
 }
 
-void TestPresetStore::whatIsUsedIsSaved()
+void TestPresetStore::usedPresetsAreSaved()
 {
     QVERIFY(m_store->open(PresetStore::ReadWrite));
     use(QStringLiteral("Video_MKV_001"));
@@ -54,7 +54,7 @@ void TestPresetStore::whatIsUsedIsSaved()
     QVERIFY(contentOf(recently()).contains("Video_MKV_001"));
 }
 
-void TestPresetStore::aRemovedFolderIsMadeAgain()
+void TestPresetStore::aRemovedFolderIsRecreated()
 {
     QVERIFY(m_store->open(PresetStore::ReadWrite));
     use(QStringLiteral("Video_MKV_001"));
@@ -63,7 +63,7 @@ void TestPresetStore::aRemovedFolderIsMadeAgain()
     QVERIFY(contentOf(recently()).contains("Video_MKV_001"));
 }
 
-void TestPresetStore::aFailedSaveCanBeTriedAgain()
+void TestPresetStore::aFailedSaveCanBeRetried()
 {
     QVERIFY(m_store->open(PresetStore::ReadWrite));
     use(QStringLiteral("Video_MKV_001"));
@@ -80,7 +80,7 @@ void TestPresetStore::aFailedSaveCanBeTriedAgain()
     QVERIFY(contentOf(recently()).contains("Audio_MP3_002"));
 }
 
-void TestPresetStore::whyTheFolderTakesNoCopiesIsSaid()
+void TestPresetStore::theErrorSaysWhyCopyingFails()
 {
     QVERIFY(m_store->lock(0));
     QVERIFY(QDir(config()).removeRecursively());

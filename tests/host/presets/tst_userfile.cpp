@@ -28,24 +28,24 @@ class TestUserFile : public QObject
 private Q_SLOTS:
     void init();
 
-    void aDamagedFileGivesWayToItsGoodCopy_data();
-    void aDamagedFileGivesWayToItsGoodCopy();
-    void withoutAGoodCopyItStaysAndIsSaid_data();
-    void withoutAGoodCopyItStaysAndIsSaid();
-    void withoutAGoodCopyItIsPutAsideOnDemand();
-    void whatWasPutAsideBeforeStays();
-    void aDamagedCopyOfAMissingFileIsSaidAndKept();
-    void goodAndMissingFilesNeedNothing();
+    void aDamagedFileIsReplacedByItsGoodCopy_data();
+    void aDamagedFileIsReplacedByItsGoodCopy();
+    void withoutAGoodCopyItStaysAndIsReported_data();
+    void withoutAGoodCopyItStaysAndIsReported();
+    void withoutAGoodCopyItIsMovedAsideOnDemand();
+    void filesMovedAsideEarlierStay();
+    void aDamagedCopyOfAMissingFileIsReportedAndKept();
+    void goodAndMissingFilesNeedNoRecovery();
     void aFolderInItsPlaceIsRefused();
 
-    void aReplacedFileHasItsCopyBeside();
-    void whatAnotherProgramWroteIsKept_data();
-    void whatAnotherProgramWroteIsKept();
+    void replacingAFileUpdatesItsCopy();
+    void changesOfAnotherProgramAreKept_data();
+    void changesOfAnotherProgramAreKept();
     void permissionsAreKept();
 
     void unusablePresetsAreKeptOnce();
-    void whatNoReaderTakesIsUnusable_data();
-    void whatNoReaderTakesIsUnusable();
+    void recordsThatTheLibraryDropsAreUnusable_data();
+    void recordsThatTheLibraryDropsAreUnusable();
 
 private:
     QString aside(const QString &ending) const { return m_path + ending; }
@@ -61,7 +61,7 @@ void TestUserFile::init()
     m_path = m_folder->filePath(QStringLiteral("formatCache.json"));
 }
 
-void TestUserFile::aDamagedFileGivesWayToItsGoodCopy_data()
+void TestUserFile::aDamagedFileIsReplacedByItsGoodCopy_data()
 {
     QTest::addColumn<QByteArray>("damage");
     QTest::addColumn<QString>("note");
@@ -70,8 +70,8 @@ void TestUserFile::aDamagedFileGivesWayToItsGoodCopy_data()
                        "in its place, and the damaged file is kept as "
                        "formatCache.json.damaged");
     QTest::newRow("cut") << QByteArray("[ { \"id\": \"10") << kept;
-    QTest::newRow("no JSON") << QByteArray("\0\0\0\0", 4) << kept;
-    QTest::newRow("no list") << QByteArray("{}") << kept;
+    QTest::newRow("not JSON") << QByteArray("\0\0\0\0", 4) << kept;
+    QTest::newRow("not an array") << QByteArray("{}") << kept;
     QTest::newRow("empty")
         << QByteArray()
         << QStringLiteral(" was empty; its last good copy, formatCache.json.bak, is in its place");
@@ -80,7 +80,7 @@ void TestUserFile::aDamagedFileGivesWayToItsGoodCopy_data()
                                                "formatCache.json.bak, is in its place");
 }
 
-void TestUserFile::aDamagedFileGivesWayToItsGoodCopy()
+void TestUserFile::aDamagedFileIsReplacedByItsGoodCopy()
 {
     QFETCH(QByteArray, damage);
     QFETCH(QString, note);
@@ -93,16 +93,16 @@ void TestUserFile::aDamagedFileGivesWayToItsGoodCopy()
     QVERIFY(complaint.startsWith(m_path + QStringLiteral(" is ")));
     QVERIFY(complaint.contains(QStringLiteral("its last good copy, formatCache.json.bak")));
 
-    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), m_path + note);
+    QCOMPARE(file.recover(UserFile::LeaveInPlace).value(), m_path + note);
     QCOMPARE(contentOf(m_path), good);
     QCOMPARE(contentOf(file.copyPath()), good);
     const bool isKept = note.contains(QStringLiteral("is kept as"));
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), isKept ? damage : "missing");
     QVERIFY(file.check());
-    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
+    QCOMPARE(file.recover(UserFile::LeaveInPlace).value(), QString());
 }
 
-void TestUserFile::withoutAGoodCopyItStaysAndIsSaid_data()
+void TestUserFile::withoutAGoodCopyItStaysAndIsReported_data()
 {
     QTest::addColumn<QByteArray>("damage");
     QTest::addColumn<QString>("complaint");
@@ -114,7 +114,7 @@ void TestUserFile::withoutAGoodCopyItStaysAndIsSaid_data()
                                              "it to start anew");
 }
 
-void TestUserFile::withoutAGoodCopyItStaysAndIsSaid()
+void TestUserFile::withoutAGoodCopyItStaysAndIsReported()
 {
     QFETCH(QByteArray, damage);
     QFETCH(QString, complaint);
@@ -122,42 +122,42 @@ void TestUserFile::withoutAGoodCopyItStaysAndIsSaid()
     QVERIFY(writeFile(m_path, damage));
     QVERIFY(writeFile(file.copyPath(), "["));
     QCOMPARE(file.check().error().text, m_path + complaint);
-    QCOMPARE(file.recover(UserFile::StaysInPlace).error().text, m_path + complaint);
+    QCOMPARE(file.recover(UserFile::LeaveInPlace).error().text, m_path + complaint);
     QCOMPARE(contentOf(m_path), damage);
     QCOMPARE(names().size(), 2);
 }
 
-void TestUserFile::withoutAGoodCopyItIsPutAsideOnDemand()
+void TestUserFile::withoutAGoodCopyItIsMovedAsideOnDemand()
 {
     const UserFile file(m_path);
     QVERIFY(writeFile(m_path, "["));
-    QCOMPARE(file.recover(UserFile::IsPutAside).value(),
+    QCOMPARE(file.recover(UserFile::MoveAside).value(),
              m_path + QStringLiteral(" was damaged and there is no good copy of "
                                      "it; it is kept as formatCache.json.damaged"));
     QCOMPARE(names(), QStringList{QStringLiteral("formatCache.json.damaged")});
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("["));
 }
 
-void TestUserFile::whatWasPutAsideBeforeStays()
+void TestUserFile::filesMovedAsideEarlierStay()
 {
     const UserFile file(m_path);
     for (const QByteArray &damage : {QByteArray("[1"), QByteArray("[2"), QByteArray("[3")}) {
         QVERIFY(writeFile(m_path, damage));
-        QVERIFY(file.recover(UserFile::IsPutAside));
+        QVERIFY(file.recover(UserFile::MoveAside));
     }
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged"))), QByteArray("[1"));
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged-2"))), QByteArray("[2"));
     QCOMPARE(contentOf(aside(QStringLiteral(".damaged-3"))), QByteArray("[3"));
 }
 
-void TestUserFile::aDamagedCopyOfAMissingFileIsSaidAndKept()
+void TestUserFile::aDamagedCopyOfAMissingFileIsReportedAndKept()
 {
     const UserFile file(m_path);
     QVERIFY(writeFile(file.copyPath(), "["));
-    QCOMPARE(file.recover(UserFile::StaysInPlace).error().text,
+    QCOMPARE(file.recover(UserFile::LeaveInPlace).error().text,
              file.copyPath() + QStringLiteral(" is damaged and there is no good copy of it; fix "
                                               "it, or move it away to start anew"));
-    QCOMPARE(file.recover(UserFile::IsPutAside).value(),
+    QCOMPARE(file.recover(UserFile::MoveAside).value(),
              m_path + QStringLiteral(" was missing and its copy, "
                                      "formatCache.json.bak, is damaged"));
     QVERIFY(file.replace(good));
@@ -165,17 +165,17 @@ void TestUserFile::aDamagedCopyOfAMissingFileIsSaidAndKept()
     QCOMPARE(contentOf(aside(QStringLiteral(".bak.damaged"))), QByteArray("["));
 }
 
-void TestUserFile::goodAndMissingFilesNeedNothing()
+void TestUserFile::goodAndMissingFilesNeedNoRecovery()
 {
     const UserFile file(m_path);
     QVERIFY(file.check());
-    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
+    QCOMPARE(file.recover(UserFile::LeaveInPlace).value(), QString());
     QCOMPARE(names(), QStringList());
 
     QVERIFY(writeFile(m_path, "[]"));
     QVERIFY(writeFile(file.copyPath(), good));
     QVERIFY(file.check());
-    QCOMPARE(file.recover(UserFile::StaysInPlace).value(), QString());
+    QCOMPARE(file.recover(UserFile::LeaveInPlace).value(), QString());
     QCOMPARE(contentOf(m_path), QByteArray("[]"));
 }
 
@@ -186,12 +186,12 @@ void TestUserFile::aFolderInItsPlaceIsRefused()
     QVERIFY(QDir().mkdir(m_path));
     const QString refusal = m_path + QStringLiteral(" is no file; move it away");
     QCOMPARE(file.check().error().text, refusal);
-    QCOMPARE(file.recover(UserFile::IsPutAside).error().text, refusal);
+    QCOMPARE(file.recover(UserFile::MoveAside).error().text, refusal);
     QCOMPARE(file.replace(other).error().text, refusal);
     QVERIFY(QFileInfo(m_path).isDir());
 }
 
-void TestUserFile::aReplacedFileHasItsCopyBeside()
+void TestUserFile::replacingAFileUpdatesItsCopy()
 {
     const UserFile file(m_path);
     QVERIFY(file.replace(good));
@@ -203,15 +203,15 @@ void TestUserFile::aReplacedFileHasItsCopyBeside()
     QCOMPARE(names().size(), 2);
 }
 
-void TestUserFile::whatAnotherProgramWroteIsKept_data()
+void TestUserFile::changesOfAnotherProgramAreKept_data()
 {
     QTest::addColumn<QByteArray>("written");
     QTest::addColumn<QString>("keptAs");
     QTest::newRow("a list") << QByteArray("[ 4711 ]") << QStringLiteral(".changed");
-    QTest::newRow("no list") << QByteArray("[ 47") << QStringLiteral(".damaged");
+    QTest::newRow("not an array") << QByteArray("[ 47") << QStringLiteral(".damaged");
 }
 
-void TestUserFile::whatAnotherProgramWroteIsKept()
+void TestUserFile::changesOfAnotherProgramAreKept()
 {
     QFETCH(QByteArray, written);
     QFETCH(QString, keptAs);
@@ -229,7 +229,7 @@ void TestUserFile::permissionsAreKept()
     QVERIFY(writeFile(m_path, good));
     const auto userOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
     QVERIFY(QFile::setPermissions(m_path, userOnly));
-    QVERIFY(file.recover(UserFile::StaysInPlace));
+    QVERIFY(file.recover(UserFile::LeaveInPlace));
     QVERIFY(file.replace(other));
     QCOMPARE(QFile::permissions(m_path), userOnly);
     QCOMPARE(QFile::permissions(file.copyPath()), userOnly);
@@ -256,7 +256,7 @@ void TestUserFile::unusablePresetsAreKeptOnce()
     QCOMPARE(contentOf(beside), QByteArray("damaged"));
 }
 
-void TestUserFile::whatNoReaderTakesIsUnusable_data()
+void TestUserFile::recordsThatTheLibraryDropsAreUnusable_data()
 {
     QTest::addColumn<QByteArray>("formats");
     QTest::addColumn<QByteArray>("unusable");
@@ -278,7 +278,7 @@ void TestUserFile::whatNoReaderTakesIsUnusable_data()
         R"([{"title": "MP4", "group": {"id": "1"}}])");
 }
 
-void TestUserFile::whatNoReaderTakesIsUnusable()
+void TestUserFile::recordsThatTheLibraryDropsAreUnusable()
 {
     QFETCH(QByteArray, formats);
     QFETCH(QByteArray, unusable);

@@ -8,7 +8,7 @@
 
 #include <memory>
 
-/*! The queue over real songs; one that is called "hanging" is converted until it is stopped. */
+/*! Converts real audio files; the conversion of one named "hanging" runs until it is stopped. */
 class TestConversionQueue : public QObject
 {
     Q_OBJECT
@@ -19,21 +19,21 @@ private Q_SLOTS:
     void cleanup();
 
     void nothingRunsBeforeTheStart();
-    void jobsRunOneAfterAnotherInTheOrderOfTheirIds();
+    void jobsRunOneAtATimeInTheOrderOfTheirIds();
     void aFailureDoesNotStopTheOthers();
     void progressNamesItsJob();
-    void aJobIsAskedForOnlyWhenItsTurnHasCome();
-    void aJobThatIsAddedWhileOthersRunHasItsTurn();
-    void aJobCanFollowFromTheEndOfAnother();
-    void anIdCanBeUsedAgainOnceItsJobHasEnded();
+    void aJobIsRequestedOnlyWhenItsTurnComes();
+    void aJobAddedWhileOthersRunIsRun();
+    void aJobCanBeAddedWhenAnotherEnds();
+    void anIdCanBeReusedOnceItsJobHasEnded();
     void aWaitingJobIsCancelledAtOnce();
     void cancellingTheRunningJobLetsTheNextOneRun();
-    void aRemovedJobIsNotHeardOfAgain_data();
-    void aRemovedJobIsNotHeardOfAgain();
-    void aJobRemovedBeforeItFailsIsNotHeardOfAgain();
-    void stoppingCancelsWhatRunsAndForgetsWhatWaits();
-    void asManyRunSideBySideAsMay();
-    void theEndOfTheQueueLeavesNothing();
+    void aRemovedJobEmitsNothing_data();
+    void aRemovedJobEmitsNothing();
+    void aJobRemovedBeforeItFailsEmitsNothing();
+    void stoppingCancelsRunningJobsAndRemovesWaitingOnes();
+    void noMoreJobsRunThanAllowed();
+    void destroyingTheQueueLeavesNothing();
     void unknownIdsChangeNothing();
 
 private:
@@ -109,7 +109,7 @@ void TestConversionQueue::nothingRunsBeforeTheStart()
     QVERIFY(!m_queue->isEmpty());
 }
 
-void TestConversionQueue::jobsRunOneAfterAnotherInTheOrderOfTheirIds()
+void TestConversionQueue::jobsRunOneAtATimeInTheOrderOfTheirIds()
 {
     add(3, "song.wav");
     add(1, "song.wav");
@@ -142,7 +142,7 @@ void TestConversionQueue::progressNamesItsJob()
     QCOMPARE(progress.constLast().at(1).value<Progress>().total, 1.0);
 }
 
-void TestConversionQueue::aJobIsAskedForOnlyWhenItsTurnHasCome()
+void TestConversionQueue::aJobIsRequestedOnlyWhenItsTurnComes()
 {
     add(1, "song.wav");
     m_queue->add(2, [this] {
@@ -154,7 +154,7 @@ void TestConversionQueue::aJobIsAskedForOnlyWhenItsTurnHasCome()
     QCOMPARE(m_events, events("started 1, finished 1, asked, started 2, finished 2"));
 }
 
-void TestConversionQueue::aJobThatIsAddedWhileOthersRunHasItsTurn()
+void TestConversionQueue::aJobAddedWhileOthersRunIsRun()
 {
     add(1, "song.wav");
     m_queue->start();
@@ -164,7 +164,7 @@ void TestConversionQueue::aJobThatIsAddedWhileOthersRunHasItsTurn()
     QCOMPARE(m_events, events("started 1, finished 1, started 2, finished 2"));
 }
 
-void TestConversionQueue::aJobCanFollowFromTheEndOfAnother()
+void TestConversionQueue::aJobCanBeAddedWhenAnotherEnds()
 {
     connect(m_queue.get(), &ConversionQueue::finished, this, [this](int id) {
         if (id == 1) {
@@ -177,7 +177,7 @@ void TestConversionQueue::aJobCanFollowFromTheEndOfAnother()
                               patience);
 }
 
-void TestConversionQueue::anIdCanBeUsedAgainOnceItsJobHasEnded()
+void TestConversionQueue::anIdCanBeReusedOnceItsJobHasEnded()
 {
     add(1, "hanging.wav");
     m_queue->start();
@@ -210,18 +210,18 @@ void TestConversionQueue::cancellingTheRunningJobLetsTheNextOneRun()
     QCOMPARE(m_events, events("started 1, cancelled 1, started 2, finished 2"));
 }
 
-void TestConversionQueue::aRemovedJobIsNotHeardOfAgain_data()
+void TestConversionQueue::aRemovedJobEmitsNothing_data()
 {
     QTest::addColumn<int>("removed");
-    QTest::addColumn<QStringList>("told");
+    QTest::addColumn<QStringList>("expected");
     QTest::newRow("running") << 1 << events("started 1, started 2, cancelled 2");
     QTest::newRow("waiting") << 2 << events("started 1, cancelled 1");
 }
 
-void TestConversionQueue::aRemovedJobIsNotHeardOfAgain()
+void TestConversionQueue::aRemovedJobEmitsNothing()
 {
     QFETCH(int, removed);
-    QFETCH(QStringList, told);
+    QFETCH(QStringList, expected);
     const QStringList before = filesInFolder();
     add(1, "hanging.wav");
     add(2, "hanging.wav");
@@ -229,11 +229,11 @@ void TestConversionQueue::aRemovedJobIsNotHeardOfAgain()
     m_queue->remove(removed);
     m_queue->cancel(3 - removed);
     QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
-    QCOMPARE(m_events, told);
+    QCOMPARE(m_events, expected);
     QTRY_COMPARE_WITH_TIMEOUT(filesInFolder(), before, patience);
 }
 
-void TestConversionQueue::aJobRemovedBeforeItFailsIsNotHeardOfAgain()
+void TestConversionQueue::aJobRemovedBeforeItFailsEmitsNothing()
 {
     m_queue->add(1, [] { return ConversionJob(); });
     m_queue->start();
@@ -242,7 +242,7 @@ void TestConversionQueue::aJobRemovedBeforeItFailsIsNotHeardOfAgain()
     QCOMPARE(m_events, events("started 1"));
 }
 
-void TestConversionQueue::stoppingCancelsWhatRunsAndForgetsWhatWaits()
+void TestConversionQueue::stoppingCancelsRunningJobsAndRemovesWaitingOnes()
 {
     add(1, "hanging.wav");
     add(2, "song.wav");
@@ -252,7 +252,7 @@ void TestConversionQueue::stoppingCancelsWhatRunsAndForgetsWhatWaits()
     QCOMPARE(m_events, events("started 1, cancelled 1"));
 }
 
-void TestConversionQueue::asManyRunSideBySideAsMay()
+void TestConversionQueue::noMoreJobsRunThanAllowed()
 {
     m_queue->setMaxRunning(2);
     add(1, "hanging.wav");
@@ -270,7 +270,7 @@ void TestConversionQueue::asManyRunSideBySideAsMay()
              events("cancelled 1, cancelled 3, finished 2, started 1, started 2, started 3"));
 }
 
-void TestConversionQueue::theEndOfTheQueueLeavesNothing()
+void TestConversionQueue::destroyingTheQueueLeavesNothing()
 {
     const QStringList before = filesInFolder();
     add(1, "hanging.wav");

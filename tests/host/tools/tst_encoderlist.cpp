@@ -19,14 +19,14 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void encodersStandBelowTheRuleOfTheListing();
+    void encodersAreListedBelowTheRule();
     void aListingWithoutARuleHasNoEncoders();
-    void theFfmpegOnThePathIsAsked();
-    void anFfmpegIsAskedOnce();
-    void anotherFfmpegIsAskedAgain();
+    void theFfmpegOnThePathIsQueried();
+    void anFfmpegIsQueriedOnce();
+    void anotherFfmpegIsQueriedAgain();
     void aFailedListingIsAnError_data();
     void aFailedListingIsAnError();
-    void aFailedListingIsNotKept();
+    void aFailedListingIsNotCached();
     void aStoppedListIsCancelled_data();
     void aStoppedListIsCancelled();
 
@@ -90,7 +90,7 @@ void TestEncoderList::cleanup()
     m_folder.reset();
 }
 
-void TestEncoderList::encodersStandBelowTheRuleOfTheListing()
+void TestEncoderList::encodersAreListedBelowTheRule()
 {
     const QByteArray listing = "Encoders:\n V..... = Video\n A..... = Audio\n ------\n"
                                " V....D libx264              H.264 (codec h264)\n"
@@ -105,7 +105,7 @@ void TestEncoderList::aListingWithoutARuleHasNoEncoders()
     QVERIFY(encodersInListing({}).isEmpty());
 }
 
-void TestEncoderList::theFfmpegOnThePathIsAsked()
+void TestEncoderList::theFfmpegOnThePathIsQueried()
 {
     const Encoders encoders = ask();
     QVERIFY(encoders);
@@ -113,7 +113,7 @@ void TestEncoderList::theFfmpegOnThePathIsAsked()
     QVERIFY(encoders->contains(QStringLiteral("aac")));
 }
 
-void TestEncoderList::anFfmpegIsAskedOnce()
+void TestEncoderList::anFfmpegIsQueriedOnce()
 {
     standIn(listing("one"));
     QCOMPARE(namesOf(ask()), QStringList{QStringLiteral("one")});
@@ -121,7 +121,7 @@ void TestEncoderList::anFfmpegIsAskedOnce()
     QCOMPARE(timesAsked(), 1);
 }
 
-void TestEncoderList::anotherFfmpegIsAskedAgain()
+void TestEncoderList::anotherFfmpegIsQueriedAgain()
 {
     standIn(listing("one"));
     QCOMPARE(namesOf(ask()), QStringList{QStringLiteral("one")});
@@ -137,8 +137,8 @@ void TestEncoderList::aFailedListingIsAnError_data()
     QTest::newRow("exit code") << QByteArray("echo 'no such library' >&2; " + listing("one") +
                                              "; exit 1")
                                << QStringLiteral("no such library");
-    QTest::newRow("nothing listed")
-        << QByteArray("exit 0") << QStringLiteral("ffmpeg stopped without saying why");
+    QTest::newRow("empty list") << QByteArray("exit 0")
+                                << QStringLiteral("ffmpeg stopped without saying why");
     QTest::newRow("without end") << QByteArray("exec yes")
                                  << QStringLiteral("ffmpeg printed too much");
 }
@@ -158,7 +158,7 @@ void TestEncoderList::aFailedListingIsAnError()
             .arg(reason));
 }
 
-void TestEncoderList::aFailedListingIsNotKept()
+void TestEncoderList::aFailedListingIsNotCached()
 {
     standIn("echo >> \"${0%/*}/asked\"; exit 1");
     QVERIFY(!ask());
@@ -170,7 +170,7 @@ void TestEncoderList::aStoppedListIsCancelled_data()
 {
     QTest::addColumn<bool>("isKnown");
     QTest::newRow("while ffmpeg works") << false;
-    QTest::newRow("before a known answer is told") << true;
+    QTest::newRow("before a cached answer is delivered") << true;
 }
 
 void TestEncoderList::aStoppedListIsCancelled()

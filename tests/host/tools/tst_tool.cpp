@@ -25,12 +25,12 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void theOutcomeHoldsWhatNobodyRead();
-    void whatAToolStartedEndsWithIt_data();
-    void whatAToolStartedEndsWithIt();
-    void outputWithoutEndEndsTheTool();
-    void outputThatIsReadHasNoLimit();
-    void errorsWithoutEndAreKeptShort();
+    void theResultContainsTheUnreadOutput();
+    void processesThatAToolStartedEndWithIt_data();
+    void processesThatAToolStartedEndWithIt();
+    void endlessOutputEndsTheTool();
+    void readOutputIsUnlimited();
+    void endlessErrorsAreShortened();
     void aToolThatTakesTooLongIsEnded();
     void aToolWithinItsTimeIsLeftAlone();
     void aStoppedToolIsCancelled();
@@ -38,8 +38,8 @@ private Q_SLOTS:
     void aToolCanBeStartedAgain();
     void aRunningToolIsAbandonedForTheNextRun();
     void onlyAToolThatExitsCleanlyHasACleanOutput();
-    void aToolThatIsNotThereIsToBeInstalled();
-    void aToolThatCannotBeStartedIsNotMissing();
+    void aMissingToolShouldBeInstalled();
+    void aToolThatCannotStartIsNotReportedMissing();
 
 private:
     /*! Starts ffmpeg, which is \a script, and keeps how it ends. */
@@ -93,30 +93,30 @@ void TestTool::cleanup()
     m_folder.reset();
 }
 
-void TestTool::theOutcomeHoldsWhatNobodyRead()
+void TestTool::theResultContainsTheUnreadOutput()
 {
-    start(QStringLiteral("echo told; echo '[libx264 @ 0x55d] bad option' >&2; exit 3"));
+    start(QStringLiteral("echo output; echo '[libx264 @ 0x55d] bad option' >&2; exit 3"));
     QTRY_COMPARE_WITH_TIMEOUT(m_runs.size(), 1, patience);
     QVERIFY(m_runs.constFirst());
     const ToolRun outcome = run();
     QVERIFY(!outcome.exitedCleanly);
     QCOMPARE(outcome.excess, ToolRun::None);
-    QCOMPARE(outcome.output, QByteArray("told\n"));
+    QCOMPARE(outcome.output, QByteArray("output\n"));
     QCOMPARE(outcome.firstError(), QStringLiteral("bad option"));
 }
 
-void TestTool::whatAToolStartedEndsWithIt_data()
+void TestTool::processesThatAToolStartedEndWithIt_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<Ending>("end");
-    QTest::addColumn<bool>("isTold");
+    QTest::addColumn<bool>("isReported");
     QTest::addColumn<int>("milliseconds");
 
     const QString worker = QStringLiteral("sleep 1000 & echo $! > \"${0%/*}/worker\"\n");
     const Ending byItself = [](std::unique_ptr<Tool> &) {};
     const auto row = [&worker](const char *name, const char *script, const Ending &end,
-                               bool isTold = true, int milliseconds = 0) {
-        QTest::newRow(name) << worker + QLatin1String(script) << end << isTold << milliseconds;
+                               bool isReported = true, int milliseconds = 0) {
+        QTest::newRow(name) << worker + QLatin1String(script) << end << isReported << milliseconds;
     };
     row("stopped", "wait", [](std::unique_ptr<Tool> &tool) { tool->stop(); });
     row(
@@ -129,22 +129,22 @@ void TestTool::whatAToolStartedEndsWithIt_data()
     row("killed by someone else", "kill -9 $$", byItself);
 }
 
-void TestTool::whatAToolStartedEndsWithIt()
+void TestTool::processesThatAToolStartedEndWithIt()
 {
     QFETCH(QString, script);
     QFETCH(Ending, end);
-    QFETCH(bool, isTold);
+    QFETCH(bool, isReported);
     QFETCH(int, milliseconds);
     start(script, {100000, milliseconds});
     QTRY_VERIFY_WITH_TIMEOUT(idIn(QStringLiteral("worker")) > 0, patience);
     end(m_tool);
     QTRY_VERIFY_WITH_TIMEOUT(!isRunning(idIn(QStringLiteral("worker"))), patience);
-    QTRY_COMPARE_WITH_TIMEOUT(m_runs.size(), isTold ? 1 : 0, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_runs.size(), isReported ? 1 : 0, patience);
     QCoreApplication::processEvents();
-    QCOMPARE(m_runs.size(), isTold ? 1 : 0);
+    QCOMPARE(m_runs.size(), isReported ? 1 : 0);
 }
 
-void TestTool::outputWithoutEndEndsTheTool()
+void TestTool::endlessOutputEndsTheTool()
 {
     constexpr int limit = 300000;
     start(QStringLiteral("exec yes"), {limit, 0});
@@ -156,7 +156,7 @@ void TestTool::outputWithoutEndEndsTheTool()
     QCOMPARE(outcome.firstError(), QStringLiteral("ffmpeg printed too much"));
 }
 
-void TestTool::outputThatIsReadHasNoLimit()
+void TestTool::readOutputIsUnlimited()
 {
     constexpr int size = 3000000;
     int readBytes = 0;
@@ -169,7 +169,7 @@ void TestTool::outputThatIsReadHasNoLimit()
     QCOMPARE(readBytes, size);
 }
 
-void TestTool::errorsWithoutEndAreKeptShort()
+void TestTool::endlessErrorsAreShortened()
 {
     start(QStringLiteral("echo first >&2; yes | head -c 3000000 >&2; echo last >&2"));
     QTRY_COMPARE_WITH_TIMEOUT(m_runs.size(), 1, patience);
@@ -252,16 +252,16 @@ void TestTool::aRunningToolIsAbandonedForTheNextRun()
 
 void TestTool::onlyAToolThatExitsCleanlyHasACleanOutput()
 {
-    start(QStringLiteral("echo told"));
+    start(QStringLiteral("echo output"));
     QTRY_COMPARE_WITH_TIMEOUT(m_runs.size(), 1, patience);
-    QCOMPARE(cleanOutput(m_runs.at(0)).value_or(QByteArray()), QByteArray("told\n"));
-    start(QStringLiteral("echo told; echo trouble >&2; exit 1"));
+    QCOMPARE(cleanOutput(m_runs.at(0)).value_or(QByteArray()), QByteArray("output\n"));
+    start(QStringLiteral("echo output; echo trouble >&2; exit 1"));
     QTRY_COMPARE_WITH_TIMEOUT(m_runs.size(), 2, patience);
     QCOMPARE(cleanOutput(m_runs.at(1)).error().text, QStringLiteral("trouble"));
     QCOMPARE(cleanOutput(failed({}, Error::Cancelled)).error().kind, Error::Cancelled);
 }
 
-void TestTool::aToolThatIsNotThereIsToBeInstalled()
+void TestTool::aMissingToolShouldBeInstalled()
 {
     qputenv("PATH", m_folder->path().toLocal8Bit());
     m_tool->start(ffmpegCall({}));
@@ -273,7 +273,7 @@ void TestTool::aToolThatIsNotThereIsToBeInstalled()
                             "ffmpeg) and try again"));
 }
 
-void TestTool::aToolThatCannotBeStartedIsNotMissing()
+void TestTool::aToolThatCannotStartIsNotReportedMissing()
 {
     QFile file(m_folder->filePath(QStringLiteral("ffmpeg")));
     QVERIFY(file.open(QIODevice::WriteOnly));

@@ -8,12 +8,12 @@ class TestToolCall : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ffmpegPrintsOnlyErrorsAndWaitsForNoKey();
-    void ffprobePrintsOnlyErrorsBesideItsAnswer();
-    void aPathIsAFileWhateverIsInIt();
+    void ffmpegPrintsOnlyErrorsAndReadsNoInput();
+    void ffprobePrintsOnlyResultsAndErrors();
+    void anyPathIsTakenForAFile();
 };
 
-void TestToolCall::ffmpegPrintsOnlyErrorsAndWaitsForNoKey()
+void TestToolCall::ffmpegPrintsOnlyErrorsAndReadsNoInput()
 {
     const ToolCall call = ffmpegCall({QStringLiteral("-encoders")});
     QCOMPARE(call.program, QStringLiteral("ffmpeg"));
@@ -21,7 +21,7 @@ void TestToolCall::ffmpegPrintsOnlyErrorsAndWaitsForNoKey()
              QStringLiteral("-nostdin -hide_banner -v error -encoders"));
 }
 
-void TestToolCall::ffprobePrintsOnlyErrorsBesideItsAnswer()
+void TestToolCall::ffprobePrintsOnlyResultsAndErrors()
 {
     const ToolCall call = ffprobeCall({QStringLiteral("-show_format")});
     QCOMPARE(call.program, QStringLiteral("ffprobe"));
@@ -29,7 +29,7 @@ void TestToolCall::ffprobePrintsOnlyErrorsBesideItsAnswer()
              QStringLiteral("-hide_banner -v error -show_format"));
 }
 
-void TestToolCall::aPathIsAFileWhateverIsInIt()
+void TestToolCall::anyPathIsTakenForAFile()
 {
     QCOMPARE(fileArgument(QStringLiteral("/a/-b:%d.mp4")), QStringLiteral("file:/a/-b:%d.mp4"));
     QCOMPARE(fileArgument(QStringLiteral("-y")),

@@ -97,18 +97,18 @@ private Q_SLOTS:
     void initTestCase();
     void init();
 
-    void aSignalEndsTheWindowAsClosingDoes_data();
-    void aSignalEndsTheWindowAsClosingDoes();
-    void theEndOfTheDisplayLeavesNothingBehind();
+    void aSignalClosesTheWindow_data();
+    void aSignalClosesTheWindow();
+    void losingTheDisplayLeavesNothingBehind();
     void anIgnoredHangupEndsNothing();
-    void aFolderThatIsTakenIsSaidInADialog();
+    void aFolderInUseIsReportedInADialog();
     void filesAreDroppedFromAnotherProgram();
-    void aFileIsAddedByTheKeysOfItsPath();
+    void aFileIsAddedByTypingItsPath();
 
 private:
     QString path(const char *name) const { return m_work->filePath(QString::fromLatin1(name)); }
     void prepare(QProcess &program, const QStringList &arguments) const;
-    /*! The names of the pictures of files that the window has read. */
+    /*! The accessible names of the thumbnails of the files that the window has read. */
     QStringList thumbnails() const;
     /*! Starts the conversion of the window's only film; the converter's process id, 0 on failure.
      */
@@ -190,7 +190,7 @@ QStringList TestDesktop::leftBehind() const
     return names;
 }
 
-void TestDesktop::aSignalEndsTheWindowAsClosingDoes_data()
+void TestDesktop::aSignalClosesTheWindow_data()
 {
     QTest::addColumn<int>("signalNumber");
     QTest::newRow("terminate") << SIGTERM;
@@ -198,7 +198,7 @@ void TestDesktop::aSignalEndsTheWindowAsClosingDoes_data()
     QTest::newRow("Ctrl-C") << SIGINT;
 }
 
-void TestDesktop::aSignalEndsTheWindowAsClosingDoes()
+void TestDesktop::aSignalClosesTheWindow()
 {
     QFETCH(int, signalNumber);
     GroupProcess program;
@@ -217,7 +217,7 @@ void TestDesktop::aSignalEndsTheWindowAsClosingDoes()
     QCOMPARE(leftBehind(), QStringList());
 }
 
-void TestDesktop::theEndOfTheDisplayLeavesNothingBehind()
+void TestDesktop::losingTheDisplayLeavesNothingBehind()
 {
     QProcess display;
     display.start(QStringLiteral("Xvfb"),
@@ -261,7 +261,7 @@ void TestDesktop::anIgnoredHangupEndsNothing()
     QCOMPARE(program.exitCode(), 0);
 }
 
-void TestDesktop::aFolderThatIsTakenIsSaidInADialog()
+void TestDesktop::aFolderInUseIsReportedInADialog()
 {
     GroupProcess first;
     prepare(first, {});
@@ -318,7 +318,7 @@ void TestDesktop::filesAreDroppedFromAnotherProgram()
     QVERIFY(program.waitForFinished(patience));
 }
 
-void TestDesktop::aFileIsAddedByTheKeysOfItsPath()
+void TestDesktop::aFileIsAddedByTypingItsPath()
 {
     GroupProcess program;
     prepare(program, {});

@@ -100,16 +100,16 @@ private Q_SLOTS:
     void filesChosenByMouseAreAddedOnce();
     void filesTypedByKeyboardAreAddedOnce_data();
     void filesTypedByKeyboardAreAddedOnce();
-    void theShownPageGetsTheFiles();
+    void theCurrentPageGetsTheFiles();
     void cancelAddsNothing_data();
     void cancelAddsNothing();
-    void theDialogStartsInTheFolderOfFilmsElseAtHome();
-    void theNextDialogStartsWhereTheLastFilesWere();
+    void theDialogStartsInTheVideosFolderElseAtHome();
+    void theNextDialogStartsInTheFolderOfTheLastFiles();
     void theDialogBelongsToTheWindow();
-    void otherFilesAreHiddenUntilAllAreAskedFor();
-    void theFolderForResultsIsChosenByMouse();
-    void theFolderForResultsIsTypedByKeyboard();
-    void theFolderDialogStartsInThePresentFolder();
+    void otherFilesAreHiddenUntilAllAreRequested();
+    void theOutputFolderIsChosenByMouse();
+    void theOutputFolderIsTypedByKeyboard();
+    void theFolderDialogStartsInTheCurrentFolder();
 
 private:
     QStringList names() const;
@@ -222,7 +222,7 @@ void TestFileChooser::filesTypedByKeyboardAreAddedOnce()
     QCOMPARE(names(), chosen);
 }
 
-void TestFileChooser::theShownPageGetsTheFiles()
+void TestFileChooser::theCurrentPageGetsTheFiles()
 {
     QVERIFY(click(m_window, QStringLiteral("Editor")));
     QTest::keyClick(m_window, Qt::Key_O, Qt::ControlModifier);
@@ -258,7 +258,7 @@ void TestFileChooser::cancelAddsNothing()
     QCOMPARE(names(), QStringList());
 }
 
-void TestFileChooser::theDialogStartsInTheFolderOfFilmsElseAtHome()
+void TestFileChooser::theDialogStartsInTheVideosFolderElseAtHome()
 {
     QVERIFY(click(m_window, QStringLiteral("Add files")));
     QFileDialog *dialog = openDialog();
@@ -274,7 +274,7 @@ void TestFileChooser::theDialogStartsInTheFolderOfFilmsElseAtHome()
     QCOMPARE(dialog->directory().path(), homePath("Videos"));
 }
 
-void TestFileChooser::theNextDialogStartsWhereTheLastFilesWere()
+void TestFileChooser::theNextDialogStartsInTheFolderOfTheLastFiles()
 {
     QVERIFY(MediaClips::makeSong(homePath("results/four.wav")));
     QTest::keyClick(m_window, Qt::Key_O, Qt::ControlModifier);
@@ -307,7 +307,7 @@ void TestFileChooser::theDialogBelongsToTheWindow()
     }
 }
 
-void TestFileChooser::otherFilesAreHiddenUntilAllAreAskedFor()
+void TestFileChooser::otherFilesAreHiddenUntilAllAreRequested()
 {
     QFile note(homePath("note.txt"));
     QVERIFY(note.open(QIODevice::WriteOnly));
@@ -320,7 +320,7 @@ void TestFileChooser::otherFilesAreHiddenUntilAllAreAskedFor()
     QVERIFY(!rowOf(list, QStringLiteral("note.txt")).isValid());
 
     const auto *kinds = dialog->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
-    QCOMPARE(kinds->currentText(), QStringLiteral("Videos and songs"));
+    QCOMPARE(kinds->currentText(), QStringLiteral("Video and audio files"));
     const auto choose = [dialog, kinds](Qt::Key step) {
         clickWidget(dialog, kinds, kinds->rect().center());
         QVERIFY(
@@ -338,7 +338,7 @@ void TestFileChooser::otherFilesAreHiddenUntilAllAreAskedFor()
     QVERIFY(rowOf(list, QStringLiteral("one.wav")).isValid());
 }
 
-void TestFileChooser::theFolderForResultsIsChosenByMouse()
+void TestFileChooser::theOutputFolderIsChosenByMouse()
 {
     QVERIFY(click(m_window, QStringLiteral("Same folder as the source")));
     const QFileDialog *dialog = openDialog();
@@ -350,7 +350,7 @@ void TestFileChooser::theFolderForResultsIsChosenByMouse()
         !itemsNamed(m_window->contentItem(), QStringLiteral("results")).isEmpty(), patience);
 }
 
-void TestFileChooser::theFolderForResultsIsTypedByKeyboard()
+void TestFileChooser::theOutputFolderIsTypedByKeyboard()
 {
     for (int i = 0; i < 40 && nameOf(m_window->activeFocusItem()) !=
                                   QStringLiteral("Save to: Same folder as the source");
@@ -367,7 +367,7 @@ void TestFileChooser::theFolderForResultsIsTypedByKeyboard()
     QVERIFY(QTest::qWaitForWindowActive(m_window));
 }
 
-void TestFileChooser::theFolderDialogStartsInThePresentFolder()
+void TestFileChooser::theFolderDialogStartsInTheCurrentFolder()
 {
     m_main->converter().setFolder(homePath("results"));
     QVERIFY(click(m_window, QStringLiteral("results")));

@@ -19,11 +19,11 @@ private Q_SLOTS:
     void initTestCase();
     void init();
 
-    void filesAreReadInTheOrderInWhichTheyCame();
+    void filesAreReadInTheOrderOfTheirRequests();
     void aVideosThumbnailIsTakenATenthIntoIt();
-    void aSongsThumbnailIsItsCover();
-    void aForgottenFileIsNotHeardOfAgain_data();
-    void aForgottenFileIsNotHeardOfAgain();
+    void theThumbnailOfAnAudioFileIsItsCover();
+    void aForgottenFileEmitsNothing_data();
+    void aForgottenFileEmitsNothing();
 
 private:
     QString clip(const char *name) const { return m_clips.filePath(QLatin1String(name)); }
@@ -78,7 +78,7 @@ QColor TestInspector::thumbnailColour(const QString &path)
     return thumbnail.pixelColor(thumbnail.rect().center());
 }
 
-void TestInspector::filesAreReadInTheOrderInWhichTheyCame()
+void TestInspector::filesAreReadInTheOrderOfTheirRequests()
 {
     m_inspector->inspect(2, clip("song.wav"));
     m_inspector->inspect(1, clip("film.mp4"));
@@ -92,28 +92,28 @@ void TestInspector::aVideosThumbnailIsTakenATenthIntoIt()
     QVERIFY2(colour.red() > 200 && colour.green() < 60, qPrintable(colour.name()));
 }
 
-void TestInspector::aSongsThumbnailIsItsCover()
+void TestInspector::theThumbnailOfAnAudioFileIsItsCover()
 {
     const QColor colour = thumbnailColour(clip("song.flac"));
     QVERIFY2(colour.red() > 200 && colour.green() < 60, qPrintable(colour.name()));
 }
 
-void TestInspector::aForgottenFileIsNotHeardOfAgain_data()
+void TestInspector::aForgottenFileEmitsNothing_data()
 {
     QTest::addColumn<QString>("forgetAt"); // empty: at once
     QTest::addColumn<int>("forgotten");
-    QTest::addColumn<QStringList>("told");
+    QTest::addColumn<QStringList>("events");
     QTest::newRow("while it is read") << QString() << 1 << events("read 2, read 3");
     QTest::newRow("while it waits") << QString() << 2 << events("read 1, thumbnail 1, read 3");
     QTest::newRow("while its thumbnail is made")
         << QStringLiteral("read 1") << 1 << events("read 1, read 2, read 3");
 }
 
-void TestInspector::aForgottenFileIsNotHeardOfAgain()
+void TestInspector::aForgottenFileEmitsNothing()
 {
     QFETCH(QString, forgetAt);
     QFETCH(int, forgotten);
-    QFETCH(QStringList, told);
+    QFETCH(QStringList, events);
     m_inspector->inspect(1, clip("film.mp4"));
     m_inspector->inspect(2, clip("song.wav"));
     m_inspector->inspect(3, clip("song.wav"));
@@ -121,7 +121,7 @@ void TestInspector::aForgottenFileIsNotHeardOfAgain()
         [this, &forgetAt] { return forgetAt.isEmpty() || m_events.contains(forgetAt); }, patience));
     m_inspector->forget(forgotten);
     QTRY_VERIFY_WITH_TIMEOUT(m_events.contains(QStringLiteral("read 3")), patience);
-    QCOMPARE(m_events, told);
+    QCOMPARE(m_events, events);
 }
 
 QTEST_GUILESS_MAIN(TestInspector)

@@ -1,5 +1,5 @@
 #include "host/app/languages.h"
-#include "host/files/filenames.h"
+#include "host/files/filenamecodec.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
 #include "host/window/windowsettings.h"
@@ -46,10 +46,10 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
 
-    void convertsTwoFilesWithPresetsOfTheUsersOwn();
-    void everythingIsThereAfterARestart();
-    void keysDoWhatTheMouseDoes();
-    void aNameThatIsNoUtf8IsConverted();
+    void twoFilesAreConvertedWithTheUsersPresets();
+    void everythingIsRestoredAfterARestart();
+    void theKeyboardDoesWhatTheMouseDoes();
+    void aFileWhoseNameIsNotUtf8IsConverted();
 
 private:
     QString configFolder() const;
@@ -59,7 +59,7 @@ private:
 
 void TestJourney::initTestCase()
 {
-    keepBytesOfFileNames();
+    installFileNameCodec();
     Languages::install(QStringLiteral("en"));
     collectWarnings();
 }
@@ -75,7 +75,7 @@ QString TestJourney::configFolder() const
     return given.isEmpty() ? m_work.filePath(QStringLiteral("config")) : given;
 }
 
-void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
+void TestJourney::twoFilesAreConvertedWithTheUsersPresets()
 {
     const QString film = m_work.filePath(QStringLiteral("film.mp4"));
     const QString song = m_work.filePath(QStringLiteral("song.wav"));
@@ -90,8 +90,8 @@ void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
     const WindowSettings &settings = main.settings();
 
     // Two files are dropped.
-    QVERIFY(
-        !itemsNamed(window->contentItem(), QStringLiteral("Drop videos or songs here")).isEmpty());
+    QVERIFY(!itemsNamed(window->contentItem(), QStringLiteral("Drop video or audio files here"))
+                 .isEmpty());
     drop(window, {QUrl::fromLocalFile(film), QUrl::fromLocalFile(song)});
     const QVector<Task> &tasks = main.converter().tasks()->tasks();
     QTRY_COMPARE(tasks.size(), 2);
@@ -159,7 +159,7 @@ void TestJourney::convertsTwoFilesWithPresetsOfTheUsersOwn()
 }
 
 /*! Looks for it in a process of its own: the library loads its files once in a process. */
-void TestJourney::everythingIsThereAfterARestart()
+void TestJourney::everythingIsRestoredAfterARestart()
 {
     if (!qEnvironmentVariableIsSet(configVariable)) {
         QProcess second;
@@ -187,7 +187,7 @@ void TestJourney::everythingIsThereAfterARestart()
     QTRY_VERIFY(!itemsNamed(window->contentItem(), QStringLiteral("Mine")).isEmpty());
 }
 
-void TestJourney::keysDoWhatTheMouseDoes()
+void TestJourney::theKeyboardDoesWhatTheMouseDoes()
 {
     if (qEnvironmentVariableIsSet(configVariable)) {
         return;
@@ -244,7 +244,7 @@ void TestJourney::keysDoWhatTheMouseDoes()
     QCOMPARE(namelessControls(window->contentItem()), QStringList());
 }
 
-void TestJourney::aNameThatIsNoUtf8IsConverted()
+void TestJourney::aFileWhoseNameIsNotUtf8IsConverted()
 {
     // A file manager names it by a URL, the folder that holds it by another.
     const QTemporaryDir work;

@@ -39,9 +39,9 @@ private Q_SLOTS:
     void cleanup();
     void cleanupTestCase();
 
-    void aSecondStartHandsItsFilesOver();
-    void aSecondStartBringsTheWindowBack();
-    void aFolderWithoutMediaIsSaid();
+    void aSecondInstancePassesItsFiles();
+    void aSecondInstanceRaisesTheWindow();
+    void aFolderWithoutMediaIsReported();
     void aResultIsShownInTheFileManager();
     void aPresetInUseIsNotDeleted();
     void closingTheWindowStopsItsConversion();
@@ -125,7 +125,7 @@ void TestMainWindow::convertSlowly()
     QTRY_VERIFY_WITH_TIMEOUT(!contentOf(path("converter")).isEmpty(), patience);
 }
 
-void TestMainWindow::aSecondStartHandsItsFilesOver()
+void TestMainWindow::aSecondInstancePassesItsFiles()
 {
     QVERIFY(QDir(m_files->path()).mkdir(QStringLiteral("album")));
     for (const char *name : {"a b.wav", "c.wav", "album/d.wav"}) {
@@ -145,7 +145,7 @@ void TestMainWindow::aSecondStartHandsItsFilesOver()
     QCOMPARE(m_main->editor().tasks()->count(), 0);
 }
 
-void TestMainWindow::aSecondStartBringsTheWindowBack()
+void TestMainWindow::aSecondInstanceRaisesTheWindow()
 {
     QVERIFY(click(m_window, QStringLiteral("Editor")));
     m_window->showMinimized();
@@ -157,11 +157,12 @@ void TestMainWindow::aSecondStartBringsTheWindowBack()
     QCOMPARE(tasks().size(), 0);
 }
 
-void TestMainWindow::aFolderWithoutMediaIsSaid()
+void TestMainWindow::aFolderWithoutMediaIsReported()
 {
     drop(m_window, {QUrl::fromLocalFile(m_files->path())});
     const QString line =
-        QStringLiteral("There are no videos or songs in the folder %1; add the files themselves")
+        QStringLiteral(
+            "There are no video or audio files in the folder %1; add the files themselves")
             .arg(m_files->path());
     QTRY_VERIFY_WITH_TIMEOUT(!itemsNamed(m_window->contentItem(), line).isEmpty(), patience);
     QCOMPARE(takeWarnings(), line);

@@ -9,12 +9,12 @@ class TestPage : public PageTest
 
 private Q_SLOTS:
     void aFileIsReadAndGetsAThumbnail();
-    void aFolderGivesItsMediaFiles();
+    void aFoldersMediaFilesAreAdded();
     void aFolderWithoutMediaIsNamed();
-    void aFileThatIsNoMediaSaysSoAndTheRestGoOn();
-    void whatIsReadLateChangesNoStateOfAConversion();
-    void removingAFileThatHangsLetsTheNextOneBeRead_data();
-    void removingAFileThatHangsLetsTheNextOneBeRead();
+    void aFileThatIsNotMediaFailsAndTheOthersGoOn();
+    void factsThatArriveLateDoNotChangeTheState();
+    void removingAHangingFileLetsTheNextOneBeRead_data();
+    void removingAHangingFileLetsTheNextOneBeRead();
 };
 
 void TestPage::aFileIsReadAndGetsAThumbnail()
@@ -27,12 +27,12 @@ void TestPage::aFileIsReadAndGetsAThumbnail()
     QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Ready, patience);
     QCOMPARE(task(*m_converter, id).facts.video()->codec, QStringLiteral("h264"));
     QTRY_VERIFY_WITH_TIMEOUT(!task(*m_converter, id).thumbnail.isEmpty(), patience);
-    const QImage picture(QUrl(task(*m_converter, id).thumbnail).toLocalFile());
-    QCOMPARE(picture.size(), QSize(256, 192));
+    const QImage thumbnail(QUrl(task(*m_converter, id).thumbnail).toLocalFile());
+    QCOMPARE(thumbnail.size(), QSize(256, 192));
     QCOMPARE(task(*m_converter, id).formatCaption, QStringLiteral("MP3 - Middle Quality"));
 }
 
-void TestPage::aFolderGivesItsMediaFiles()
+void TestPage::aFoldersMediaFilesAreAdded()
 {
     song(QStringLiteral("b.wav"));
     song(QStringLiteral("a.mp3"));
@@ -61,7 +61,7 @@ void TestPage::aFolderWithoutMediaIsNamed()
     QCOMPARE(noticed.count(), 1);
 }
 
-void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()
+void TestPage::aFileThatIsNotMediaFailsAndTheOthersGoOn()
 {
     m_converter->addFiles({noMedia(), song()});
     const int first = m_converter->tasks()->tasks().at(0).id;
@@ -78,7 +78,7 @@ void TestPage::aFileThatIsNoMediaSaysSoAndTheRestGoOn()
              mp3.mid(6, 3).toLower());
 }
 
-void TestPage::whatIsReadLateChangesNoStateOfAConversion()
+void TestPage::factsThatArriveLateDoNotChangeTheState()
 {
     QVector<Task::State> states;
     connect(m_converter->tasks(), &TaskList::dataChanged, this,
@@ -91,26 +91,26 @@ void TestPage::whatIsReadLateChangesNoStateOfAConversion()
     QVERIFY(!states.contains(Task::Ready));
 }
 
-void TestPage::removingAFileThatHangsLetsTheNextOneBeRead_data()
+void TestPage::removingAHangingFileLetsTheNextOneBeRead_data()
 {
     QTest::addColumn<QString>("tool");
     QTest::newRow("while it is read") << QStringLiteral("ffprobe");
     QTest::newRow("while its thumbnail is made") << QStringLiteral("ffmpeg");
 }
 
-void TestPage::removingAFileThatHangsLetsTheNextOneBeRead()
+void TestPage::removingAHangingFileLetsTheNextOneBeRead()
 {
     QFETCH(QString, tool);
     const QString film = m_files->filePath(QStringLiteral("hanging.mp4"));
     QVERIFY(MediaClips::makeFilm(film));
     const QUrl next = song();
-    // The tool tells its process id and hangs on this file alone.
-    const QString told = m_files->filePath(QStringLiteral("pid"));
+    // The tool writes its process id, and hangs on this file only.
+    const QString pidFile = m_files->filePath(QStringLiteral("pid"));
     QVERIFY(MediaClips::makeStandIn(
         m_files->path(),
         QStringLiteral("case \"$*\" in *hanging*) echo $$ >'%1'; exec sleep 600;; esac\n"
                        "exec $REAL \"$@\"")
-            .arg(told),
+            .arg(pidFile),
         QStringLiteral("nothing"), tool));
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", MediaClips::pathWith(m_files->path()));
@@ -118,8 +118,8 @@ void TestPage::removingAFileThatHangsLetsTheNextOneBeRead()
     const int first = m_converter->tasks()->tasks().at(0).id;
     const int second = m_converter->tasks()->tasks().at(1).id;
     int pid = 0;
-    const bool hangs = QTest::qWaitFor([&told, &pid] {
-        QFile file(told);
+    const bool hangs = QTest::qWaitFor([&pidFile, &pid] {
+        QFile file(pidFile);
         pid = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
         return pid != 0;
     });

@@ -9,17 +9,17 @@ class TestPageConversions : public PageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void tasksRunOneAfterAnother();
+    void tasksRunOneAtATime();
     void tasksRunInTheOrderOfTheList();
-    void aRunningTaskIsNotConvertedAnew();
-    void allTracksAreKeptWhereThePresetKeepsThem();
-    void aStoppedTaskCanBeTriedAgain();
+    void aRunningTaskIsNotRestarted();
+    void allTracksAreKeptIfThePresetKeepsThem();
+    void aStoppedTaskCanBeRetried();
     void removingTheRunningTaskLetsTheNextOneRun();
-    void resultsGoIntoTheChosenFolder();
+    void resultsAreWrittenToTheChosenFolder();
     void theEditorCutsItsFiles();
 };
 
-void TestPageConversions::tasksRunOneAfterAnother()
+void TestPageConversions::tasksRunOneAtATime()
 {
     addReady(*m_converter, song(QStringLiteral("a.wav")));
     addReady(*m_converter, song(QStringLiteral("b.wav")));
@@ -55,7 +55,7 @@ void TestPageConversions::tasksRunInTheOrderOfTheList()
     QCOMPARE(m_runs, QVector<int>({first, second, third}));
 }
 
-void TestPageConversions::aRunningTaskIsNotConvertedAnew()
+void TestPageConversions::aRunningTaskIsNotRestarted()
 {
     const int id = addReady(*m_converter, song());
     m_converter->convert(id);
@@ -65,7 +65,7 @@ void TestPageConversions::aRunningTaskIsNotConvertedAnew()
     QVERIFY(!m_converter->isBusy());
 }
 
-void TestPageConversions::allTracksAreKeptWhereThePresetKeepsThem()
+void TestPageConversions::allTracksAreKeptIfThePresetKeepsThem()
 {
     const QString path = m_files->filePath(QStringLiteral("dubbed.mkv"));
     QVERIFY(MediaClips::make(
@@ -79,7 +79,7 @@ void TestPageConversions::allTracksAreKeptWhereThePresetKeepsThem()
     QCOMPARE(MediaClips::factsOf(task(*m_converter, id).target).audioTracks.size(), 2);
 }
 
-void TestPageConversions::aStoppedTaskCanBeTriedAgain()
+void TestPageConversions::aStoppedTaskCanBeRetried()
 {
     const int first = addReady(*m_converter, song(QStringLiteral("a.wav")));
     const int second = addReady(*m_converter, song(QStringLiteral("b.wav")));
@@ -107,7 +107,7 @@ void TestPageConversions::removingTheRunningTaskLetsTheNextOneRun()
     QVERIFY(!QFile::exists(m_files->filePath(QStringLiteral("a.mp3"))));
 }
 
-void TestPageConversions::resultsGoIntoTheChosenFolder()
+void TestPageConversions::resultsAreWrittenToTheChosenFolder()
 {
     QTemporaryDir folder;
     m_converter->setFolder(folder.path());
@@ -128,7 +128,7 @@ void TestPageConversions::theEditorCutsItsFiles()
     QTRY_COMPARE_WITH_TIMEOUT(task(*m_editor, id).state, Task::Converted, patience);
     const double seconds = MediaClips::factsOf(task(*m_editor, id).target).duration;
     QVERIFY2(std::abs(seconds - 2.5) < 0.15, qPrintable(QString::number(seconds)));
-    // Another part of a file that is through makes it ready again.
+    // Choosing another part of a converted file makes it ready again.
     m_editor->cut(id, 0, 1);
     QCOMPARE(task(*m_editor, id).state, Task::Ready);
     QCOMPARE(task(*m_editor, id).end, 1.0);

@@ -6,16 +6,16 @@ class TestPageFormats : public PageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void theGlobalFormatHoldsForAllThatAreNotAtWork();
+    void theGlobalFormatAppliesToAllTasksThatAreNotQueued();
     void aTaskHasAFormatOfItsOwn();
-    void choosingMovesThePresetToTheHeadOfTheRecentlyUsed();
+    void choosingAPresetMovesItToTheTopOfTheRecentlyUsed();
     void aPresetIsUsedWhileItsTaskIsQueued();
-    void aTaskWhosePresetIsGoneTakesTheGlobalOne();
+    void aTaskWhosePresetIsDeletedTakesTheGlobalOne();
     void aNewFormatMakesAConvertedTaskReady();
     void aNewFormatDoesNotMakeAnUnreadableFileReady();
 };
 
-void TestPageFormats::theGlobalFormatHoldsForAllThatAreNotAtWork()
+void TestPageFormats::theGlobalFormatAppliesToAllTasksThatAreNotQueued()
 {
     const int first = addReady(*m_converter, song(QStringLiteral("a.wav")));
     const int second = addReady(*m_converter, song(QStringLiteral("b.wav")));
@@ -42,7 +42,7 @@ void TestPageFormats::aTaskHasAFormatOfItsOwn()
     m_converter->setConvertingListTaskFormat(second + 1000, flac);
 }
 
-void TestPageFormats::choosingMovesThePresetToTheHeadOfTheRecentlyUsed()
+void TestPageFormats::choosingAPresetMovesItToTheTopOfTheRecentlyUsed()
 {
     const auto head = [this] { return m_store->formats().recentlyFormatsModel()->getId(0); };
     m_converter->setConverterGlobalFormat(flac);
@@ -74,7 +74,7 @@ void TestPageFormats::aPresetIsUsedWhileItsTaskIsQueued()
     QVERIFY(!m_converter->checkFormatUsed(flac));
 }
 
-void TestPageFormats::aTaskWhosePresetIsGoneTakesTheGlobalOne()
+void TestPageFormats::aTaskWhosePresetIsDeletedTakesTheGlobalOne()
 {
     const QString own =
         m_store->formats().addUserDefineFormat(QStringLiteral("audio"), QStringLiteral("MP3"), mp3,

@@ -41,10 +41,10 @@ private Q_SLOTS:
     void initTestCase();
 
     void everyChangeIsSavedAsItHappens();
-    void aSaveThatFailsIsTold();
-    void whatCouldNotBeSavedIsSavedAtTheEnd();
-    void aRemovedFolderComesBackWithAllPresets();
-    void aPresetThatIsGoneHasAStandIn();
+    void aFailedSaveIsReported();
+    void unsavedChangesAreSavedAtTheEnd();
+    void aRemovedFolderIsRestoredWithAllPresets();
+    void aDeletedPresetHasAStandIn();
     void captionsNameTheFormatAndTheTitle();
 
     void settingsSurviveARestart();
@@ -95,7 +95,7 @@ void TestPresets::everyChangeIsSavedAsItHappens()
     QCOMPARE(changes.count(), 4);
 }
 
-void TestPresets::aSaveThatFailsIsTold()
+void TestPresets::aFailedSaveIsReported()
 {
     const QByteArray before = contentOf(recently());
     QVERIFY(QFile::remove(recently()));
@@ -111,7 +111,7 @@ void TestPresets::aSaveThatFailsIsTold()
     QCOMPARE(failures.count(), 1);
 }
 
-void TestPresets::whatCouldNotBeSavedIsSavedAtTheEnd()
+void TestPresets::unsavedChangesAreSavedAtTheEnd()
 {
     const QByteArray before = contentOf(recently());
     QVERIFY(QFile::remove(recently()));
@@ -128,7 +128,7 @@ void TestPresets::whatCouldNotBeSavedIsSavedAtTheEnd()
     m_presets->flush();
 }
 
-void TestPresets::aRemovedFolderComesBackWithAllPresets()
+void TestPresets::aRemovedFolderIsRestoredWithAllPresets()
 {
     QSignalSpy failures(m_presets.get(), &Presets::saveFailed);
     FormatsProxy &formats = m_store->formats();
@@ -150,7 +150,7 @@ void TestPresets::aRemovedFolderComesBackWithAllPresets()
     m_presets->flush();
 }
 
-void TestPresets::aPresetThatIsGoneHasAStandIn()
+void TestPresets::aDeletedPresetHasAStandIn()
 {
     const QString known = QStringLiteral("Audio_MP3_002");
     const QString other = QStringLiteral("Video_MKV_001");
@@ -195,7 +195,7 @@ void TestPresets::settingsSurviveARestart()
     QCOMPARE(settings.folder(PageKind::Editor), QStringLiteral("/films"));
 }
 
-// The last one: it takes a format away.
+// Must run last: it removes a format.
 void TestPresets::withoutTheDefaultPresetTheFirstOneStandsIn()
 {
     const QString gone = QStringLiteral("4711");

@@ -25,9 +25,9 @@ private Q_SLOTS:
 
     void pathsArriveByteForByte_data();
     void pathsArriveByteForByte();
-    void oneAfterAnotherIsAnswered();
+    void severalInstancesAreAnswered();
     void nobodyAnswersForAnotherFolder();
-    void aWindowThatHangsGetsNothing();
+    void aHangingWindowGetsNothing();
 
 private:
     /*! Whether the paths were taken, without blocking this thread's events. */
@@ -58,7 +58,7 @@ void TestSingleInstance::pathsArriveByteForByte_data()
     QTest::addColumn<QStringList>("paths");
     QTest::newRow("none") << QStringList();
     QTest::newRow("several") << QStringList{QStringLiteral("/a b.mp4"), QStringLiteral("/c\n.mp4")};
-    QTest::newRow("no UTF-8") << QStringList{QFile::decodeName("/\xff\xe4.mp4")};
+    QTest::newRow("not UTF-8") << QStringList{QFile::decodeName("/\xff\xe4.mp4")};
     QStringList many;
     for (int i = 0; i < 20000; ++i) {
         many << QStringLiteral("/a folder with a long name/film %1.mp4").arg(i);
@@ -78,7 +78,7 @@ void TestSingleInstance::pathsArriveByteForByte()
     QCOMPARE(asked.at(0).at(0).toStringList(), paths);
 }
 
-void TestSingleInstance::oneAfterAnotherIsAnswered()
+void TestSingleInstance::severalInstancesAreAnswered()
 {
     const QTemporaryDir folder;
     SingleInstance window(folder.path());
@@ -99,7 +99,7 @@ void TestSingleInstance::nobodyAnswersForAnotherFolder()
     QVERIFY(!SingleInstance(other.path()).handOver({}, patience));
 }
 
-void TestSingleInstance::aWindowThatHangsGetsNothing()
+void TestSingleInstance::aHangingWindowGetsNothing()
 {
     const QTemporaryDir folder;
     SingleInstance window(folder.path());

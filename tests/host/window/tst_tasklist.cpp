@@ -19,16 +19,16 @@ class TestTaskList : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tasksKeepTheOrderInWhichTheyCame();
-    void idsAreNeverGivenTwice();
+    void tasksKeepTheOrderInWhichTheyWereAdded();
+    void idsAreNeverReused();
     void aChangeIsAnnouncedForItsRowOnly();
     void unknownIdsChangeNothing();
     void rolesReadTheTask();
-    void queuedAndEndedStatesAreTold_data();
-    void queuedAndEndedStatesAreTold();
+    void queuedAndEndedStatesAreKnown_data();
+    void queuedAndEndedStatesAreKnown();
 };
 
-void TestTaskList::tasksKeepTheOrderInWhichTheyCame()
+void TestTaskList::tasksKeepTheOrderInWhichTheyWereAdded()
 {
     TaskList list;
     QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
@@ -43,7 +43,7 @@ void TestTaskList::tasksKeepTheOrderInWhichTheyCame()
     QCOMPARE(counts.count(), 4);
 }
 
-void TestTaskList::idsAreNeverGivenTwice()
+void TestTaskList::idsAreNeverReused()
 {
     TaskList one;
     TaskList other;
@@ -84,13 +84,13 @@ void TestTaskList::unknownIdsChangeNothing()
 void TestTaskList::rolesReadTheTask()
 {
     Task film = task("/films/Sea.mp4");
-    VideoTrack picture;
-    picture.codec = QStringLiteral("h264");
-    picture.storedSize = QSize(1280, 720);
-    AudioTrack sound;
-    sound.codec = QStringLiteral("aac");
-    film.facts.videoTracks = {picture};
-    film.facts.audioTracks = {sound};
+    VideoTrack video;
+    video.codec = QStringLiteral("h264");
+    video.storedSize = QSize(1280, 720);
+    AudioTrack audio;
+    audio.codec = QStringLiteral("aac");
+    film.facts.videoTracks = {video};
+    film.facts.audioTracks = {audio};
     film.facts.duration = 65;
     film.facts.bytes = 2048;
     film.progress.done = 13;
@@ -113,7 +113,7 @@ void TestTaskList::rolesReadTheTask()
     QCOMPARE(value("seconds"), QStringLiteral("65"));
 }
 
-void TestTaskList::queuedAndEndedStatesAreTold_data()
+void TestTaskList::queuedAndEndedStatesAreKnown_data()
 {
     QTest::addColumn<Task::State>("state");
     QTest::addColumn<bool>("isQueued");
@@ -127,7 +127,7 @@ void TestTaskList::queuedAndEndedStatesAreTold_data()
     QTest::newRow("cancelled") << Task::Cancelled << false << true;
 }
 
-void TestTaskList::queuedAndEndedStatesAreTold()
+void TestTaskList::queuedAndEndedStatesAreKnown()
 {
     QFETCH(Task::State, state);
     Task made;

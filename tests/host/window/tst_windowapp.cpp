@@ -76,25 +76,25 @@ class TestWindowApp : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aCallWithoutASubcommandAsksForTheWindow_data();
-    void aCallWithoutASubcommandAsksForTheWindow();
-    void withoutADisplayThatIsSaid();
+    void withoutASubcommandTheWindowOpens_data();
+    void withoutASubcommandTheWindowOpens();
+    void aMissingDisplayIsReported();
     void subcommandsNeedNoDisplay();
-    void filesAreForTheWindow_data();
-    void filesAreForTheWindow();
-    void aSecondStartEndsWell();
-    void aFolderIsForOneWindow();
-    void aDamagedFileIsToldInTheLog();
-    void whatAKilledProgramLeftGoesWithTheNextWindow();
+    void fileArgumentsArePassedToTheWindow_data();
+    void fileArgumentsArePassedToTheWindow();
+    void aSecondInstanceExitsCleanly();
+    void aFolderAllowsOneWindow();
+    void aDamagedFileIsLogged();
+    void theNextWindowRemovesWhatAKilledProcessLeft();
     void badOptionsAreRefused_data();
     void badOptionsAreRefused();
-    void theHelpTellsOfTheWindow();
+    void theHelpMentionsTheWindow();
 
 private:
     QTemporaryDir m_work;
 };
 
-void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow_data()
+void TestWindowApp::withoutASubcommandTheWindowOpens_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<bool>("isForWindow");
@@ -112,7 +112,7 @@ void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow_data()
     row("formats", false);
 }
 
-void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow()
+void TestWindowApp::withoutASubcommandTheWindowOpens()
 {
     QFETCH(QStringList, arguments);
     QFETCH(bool, isForWindow);
@@ -124,25 +124,25 @@ void TestWindowApp::aCallWithoutASubcommandAsksForTheWindow()
     }
 }
 
-void TestWindowApp::withoutADisplayThatIsSaid()
+void TestWindowApp::aMissingDisplayIsReported()
 {
-    const Run told = run({}, QStringLiteral("xcb"));
-    QCOMPARE(told.exitCode, 2);
-    QCOMPARE(told.out, QString());
-    QCOMPARE(told.err, QStringLiteral("vexconvert: there is no display to show the window on; "
-                                      "start it in a desktop, or use a subcommand: \"vexconvert "
-                                      "--help\" lists them\n"));
+    const Run result = run({}, QStringLiteral("xcb"));
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(result.out, QString());
+    QCOMPARE(result.err, QStringLiteral("vexconvert: there is no display to show the window on; "
+                                        "start it in a desktop, or use a subcommand: \"vexconvert "
+                                        "--help\" lists them\n"));
 }
 
 void TestWindowApp::subcommandsNeedNoDisplay()
 {
-    const Run told = run({QStringLiteral("formats")}, QStringLiteral("xcb"));
-    QCOMPARE(told.exitCode, 0);
-    QVERIFY(told.out.contains(QStringLiteral("MP4")));
-    QCOMPARE(told.err, QString());
+    const Run result = run({QStringLiteral("formats")}, QStringLiteral("xcb"));
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.out.contains(QStringLiteral("MP4")));
+    QCOMPARE(result.err, QString());
 }
 
-void TestWindowApp::filesAreForTheWindow_data()
+void TestWindowApp::fileArgumentsArePassedToTheWindow_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QStringList>("files"); // none: not for the window
@@ -159,7 +159,7 @@ void TestWindowApp::filesAreForTheWindow_data()
     QTest::newRow("subcommand") << QStringList{QStringLiteral("convert"), file} << QStringList();
 }
 
-void TestWindowApp::filesAreForTheWindow()
+void TestWindowApp::fileArgumentsArePassedToTheWindow()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QStringList, files);
@@ -170,7 +170,7 @@ void TestWindowApp::filesAreForTheWindow()
     QCOMPARE(options ? options->files : QStringList(), files);
 }
 
-void TestWindowApp::aSecondStartEndsWell()
+void TestWindowApp::aSecondInstanceExitsCleanly()
 {
     QTemporaryDir folder;
     const QStringList call = {QStringLiteral("--config"), folder.path()};
@@ -197,7 +197,7 @@ void TestWindowApp::aSecondStartEndsWell()
     third.waitForFinished();
 }
 
-void TestWindowApp::aFolderIsForOneWindow()
+void TestWindowApp::aFolderAllowsOneWindow()
 {
     QTemporaryDir folder;
     const QStringList call = {QStringLiteral("--config"), folder.path(),
@@ -220,7 +220,7 @@ void TestWindowApp::aFolderIsForOneWindow()
     first.waitForFinished();
 }
 
-void TestWindowApp::aDamagedFileIsToldInTheLog()
+void TestWindowApp::aDamagedFileIsLogged()
 {
     QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("recently.json")));
@@ -241,7 +241,7 @@ void TestWindowApp::aDamagedFileIsToldInTheLog()
     window.waitForFinished();
 }
 
-void TestWindowApp::whatAKilledProgramLeftGoesWithTheNextWindow()
+void TestWindowApp::theNextWindowRemovesWhatAKilledProcessLeft()
 {
     const QTemporaryDir folder;
     const QStringList places = {QStringLiteral("tmp"), QStringLiteral("results")};
@@ -249,9 +249,9 @@ void TestWindowApp::whatAKilledProgramLeftGoesWithTheNextWindow()
     for (const QString &place : places) {
         const QString path = folder.filePath(place);
         QVERIFY(QDir().mkdir(path));
-        left << ForkedProcess([&path](const auto &tell) {
-                    tell(WorkFolder::make(path)->path());
-                }).told();
+        left << ForkedProcess([&path](const auto &report) {
+                    report(WorkFolder::make(path)->path());
+                }).report();
         QVERIFY(QFile::exists(left.constLast()));
     }
     QSettings settings(folder.filePath(QStringLiteral("vexconvert.ini")), QSettings::IniFormat);
@@ -292,11 +292,11 @@ void TestWindowApp::badOptionsAreRefused_data()
         << QStringList{QStringLiteral("none.wav")} << 2
         << QStringLiteral("vexconvert: there is no subcommand \"none.wav\"; \"vexconvert --help\" "
                           "lists them\n");
-    QTest::newRow("a file that is missing")
+    QTest::newRow("a missing file")
         << QStringList{QStringLiteral("/"), QStringLiteral("none.wav")} << 2
         << QStringLiteral("vexconvert: there is no file \"none.wav\"; check its name, and put "
                           "options before the files\n");
-    QTest::newRow("folder that can't be")
+    QTest::newRow("folder that can't be created")
         << QStringList{QStringLiteral("--config"), QStringLiteral("/dev/null/x"),
                        QStringLiteral("--language"), QStringLiteral("en")}
         << 1
@@ -309,12 +309,12 @@ void TestWindowApp::badOptionsAreRefused()
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
     QFETCH(QString, error);
-    const Run told = run(arguments);
-    QCOMPARE(told.err, error);
-    QCOMPARE(told.exitCode, exitCode);
+    const Run result = run(arguments);
+    QCOMPARE(result.err, error);
+    QCOMPARE(result.exitCode, exitCode);
 }
 
-void TestWindowApp::theHelpTellsOfTheWindow()
+void TestWindowApp::theHelpMentionsTheWindow()
 {
     const QString help = run({QStringLiteral("--help")}).out;
     QVERIFY(help.contains(QStringLiteral("--language <LANG>")));

@@ -1,4 +1,4 @@
-#include "host/files/filenames.h"
+#include "host/files/filenamecodec.h"
 
 #include "host/files/localpath.h"
 
@@ -10,28 +10,28 @@
 #include <QtTest>
 
 /*! Names as bytes, and the texts that stand for them. */
-class TestFileNames : public QObject
+class TestFileNameCodec : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { keepBytesOfFileNames(); }
+    void initTestCase() { installFileNameCodec(); }
 
-    void everyNameComesBack_data();
-    void everyNameComesBack();
-    void everyPairOfBytesComesBack();
-    void aLoneSurrogateThatIsNoByteIsReplaced();
-    void aTextInChunksIsTheWholeText_data();
-    void aTextInChunksIsTheWholeText();
-    void bytesInChunksAreTheWholeText_data() { aTextInChunksIsTheWholeText_data(); }
-    void bytesInChunksAreTheWholeText();
-    void filesAreMadeListedAndPassedOn_data();
-    void filesAreMadeListedAndPassedOn();
-    void urlsNameTheSameFile_data() { filesAreMadeListedAndPassedOn_data(); }
-    void urlsNameTheSameFile();
+    void everyNameRoundTrips_data();
+    void everyNameRoundTrips();
+    void everyPairOfBytesRoundTrips();
+    void otherLoneSurrogatesAreReplaced();
+    void decodingInChunksGivesTheSameText_data();
+    void decodingInChunksGivesTheSameText();
+    void encodingInChunksGivesTheSameBytes_data() { decodingInChunksGivesTheSameText_data(); }
+    void encodingInChunksGivesTheSameBytes();
+    void filesAreCreatedListedAndPassedToPrograms_data();
+    void filesAreCreatedListedAndPassedToPrograms();
+    void urlsReferToTheSameFile_data() { filesAreCreatedListedAndPassedToPrograms_data(); }
+    void urlsReferToTheSameFile();
 };
 
-void TestFileNames::everyNameComesBack_data()
+void TestFileNameCodec::everyNameRoundTrips_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
@@ -70,7 +70,7 @@ void TestFileNames::everyNameComesBack_data()
     row("never in UTF-8", "\xf5\xfe\xff", escaped("\xf5\xfe\xff"));
 }
 
-void TestFileNames::everyNameComesBack()
+void TestFileNameCodec::everyNameRoundTrips()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, text);
@@ -78,7 +78,7 @@ void TestFileNames::everyNameComesBack()
     QCOMPARE(text.toLocal8Bit(), bytes);
 }
 
-void TestFileNames::everyPairOfBytesComesBack()
+void TestFileNameCodec::everyPairOfBytesRoundTrips()
 {
     for (int first = 0; first < 256; ++first) {
         for (int second = 0; second < 256; ++second) {
@@ -88,7 +88,7 @@ void TestFileNames::everyPairOfBytesComesBack()
     }
 }
 
-void TestFileNames::aLoneSurrogateThatIsNoByteIsReplaced()
+void TestFileNameCodec::otherLoneSurrogatesAreReplaced()
 {
     for (const ushort code : {0xD800, 0xDC00, 0xDC7F, 0xDD00}) {
         const QString lone = QLatin1Char('a') + QString(QChar(code)) + QChar(0xDC80);
@@ -98,7 +98,7 @@ void TestFileNames::aLoneSurrogateThatIsNoByteIsReplaced()
     }
 }
 
-void TestFileNames::aTextInChunksIsTheWholeText_data()
+void TestFileNameCodec::decodingInChunksGivesTheSameText_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("valid") << QByteArray("a\xc3\xa9\xe6\x97\xa5\xf0\x9f\x98\x80z");
@@ -106,7 +106,7 @@ void TestFileNames::aTextInChunksIsTheWholeText_data()
         << QByteArray("a\xe9\xe6\x97\xa5\xff\xf0\x9f\x98\x80\xf0\x9fz");
 }
 
-void TestFileNames::aTextInChunksIsTheWholeText()
+void TestFileNameCodec::decodingInChunksGivesTheSameText()
 {
     QFETCH(QByteArray, bytes);
     const QTextCodec *codec = QTextCodec::codecForLocale();
@@ -121,7 +121,7 @@ void TestFileNames::aTextInChunksIsTheWholeText()
     }
 }
 
-void TestFileNames::bytesInChunksAreTheWholeText()
+void TestFileNameCodec::encodingInChunksGivesTheSameBytes()
 {
     QFETCH(QByteArray, bytes);
     const QString text = QFile::decodeName(bytes);
@@ -137,7 +137,7 @@ void TestFileNames::bytesInChunksAreTheWholeText()
     }
 }
 
-void TestFileNames::filesAreMadeListedAndPassedOn_data()
+void TestFileNameCodec::filesAreCreatedListedAndPassedToPrograms_data()
 {
     QTest::addColumn<QByteArray>("name");
     for (const char *name : {"plain.mp4", "caf\xe9.mp4", "caf\xe9", "caf\xc3\xa9", "100%41.mp4",
@@ -146,7 +146,7 @@ void TestFileNames::filesAreMadeListedAndPassedOn_data()
     }
 }
 
-void TestFileNames::filesAreMadeListedAndPassedOn()
+void TestFileNameCodec::filesAreCreatedListedAndPassedToPrograms()
 {
     QFETCH(QByteArray, name);
     const QTemporaryDir folder;
@@ -160,7 +160,7 @@ void TestFileNames::filesAreMadeListedAndPassedOn()
     QCOMPARE(list.readAllStandardOutput(), name + '\n');
 }
 
-void TestFileNames::urlsNameTheSameFile()
+void TestFileNameCodec::urlsReferToTheSameFile()
 {
     QFETCH(QByteArray, name);
     const QString path = QStringLiteral("/folder/") + QFile::decodeName(name);
@@ -170,5 +170,5 @@ void TestFileNames::urlsNameTheSameFile()
     QCOMPARE(localPath(QUrl::fromLocalFile(path)), path);
 }
 
-QTEST_GUILESS_MAIN(TestFileNames)
-#include "tst_filenames.moc"
+QTEST_GUILESS_MAIN(TestFileNameCodec)
+#include "tst_filenamecodec.moc"

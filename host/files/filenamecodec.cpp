@@ -1,4 +1,4 @@
-#include "host/files/filenames.h"
+#include "host/files/filenamecodec.h"
 
 #include <QFile>
 #include <QTextCodec>
@@ -18,8 +18,8 @@ bool isEscape(QChar character)
 }
 
 /*!
- * The number of bytes of the UTF-8 character at the start, noCharacter, or cutOff where more bytes
- * could complete one.
+ * The number of bytes of the UTF-8 character at the start; noCharacter if there is none, or cutOff
+ * if more bytes could complete one.
  */
 int characterSize(const uchar *bytes, int available)
 {
@@ -31,7 +31,7 @@ int characterSize(const uchar *bytes, int available)
         return noCharacter;
     }
     const int size = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-    // Overlong forms, surrogates and what is beyond U+10FFFF show in the second byte.
+    // The second byte reveals overlong forms, surrogates and values above U+10FFFF.
     const uchar lowestSecond = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
     const uchar highestSecond = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
     for (int i = 1; i < std::min(size, available); ++i) {
@@ -43,7 +43,7 @@ int characterSize(const uchar *bytes, int available)
     return size <= available ? size : cutOff;
 }
 
-/*! UTF-8 in which each byte that is none has a code unit of its own. */
+/*! UTF-8 in which each invalid byte has a code unit of its own. */
 class FileNameCodec : public QTextCodec
 {
 public:
@@ -71,8 +71,8 @@ QString FileNameCodec::convertToUnicode(const char *bytes, int size, ConverterSt
     if (valid.invalidChars == 0 && valid.remainingChars == 0) {
         return text;
     }
-    // Streams come in chunks. Qt's lists of files, which ask with IgnoreHeader, give whole names
-    // and leave out those that seem to be cut off.
+    // Streams arrive in chunks. Qt lists folders with IgnoreHeader, passes whole names, and skips
+    // names that seem to be incomplete.
     const bool isChunk = state != nullptr && !state->flags.testFlag(IgnoreHeader);
     text.clear();
     for (int i = 0; i < all.size();) {
@@ -128,7 +128,7 @@ QByteArray FileNameCodec::convertFromUnicode(const QChar *text, int size,
 
 } // namespace
 
-void keepBytesOfFileNames()
+void installFileNameCodec()
 {
     // Qt owns its codecs.
     static QTextCodec *const codec = new FileNameCodec;
