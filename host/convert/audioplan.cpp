@@ -8,7 +8,7 @@
 
 namespace {
 
-/*! In Hz; 0 where neither preset nor source tell. */
+/*! In Hz; 0 if neither preset nor source state it. */
 int wantedSampleRate(const AudioTrack &track, const StreamTarget &target)
 {
     const int asked = target.settings.sampleRate;
@@ -16,7 +16,7 @@ int wantedSampleRate(const AudioTrack &track, const StreamTarget &target)
     return wanted == 0 ? 0 : nearestAllowed(wanted, target.container.sampleRates);
 }
 
-/*! Never more than the source has, unless the container wants them. */
+/*! Never more than the source has, unless the container requires them. */
 int wantedChannels(const AudioTrack &track, const StreamTarget &target)
 {
     if (target.container.channels > 0) {
@@ -37,7 +37,7 @@ bool isLossless(const AudioTrack &track)
     return track.bitsPerSample >= 16;
 }
 
-/*! The PCM of those held that keeps every bit of the track, in the order of bytes of \a like. */
+/*! The supported PCM codec that keeps all bits of the track, with the byte order of \a like. */
 QString pcmAsDeep(const AudioTrack &track, const QString &like, const QStringList &held)
 {
     const QString order = like.right(2);
@@ -53,7 +53,7 @@ QString pcmAsDeep(const AudioTrack &track, const QString &like, const QStringLis
     if (isFloat) {
         deepEnough << QStringLiteral("pcm_f32");
     }
-    // The best there is, where nothing is deep enough.
+    // The deepest one, if none is deep enough.
     deepEnough << QStringLiteral("pcm_s32") << QStringLiteral("pcm_s24");
     for (const QString &pcm : qAsConst(deepEnough)) {
         if (held.contains(pcm + order)) {
@@ -63,8 +63,8 @@ QString pcmAsDeep(const AudioTrack &track, const QString &like, const QStringLis
     return like;
 }
 
-/*! A lossless codec for a lossless track whose own codec the container doesn't hold; empty where it
- *  holds none. */
+/*! A lossless codec for a lossless track whose codec the container doesn't support; empty if it
+ *  supports none. */
 QString losslessCodec(const AudioTrack &track, const QStringList &held)
 {
     const QString flac = QStringLiteral("flac");
@@ -75,7 +75,7 @@ QString losslessCodec(const AudioTrack &track, const QStringList &held)
     return pcm == held.end() ? QString() : pcmAsDeep(track, *pcm, held);
 }
 
-/*! The codec that the preset means for the track; empty: the source's, or the usual one. */
+/*! The preset's codec for the track; empty: the source's, or the container's usual one. */
 QString wantedCodec(const AudioTrack &track, const StreamTarget &target)
 {
     const QStringList &held = target.container.audioCodecs;
@@ -86,7 +86,7 @@ QString wantedCodec(const AudioTrack &track, const StreamTarget &target)
     if (chosen.isEmpty() && !held.contains(track.codec)) {
         return losslessCodec(track, held);
     }
-    // A film's preset says PCM, of which 16 bits are only the usual ones.
+    // A video preset's 16-bit PCM stands for PCM of any depth.
     const bool isDeeper = target.settings.hasVideo && track.bitsPerSample > 16;
     return isDeeper && chosen.startsWith(QLatin1String("pcm_s16")) ? pcmAsDeep(track, chosen, held)
                                                                    : chosen;
@@ -101,18 +101,18 @@ bool canBeCopied(const AudioTrack &track, const QString &wanted, const StreamTar
            wantedChannels(track, target) == track.channels;
 }
 
-/*! The layout that the encoder is to get instead of the track's; empty: none. */
+/*! The channel layout that replaces the track's for the encoder; empty: none. */
 QString layoutToWrite(const AudioTrack &track, const AudioCodec &codec, int channels)
 {
-    // Side and back speakers are one pair there.
+    // These encoders don't distinguish side from back speakers.
     const QString atSides = QStringLiteral("(side)");
     const bool isOther =
         channels == track.channels && !codec.knowsSideSpeakers && track.layout.endsWith(atSides);
     return isOther ? track.layout.chopped(atSides.size()) : QString();
 }
 
-/*! The bitrate that the encoder is to be given, closest to what is asked; 0 where its quality says
- *  it. */
+/*! The bitrate for the encoder that is closest to the requested one; 0 if its quality sets the
+ *  bitrate. */
 double encodedKbps(const AudioCodec &codec, double asked, int sampleRate, int channels)
 {
     const bool isAsked = codec.takesBitrate && asked > 0;
@@ -156,7 +156,7 @@ Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &t
 
     AudioPlan plan{*encoder};
     plan.sampleRate = sampleRate == track.sampleRate ? 0 : sampleRate;
-    // Channels without a layout get the usual one of their number.
+    // Channels without a layout get the default one for their number.
     plan.channels = channels == track.channels && !track.layout.isEmpty() ? 0 : channels;
     plan.layout = layoutToWrite(track, codec, channels);
     plan.kbps = encodedKbps(codec, askedKbps(target.settings, channels), sampleRate, channels);
@@ -181,8 +181,8 @@ QStringList AudioPlan::arguments(int position) const
     }
     QStringList arguments = toArguments(format, stream);
     if (isPadded) {
-        // The sound comes a frame early, as rounding may make it late, and with silence behind it:
-        // ffmpeg would end the file with the sound.
+        // The audio starts a frame early, as rounding may make it late, and ends with silence, as
+        // ffmpeg would end the file with the audio.
         arguments += toArguments(
             {{QStringLiteral("filter"), QStringLiteral("apad,asetpts=PTS-0.04/TB")}}, stream);
         arguments << QStringLiteral("-shortest");

@@ -5,22 +5,22 @@
 #include "host/convert/tooloptions.h"
 #include "host/media/mediafacts.h"
 
-/*! How ffmpeg is to write a track of sound. */
+/*! How ffmpeg writes an audio track. */
 struct AudioPlan
 {
-    QString encoder;     //!< "copy" takes the stream over as it is
+    QString encoder;     //!< "copy" copies the stream
     int sampleRate = 0;  //!< Hz; 0: the source's
     int channels = 0;    //!< 0: the source's
-    QString layout = {}; //!< empty: the source's, or the usual one
-    double kbps = 0;     //!< 0: as good as the quality says
+    QString layout = {}; //!< empty: the source's, or the default one
+    double kbps = 0;     //!< 0: set by the quality
     ToolOptions quality = {};
-    bool isPadded = false; //!< comes a frame early, with silence behind it
+    bool isPadded = false; //!< starts a frame early and ends with silence
 
-    /*! The plan for \a track. Depends on nothing but its arguments. */
+    /*! The plan for \a track. A pure function. */
     [[nodiscard]] static Result<AudioPlan> make(const AudioTrack &track,
                                                 const StreamTarget &target);
 
-    /*! The arguments of ffmpeg for the audio stream at \a position in the new file, from 0. */
+    /*! ffmpeg's arguments for the audio stream at \a position in the output, from 0. */
     [[nodiscard]] QStringList arguments(int position) const;
 };
 

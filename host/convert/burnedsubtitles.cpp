@@ -22,7 +22,7 @@ QString withBackslashes(const QString &text, const QString &special)
     return escaped;
 }
 
-/*! A path as the value of a filter's option: the filter reads it, and the graph before. */
+/*! Escapes a path as a filter option, twice: for the filter graph and for the filter. */
 QString filterValue(const QString &path)
 {
     return withBackslashes(withBackslashes(path, QStringLiteral("\\':")),
@@ -53,7 +53,7 @@ Result<QString> burnFilter(const MediaFacts &source, const OutputSettings &setti
     const QString drawn = QStringLiteral("subtitles=filename=%1:si=%2")
                               .arg(filterValue(QFileInfo(sourcePath).absoluteFilePath()))
                               .arg(number - 1);
-    // The filter reads the subtitles' own times, which the cut picture has left behind.
+    // The filter uses the subtitles' original times, but the cut video starts at 0.
     const QString start = QString::number(settings.start, 'f', 3);
     return settings.start > 0
                ? QStringLiteral("setpts=PTS+%1/TB,%2,setpts=PTS-%1/TB").arg(start, drawn)

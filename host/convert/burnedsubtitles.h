@@ -6,9 +6,9 @@
 #include "host/media/mediafacts.h"
 
 /*!
- * The filters that draw the subtitles onto the picture, before it is scaled; empty where none are
- * to be drawn. Text is read from \a sourcePath; subtitles that are pictures are laid over the
- * picture, for which the filters begin with the labels of both streams and must stand in a graph.
+ * The filters that draw the subtitles onto the video before it is scaled; empty if there are none
+ * to draw. Text is read from \a sourcePath. Bitmap subtitles are overlaid: the filters then begin
+ * with the labels of both streams and belong in a filter graph.
  */
 [[nodiscard]] Result<QString> burnFilter(const MediaFacts &source, const OutputSettings &settings,
                                          const QString &sourcePath);

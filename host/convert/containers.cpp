@@ -4,13 +4,13 @@
 
 namespace {
 
-/*! The names in a text with blanks between. */
+/*! Splits a space-separated list of names. */
 QStringList list(const char *names)
 {
     return QString::fromLatin1(names).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-/*! A row of the table. Muxer and demuxer have the name of the first extension unless told. */
+/*! A row of the table. By default muxer and demuxer are named as the first extension. */
 class Files : public Container
 {
 public:
@@ -21,7 +21,7 @@ public:
         demuxer = muxer;
     }
 
-    /*! Written by this muxer, and read by the demuxer of the same name. */
+    /*! Sets the muxer, and the demuxer of the same name. */
     Files writtenBy(const char *name)
     {
         muxer = QLatin1String(name);
@@ -38,7 +38,7 @@ public:
         options.append({QLatin1String(option), QLatin1String(value)});
         return *this;
     }
-    /*! With the index in front, so that a player needn't have the whole file. */
+    /*! Puts the index first, so that playback can start before the whole file is loaded. */
     Files indexedFirst() { return with("movflags", "+faststart"); }
     Files holding(const QStringList &video, const QStringList &audio)
     {
@@ -73,7 +73,7 @@ public:
         titlesAreHandlers = true;
         return *this;
     }
-    /*! Unless the source says so, no subtitles are shown. */
+    /*! Shows no subtitles by default unless the source does. */
     Files hidingSubtitles()
     {
         subtitleOptions.append({QStringLiteral("default_mode"), QStringLiteral("infer_no_subs")});
@@ -205,7 +205,7 @@ QVector<Container> makeContainers()
             .with("write_id3v2", "1").withCover(),
         Files("au").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be pcm_mulaw "
                                     "pcm_alaw")),
-        // ffmpeg writes neither AAC nor FLAC into it that anyone could read.
+        // The AAC and FLAC that ffmpeg writes into it can't be read.
         Files("caf").holdingSound(list("pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_s16be pcm_s24be "
                                      "alac opus")),
         Files("ogg").holdingSound(oggAudio),

@@ -6,40 +6,40 @@
 #include <QStringList>
 #include <QVector>
 
-/*! How ffmpeg writes files of one kind, and what they can hold. An empty list of rates allows
- *  everything. */
+/*! A container format: how ffmpeg writes it, and what it can hold. An empty list of sample rates
+ *  allows any. */
 struct Container
 {
-    /*! How it says when a frame is shown. */
+    /*! How the container stores when a frame is shown. */
     enum class Times {
-        Any,        //!< with a time for each
-        Gaps,       //!< by its number; one may be left out
-        EveryFrame, //!< by its number
+        Any,        //!< each frame has a timestamp
+        Gaps,       //!< by frame number; frames may be missing
+        EveryFrame, //!< by frame number; none may be missing
     };
 
     QStringList extensions; //!< without dot
     QString muxer;
-    QString demuxer; //!< as ffprobe names such files
+    QString demuxer; //!< ffprobe's name for such files
     ToolOptions options = {};
-    QStringList videoCodecs = {};     //!< those it holds, the usual one first; empty: sound only
-    QStringList audioCodecs = {};     //!< the same; empty: no sound
-    QStringList subtitleCodecs = {};  //!< those it holds
-    QString textSubtitles = {};       //!< what text becomes that it doesn't hold; empty: nothing
-    ToolOptions subtitleOptions = {}; //!< of the muxer, where there are subtitles
+    QStringList videoCodecs = {};     //!< supported ones, the usual one first; empty: audio only
+    QStringList audioCodecs = {};     //!< the same; empty: no audio
+    QStringList subtitleCodecs = {};  //!< supported ones
+    QString textSubtitles = {};       //!< codec for unsupported text subtitles; empty: none
+    ToolOptions subtitleOptions = {}; //!< of the muxer, if there are subtitles
     bool holdsSeveralAudioTracks = false;
     bool holdsChapters = false;
     bool holdsAttachments = false;
-    bool titlesAreHandlers = false; //!< a track's title stands where others name its software
+    bool titlesAreHandlers = false; //!< stores track titles as handler names
     bool takesCover = false;
-    bool keepsRotation = false;    //!< holds the turn of a picture that players apply
-    bool tagsHevcAsHvc1 = false;   //!< the form of hevc that all players of this container know
-    bool hasSoundInFrames = false; //!< a frame of the picture can't be written before its sound
-    bool isForBroadcast = false;   //!< its players expect the fields of an interlaced picture
+    bool keepsRotation = false;    //!< stores a rotation that players apply
+    bool tagsHevcAsHvc1 = false;   //!< the HEVC tag that all players support
+    bool hasSoundInFrames = false; //!< a video frame also contains its audio
+    bool isForBroadcast = false;   //!< its players expect interlaced video
     Times times = Times::Any;
     QVector<int> sampleRates = {}; //!< Hz, ascending
-    int channels = 0;              //!< the only number allowed; 0: any
+    int channels = 0;              //!< the only number supported; 0: any
 
-    /*! The container of this extension, in whatever case; null when there is none. */
+    /*! The container with this extension, in any case; null if there is none. */
     [[nodiscard]] static const Container *find(const QString &extension);
 };
 

@@ -24,7 +24,7 @@ bool isSameFile(const QString &one, const QString &other)
                                        QFile::encodeName(other).toStdString(), missing);
 }
 
-/*! ffmpeg's reason without the names of options that nobody has typed. */
+/*! ffmpeg's reason without the names of options that the user never typed. */
 QString inPlainWords(const QString &reason)
 {
     struct Known
@@ -51,7 +51,7 @@ QString inPlainWords(const QString &reason)
     return reason;
 }
 
-/*! A date that can't be set hurts nothing. */
+/*! Ignores failures: a wrong date does no harm. */
 void takeDate(const QString &file, const QString &source)
 {
     QFile dated(file);
@@ -60,10 +60,10 @@ void takeDate(const QString &file, const QString &source)
     }
 }
 
-/*! For the frames of a second, of whatever size. */
+/*! Enough for the frames of one second at any size. */
 constexpr ToolLimits frameLimits{1024 * 1024, 120000};
 
-/*! ffmpeg's exit code says nothing about the last bytes of the file; its errors do. */
+/*! ffmpeg may exit cleanly although it couldn't write the last bytes; its errors show it. */
 bool wroteAll(const ToolRun &run)
 {
     return run.exitedCleanly && !run.errors.contains("Error writing trailer") &&
@@ -276,7 +276,7 @@ QString Conversion::shortfall() const
         source->duration >= expected) {
         written = std::min(written, picture->duration);
     }
-    // The last packets of picture and sound needn't end together.
+    // The last video and audio packets needn't end together.
     const double unnoticed = std::max(0.3, expected / 100);
     if (m_source.hasGuessedDuration() || written <= 0 || written > expected - unnoticed) {
         return {};

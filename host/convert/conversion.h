@@ -18,32 +18,32 @@ struct ConversionJob
 {
     QString source;
     OutputSettings settings;
-    QString folder;         //!< where the result goes; empty: beside the source
-    bool overwrite = false; //!< false: a name in use gets " (2)", " (3)" ...
-    QStringList keep;       //!< files that aren't overwritten even so; the source never is
-    bool keepDates = false; //!< gives the result the source's date
-    bool planOnly = false;  //!< only say what would be done
+    QString folder;         //!< output folder; empty: the source's
+    bool overwrite = false; //!< false: names in use get " (2)", " (3)" ...
+    QStringList keep;       //!< files that are never overwritten; nor is the source
+    bool keepDates = false; //!< gives the output the source's date
+    bool planOnly = false;  //!< only finds out what would be done
 };
 
-/*! What a conversion gave. */
+/*! The result of a conversion or, with planOnly, of its plan. */
 struct ConversionOutcome
 {
-    QString target;         //!< the new file; of a plan, its name as things stand
-    MediaFacts facts;       //!< what the new file holds; of a plan, nothing
-    QString losses = {};    //!< what doesn't come along, one line; empty: all does
-    QString shortfall = {}; //!< says that the result is shorter than its source; empty: it isn't
-    ToolCall plan = {};     //!< only of a plan: the run of ffmpeg that would write the target
+    QString target;         //!< the new file; for a plan, its current free name
+    MediaFacts facts;       //!< of the new file; empty for a plan
+    QString losses = {};    //!< what is left out, one line; empty: nothing
+    QString shortfall = {}; //!< says that the output is too short; empty: it isn't
+    ToolCall plan = {};     //!< only for a plan: the call that would write the target
 
-    /*! Both in one line. */
+    /*! Losses and shortfall in one line. */
     [[nodiscard]] QString note() const;
 };
 Q_DECLARE_METATYPE(Result<ConversionOutcome>)
 
 /*!
- * Converts one file with ffmpeg, without ever waiting: everything happens from the event loop.
+ * Converts one file with ffmpeg asynchronously.
  *
- * The result gets its name only when it is complete. Whatever goes wrong, nothing half-written is
- * left and the source is as it was; destroying a running conversion is as good as cancel().
+ * The output gets its name only when it is complete. Whatever goes wrong, no unfinished file is
+ * left and the source is unchanged. Destroying a running conversion cancels it.
  */
 class Conversion : public QObject
 {
@@ -58,9 +58,9 @@ public:
     void cancel();
 
 Q_SIGNALS:
-    /*! About twice a second while ffmpeg works. */
+    /*! About twice a second while ffmpeg runs. */
     void progressed(const Progress &progress);
-    /*! Once for each start(). What hears it may delete the conversion with deleteLater() only. */
+    /*! Once per start(). Slots may delete the conversion only with deleteLater(). */
     void finished(const Result<ConversionOutcome> &outcome);
 
 private:
@@ -77,13 +77,13 @@ private:
     [[nodiscard]] double expectedDuration() const;
     [[nodiscard]] QString losses() const;
     [[nodiscard]] QString shortfall() const;
-    /*! Encodes what can't be copied; false where nothing is left to try. */
+    /*! Encodes what can't be copied; false if nothing is left to try. */
     bool retryWithFewerCopies();
     void retryWith(const Copies &copies);
 
     QString folder() const;
     QString baseName() const;
-    /*! The existing file that the result is to replace; empty when it takes a free name. */
+    /*! The existing file that the output replaces; empty if it takes a free name. */
     QString fileToReplace() const;
     void fail(const Error &error);
 
@@ -91,11 +91,11 @@ private:
     MediaFacts m_source;
     MediaFacts m_result;
     QSet<QString> m_encoderNames;
-    Copies m_firstCopies; // of the first try
-    Copies m_copies;      // of the current one
+    Copies m_firstCopies; // of the first attempt
+    Copies m_copies;      // of the current attempt
     bool m_hadErrors = false;
-    QByteArray m_sourceFrames; // those at the start, once known
-    PendingFile m_pending;     // ffmpeg, below, stops before the file that it writes is removed
+    QByteArray m_sourceFrames; // the first ones, once known
+    PendingFile m_pending;     // declared before m_ffmpeg, which must stop before its file goes
     ProgressReader m_progress;
     MediaProbe m_sourceProbe;
     SourceLook m_look;

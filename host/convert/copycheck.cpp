@@ -27,11 +27,10 @@ QVector<SeenFrame> framesIn(const QByteArray &list)
     return frames;
 }
 
-/*! Whether a track lasts as long as its source does; times that aren't known are taken for right.
- */
+/*! Whether a track is as long as its source; true if a duration is unknown. */
 bool lasts(const Track *source, const Track *result, double seconds)
 {
-    // The last packets of picture and sound needn't end together.
+    // The last video and audio packets needn't end together.
     constexpr double tolerance = 0.25;
     if (source == nullptr || result == nullptr || source->duration <= 0 || result->duration <= 0) {
         return true;
@@ -61,7 +60,7 @@ QStringList firstFramesArguments(const MediaFacts &file, const QString &path)
 
 bool beginsAlike(const QByteArray &sourceFrames, const QByteArray &copyFrames)
 {
-    constexpr double noticed = 0.05; // seconds by which picture and sound may drift apart
+    constexpr double noticed = 0.05; // seconds that video and audio may drift apart
     const QVector<SeenFrame> source = framesIn(sourceFrames);
     const QVector<SeenFrame> copy = framesIn(copyFrames);
     const int both = std::min(source.size(), copy.size());
@@ -80,7 +79,7 @@ Copies copiesThatLast(const Copies &copied, const MediaFacts &source, const Medi
     if (source.hasGuessedDuration() || result.hasGuessedDuration()) {
         return copied;
     }
-    // Where only the files say how long they last, the picture may be the longer track.
+    // If only the files state a duration, the longer track may be the video.
     constexpr double tolerance = 0.25;
     const bool isFileLonger =
         seconds > 0 && result.duration > 0 && result.duration > seconds + tolerance;

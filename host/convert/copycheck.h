@@ -7,21 +7,21 @@
 #include <QByteArray>
 #include <QStringList>
 
-/*! The arguments for ffmpegCall() that print the first frames of the picture: a hash of what is
- * seen of each, and when. */
+/*! The arguments for ffmpegCall() that list the first video frames: the hash of each decoded frame
+ *  and its timestamp. */
 [[nodiscard]] QStringList firstFramesArguments(const MediaFacts &file, const QString &path);
 
-/*! Whether a copy begins with the very frames that its source begins with, each at its time. Lists
- *  are what ffmpeg prints with firstFramesArguments(). */
+/*! Whether a copy begins with the same frames as its source, at the same times. Both lists are
+ *  output of ffmpeg with firstFramesArguments(). */
 [[nodiscard]] bool beginsAlike(const QByteArray &sourceFrames, const QByteArray &copyFrames);
 
-/*! Those of the \a copied streams that last as long as in the source. \a seconds are what was to be
- *  kept of it. */
+/*! Those of the \a copied streams that are as long as in the source, of which \a seconds should
+ *  have been kept. */
 [[nodiscard]] Copies copiesThatLast(const Copies &copied, const MediaFacts &source,
                                     const MediaFacts &result, double seconds);
 
-/*! What is worth trying after a try with \a copied streams was refused: sound is encoded soonest
- * and with the least harm. */
+/*! The copies to try after those in \a copied failed. Audio is encoded first, as that is fastest
+ * and does the least harm. */
 [[nodiscard]] Copies fewerCopies(const Copies &first, const Copies &copied);
 
 #endif

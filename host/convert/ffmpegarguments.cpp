@@ -21,7 +21,7 @@ struct Texts
 
 const QString copied = QStringLiteral("copy");
 
-/*! Has ffmpeg work out the time stamps that a copy needs and the source lacks. */
+/*! Makes ffmpeg generate the timestamps that a copy needs and the source lacks. */
 QStringList timeArguments(const MediaFacts &source, const Copies &copies)
 {
     const bool lacksTimes =
@@ -31,7 +31,7 @@ QStringList timeArguments(const MediaFacts &source, const Copies &copies)
                : QStringList();
 }
 
-/*! The options in front of the source that keep the wanted part of it. */
+/*! The input options that select the part to keep. */
 QStringList cutArguments(const OutputSettings &settings, bool isStill)
 {
     if (isStill && settings.hasVideo) {
@@ -48,7 +48,7 @@ QStringList cutArguments(const OutputSettings &settings, bool isStill)
     return arguments;
 }
 
-/*! Whether there is anything to write, and the file can hold it. */
+/*! Fails if there is nothing to write, or the container can't hold it. */
 Result<> checkStreams(const VideoTrack *picture, const QVector<AudioTrack> &sound, bool isLoneStill,
                       const StreamTarget &target)
 {
@@ -69,7 +69,7 @@ Result<> checkStreams(const VideoTrack *picture, const QVector<AudioTrack> &soun
     return {};
 }
 
-/*! What the muxer doesn't take over by itself. */
+/*! Metadata that the muxer doesn't copy by itself. */
 QStringList metadataArguments(const MediaFacts &source)
 {
     QStringList arguments;
@@ -83,7 +83,7 @@ QStringList metadataArguments(const MediaFacts &source)
     return arguments;
 }
 
-/*! Where the container has no place for titles but the handler's name. */
+/*! For containers that store titles only as handler names. */
 QStringList titleArguments(const Track &track, const QString &stream, const Container &container)
 {
     if (track.title.isEmpty() || !container.titlesAreHandlers) {
@@ -92,7 +92,7 @@ QStringList titleArguments(const Track &track, const QString &stream, const Cont
     return {QStringLiteral("-metadata:s:") + stream, QStringLiteral("handler_name=") + track.title};
 }
 
-/*! The arguments that choose and encode the streams of a result, in their order. */
+/*! The arguments that select and encode the output's streams, in their order. */
 class Streams
 {
 public:
@@ -197,7 +197,7 @@ ToolOptions muxerOptions(const StreamTarget &target)
     const auto isFlags = [&flags](const ToolOption &option) { return option.name == flags; };
     const auto own = std::find_if(options.begin(), options.end(), isFlags);
     if (!target.settings.hasEditLists && own != options.end()) {
-        // The first picture is shown at once then, although those behind it are decoded first.
+        // The first frame is then shown at once, although later frames are decoded before it.
         own->value += QStringLiteral("+negative_cts_offsets");
         options.append({QStringLiteral("use_editlist"), QStringLiteral("0")});
     }
@@ -272,7 +272,7 @@ QVector<AudioTrack> chosenAudio(const MediaFacts &source, const StreamTarget &ta
     QVector<AudioTrack> chosen;
     std::copy_if(source.audioTracks.begin(), source.audioTracks.end(), std::back_inserter(chosen),
                  [&choice](const AudioTrack &track) { return choice.takes(track); });
-    // The language may be missing, or not told: the file isn't silent for that.
+    // No track may have the language, but the output must not be silent for that.
     const AudioTrack usual = *source.audio();
     const bool takesUsual = chosen.isEmpty() || choice.takes(usual);
     if (choice.kind == TrackChoice::First || chosen.isEmpty() ||
@@ -297,7 +297,7 @@ Copies copiesIn(const QStringList &arguments)
         copies.audio =
             copies.audio || (isCopied && arguments.at(i).startsWith(QLatin1String("-c:a:")));
     }
-    // A cover is no film.
+    // A cover isn't a video.
     copies.video = copies.video && !arguments.contains(QStringLiteral("-disposition:v:0"));
     return copies;
 }

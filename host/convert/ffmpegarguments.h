@@ -10,9 +10,9 @@
 #include <QStringList>
 
 /*!
- * The arguments for ffmpegCall() that write \a source with \a settings, or why it can't be
- * converted so. \a encoders are the names of the encoders that ffmpeg has. Streams that may stay as
- * they are get copied where \a allowed lets them. Depends on nothing but its arguments.
+ * The arguments for ffmpegCall() that convert \a source with \a settings, or why that is
+ * impossible. \a encoders are the names of ffmpeg's encoders. Streams that already fit are copied
+ * if \a allowed permits it. A pure function.
  */
 [[nodiscard]] Result<QStringList> ffmpegArguments(const OutputSettings &settings,
                                                   const MediaFacts &source,
@@ -20,10 +20,10 @@
                                                   const QString &sourcePath,
                                                   const QString &targetPath, Copies allowed = {});
 
-/*! The tracks of sound that are written. */
+/*! The audio tracks that are written. */
 [[nodiscard]] QVector<AudioTrack> chosenAudio(const MediaFacts &source, const StreamTarget &target);
 
-/*! Whether the cover comes along, as it is: where it is a still picture that the file can hold. */
+/*! Whether the cover is copied: if it is a still image that the container can hold. */
 [[nodiscard]] bool keepsCover(const VideoTrack &cover, const Container &container);
 
 /*! Which streams these arguments copy. */

@@ -14,7 +14,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Losses)
 };
 
-/*! The names of the codecs, each once. */
+/*! The distinct names of the codecs. */
 QString codecNames(const QVector<SubtitleTrack> &tracks)
 {
     QStringList names;

@@ -4,8 +4,8 @@
 #include "host/convert/encoderchoice.h"
 #include "host/media/mediafacts.h"
 
-/*! One line that names what of the source doesn't come along although nobody chose so, why, and
- * what would hold it; empty where all does. */
+/*! One line that says which parts of the source are left out although the user didn't choose so,
+ *  why, and which container would hold them; empty if there are none. */
 [[nodiscard]] QString lossesIn(const MediaFacts &source, const StreamTarget &target);
 
 #endif

@@ -18,7 +18,7 @@ QString chosenText(const QVariantMap &map, const QString &key)
     return text == QLatin1String("0") ? QString() : text;
 }
 
-// Values that no preset means: they stand for what can't be read.
+// Values that no preset has: they stand for unreadable ones.
 constexpr Ratio unreadableRate{-1, 1};
 constexpr QSize unreadableSize(0, 0);
 constexpr int unreadableCount = -1;
@@ -53,7 +53,7 @@ QSize boxFromText(const QString &text)
     return text.isEmpty() ? QSize() : sizeFromText(text).value_or(unreadableSize);
 }
 
-/*! A block of the converter's settings, of which the record knows only some. */
+/*! A block of the converter's settings, only some of which are fields of the record. */
 QVariantMap converterBlock(const QVariantMap &preset, const char *block)
 {
     const QVariantMap node = preset.value(QStringLiteral("outPutNode")).toMap();
@@ -69,8 +69,8 @@ double videoKbpsOf(const QVariantMap &preset)
         unreadableKbps);
 }
 
-/*! Where \a kbps stands among the bitrates of the high, the usual and the low quality: 1, 0, -1 and
- *  between them. A usual one of 0 leaves the quality to the encoder. */
+/*! The position of \a kbps among the bitrates of the high, default and low quality: 1, 0, -1 or in
+ *  between. A default of 0 leaves the quality to the encoder. */
 double qualityAmong(const QVariantList &levels, double kbps)
 {
     const double high = levels.value(0).toDouble();
@@ -85,7 +85,7 @@ double qualityAmong(const QVariantList &levels, double kbps)
                          : std::log(kbps / usual) / std::log(usual / low);
 }
 
-/*! What only converters know of a preset: the limits of its device and the quality. */
+/*! The settings that the record lacks: device limits and quality. */
 void readConverterSettings(OutputSettings &settings, const QVariantMap &preset)
 {
     const QVariantMap param = converterBlock(preset, "videoParam");
@@ -105,7 +105,7 @@ void readConverterSettings(OutputSettings &settings, const QVariantMap &preset)
     settings.hasEditLists = chosenText(param, QStringLiteral("editLists")) != QLatin1String("none");
 }
 
-/*! Text of a file that may hold anything, fit for a line of a message. */
+/*! Text from a file, made safe for a one-line message. */
 QString shortened(QString text)
 {
     constexpr int longest = 40;
@@ -117,14 +117,14 @@ QString shortened(QString text)
     return text;
 }
 
-/*! Names of encoders and codecs, as ffmpeg has them. */
+/*! Matches names of encoders and codecs. */
 bool isName(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("^[A-Za-z0-9._-]{0,64}\\z"));
     return form.match(text).hasMatch();
 }
 
-/*! A number that a preset chooses; 0 keeps the source's own. */
+/*! A number in a preset; 0 keeps the source's. */
 struct ChosenNumber
 {
     const char *field;
@@ -162,7 +162,7 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
     OutputSettings settings;
     settings.extension = preset.value(QStringLiteral("extension")).toString().toLower();
 
-    // A user's audio preset has a hollow "videoParam" in its outPutNode: only this key tells.
+    // A user's audio preset has an empty "videoParam" in its outPutNode: only this key tells.
     settings.hasVideo = preset.contains(QStringLiteral("video"));
     if (settings.hasVideo) {
         const QVariantMap video = preset.value(QStringLiteral("video")).toMap();

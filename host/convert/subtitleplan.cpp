@@ -4,7 +4,7 @@
 
 namespace {
 
-/*! Text that ffmpeg can write as text of another kind. */
+/*! Text codecs that ffmpeg can convert to others. */
 bool isConvertibleText(const QString &codec)
 {
     static const QStringList codecs = {
@@ -48,7 +48,7 @@ QVector<SubtitlePlan> subtitlePlans(const MediaFacts &source, const StreamTarget
 
 QStringList SubtitlePlan::arguments(int position) const
 {
-    // Else ffmpeg would have the first one shown.
+    // Otherwise ffmpeg would make the first one the default.
     return toArguments(
         {{QStringLiteral("c"), encoder}, {QStringLiteral("disposition"), disposition}},
         QStringLiteral("s:%1").arg(position));

@@ -4,23 +4,22 @@
 #include "host/convert/encoderchoice.h"
 #include "host/media/mediafacts.h"
 
-/*! How ffmpeg is to write a track of subtitles. */
+/*! How ffmpeg writes a subtitle track. */
 struct SubtitlePlan
 {
     SubtitleTrack track;
-    QString encoder; //!< "copy" takes the stream over as it is
+    QString encoder; //!< "copy" copies the stream
     QString disposition;
 
-    /*! The arguments of ffmpeg for the subtitles at \a position in the new file, from 0. */
+    /*! ffmpeg's arguments for the subtitle stream at \a position in the output, from 0. */
     [[nodiscard]] QStringList arguments(int position) const;
 };
 
-/*! Those of the wanted subtitles that the container can hold. Depends on nothing but its arguments.
- */
+/*! The plans for the chosen subtitles that the container can hold. A pure function. */
 [[nodiscard]] QVector<SubtitlePlan> subtitlePlans(const MediaFacts &source,
                                                   const StreamTarget &target);
 
-/*! Whether the container holds the track, as it is or as another kind of text. */
+/*! Whether the container can hold the track, as it is or converted to another text codec. */
 [[nodiscard]] bool holdsSubtitles(const SubtitleTrack &track, const Container &container);
 
 #endif

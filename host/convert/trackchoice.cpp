@@ -6,7 +6,7 @@
 
 namespace {
 
-/*! The codes of languages that have more than one, those of two letters first. */
+/*! Languages with several codes, the two-letter code first. */
 const QVector<QStringList> &languageCodes()
 {
     static const QVector<QStringList> codes = [] {
@@ -27,7 +27,7 @@ const QVector<QStringList> &languageCodes()
     return codes;
 }
 
-/*! All codes of the language, without region: of "de-CH" those of German. */
+/*! All codes of the language, ignoring the region: for "de-CH" those of German. */
 QStringList codesOf(const QString &language)
 {
     const QString code =

@@ -5,18 +5,18 @@
 
 #include <optional>
 
-/*! Which of the tracks of a kind come along. */
+/*! Which tracks of a kind are kept. */
 struct TrackChoice
 {
     enum Kind { All, First, None, OfLanguage };
 
     Kind kind = All;
-    QString language = {}; //!< as people write it: "de", "deu" or "ger"
+    QString language = {}; //!< any usual code: "de", "deu" or "ger"
 
-    /*! Reads "all", "first", "none" or a language; nothing where it is none of these. */
+    /*! Reads "all", "first", "none" or a language code; nullopt for anything else. */
     [[nodiscard]] static std::optional<TrackChoice> fromText(const QString &text);
 
-    /*! Whether a track comes along; of First, whether it may. */
+    /*! Whether a track is kept; for First, whether it may be. */
     [[nodiscard]] bool takes(const Track &track) const;
 
     [[nodiscard]] bool operator==(const TrackChoice &other) const
