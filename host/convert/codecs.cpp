@@ -96,9 +96,9 @@ public:
         isBottomFieldFirst = true;
         return *this;
     }
-    Video lastlyFilteredBy(const char *filter)
+    Video inPalette()
     {
-        lastFilter = QLatin1String(filter);
+        hasPalette = true;
         return *this;
     }
     Video inFrame(const QSize &size, Ratio pixelAspect, Ratio rate, const char *format)
@@ -220,9 +220,7 @@ QVector<VideoCodec> makeVideoCodecs()
         Video("dnxhd").writtenBy("dnxhd").with("profile", "dnxhr_sq").inPixels("yuv422p")
             .withoutBitrate().atAnyTime()
             .inDeepPixels("yuv422p10le", {{QStringLiteral("profile"), QStringLiteral("dnxhr_hqx")}}),
-        Video("gif").writtenBy("gif").withoutBitrate().atRates(gif)
-            .lastlyFilteredBy("split[picture][sample];[sample]palettegen[palette];"
-                              "[picture][palette]paletteuse"),
+        Video("gif").writtenBy("gif").withoutBitrate().atRates(gif).inPalette(),
         Video("dvvideo").writtenBy("dvvideo").withoutBitrate().keepingFieldsWith("+ildct")
             .bottomFieldFirst().inOwnColour("smpte170m", "tv")
             .inFrame({720, 576}, {16, 15}, {25, 1}, "yuv420p")

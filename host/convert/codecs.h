@@ -64,7 +64,7 @@ struct VideoCodec
     bool takesAnyTime = false;       //!< frames may be shown when they like, not in steps of a rate
     ToolOptions fieldOptions = {};   //!< those that keep fields; empty: it can't keep them
     bool isBottomFieldFirst = false; //!< and never the other way round
-    QString lastFilter = {};         //!< goes behind all other filters
+    bool hasPalette = false;         //!< its colours are few, and chosen for each film
     QVector<Frame> frames = {};      //!< the only ones allowed
 
     /*! The encoders' names for ffmpeg, the best first. */

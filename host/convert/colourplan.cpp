@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-#include <cmath>
+#include <algorithm>
 
 namespace {
 
@@ -85,20 +85,20 @@ QStringList toneMapping(const Colour &source)
             QStringLiteral("zscale=t=bt709:m=bt709:r=limited")};
 }
 
-VideoCodec::Pixels pixelsFor(const VideoTrack &track, const VideoCodec &codec,
-                             const Container &container, bool keepsHdr)
+bool keepsAlpha(const VideoTrack &track, const VideoCodec &codec, const Container &container)
 {
-    static const QStringList alphaMuxers = {QStringLiteral("matroska"), QStringLiteral("webm"),
-                                            QStringLiteral("mov")};
-    const bool keepsAlpha = hasAlpha(track) && !codec.alphaPixels.format.isEmpty() &&
-                            alphaMuxers.contains(container.muxer);
-    if (keepsAlpha) {
-        return codec.alphaPixels;
-    }
-    const bool isMapped = track.colour.isHdr() && !keepsHdr;
-    const bool keepsDepth =
-        isDeep(track.pixelFormat) && !isMapped && !codec.deepPixels.format.isEmpty();
-    return keepsDepth ? codec.deepPixels : VideoCodec::Pixels{codec.pixelFormat};
+    static const QStringList muxers = {QStringLiteral("matroska"), QStringLiteral("webm"),
+                                       QStringLiteral("mov")};
+    return hasAlpha(track) && !codec.alphaPixels.format.isEmpty() &&
+           muxers.contains(container.muxer);
+}
+
+/*! The decoder that reads the alpha of \a codec, too; empty: all do. */
+QString alphaDecoder(const QString &codec)
+{
+    return codec == QLatin1String("vp8")   ? QStringLiteral("libvpx")
+           : codec == QLatin1String("vp9") ? QStringLiteral("libvpx-vp9")
+                                           : QString();
 }
 
 /*! The options of the scale filter that turn \a source into \a result. */
@@ -120,6 +120,70 @@ QString scalingBetween(const Colour &source, bool isSourceRgb, const Colour &res
         options << QStringLiteral("flags=bicubic+accurate_rnd+full_chroma_int");
     }
     return options.join(QLatin1Char(':'));
+}
+
+/*! The display in the words of an encoder that counts its colours and its light in these parts of
+ *  1 and of 1 cd/m². */
+QString displayText(const MasteringDisplay &display, int colourParts, int lightParts, int decimals)
+{
+    const auto pair = [decimals](const char *name, double first, double second, int parts) {
+        return QStringLiteral("%1(%2,%3)")
+            .arg(QLatin1String(name), QString::number(first * parts, 'f', decimals),
+                 QString::number(second * parts, 'f', decimals));
+    };
+    const auto point = [&pair, colourParts](const char *name, const MasteringDisplay::Point &at) {
+        return pair(name, at.x.value(), at.y.value(), colourParts);
+    };
+    return point("G", display.green) + point("B", display.blue) + point("R", display.red) +
+           point("WP", display.white) +
+           pair("L", display.brightest.value(), display.darkest.value(), lightParts);
+}
+
+QString lightText(const LightLevel &light)
+{
+    return QStringLiteral("%1,%2").arg(light.brightestPixel).arg(light.brightestFrame);
+}
+
+QStringList lightForX265(const VideoTrack &track)
+{
+    QStringList parameters = {QStringLiteral("hdr10=1"), QStringLiteral("repeat-headers=1")};
+    if (track.masteringDisplay) {
+        parameters << QStringLiteral("master-display=") +
+                          displayText(*track.masteringDisplay, 50000, 10000, 0);
+    }
+    if (track.lightLevel) {
+        parameters << QStringLiteral("max-cll=") + lightText(*track.lightLevel);
+    }
+    return parameters;
+}
+
+QStringList lightForSvtAv1(const VideoTrack &track)
+{
+    QStringList parameters;
+    if (track.masteringDisplay) {
+        parameters << QStringLiteral("mastering-display=") +
+                          displayText(*track.masteringDisplay, 1, 1, 4);
+    }
+    if (track.lightLevel) {
+        parameters << QStringLiteral("content-light=") + lightText(*track.lightLevel);
+    }
+    return parameters;
+}
+
+/*! Adds them to the option \a name, which takes its parameters with colons between. */
+void addParameters(ToolOptions &options, const QString &name, const QStringList &parameters)
+{
+    if (parameters.isEmpty()) {
+        return;
+    }
+    const auto own = std::find_if(options.begin(), options.end(),
+                                  [&name](const ToolOption &each) { return each.name == name; });
+    const QString text = parameters.join(QLatin1Char(':'));
+    if (own == options.end()) {
+        options.append({name, text});
+    } else {
+        own->value += QLatin1Char(':') + text;
+    }
 }
 
 } // namespace
@@ -156,37 +220,42 @@ ColourPlan ColourPlan::make(const VideoTrack &track, const QSize &size, const Vi
         return plan;
     }
     const bool isTagged = isTold(codec, container);
-    plan.isHdrKept = track.colour.isHdr() && isTagged && !codec.deepPixels.format.isEmpty();
-    plan.pixels = pixelsFor(track, codec, container, plan.isHdrKept);
+    const bool takesDeep = !codec.deepPixels.format.isEmpty();
+    plan.isHdrKept = track.colour.isHdr() && isTagged && takesDeep;
+    plan.isToneMapped = track.colour.isHdr() && !plan.isHdrKept;
+    if (keepsAlpha(track, codec, container)) {
+        plan.pixels = codec.alphaPixels;
+        plan.decoder = alphaDecoder(track.codec);
+    } else if (takesDeep && isDeep(track.pixelFormat) && !plan.isToneMapped) {
+        plan.pixels = codec.deepPixels;
+    }
+    plan.convert(track, usualColour(size), codec.ownColour, isTagged);
+    return plan;
+}
+
+void ColourPlan::convert(const VideoTrack &track, const Colour &usual, const Colour &own,
+                         bool isTagged)
+{
     const bool isRgb = !isYuv(track.pixelFormat);
-    const bool becomesRgb = plan.pixels.format.isEmpty();
-    const Colour usual = usualColour(size);
-    Colour source = shownColour(track);
-    if (isRgb) {
-        source = usual;
-    } else if (track.colour.isHdr() && !plan.isHdrKept) {
-        plan.filters = toneMapping(source);
-        source = {limited, bt709, bt709, bt709};
-    }
-    plan.result = source;
-    plan.result.range = limited;
-    if (!isTagged) {
-        plan.result.matrix = usual.matrix;
-    }
-    if (!codec.ownColour.matrix.isEmpty()) {
-        plan.result.matrix = codec.ownColour.matrix;
-        plan.result.range = codec.ownColour.range;
-    }
-    const QString scaling = scalingBetween(source, isRgb, plan.result, becomesRgb);
-    if (plan.filters.isEmpty()) {
-        plan.scaling = scaling;
-    } else if (!scaling.isEmpty()) {
-        plan.filters << QStringLiteral("scale=") + scaling;
+    const bool becomesRgb = pixels.format.isEmpty();
+    const Colour source = isToneMapped ? Colour{limited, bt709, bt709, bt709}
+                          : isRgb      ? usual
+                                       : shownColour(track);
+    result = source;
+    result.range = own.range.isEmpty() ? limited : own.range;
+    result.matrix = !own.matrix.isEmpty() ? own.matrix : isTagged ? source.matrix : usual.matrix;
+    const QString conversion = scalingBetween(source, isRgb, result, becomesRgb);
+    if (!isToneMapped) {
+        scaling = conversion;
+    } else {
+        filters = toneMapping(shownColour(track));
+        if (!conversion.isEmpty()) {
+            filters << QStringLiteral("scale=") + conversion;
+        }
     }
     if (becomesRgb) {
-        plan.result = {};
+        result = {};
     }
-    return plan;
 }
 
 ToolOptions ColourPlan::tags() const
@@ -202,48 +271,11 @@ ToolOptions ColourPlan::tags() const
 
 void addLight(ToolOptions &options, const QString &encoder, const VideoTrack &track)
 {
+    const bool isHdr10 = track.colour.transfer == QLatin1String("smpte2084");
     const bool isX265 = encoder == QLatin1String("libx265");
-    const bool isSvt = encoder == QLatin1String("libsvtav1");
-    if ((!isX265 && !isSvt) || track.colour.transfer != QLatin1String("smpte2084")) {
-        return;
-    }
-    QStringList parameters;
-    if (isX265) {
-        parameters << QStringLiteral("hdr10=1") << QStringLiteral("repeat-headers=1");
-    }
-    if (track.masteringDisplay) {
-        const MasteringDisplay &display = *track.masteringDisplay;
-        // x265 counts in 1/50000 and 1/10000 cd/m².
-        const auto pair = [isX265](const char *name, double first, double second, double unit) {
-            const auto text = [isX265, unit](double value) {
-                return isX265 ? QString::number(std::lround(value * unit))
-                              : QString::number(value, 'f', 4);
-            };
-            return QStringLiteral("%1(%2,%3)").arg(QLatin1String(name), text(first), text(second));
-        };
-        const auto point = [&pair](const char *name, const MasteringDisplay::Point &at) {
-            return pair(name, at.x.value(), at.y.value(), 50000);
-        };
-        parameters << (isX265 ? QStringLiteral("master-display=")
-                              : QStringLiteral("mastering-display=")) +
-                          point("G", display.green) + point("B", display.blue) +
-                          point("R", display.red) + point("WP", display.white) +
-                          pair("L", display.brightest.value(), display.darkest.value(), 10000);
-    }
-    if (track.lightLevel) {
-        parameters << (isX265 ? QStringLiteral("max-cll=%1,%2")
-                              : QStringLiteral("content-light=%1,%2"))
-                          .arg(track.lightLevel->brightestPixel)
-                          .arg(track.lightLevel->brightestFrame);
-    }
-    const QString name = isX265 ? QStringLiteral("x265-params") : QStringLiteral("svtav1-params");
-    for (ToolOption &option : options) {
-        if (option.name == name) {
-            option.value += QLatin1Char(':') + parameters.join(QLatin1Char(':'));
-            return;
-        }
-    }
-    if (!parameters.isEmpty()) {
-        options.append({name, parameters.join(QLatin1Char(':'))});
+    if (isHdr10 && isX265) {
+        addParameters(options, QStringLiteral("x265-params"), lightForX265(track));
+    } else if (isHdr10 && encoder == QLatin1String("libsvtav1")) {
+        addParameters(options, QStringLiteral("svtav1-params"), lightForSvtAv1(track));
     }
 }

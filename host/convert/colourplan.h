@@ -11,8 +11,10 @@ struct ColourPlan
     QString scaling = {};     //!< options of the scale filter; empty: no conversion there
     QStringList filters = {}; //!< go behind it
     VideoCodec::Pixels pixels = {};
-    Colour result = {}; //!< empty: the codec has its own
+    Colour result = {};   //!< empty: the codec has its own
+    QString decoder = {}; //!< empty: ffmpeg's choice
     bool isHdrKept = false;
+    bool isToneMapped = false;
 
     /*! The plan for a picture of \a size. Where the pixels of \a track aren't known nothing is
      *  converted or said. */
@@ -21,6 +23,9 @@ struct ColourPlan
 
     /*! What the encoder writes into the file. */
     [[nodiscard]] ToolOptions tags() const;
+
+private:
+    void convert(const VideoTrack &track, const Colour &usual, const Colour &own, bool isTagged);
 };
 
 /*! The colours of \a track, with what players take where it doesn't say. */

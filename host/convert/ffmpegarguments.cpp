@@ -92,6 +92,14 @@ QStringList titleArguments(const Track &track, const QString &stream, const Cont
     return {QStringLiteral("-metadata:s:") + stream, QStringLiteral("handler_name=") + track.title};
 }
 
+/*! What follows the source, and how its streams need it to be read. */
+struct Output
+{
+    QStringList arguments;
+    QString decoder;          //!< of the video; empty: the usual one
+    bool isReadTwice = false; //!< as two inputs of the same source
+};
+
 /*! The arguments that select and encode the output's streams, in their order. */
 class Streams
 {
@@ -106,7 +114,7 @@ public:
     void addSubtitles();
     void addAttachments();
     void addCover();
-    QStringList arguments() const { return m_graph + m_maps + m_codecs; }
+    Output output() const { return {m_graph + m_maps + m_codecs, m_decoder, m_isReadTwice}; }
 
 private:
     void map(int index) { map(QStringLiteral("0:%1").arg(index)); }
@@ -117,6 +125,8 @@ private:
     QStringList m_graph;
     QStringList m_maps;
     QStringList m_codecs;
+    QString m_decoder;
+    bool m_isReadTwice = false;
     int m_pictures = 0;
 };
 
@@ -128,13 +138,17 @@ Result<> Streams::addPicture(const VideoTrack &picture)
     }
     if (plan->hasGraph()) {
         const QString drawn = QStringLiteral("[drawn]");
-        m_graph = QStringList{QStringLiteral("-filter_complex"),
-                              plan->filters.join(QLatin1Char(',')) + drawn};
+        m_graph =
+            QStringList{QStringLiteral("-filter_complex"), plan->graph(picture.index) + drawn};
         map(drawn);
+        m_codecs << QStringLiteral("-map_metadata:s:v:0")
+                 << QStringLiteral("0:s:%1").arg(picture.index);
     } else {
         map(picture.index);
     }
     m_codecs += plan->arguments();
+    m_decoder = plan->decoder;
+    m_isReadTwice = plan->hasPalette;
     ++m_pictures;
     return {};
 }
@@ -205,7 +219,7 @@ ToolOptions muxerOptions(const StreamTarget &target)
 }
 
 /*! The streams, their codecs and the muxer. */
-Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget &target)
+Result<Output> outputFor(const MediaFacts &source, const StreamTarget &target)
 {
     const VideoTrack *picture = target.settings.hasVideo ? source.video() : nullptr;
     const QVector<AudioTrack> sound = chosenAudio(source, target);
@@ -227,8 +241,10 @@ Result<QStringList> outputArguments(const MediaFacts &source, const StreamTarget
         streams.addAttachments();
     }
     streams.addCover();
-    return streams.arguments() + metadataArguments(source) + toArguments(muxerOptions(target)) +
-           toArguments({{QStringLiteral("f"), target.container.muxer}});
+    Output output = streams.output();
+    output.arguments += metadataArguments(source) + toArguments(muxerOptions(target)) +
+                        toArguments({{QStringLiteral("f"), target.container.muxer}});
+    return output;
 }
 
 } // namespace
@@ -250,16 +266,21 @@ Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaF
     if (!burned) {
         return failed(burned);
     }
-    Result<QStringList> output =
-        outputArguments(source, {*fitted, container, encoders,
-                                 source.isStill() ? Copies{false, false} : allowed, *burned});
+    const Result<Output> output =
+        outputFor(source, {*fitted, container, encoders,
+                           source.isStill() ? Copies{false, false} : allowed, *burned});
     if (!output) {
-        return output;
+        return failed(output);
     }
+    QStringList input = cutArguments(settings, source.isStill()) +
+                        timeArguments(source, copiesIn(output->arguments));
+    if (!output->decoder.isEmpty()) {
+        input << QStringLiteral("-c:v") << output->decoder;
+    }
+    input += inputArguments(sourcePath, source.container);
     return QStringList{QStringLiteral("-progress"), QStringLiteral("pipe:1"),
                        QStringLiteral("-y")} +
-           cutArguments(settings, source.isStill()) + timeArguments(source, copiesIn(*output)) +
-           inputArguments(sourcePath, source.container) + *output +
+           input + (output->isReadTwice ? input : QStringList()) + output->arguments +
            QStringList{fileArgument(targetPath)};
 }
 

@@ -113,10 +113,10 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     if (fields.isKept && codec.isBottomFieldFirst) {
         plan.filters << QStringLiteral("fieldorder=bff");
     }
-    if (!codec.lastFilter.isEmpty()) {
-        plan.filters << codec.lastFilter;
-    }
+    plan.hasPalette = codec.hasPalette;
     plan.pixelFormat = isFramed ? fit.frame.pixelFormat : colour.pixels.format;
+    plan.decoder = colour.decoder;
+    plan.dropsSourceLight = colour.isToneMapped;
     plan.options += fields.options + colour.pixels.options + colour.tags();
     if (colour.isHdrKept) {
         addLight(plan.options, plan.encoder, track);
@@ -174,7 +174,21 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
 
 bool VideoPlan::hasGraph() const
 {
-    return isFilterGraph(filters.value(0));
+    return hasPalette || dropsSourceLight || isFilterGraph(filters.value(0));
+}
+
+QString VideoPlan::graph(int track) const
+{
+    const auto chain = [this, track](int input) {
+        const QString source = QStringLiteral("[%1:").arg(input);
+        QString text = filters.isEmpty() ? QStringLiteral("null") : filters.join(QLatin1Char(','));
+        return isFilterGraph(text) ? text.replace(QLatin1String("[0:"), source)
+                                   : QStringLiteral("%1%2]%3").arg(source).arg(track).arg(text);
+    };
+    return hasPalette ? QStringLiteral("%1,palettegen[palette];%2[picture];"
+                                       "[picture][palette]paletteuse")
+                            .arg(chain(1), chain(0))
+                      : chain(0);
 }
 
 QStringList VideoPlan::arguments() const

@@ -11,9 +11,15 @@ struct VideoPlan
 {
     QString encoder; //!< "copy" takes the stream over as it is
     QStringList filters = {};
+    //! The colours are chosen first, from the source read once more: to keep its frames until then
+    //! takes too much memory.
+    bool hasPalette = false;
+    //! ffmpeg would say of the result what the source's container says of its light.
+    bool dropsSourceLight = false;
     FrameTiming timing = {};
     QString pixelFormat = {};     //!< empty: the encoder's choice
     ToolOptions options = {};     //!< the encoder's
+    QString decoder = {};         //!< empty: ffmpeg's choice
     QString bitstreamFilter = {}; //!< of a copy
     QString tag = {};             //!< of the codec in the file; empty: the usual one
 
@@ -21,8 +27,10 @@ struct VideoPlan
     [[nodiscard]] static Result<VideoPlan> make(const VideoTrack &track,
                                                 const StreamTarget &target);
 
-    /*! Whether the filters name their own inputs, so that they must stand in a graph. */
+    /*! Whether the filters must stand in a graph. */
     [[nodiscard]] bool hasGraph() const;
+    /*! The graph that draws the stream \a track; input 1 is the source once more. */
+    [[nodiscard]] QString graph(int track) const;
     /*! The arguments of ffmpeg for its first video stream. */
     [[nodiscard]] QStringList arguments() const;
 };

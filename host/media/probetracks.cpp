@@ -49,6 +49,15 @@ QString tag(const QJsonObject &stream, QLatin1String name)
     return knownText(stream.value(QLatin1String("tags")).toObject(), name);
 }
 
+QString pixelFormatOf(const QJsonObject &stream)
+{
+    const QString format = knownText(stream, QLatin1String("pix_fmt"));
+    // The alpha of VP8 and VP9 is a picture of its own that the usual decoders leave out.
+    const bool hasAlphaBeside = tag(stream, QLatin1String("alpha_mode")) == QLatin1String("1");
+    return hasAlphaBeside && format == QLatin1String("yuv420p") ? QStringLiteral("yuva420p")
+                                                                : format;
+}
+
 void readTrack(const QJsonObject &stream, Track &track)
 {
     track.index = std::max(0, number(stream, QLatin1String("index")));
@@ -185,7 +194,7 @@ VideoTrack videoTrackFromProbe(const QJsonObject &stream)
     track.fieldOrder = fieldOrderOf(stream);
     track.framesTellFields = marksFields(track.codec);
     readFrameRate(stream, track);
-    track.pixelFormat = knownText(stream, QLatin1String("pix_fmt"));
+    track.pixelFormat = pixelFormatOf(stream);
     track.level = std::max(0, number(stream, QLatin1String("level")));
     track.colour = {knownText(stream, QLatin1String("color_range")),
                     knownText(stream, QLatin1String("color_space")),
