@@ -155,7 +155,7 @@ void TestCommandLine::aClosedPipeIsNotAnError_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("written");
     const QString film = QStringLiteral("film.mp4");
     QTest::newRow("list") << QStringLiteral("presets MP4") << 0 << film;
     QTest::newRow("conversion") << QStringLiteral("convert film.mp4 --preset V_MKV_1") << 0
@@ -169,7 +169,7 @@ void TestCommandLine::aClosedPipeIsNotAnError()
 {
     QFETCH(QString, line);
     QFETCH(int, exitCode);
-    QFETCH(QString, result);
+    QFETCH(QString, written);
     ProcessWithoutReader process;
     start(process,
           QStringList{QStringLiteral("--config"), config()} + line.split(QLatin1Char(' ')));
@@ -177,7 +177,7 @@ void TestCommandLine::aClosedPipeIsNotAnError()
     QCOMPARE(result.exitCode, exitCode);
     QVERIFY2(!result.err.contains(QStringLiteral("the output")), qPrintable(result.err));
     QCOMPARE(result.err.count(QLatin1Char('\n')), exitCode);
-    QCOMPARE(everything(), result.split(QLatin1Char('|')));
+    QCOMPARE(everything(), written.split(QLatin1Char('|')));
 }
 
 void TestCommandLine::readOnlyCommandsWriteNothing()

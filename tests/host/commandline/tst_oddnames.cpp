@@ -95,10 +95,10 @@ void TestOddNames::aResultKeepsTheBytesOfTheName_data()
 {
     QTest::addColumn<QByteArray>("folder");
     QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("result");
+    QTest::addColumn<QByteArray>("target");
     const auto row = [](const char *title, const char *folder, const char *name,
-                        const char *result) {
-        QTest::newRow(title) << QByteArray(folder) << QByteArray(name) << QByteArray(result);
+                        const char *target) {
+        QTest::newRow(title) << QByteArray(folder) << QByteArray(name) << QByteArray(target);
     };
     row("Latin-1", "", "caf\xe9.mp4", "caf\xe9.mkv");
     row("Latin-1 without an extension", "", "caf\xe9", "caf\xe9.mkv");
@@ -113,13 +113,13 @@ void TestOddNames::aResultKeepsTheBytesOfTheName()
 {
     QFETCH(QByteArray, folder);
     QFETCH(QByteArray, name);
-    QFETCH(QByteArray, result);
+    QFETCH(QByteArray, target);
     QVERIFY(QDir().mkpath(path(folder)));
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("film.mp4")), path(folder + name)));
     const CommandRun result = convert(folder + name);
     QCOMPARE(result.err, QString());
     QCOMPARE(result.exitCode, 0);
-    QByteArrayList both = {name, result};
+    QByteArrayList both = {name, target};
     QByteArrayList found = names(QFile::decodeName(folder));
     std::sort(both.begin(), both.end());
     std::sort(found.begin(), found.end());
@@ -139,7 +139,7 @@ void TestOddNames::aDryRunCanBePasted()
 {
     QFETCH(QByteArray, folder);
     QFETCH(QByteArray, name);
-    QFETCH(QByteArray, result);
+    QFETCH(QByteArray, target);
     QVERIFY(QDir().mkpath(path(folder)));
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("film.mp4")), path(folder + name)));
     const CommandRun result = convert(folder + name, {QStringLiteral("--dry-run")});
@@ -150,7 +150,7 @@ void TestOddNames::aDryRunCanBePasted()
     QProcess shell;
     shell.start(QStringLiteral("bash"), {QStringLiteral("-c"), result.out});
     QCOMPARE(CommandRun::of(shell).exitCode, 0);
-    QVERIFY(QFile::exists(path(folder + result)));
+    QVERIFY(QFile::exists(path(folder + target)));
 }
 
 void TestOddNames::noNameCanMoveTheCursorOrForgeALine_data()

@@ -102,7 +102,7 @@ void TestInspector::aForgottenFileEmitsNothing_data()
 {
     QTest::addColumn<QString>("forgetAt"); // empty: at once
     QTest::addColumn<int>("forgotten");
-    QTest::addColumn<QStringList>("events");
+    QTest::addColumn<QStringList>("expected");
     QTest::newRow("while it is read") << QString() << 1 << events("read 2, read 3");
     QTest::newRow("while it waits") << QString() << 2 << events("read 1, thumbnail 1, read 3");
     QTest::newRow("while its thumbnail is made")
@@ -113,7 +113,7 @@ void TestInspector::aForgottenFileEmitsNothing()
 {
     QFETCH(QString, forgetAt);
     QFETCH(int, forgotten);
-    QFETCH(QStringList, events);
+    QFETCH(QStringList, expected);
     m_inspector->inspect(1, clip("film.mp4"));
     m_inspector->inspect(2, clip("song.wav"));
     m_inspector->inspect(3, clip("song.wav"));
@@ -121,7 +121,7 @@ void TestInspector::aForgottenFileEmitsNothing()
         [this, &forgetAt] { return forgetAt.isEmpty() || m_events.contains(forgetAt); }, patience));
     m_inspector->forget(forgotten);
     QTRY_VERIFY_WITH_TIMEOUT(m_events.contains(QStringLiteral("read 3")), patience);
-    QCOMPARE(m_events, events);
+    QCOMPARE(m_events, expected);
 }
 
 QTEST_GUILESS_MAIN(TestInspector)
