@@ -232,7 +232,8 @@ QVector<Subcommand> catalogueCommands()
          CommandLine::tr("FORMAT [--json]"),
          CommandLine::tr("List the presets of a format."),
          CommandLine::tr("\n\"source\" keeps the source's own value, \"auto\" lets the encoder "
-                         "choose the bitrate.\n"),
+                         "choose the bitrate. A video\nbitrate is the most that a result may have; "
+                         "easy content gets less.\n"),
          {jsonOption()},
          runPresets},
         {QStringLiteral("show"),

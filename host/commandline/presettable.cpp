@@ -3,11 +3,28 @@
 #include "host/commandline/commandline.h"
 #include "host/convert/outputsettings.h"
 
+#include <QLocale>
+
 #include <algorithm>
+
+namespace {
+
+const QLatin1String videoBitrateKey("bitrateMid");
+
+/*! With the thousands apart: "8,000". */
+QString grouped(const QString &number)
+{
+    bool isNumber = false;
+    const double value = number.toDouble(&isNumber);
+    const QLocale english(QLocale::English);
+    return isNumber ? english.toString(value, 'f', QLocale::FloatingPointShortest) : number;
+}
+
+} // namespace
 
 QString PresetSetting::value(const QVariantMap &preset) const
 {
-    if (key == QLatin1String("bitrateMid")) {
+    if (key == videoBitrateKey) {
         return QString::number(OutputSettings::fromPreset(preset).videoKbps);
     }
     return preset.value(group).toMap().value(key).toString();
@@ -22,7 +39,10 @@ QStringList PresetSetting::choices(const QVariantMap &preset) const
 
 QString PresetSetting::inWords(const QString &value) const
 {
-    return value.isEmpty() || value == QLatin1String("0") ? zeroWord : value;
+    if (value.isEmpty() || value == QLatin1String("0")) {
+        return zeroWord;
+    }
+    return key == videoBitrateKey ? CommandLine::tr("at most %1").arg(grouped(value)) : value;
 }
 
 const QVector<PresetSetting> &presetSettings()
@@ -43,8 +63,8 @@ const QVector<PresetSetting> &presetSettings()
          QStringLiteral("frameRate"), QStringLiteral("frameRates"),
          QStringLiteral("videoFrameRate"), source, CommandLine::tr("Frames per second.")},
         {CommandLine::tr("Video kbps"), QStringLiteral("video-bitrate"), CommandLine::tr("KBPS"),
-         video, QStringLiteral("bitrateMid"), QStringLiteral("bitrates"),
-         QStringLiteral("videoBitrateMid"), automatic, CommandLine::tr("Video bitrate.")},
+         video, videoBitrateKey, QStringLiteral("bitrates"), QStringLiteral("videoBitrateMid"),
+         automatic, CommandLine::tr("The most that the video may have.")},
         {CommandLine::tr("Audio"), QStringLiteral("audio-encoder"), CommandLine::tr("ENCODER"),
          audio, QStringLiteral("encoder"), QStringLiteral("encoders"),
          QStringLiteral("audioEncoder"), source, CommandLine::tr("Audio encoder.")},

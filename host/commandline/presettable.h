@@ -22,7 +22,8 @@ struct PresetSetting
     [[nodiscard]] QString value(const QVariantMap &preset) const;
     /*! The values offered, without empty ones. */
     [[nodiscard]] QStringList choices(const QVariantMap &preset) const;
-    /*! The value, or the zero word for "0" and an empty value. */
+    /*! The value as people say it: the zero word for "0" and an empty one, a video bitrate as the
+     *  most that it is. */
     [[nodiscard]] QString inWords(const QString &value) const;
 };
 

@@ -58,11 +58,11 @@ void TestCatalogueCommands::presetsAreListedInColumns_data()
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("table");
     const QString mp4 = QStringLiteral(
-        "Id       Title           File  Video   Size    Fps     Video kbps  Audio   Channels  "
+        "Id       Title           File  Video   Size    Fps     Video kbps   Audio   Channels  "
         "Hz      Audio kbps\n"
-        "V_MP4_1  Same as source  mp4   source  source  source  auto        source  source    "
+        "V_MP4_1  Same as source  mp4   source  source  source  auto         source  source    "
         "source  auto\n"
-        "V_MP4_2  Tiny            mp4   h264    160x90  25      500         aac     2         "
+        "V_MP4_2  Tiny            mp4   h264    160x90  25      at most 500  aac     2         "
         "48000   96\n");
     QTest::newRow("video") << QStringLiteral("MP4") << mp4;
     QTest::newRow("in any case") << QStringLiteral("mp4") << mp4;
@@ -91,15 +91,15 @@ void TestCatalogueCommands::aPresetIsShownWithItsChoices()
                             "File     mp4\n"
                             "Made by  the catalogue\n"
                             "\n"
-                            "Setting     Value   Choices\n"
-                            "Video       h264    0 (source), h264, mpeg4\n"
-                            "Size        160x90  0 (source), 1280x720, 160x90\n"
-                            "Fps         25      0 (source), 25, 29.97\n"
-                            "Video kbps  500     0 (auto), 500, 4000\n"
-                            "Audio       aac     0 (source), aac, mp3\n"
-                            "Channels    2       0 (source), 1, 2\n"
-                            "Hz          48000   0 (source), 48000\n"
-                            "Audio kbps  96      0 (auto), 96, 192\n"));
+                            "Setting     Value        Choices\n"
+                            "Video       h264         0 (source), h264, mpeg4\n"
+                            "Size        160x90       0 (source), 1280x720, 160x90\n"
+                            "Fps         25           0 (source), 25, 29.97\n"
+                            "Video kbps  at most 500  0 (auto), 500, 4000\n"
+                            "Audio       aac          0 (source), aac, mp3\n"
+                            "Channels    2            0 (source), 1, 2\n"
+                            "Hz          48000        0 (source), 48000\n"
+                            "Audio kbps  96           0 (auto), 96, 192\n"));
     QVERIFY(!run("show A_MP3_1").out.contains(QStringLiteral("Video")));
 }
 
