@@ -26,6 +26,10 @@ All {formats} formats and {presets} presets of the built-in catalogue. This page
 "source" keeps the source's own value, and "auto" lets the encoder choose the bitrate for good
 quality. A video bitrate is the most that the video may have: easy content gets less. It is followed
 by those of the low and the high quality. The size is a box that the video is scaled to fit.
+
+Presets of devices and sites name the published limits that they follow. Those called unconfirmed
+follow none; they are what such devices and sites usually take. Devices called discontinued are no
+longer made.
 """
 VIDEO_COLUMNS = ["Id", "Title", "File", "Video", "Size", "Fps", "kbps", "Audio", "Channels", "Hz",
                  "kbps"]
@@ -73,9 +77,9 @@ def audio_cells(preset):
 def video_cells(preset):
     param = preset["videoParam"]
     high, _, low = preset["videoOptions"]["levelList"]
-    levels = f" ({low} to {high})" if high else ""
-    kbps = number(param["bitrateKbps"], "auto")
-    most = kbps if kbps == "auto" else f"at most {kbps}"
+    levels = f" ({low:,} to {high:,})" if high else ""
+    kbps = param["bitrateKbps"]
+    most = f"at most {kbps:,}" if kbps else "auto"
     return [number(param["encoder"]), number(param["resolution"]), number(param["frameRate"]),
             most + levels]
 
@@ -96,6 +100,22 @@ def offered(presets, block):
     return ", ".join(encoders)
 
 
+def limits(presets):
+    """A line for each limit that presets of a format follow, with their titles where they differ."""
+    titles = {}
+    for preset in presets:
+        parts = [preset.get("status", "").capitalize(), preset.get("limit", "")]
+        text = ". ".join(part for part in parts if part)
+        titles.setdefault(text, []).append(preset["title"])
+    for text, those in titles.items():
+        if text and len(titles) == 1:
+            yield from [f"{text}.", ""]
+        elif text:
+            yield f"- {', '.join(those)}: {text}."
+    if len(titles) > 1:
+        yield ""
+
+
 def page(vexconvert):
     body = []
     counts = {"formats": 0, "presets": 0}
@@ -108,7 +128,8 @@ def page(vexconvert):
                 ("Video", offered(presets, "videoOptions")),
                 ("Audio", offered(presets, "audioOptions"))) if encoders]
             columns = VIDEO_COLUMNS if "videoParam" in presets[0] else AUDIO_COLUMNS
-            body += ["", f"### {name}", "", "Encoders offered. " + ". ".join(choices) + ".", ""]
+            body += ["", f"### {name}", "", *limits(presets),
+                     "Encoders offered. " + ". ".join(choices) + ".", ""]
             body += table(columns, map(row, presets))
     return HEAD.format(**counts) + "\n".join(body) + "\n"
 

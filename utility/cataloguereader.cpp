@@ -139,7 +139,7 @@ void Reader::complete(QVariantMap &preset, const QString &path)
 {
     using namespace CatalogueBlock;
     for (const CatalogueText &text : CatalogueText::all()) {
-        if (!preset.contains(text.key)) {
+        if (text.isRequired && !preset.contains(text.key)) {
             m_inspector.refuse(memberPath(path, text.key), missing);
         }
     }

@@ -37,12 +37,15 @@ QString joined(QLatin1String block, QLatin1String key)
 
 } // namespace
 
-const std::array<CatalogueText, 3> &CatalogueText::all()
+const std::array<CatalogueText, 6> &CatalogueText::all()
 {
-    static const std::array<CatalogueText, 3> texts{{
+    static const std::array<CatalogueText, 6> texts{{
         {QLatin1String("id"), QLatin1String("[A-Za-z]+_[A-Z0-9]+_[0-9]{3}"), false},
         {QLatin1String("extension"), QLatin1String("[a-z0-9]+"), true},
         {QLatin1String("title"), QLatin1String(), true},
+        {QLatin1String("idName"), QLatin1String("[A-Z0-9]+"), true, false},
+        {QLatin1String("limit"), QLatin1String(), true, false},
+        {QLatin1String("status"), QLatin1String("unconfirmed|discontinued"), true, false},
     }};
     return texts;
 }

@@ -24,8 +24,9 @@ struct CatalogueText
     QLatin1String key;
     QLatin1String pattern; //!< a regular expression for the whole string; empty: anything but ""
     bool isInherited;      //!< can also be in a group or a template
+    bool isRequired = true;
 
-    [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueText, 3> &all();
+    [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueText, 6> &all();
 };
 
 /*! What a preset may say of its video besides its settings; the screens don't offer it. */

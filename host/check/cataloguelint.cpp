@@ -8,13 +8,6 @@
 
 namespace {
 
-/*! A group's name as in ids: "HEVC MP4" is HEVCMP4. */
-QString idPart(const QString &groupName)
-{
-    static const QRegularExpression other(QStringLiteral("[^A-Z0-9]"));
-    return groupName.toUpper().remove(other);
-}
-
 /*! A group of the catalogue, with the places of its values. */
 struct CheckedGroup
 {
@@ -78,14 +71,33 @@ void lintName(const CheckedGroup &group, QSet<QString> &names, MistakeCollector 
     }
 }
 
+/*! The format's name as in ids: "HEVC MP4" is HEVCMP4. */
+QString idName(const CheckedPreset &preset, const CheckedGroup &group)
+{
+    static const QRegularExpression other(QStringLiteral("[^A-Z0-9]"));
+    const QString own = preset.text(QStringLiteral("idName"));
+    return own.isEmpty() ? group.name.toUpper().remove(other) : own;
+}
+
 void lintId(CheckedPreset &preset, const CheckedGroup &group)
 {
-    const QString start = group.category + QLatin1Char('_') + idPart(group.name) + QLatin1Char('_');
+    const QString start =
+        group.category + QLatin1Char('_') + idName(preset, group) + QLatin1Char('_');
     const QRegularExpression form(QRegularExpression::anchoredPattern(
         QRegularExpression::escape(start) + QStringLiteral("[0-9]{3}")));
     if (!form.match(preset.id()).hasMatch()) {
         preset.note(QStringLiteral("id"),
                     QStringLiteral("must be \"%1\" followed by three digits").arg(start));
+    }
+}
+
+void lintOptionalTexts(CheckedPreset &preset)
+{
+    for (const CatalogueText &text : CatalogueText::all()) {
+        const QString value = preset.text(text.key);
+        if (!text.isRequired && !value.isEmpty() && !text.pattern.isEmpty()) {
+            preset.expectForm(text.key, value, text.pattern);
+        }
     }
 }
 
@@ -99,6 +111,7 @@ void lintPresets(const CheckedGroup &group, const CatalogueResult &catalogue,
         const QString id = each.toMap().value(QStringLiteral("id")).toString();
         CheckedPreset preset(each.toMap(), catalogue.presetPlaces.value(id), collector);
         lintId(preset, group);
+        lintOptionalTexts(preset);
         lintChoices(preset);
         lintSupport(preset);
     }

@@ -1,5 +1,7 @@
 #include "host/check/checkedpreset.h"
 
+#include <QRegularExpression>
+
 CheckedPreset::CheckedPreset(const QVariantMap &preset, const PresetPlaces &places,
                              MistakeCollector &collector)
     : m_preset(preset)
@@ -7,14 +9,9 @@ CheckedPreset::CheckedPreset(const QVariantMap &preset, const PresetPlaces &plac
     , m_collector(collector)
 {}
 
-QString CheckedPreset::id() const
+QString CheckedPreset::text(const QString &key) const
 {
-    return m_preset.value(QStringLiteral("id")).toString();
-}
-
-QString CheckedPreset::extension() const
-{
-    return m_preset.value(QStringLiteral("extension")).toString();
+    return m_preset.value(key).toString();
 }
 
 QVariant CheckedPreset::chosen(const CatalogueSetting &setting) const
@@ -44,6 +41,14 @@ void CheckedPreset::noteOffered(const CatalogueSetting &setting, int index, cons
     CataloguePlace place = m_places.value(key);
     place.path += QStringLiteral("[%1]").arg(index);
     m_collector.note(place, reason, nameWhereApart(key, otherKey));
+}
+
+void CheckedPreset::expectForm(const QString &key, const QString &value, const QString &pattern)
+{
+    const QRegularExpression form(QRegularExpression::anchoredPattern(pattern));
+    if (!form.match(value).hasMatch()) {
+        note(key, QStringLiteral("must be of the form %1, not %2").arg(pattern, value));
+    }
 }
 
 /*! The group, template or preset that sets the value. */

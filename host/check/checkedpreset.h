@@ -14,8 +14,10 @@ public:
     CheckedPreset(const QVariantMap &preset, const PresetPlaces &places,
                   MistakeCollector &collector);
 
-    [[nodiscard]] QString id() const;
-    [[nodiscard]] QString extension() const;
+    /*! The text of a key such as "title", empty where the preset has none. */
+    [[nodiscard]] QString text(const QString &key) const;
+    [[nodiscard]] QString id() const { return text(QStringLiteral("id")); }
+    [[nodiscard]] QString extension() const { return text(QStringLiteral("extension")); }
     /*! The chosen value; invalid if the preset doesn't have the setting. */
     [[nodiscard]] QVariant chosen(const CatalogueSetting &setting) const;
     /*! The value of a detail, invalid where the preset has none. */
@@ -28,6 +30,9 @@ public:
     /*! Likewise for the offered value at \a index. */
     void noteOffered(const CatalogueSetting &setting, int index, const QString &reason,
                      const QString &otherKey = {});
+
+    /*! Notes a value of the key that a regular expression doesn't match as a whole. */
+    void expectForm(const QString &key, const QString &value, const QString &pattern);
 
 private:
     [[nodiscard]] QString holderOf(const QString &key) const;

@@ -1,7 +1,5 @@
 #include "host/check/choicelint.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 void lintOffered(CheckedPreset &preset, const CatalogueSetting &setting)
@@ -48,11 +46,8 @@ void lintDetail(CheckedPreset &preset, const CatalogueDetail &detail)
             key,
             QStringLiteral("must be %1, not %2").arg(bitrate.acceptedText(), value.toString()));
     }
-    const QRegularExpression form(QRegularExpression::anchoredPattern(detail.pattern));
-    if (detail.type() == QJsonValue::String && !form.match(value.toString()).hasMatch()) {
-        preset.note(
-            key,
-            QStringLiteral("must be of the form %1, not %2").arg(detail.pattern, value.toString()));
+    if (detail.type() == QJsonValue::String) {
+        preset.expectForm(key, value.toString(), detail.pattern);
     }
 }
 

@@ -32,9 +32,12 @@ struct Group
     }
 
     // As in ids and icons: "HEVC MP4" is HEVCMP4.
-    [[nodiscard]] QString idPart() const
+    [[nodiscard]] QString idName() const
     {
-        return name.toUpper().remove(QRegularExpression(QStringLiteral("[^A-Z0-9]")));
+        const QString own = presets.value(0).value(QStringLiteral("idName")).toString();
+        return !own.isEmpty()
+                   ? own
+                   : name.toUpper().remove(QRegularExpression(QStringLiteral("[^A-Z0-9]")));
     }
 };
 
@@ -146,6 +149,9 @@ private Q_SLOTS:
     void levelsAreOfferedAndDescend();
     void sameAsSourceChangesNothing_data() { everyPreset(); }
     void sameAsSourceChangesNothing();
+    void devicesAndSitesSayWhichLimitTheyFollow_data() { everyPreset(); }
+    void devicesAndSitesSayWhichLimitTheyFollow();
+    void xIsSentNoMoreThanItTakes();
 
 private:
     void everyGroup();
@@ -192,7 +198,7 @@ void TestBuiltInCatalogue::itHoldsTheFormatsOfEveryCategory()
              list("Apple,Samsung,Google,Huawei,Xiaomi,OPPO,Sony,LG,PlayStation,Xbox,Nintendo,"
                   "Amazon,Roku,TV"));
     QCOMPARE(names.value(QStringLiteral("SocialVideo")),
-             list("YouTube,Vimeo,Facebook,Instagram,TikTok,Twitter,Dailymotion,Twitch,LinkedIn,"
+             list("YouTube,Vimeo,Facebook,Instagram,TikTok,X,Dailymotion,Twitch,LinkedIn,"
                   "Bilibili"));
     QCOMPARE(text(m_groups.value(0).presets.value(0), "id"), QStringLiteral("Video_MP4_001"));
 }
@@ -236,7 +242,7 @@ void TestBuiltInCatalogue::groupsAreWellFormed()
     QFETCH(Group, group);
     QVERIFY(group.presets.size() >= 3);
     QVERIFY(group.presets.size() <= 12);
-    QCOMPARE(group.icon, QLatin1String("fmt_") + group.idPart().toLower());
+    QCOMPARE(group.icon, QLatin1String("fmt_") + group.idName().toLower());
     if (group.isOfFormat()) {
         QCOMPARE(group.name, group.name.toUpper());
     }
@@ -376,6 +382,34 @@ void TestBuiltInCatalogue::sameAsSourceChangesNothing()
         const bool isOfOneCodec =
             choice.key.endsWith(QLatin1String("encoder")) && !choice.options.contains(keepsSource);
         QCOMPARE(choice.value.toString() == keepsSource, !isOfOneCodec);
+    }
+}
+
+void TestBuiltInCatalogue::devicesAndSitesSayWhichLimitTheyFollow()
+{
+    QFETCH(Group, group);
+    QFETCH(QVariantMap, preset);
+    const bool says = !text(preset, "limit").isEmpty() || !text(preset, "status").isEmpty();
+    QCOMPARE(says, !group.isOfFormat());
+}
+
+void TestBuiltInCatalogue::xIsSentNoMoreThanItTakes()
+{
+    const auto x = std::find_if(m_groups.begin(), m_groups.end(), [](const Group &group) {
+        return group.name == QLatin1String("X");
+    });
+    QVERIFY(x != m_groups.end());
+    for (const QVariantMap &preset : x->presets) {
+        QVERIFY(text(preset, "id").startsWith(QLatin1String("SocialVideo_TWITTER_")));
+        const QVariantMap options = preset.value(videoOptions).toMap();
+        for (const QString &size : options.value(QStringLiteral("resolutionList")).toStringList()) {
+            const QStringList sides = size.split(QLatin1Char('x'));
+            const int width = sides.value(0).toInt();
+            const int height = sides.value(1).toInt();
+            const bool isTaken =
+                (width <= 1920 && height <= 1200) || (width <= 1200 && height <= 1900);
+            QVERIFY2(width > 0 && isTaken, qPrintable(size));
+        }
     }
 }
 

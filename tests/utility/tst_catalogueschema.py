@@ -22,6 +22,7 @@ VALID = {
     "templates": {"hd": {"title": "HD", "videoParam": {"resolution": "1280x720"}}},
     "groups": [{
         "name": "MP4", "icon": "fmt_mp4", "extension": "mp4", "template": "hd",
+        "idName": "MP4", "limit": "The maker's list", "status": "discontinued",
         "presets": [{
             "id": "Video_MP4_001", "title": "HD", "template": "hd", "extension": "mp4",
             "videoParam": {
@@ -71,6 +72,9 @@ INVALID = [
     (("groups", 0, "presets"), {}),
     (("groups", 0, "id"), "Video_MP4_001"),
     (("groups", 0, "template"), 1),
+    (("groups", 0, "idName"), "Mp4"),
+    (("groups", 0, "limit"), ""),
+    (("groups", 0, "status"), "retired"),
     (PRESET, "Video_MP4_001"),
     (PRESET + ("id",), MISSING),
     (PRESET + ("id",), 1),

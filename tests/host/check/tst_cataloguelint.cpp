@@ -102,6 +102,20 @@ void TestCatalogueLint::everyMistakeIsReported_data()
         "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
     row("an id of another category", {"Video_MPEG2_001", "Audio_MPEG2_001"},
         "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
+    row("an id of the format's name instead of its own one",
+        {R"("name": "MPEG-2",)", R"("name": "MPEG-2", "idName": "MPG",)"},
+        "groups[0].presets[0].id: must be \"Video_MPG_\" followed by three digits");
+    row("an id of its own name",
+        {R"("name": "MPEG-2",)", R"("name": "MPEG-2", "idName": "MPG",)", "Video_MPEG2_001",
+         "Video_MPG_001"},
+        "");
+    row("a status that no device has",
+        {R"("name": "MPEG-2",)", R"("name": "MPEG-2", "status": "retired",)"},
+        "groups[0].status: must be of the form unconfirmed|discontinued, not retired");
+    row("a status and a limit",
+        {R"("name": "MPEG-2",)",
+         R"("name": "MPEG-2", "status": "discontinued", "limit": "The maker's list",)"},
+        "");
     row("an id with two digits", {"Video_MPEG2_001", "Video_MPEG2_01"},
         "groups[0].presets[0].id: must be \"Video_MPEG2_\" followed by three digits");
     row("an id with four digits", {"Video_MPEG2_001", "Video_MPEG2_0001"},
@@ -118,6 +132,21 @@ void TestCatalogueLint::everyMistakeIsReported_data()
     row("no icon", {R"("icon": "fmt_mp4", )", ""},
         "groups[0].icon: is missing; the format has no icon");
 
+    row("a level that no codec has",
+        {R"("encoder": "mpeg2video",)", R"("encoder": "mpeg2video", "h264Level": "9",)"},
+        "groups[0].videoParam.h264Level: must be of the form [1-6](\\.[1-3])?, not 9");
+    row("an unknown profile",
+        {R"("encoder": "mpeg2video",)", R"("encoder": "mpeg2video", "h264Profile": "best",)"},
+        "groups[0].videoParam.h264Profile: must be of the form baseline|main|high, not best");
+    row("an impossible peak",
+        {R"("encoder": "mpeg2video",)", R"("encoder": "mpeg2video", "peakKbps": 1000001,)"},
+        "groups[0].videoParam.peakKbps: must be 0 or a whole number from 1 to 1000000, not "
+        "1000001");
+    row("limits of a device",
+        {R"("encoder": "mpeg2video",)",
+         R"("encoder": "mpeg2video", "h264Level": "4.1", "hevcLevel": "5", "h264Profile": "main",
+            "mpeg4Tag": "XVID", "quality": "high", "editLists": "none", "peakKbps": 10000,)"},
+        "");
     row("an encoder that isn't offered",
         {R"("encoder": "mpeg2video")", R"("encoder": "mpeg1video")"},
         "groups[0].videoParam.encoder: mpeg1video is not one of the values that "
