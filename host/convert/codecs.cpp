@@ -81,6 +81,11 @@ public:
         frameRates = rates;
         return *this;
     }
+    Video taggedByFrames()
+    {
+        isTaggedByFrames = true;
+        return *this;
+    }
     Video atAnyTime()
     {
         takesAnyTime = true;
@@ -216,6 +221,7 @@ QVector<VideoCodec> makeVideoCodecs()
         Video("mjpeg").writtenLikeMpegBy("mjpeg").inPixels("yuvj420p").atAnyTime()
             .inOwnColour("bt470bg", "pc"),
         Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate().atAnyTime()
+            .taggedByFrames()
             .inDeepPixels("yuv422p10le").inAlphaPixels("yuva444p10le"),
         Video("dnxhd").writtenBy("dnxhd").with("profile", "dnxhr_sq").inPixels("yuv422p")
             .withoutBitrate().atAnyTime()

@@ -59,6 +59,7 @@ struct VideoCodec
     Pixels deepPixels = {};         //!< for sources of more than 8 bits; empty: as the others
     Pixels alphaPixels = {};        //!< for sources that let shine through; empty: as the others
     Colour ownColour = {};          //!< the matrix and range that all its players assume
+    bool isTaggedByFrames = false;  //!< the encoder asks each frame for its colours, not ffmpeg
     bool takesBitrate = true;
     QVector<Ratio> frameRates = {};  //!< ascending
     bool takesAnyTime = false;       //!< frames may be shown when they like, not in steps of a rate

@@ -186,6 +186,16 @@ void addParameters(ToolOptions &options, const QString &name, const QStringList 
     }
 }
 
+/*! Tags the frames themselves, in the words of encoders that know only one name for each. */
+QString frameTagging(const Colour &colour)
+{
+    const bool isHdrOrBt709 = colour.isHdr() || colour.transfer == bt709;
+    return QStringLiteral("setparams=colorspace=%1:color_primaries=%2:color_trc=%3")
+        .arg(colour.matrix == QLatin1String("bt470bg") ? QStringLiteral("smpte170m")
+                                                       : colour.matrix,
+             colour.primaries, isHdrOrBt709 ? colour.transfer : bt709);
+}
+
 } // namespace
 
 Colour shownColour(const VideoTrack &track)
@@ -230,6 +240,9 @@ ColourPlan ColourPlan::make(const VideoTrack &track, const QSize &size, const Vi
         plan.pixels = codec.deepPixels;
     }
     plan.convert(track, usualColour(size), codec.ownColour, isTagged);
+    if (codec.isTaggedByFrames && !plan.result.matrix.isEmpty()) {
+        plan.filters << frameTagging(plan.result);
+    }
     return plan;
 }
 
