@@ -29,6 +29,10 @@ private Q_SLOTS:
     void withoutFfmpegItSaysWhatToInstall();
     void aLackOfFileDescriptorsIsReported();
     void aPlaylistIsRefused();
+    void theBitrateIsReachedOnAverageWhereAsked();
+    void aResultIsNoLargerThanAsked();
+    void anImpossibleSizeIsRefused_data();
+    void anImpossibleSizeIsRefused();
     void aDamagedPresetIsRefused_data();
     void aDamagedPresetIsRefused();
     void aConversionDoesNotWaitForThePresets();
@@ -227,6 +231,50 @@ void TestConvertCommand::aPlaylistIsRefused()
     QCOMPARE(result.err, QStringLiteral("vexconvert: holiday.mp4: is a playlist; choose the files "
                                         "that it lists\n"));
     QCOMPARE(everything(), words("film.mp4 holiday.mp4"));
+}
+
+void TestConvertCommand::theBitrateIsReachedOnAverageWhereAsked()
+{
+    const QString most = run("convert film.mp4 --preset V_MP4_2 --dry-run").out;
+    QVERIFY2(most.contains(QStringLiteral(" -maxrate:v:0 500k ")), qPrintable(most));
+    QVERIFY2(!most.contains(QStringLiteral(" -b:v:0 ")), qPrintable(most));
+    const QString average = run("convert film.mp4 --preset V_MP4_2 --average --dry-run").out;
+    QVERIFY2(average.contains(QStringLiteral(" -b:v:0 500k ")), qPrintable(average));
+}
+
+void TestConvertCommand::aResultIsNoLargerThanAsked()
+{
+    QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("long.mp4")),
+                        path(QStringLiteral("long.mp4"))));
+    const CommandRun told = run("convert long.mp4 --preset V_MP4_2 --size 0.35");
+    QCOMPARE(told.err, QString());
+    QCOMPARE(told.exitCode, 0);
+    const qint64 bytes = QFileInfo(path(QStringLiteral("long (2).mp4"))).size();
+    QVERIFY2(bytes > 0 && bytes <= 350000, qPrintable(QString::number(bytes)));
+}
+
+void TestConvertCommand::anImpossibleSizeIsRefused_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("reason");
+    const QString number = QStringLiteral("--size takes a number of megabytes, such as 25");
+    QTest::newRow("a word") << QStringLiteral("small") << 2 << number;
+    QTest::newRow("nothing") << QStringLiteral("0") << 2 << number;
+    QTest::newRow("less than nothing") << QStringLiteral("-1") << 2 << number;
+    QTest::newRow("less than the sound") << QStringLiteral("0.001") << 1 << QString();
+}
+
+void TestConvertCommand::anImpossibleSizeIsRefused()
+{
+    QFETCH(QString, size);
+    QFETCH(int, exitCode);
+    QFETCH(QString, reason);
+    const CommandRun told = run(words("convert film.mp4 --preset V_MP4_2") +
+                                QStringList{QStringLiteral("--size=") + size});
+    QCOMPARE(told.exitCode, exitCode);
+    QVERIFY2(!told.err.isEmpty() && told.err.contains(reason), qPrintable(told.err));
+    QCOMPARE(everything(), QStringList{QStringLiteral("film.mp4")});
 }
 
 void TestConvertCommand::aDamagedPresetIsRefused_data()

@@ -54,6 +54,15 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
              }),
         song(QStringLiteral("flac")),
         "-map 0:0 -c:a:0 aac -ar:a:0 22050 -ac:a:0 1 -b:a:0 64k -movflags +faststart -f ipod");
+    const OutputSettings stereo192 = with(audio("m4a", "aac"), [](OutputSettings &s) {
+        s.channels = 2;
+        s.audioKbps = 192;
+    });
+    row("a bitrate meant for stereo is halved for mono", stereo192,
+        song(QStringLiteral("flac"), 44100, 1),
+        "-map 0:0 -c:a:0 aac -b:a:0 96k -movflags +faststart -f ipod");
+    row("a bitrate meant for stereo stays for stereo", stereo192, song(QStringLiteral("flac")),
+        "-map 0:0 -c:a:0 aac -b:a:0 192k -movflags +faststart -f ipod");
     row("kept sound", audio("m4a"), song(QStringLiteral("alac")),
         "-map 0:0 -c:a:0 copy -movflags +faststart -f ipod");
     row("kept codec, other rate of samples",

@@ -12,6 +12,8 @@ private Q_SLOTS:
     void whatMayStayIsKept() { compareWithRow(); }
     void aCoverIsKeptWhereItCanBe_data();
     void aCoverIsKeptWhereItCanBe() { compareWithRow(); }
+    void editListsAreLeftOutWhereAsked_data();
+    void editListsAreLeftOutWhereAsked() { compareWithRow(); }
     void whatCannotBeDoneIsSaid_data();
     void whatCannotBeDoneIsSaid();
     void anotherEncoderOfTheCodecIsTaken();
@@ -109,6 +111,19 @@ void TestFfmpegArguments::aCoverIsKeptWhereItCanBe_data()
     row("a cover that is no still picture is dropped", audio("mp3", "mp3"),
         facts(covered, [](MediaFacts &f) { f.videoTracks[0].codec = QStringLiteral("h264"); }),
         "-map 0:0 -c:a:0 libmp3lame -q:a:0 2 -f mp3");
+}
+
+void TestFfmpegArguments::editListsAreLeftOutWhereAsked_data()
+{
+    addColumns();
+    const std::function<void(OutputSettings &)> without = [](OutputSettings &s) {
+        s.hasEditLists = false;
+    };
+    row("of a container that knows them", with(video("mp4"), without), film(),
+        "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -movflags +faststart+negative_cts_offsets "
+        "-use_editlist 0 -f mp4");
+    row("of one that doesn't", with(video("mkv"), without), film(),
+        "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -f matroska");
 }
 
 void TestFfmpegArguments::whatCannotBeDoneIsSaid_data()
