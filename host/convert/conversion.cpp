@@ -33,6 +33,9 @@ QString inPlainWords(const QString &reason)
         QString words;
     };
     const Known reasons[] = {
+        {"No such filter: '(zscale|tonemap)'",
+         Conversion::tr("its video is HDR, and this ffmpeg can't map that to ordinary colours; "
+                        "install an ffmpeg with zscale and tonemap")},
         {"unknown timestamp|pts and dts|missing PTS|monoton",
          Conversion::tr("the source doesn't say when its frames are shown")},
         {"codec tag|tag for codec|supported in|compatible|bitstream filter|write header",

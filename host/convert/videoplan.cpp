@@ -185,10 +185,13 @@ QString VideoPlan::graph(int track) const
         return isFilterGraph(text) ? text.replace(QLatin1String("[0:"), source)
                                    : QStringLiteral("%1%2]%3").arg(source).arg(track).arg(text);
     };
-    return hasPalette ? QStringLiteral("%1,palettegen[palette];%2[picture];"
-                                       "[picture][palette]paletteuse")
-                            .arg(chain(1), chain(0))
-                      : chain(0);
+    if (hasPalette) {
+        return QStringLiteral("%1,palettegen[palette];%2[picture];[picture][palette]paletteuse")
+            .arg(chain(1), chain(0));
+    }
+    // ffmpeg takes nothing over from the source where a graph has two inputs.
+    const QString second = QStringLiteral("[0:%1]nullsink;").arg(track);
+    return dropsSourceLight ? second + chain(0) : chain(0);
 }
 
 QStringList VideoPlan::arguments() const

@@ -53,7 +53,8 @@ QString pixelFormatOf(const QJsonObject &stream)
 {
     const QString format = knownText(stream, QLatin1String("pix_fmt"));
     // The alpha of VP8 and VP9 is a picture of its own that the usual decoders leave out.
-    const bool hasAlphaBeside = tag(stream, QLatin1String("alpha_mode")) == QLatin1String("1");
+    const bool hasAlphaBeside = tag(stream, QLatin1String("alpha_mode")) == QLatin1String("1") ||
+                                tag(stream, QLatin1String("ALPHA_MODE")) == QLatin1String("1");
     return hasAlphaBeside && format == QLatin1String("yuv420p") ? QStringLiteral("yuva420p")
                                                                 : format;
 }

@@ -883,6 +883,10 @@
         <translation>enthält %1 von %2 s: die Quelle endet zu früh oder ist beschädigt</translation>
     </message>
     <message>
+        <source>its video is HDR, and this ffmpeg can&apos;t map that to ordinary colours; install an ffmpeg with zscale and tonemap</source>
+        <translation>das Video ist HDR, und dieses ffmpeg kann es nicht in gewöhnliche Farben umsetzen; installieren Sie ein ffmpeg mit zscale und tonemap</translation>
+    </message>
+    <message>
         <source>the encoder refuses these settings</source>
         <translation>der Encoder lehnt diese Einstellungen ab</translation>
     </message>

@@ -883,6 +883,10 @@
         <translation>contiene %1 de %2 s: el origen termina antes o está dañado</translation>
     </message>
     <message>
+        <source>its video is HDR, and this ffmpeg can&apos;t map that to ordinary colours; install an ffmpeg with zscale and tonemap</source>
+        <translation>el vídeo es HDR y este ffmpeg no puede pasarlo a colores corrientes; instale un ffmpeg con zscale y tonemap</translation>
+    </message>
+    <message>
         <source>the encoder refuses these settings</source>
         <translation>el codificador rechaza estos ajustes</translation>
     </message>

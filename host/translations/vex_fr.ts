@@ -883,6 +883,10 @@
         <translation>contient %1 s sur %2 : la source se termine trop tôt ou est endommagée</translation>
     </message>
     <message>
+        <source>its video is HDR, and this ffmpeg can&apos;t map that to ordinary colours; install an ffmpeg with zscale and tonemap</source>
+        <translation>la vidéo est en HDR et cet ffmpeg ne peut pas la ramener à des couleurs ordinaires ; installez un ffmpeg avec zscale et tonemap</translation>
+    </message>
+    <message>
         <source>the encoder refuses these settings</source>
         <translation>l&apos;encodeur refuse ces réglages</translation>
     </message>

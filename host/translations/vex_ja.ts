@@ -883,6 +883,10 @@
         <translation>%2 秒のうち %1 秒です: 元のファイルが途中で終わっているか壊れています</translation>
     </message>
     <message>
+        <source>its video is HDR, and this ffmpeg can&apos;t map that to ordinary colours; install an ffmpeg with zscale and tonemap</source>
+        <translation>HDR の動画ですが、この ffmpeg では通常の色に変換できません。zscale と tonemap を備えた ffmpeg をインストールしてください</translation>
+    </message>
+    <message>
         <source>the encoder refuses these settings</source>
         <translation>エンコーダーがこの設定を受け付けません</translation>
     </message>

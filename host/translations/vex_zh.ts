@@ -883,6 +883,10 @@
         <translation>%2 秒中只有 %1 秒：源文件提前结束或已损坏</translation>
     </message>
     <message>
+        <source>its video is HDR, and this ffmpeg can&apos;t map that to ordinary colours; install an ffmpeg with zscale and tonemap</source>
+        <translation>视频为 HDR，此 ffmpeg 无法将其转换为普通色彩；请安装带有 zscale 和 tonemap 的 ffmpeg</translation>
+    </message>
+    <message>
         <source>the encoder refuses these settings</source>
         <translation>编码器不接受这些设置</translation>
     </message>
