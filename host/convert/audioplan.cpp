@@ -96,7 +96,7 @@ bool canBeCopied(const AudioTrack &track, const QString &wanted, const StreamTar
 {
     const bool isOwnCodec = wanted.isEmpty() ? target.container.audioCodecs.contains(track.codec)
                                              : wanted == track.codec;
-    return target.allowsAudioCopy() && !target.container.hasSoundInFrames && isOwnCodec &&
+    return target.allowsAudioCopy() && !target.container.hasAudioInFrames && isOwnCodec &&
            target.settings.audioKbps == 0 && wantedSampleRate(track, target) == track.sampleRate &&
            wantedChannels(track, target) == track.channels;
 }
@@ -161,7 +161,7 @@ Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &t
     plan.layout = layoutToWrite(track, codec, channels);
     plan.kbps = encodedKbps(codec, askedKbps(target.settings, channels), sampleRate, channels);
     plan.quality = codec.quality;
-    plan.isPadded = target.container.hasSoundInFrames;
+    plan.isPadded = target.container.hasAudioInFrames;
     return plan;
 }
 

@@ -86,7 +86,7 @@ struct AudioCodec
     QVector<double> bitrates = {}; //!< kbps, ascending
     double maxBitsPerSample = 32;
     double minBitsPerSample = 0;
-    double minBitsUnlessStereo = 0; //!< the same for sound of other than two channels
+    double minBitsUnlessStereo = 0; //!< the same for audio of other than two channels
     bool isOnlyCopied = false;      //!< ffmpeg has no encoder for it that is fit for use
 
     /*! The encoders' names for ffmpeg, the best first; none where it is only copied. */

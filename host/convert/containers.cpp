@@ -46,7 +46,7 @@ public:
         audioCodecs = audio;
         return *this;
     }
-    Files holdingSound(const QStringList &audio) { return holding({}, audio); }
+    Files holdingAudio(const QStringList &audio) { return holding({}, audio); }
     Files inSeveralTracks()
     {
         holdsSeveralAudioTracks = true;
@@ -94,9 +94,9 @@ public:
         tagsHevcAsHvc1 = true;
         return *this;
     }
-    Files withSoundInFrames()
+    Files withAudioInFrames()
     {
-        hasSoundInFrames = true;
+        hasAudioInFrames = true;
         return *this;
     }
     Files forBroadcast()
@@ -190,36 +190,36 @@ QVector<Container> makeContainers()
         Files("mxf").holding(list("mpeg2video dnxhd h264 prores dvvideo"),
                              list("pcm_s16le pcm_s24le")).inSeveralTracks().at({48000})
             .countingFrames(Container::Times::EveryFrame).forBroadcast(),
-        Files("dv").holding(list("dvvideo"), list("pcm_s16le")).withSoundInFrames().at({48000})
+        Files("dv").holding(list("dvvideo"), list("pcm_s16le")).withAudioInFrames().at({48000})
             .inChannels(2).countingFrames(Container::Times::EveryFrame).forBroadcast(),
         Files("gif").holding(list("gif"), {}),
 
-        Files("mp3").holdingSound(list("mp3")).withCover().withChapters(),
-        Files("aac").writtenBy("adts").readBy("aac").holdingSound(list("aac")),
+        Files("mp3").holdingAudio(list("mp3")).withCover().withChapters(),
+        Files("aac").writtenBy("adts").readBy("aac").holdingAudio(list("aac")),
         Files("m4a m4b m4r").writtenBy("ipod").readBy("m4a").indexedFirst()
-            .holdingSound(list("aac alac")).withCover().withChapters(),
-        Files("flac").holdingSound(list("flac")).withCover(),
-        Files("wav").holdingSound(wavAudio),
-        Files("aiff aif").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be "
+            .holdingAudio(list("aac alac")).withCover().withChapters(),
+        Files("flac").holdingAudio(list("flac")).withCover(),
+        Files("wav").holdingAudio(wavAudio),
+        Files("aiff aif").holdingAudio(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be "
                                            "pcm_s16le"))
             .with("write_id3v2", "1").withCover(),
-        Files("au").holdingSound(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be pcm_mulaw "
+        Files("au").holdingAudio(list("pcm_s16be pcm_s24be pcm_s32be pcm_f32be pcm_mulaw "
                                     "pcm_alaw")),
         // The AAC and FLAC that ffmpeg writes into it can't be read.
-        Files("caf").holdingSound(list("pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_s16be pcm_s24be "
+        Files("caf").holdingAudio(list("pcm_s16le pcm_s24le pcm_s32le pcm_f32le pcm_s16be pcm_s24be "
                                      "alac opus")),
-        Files("ogg").holdingSound(oggAudio),
-        Files("oga").readBy("ogg").holdingSound(oggAudio),
-        Files("opus").readBy("ogg").withChapters().holdingSound(list("opus")),
-        Files("spx").readBy("ogg").holdingSound(list("speex")),
-        Files("ac3").holdingSound(list("ac3")),
-        Files("eac3").holdingSound(list("eac3")),
-        Files("mp2").readBy("mp3").holdingSound(list("mp2")),
-        Files("wma").writtenBy("asf").withChapters().holdingSound(asfAudio),
-        Files("mka").writtenBy("matroska").withChapters().holdingSound(mkvAudio).inSeveralTracks(),
-        Files("amr").holdingSound(list("amr_nb amr_wb")),
-        Files("tta").holdingSound(list("tta")),
-        Files("wv").holdingSound(list("wavpack")),
+        Files("ogg").holdingAudio(oggAudio),
+        Files("oga").readBy("ogg").holdingAudio(oggAudio),
+        Files("opus").readBy("ogg").withChapters().holdingAudio(list("opus")),
+        Files("spx").readBy("ogg").holdingAudio(list("speex")),
+        Files("ac3").holdingAudio(list("ac3")),
+        Files("eac3").holdingAudio(list("eac3")),
+        Files("mp2").readBy("mp3").holdingAudio(list("mp2")),
+        Files("wma").writtenBy("asf").withChapters().holdingAudio(asfAudio),
+        Files("mka").writtenBy("matroska").withChapters().holdingAudio(mkvAudio).inSeveralTracks(),
+        Files("amr").holdingAudio(list("amr_nb amr_wb")),
+        Files("tta").holdingAudio(list("tta")),
+        Files("wv").holdingAudio(list("wavpack")),
     };
 }
 // clang-format on

@@ -33,7 +33,7 @@ struct Container
     bool takesCover = false;
     bool keepsRotation = false;    //!< stores a rotation that players apply
     bool tagsHevcAsHvc1 = false;   //!< the HEVC tag that all players support
-    bool hasSoundInFrames = false; //!< a video frame also contains its audio
+    bool hasAudioInFrames = false; //!< a video frame also contains its audio
     bool isForBroadcast = false;   //!< its players expect interlaced video
     Times times = Times::Any;
     QVector<int> sampleRates = {}; //!< Hz, ascending

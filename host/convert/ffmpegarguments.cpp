@@ -49,20 +49,20 @@ QStringList cutArguments(const OutputSettings &settings, bool isStill)
 }
 
 /*! Fails if there is nothing to write, or the container can't hold it. */
-Result<> checkStreams(const VideoTrack *picture, const QVector<AudioTrack> &sound, bool isLoneStill,
+Result<> checkStreams(const VideoTrack *video, const QVector<AudioTrack> &audio, bool isLoneStill,
                       const StreamTarget &target)
 {
-    if (target.settings.hasVideo && picture == nullptr) {
+    if (target.settings.hasVideo && video == nullptr) {
         return failed(Texts::tr("has no video; choose an audio preset"));
     }
-    if (picture != nullptr && isLoneStill) {
+    if (video != nullptr && isLoneStill) {
         return failed(Texts::tr("is a single picture and makes no film; on the command line, "
                                 "--duration SECONDS shows it for so long"));
     }
-    if (picture == nullptr && sound.isEmpty()) {
-        return failed(Texts::tr("has no sound; choose a video preset"));
+    if (video == nullptr && audio.isEmpty()) {
+        return failed(Texts::tr("has no audio; choose a video preset"));
     }
-    if (picture != nullptr && target.container.videoCodecs.isEmpty()) {
+    if (video != nullptr && target.container.videoCodecs.isEmpty()) {
         return failed(Texts::tr("a .%1 file can't hold video; choose an audio preset")
                           .arg(target.settings.extension));
     }
@@ -109,8 +109,8 @@ public:
         , m_target(target)
     {}
 
-    Result<> addPicture(const VideoTrack &picture);
-    Result<> addSound(const QVector<AudioTrack> &sound);
+    Result<> addVideo(const VideoTrack &picture);
+    Result<> addAudio(const QVector<AudioTrack> &audio);
     void addSubtitles();
     void addAttachments();
     void addCover();
@@ -130,7 +130,7 @@ private:
     int m_pictures = 0;
 };
 
-Result<> Streams::addPicture(const VideoTrack &picture)
+Result<> Streams::addVideo(const VideoTrack &picture)
 {
     const Result<VideoPlan> plan = VideoPlan::make(picture, m_target);
     if (!plan) {
@@ -153,10 +153,10 @@ Result<> Streams::addPicture(const VideoTrack &picture)
     return {};
 }
 
-Result<> Streams::addSound(const QVector<AudioTrack> &sound)
+Result<> Streams::addAudio(const QVector<AudioTrack> &audio)
 {
-    for (int position = 0; position < sound.size(); ++position) {
-        const AudioTrack &track = sound.at(position);
+    for (int position = 0; position < audio.size(); ++position) {
+        const AudioTrack &track = audio.at(position);
         const Result<AudioPlan> plan = AudioPlan::make(track, m_target);
         if (!plan) {
             return failed(plan);
@@ -221,22 +221,22 @@ ToolOptions muxerOptions(const StreamTarget &target)
 /*! The streams, their codecs and the muxer. */
 Result<Output> outputFor(const MediaFacts &source, const StreamTarget &target)
 {
-    const VideoTrack *picture = target.settings.hasVideo ? source.video() : nullptr;
-    const QVector<AudioTrack> sound = chosenAudio(source, target);
+    const VideoTrack *video = target.settings.hasVideo ? source.video() : nullptr;
+    const QVector<AudioTrack> audio = chosenAudio(source, target);
     const Result<> possible =
-        checkStreams(picture, sound, source.isStill() && target.settings.stillSeconds <= 0, target);
+        checkStreams(video, audio, source.isStill() && target.settings.stillSeconds <= 0, target);
     if (!possible) {
         return failed(possible);
     }
     Streams streams(source, target);
-    Result<> added = picture == nullptr ? Result<>() : streams.addPicture(*picture);
+    Result<> added = video == nullptr ? Result<>() : streams.addVideo(*video);
     if (added) {
-        added = streams.addSound(sound);
+        added = streams.addAudio(audio);
     }
     if (!added) {
         return failed(added);
     }
-    if (picture != nullptr) {
+    if (video != nullptr) {
         streams.addSubtitles();
         streams.addAttachments();
     }

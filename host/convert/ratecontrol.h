@@ -19,7 +19,7 @@ struct EncodedPicture
                                       const EncodedPicture &picture);
 
 /*! The settings with the video bitrate that lets the result of \a source have the asked size. Fails
- *  where not even the sound fits. */
+ *  where not even the audio fits. */
 [[nodiscard]] Result<OutputSettings> fittedToSize(const OutputSettings &settings,
                                                   const MediaFacts &source);
 

@@ -161,7 +161,7 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
         plan.bitstreamFilter = copyFilter(codec.name, target.container);
     } else if (target.container.times != Container::Times::Any &&
                codec.name == QLatin1String("h264")) {
-        // Frames written ahead of their time would come late, each against its sound.
+        // Frames written ahead of their time would come late, each against its audio.
         plan.options.append({QStringLiteral("bf"), QStringLiteral("0")});
     }
     if (!isCopied && !settings.videoTag.isEmpty()) {

@@ -823,7 +823,7 @@
         <translation>enthält kein Video; wählen Sie ein Audioformat</translation>
     </message>
     <message>
-        <source>has no sound; choose a video preset</source>
+        <source>has no audio; choose a video preset</source>
         <translation>enthält keinen Ton; wählen Sie ein Videoformat</translation>
     </message>
     <message>

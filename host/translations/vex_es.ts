@@ -823,7 +823,7 @@
         <translation>no tiene vídeo; elige un formato de audio</translation>
     </message>
     <message>
-        <source>has no sound; choose a video preset</source>
+        <source>has no audio; choose a video preset</source>
         <translation>no tiene sonido; elige un formato de vídeo</translation>
     </message>
     <message>

@@ -823,7 +823,7 @@
         <translation>ne contient pas de vidéo ; choisissez un format audio</translation>
     </message>
     <message>
-        <source>has no sound; choose a video preset</source>
+        <source>has no audio; choose a video preset</source>
         <translation>ne contient pas de son ; choisissez un format vidéo</translation>
     </message>
     <message>

@@ -823,7 +823,7 @@
         <translation>動画がありません。音声の形式を選んでください</translation>
     </message>
     <message>
-        <source>has no sound; choose a video preset</source>
+        <source>has no audio; choose a video preset</source>
         <translation>音声がありません。動画の形式を選んでください</translation>
     </message>
     <message>

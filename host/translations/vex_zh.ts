@@ -823,7 +823,7 @@
         <translation>没有视频；请选择音频预设</translation>
     </message>
     <message>
-        <source>has no sound; choose a video preset</source>
+        <source>has no audio; choose a video preset</source>
         <translation>没有声音；请选择视频预设</translation>
     </message>
     <message>

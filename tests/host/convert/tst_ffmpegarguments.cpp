@@ -142,7 +142,7 @@ void TestFfmpegArguments::whatCannotBeDoneIsSaid_data()
         << changed<MediaFacts>(film(), [](MediaFacts &f) { f.videoTracks[0].isCover = true; })
         << QStringLiteral("has no video; choose an audio preset");
     QTest::newRow("no sound for audio")
-        << audio("mp3") << silent << QStringLiteral("has no sound; choose a video preset");
+        << audio("mp3") << silent << QStringLiteral("has no audio; choose a video preset");
     QTest::newRow("video into a sound file")
         << video("mp3") << film()
         << QStringLiteral("a .mp3 file can't hold video; choose an audio preset");
