@@ -576,6 +576,10 @@
         <translation>Hochformat HD 1080P</translation>
     </message>
     <message>
+        <source>Portrait HD 1200P</source>
+        <translation>Hochformat HD 1200P</translation>
+    </message>
+    <message>
         <source>Portrait HD 720P</source>
         <translation>Hochformat HD 720P</translation>
     </message>

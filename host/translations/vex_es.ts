@@ -576,6 +576,10 @@
         <translation>Vertical HD 1080P</translation>
     </message>
     <message>
+        <source>Portrait HD 1200P</source>
+        <translation>Vertical HD 1200P</translation>
+    </message>
+    <message>
         <source>Portrait HD 720P</source>
         <translation>Vertical HD 720P</translation>
     </message>

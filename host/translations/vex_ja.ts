@@ -576,6 +576,10 @@
         <translation>縦長 HD 1080P</translation>
     </message>
     <message>
+        <source>Portrait HD 1200P</source>
+        <translation>縦長 HD 1200P</translation>
+    </message>
+    <message>
         <source>Portrait HD 720P</source>
         <translation>縦長 HD 720P</translation>
     </message>
