@@ -78,8 +78,8 @@ void TestSubtitlePlan::burnedSubtitlesAreDrawnOnThePicture_data()
         "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
     row("pictures", burning(2), subtitled(),
         "-filter_complex [0:0][0:3]overlay=eof_action=pass,scale=1280:720,setsar=1[drawn] "
-        "-map [drawn] -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p "
-        "-preset:v:0 medium "
+        "-map [drawn] -map 0:1 -map_metadata:s:v:0 0:s:0 -c:v:0 libx264 -fps_mode:v:0 vfr "
+        "-pix_fmt:v:0 yuv420p -preset:v:0 medium "
         "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
 }
 

@@ -52,9 +52,9 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
         "-preset:v:0 medium "
         "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
     row("an odd size stays where it may", video("gif"), odd,
-        "-map 0:0 -c:v:0 gif -fps_mode:v:0 vfr -filter:v:0 "
-        "split[picture][sample];[sample]palettegen[palette];"
-        "[picture][palette]paletteuse -f gif");
+        "-protocol_whitelist file -format_whitelist mov,mp4 -i file:/in -filter_complex "
+        "[1:0]null,palettegen[palette];[0:0]null[picture];[picture][palette]paletteuse[drawn] "
+        "-map [drawn] -map_metadata:s:v:0 0:s:0 -c:v:0 gif -fps_mode:v:0 vfr -f gif");
     row("an unknown size is left alone",
         with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(640, 360); }),
         facts(film(),
@@ -128,8 +128,9 @@ void TestVideoPlan::thePictureHasARateOfItsCodec_data()
               [](MediaFacts &f) {
                   f.videoTracks[0].frameRate = {27, 2};
               }),
-        "-map 0:0 -c:v:0 gif -r:v:0 15 -fps_mode:v:0 cfr -filter:v:0 "
-        "split[picture][sample];[sample]palettegen[palette];[picture][palette]paletteuse -f gif");
+        "-protocol_whitelist file -format_whitelist mov,mp4 -i file:/in -filter_complex "
+        "[1:0]null,palettegen[palette];[0:0]null[picture];[picture][palette]paletteuse[drawn] "
+        "-map [drawn] -map_metadata:s:v:0 0:s:0 -c:v:0 gif -r:v:0 15 -fps_mode:v:0 cfr -f gif");
 }
 
 void TestVideoPlan::aPresetsRateIsACeiling_data()
