@@ -151,7 +151,8 @@ void TestProbeTracks::theRotationIsClockwise_data()
     // The matrix counts to the left, the tag to the right.
     QTest::newRow("matrix, right") << QByteArray(R"("side_data_list": [{"rotation": -90}])") << 90;
     QTest::newRow("matrix, left") << QByteArray(R"("side_data_list": [{"rotation": 90}])") << 270;
-    QTest::newRow("matrix, upside down") << QByteArray(R"("side_data_list": [{"rotation": -180}])") << 180;
+    QTest::newRow("matrix, upside down")
+        << QByteArray(R"("side_data_list": [{"rotation": -180}])") << 180;
     QTest::newRow("tag, right") << QByteArray(R"("tags": {"rotate": "90"})") << 90;
     QTest::newRow("tag, left") << QByteArray(R"("tags": {"rotate": "270"})") << 270;
     QTest::newRow("tag, left, negative") << QByteArray(R"("tags": {"rotate": "-90"})") << 270;
