@@ -95,6 +95,10 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     const FieldPlan fields = FieldPlan::make(track, codec, target.container);
     const ColourPlan colour = ColourPlan::make(track, size, codec, target.container);
     plan.filters = fields.filters;
+    if (!target.settings.hasEditLists) {
+        // Video that begins late would begin with the audio: its first frame is shown until then.
+        plan.filters << QStringLiteral("setpts=if(eq(N\\,0)\\,0\\,PTS)");
+    }
     if (!plan.timing.filter.isEmpty()) {
         plan.filters << plan.timing.filter;
     }

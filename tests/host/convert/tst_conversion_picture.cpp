@@ -11,6 +11,7 @@ private Q_SLOTS:
     void everyFrameOfAVariableRateComesOnce_data();
     void everyFrameOfAVariableRateComesOnce();
     void aLateStartRepeatsNoFrame();
+    void withoutEditListsALateStartIsShownFromTheBeginning();
     void aCeilingThinsAVariableRate();
 
 private:
@@ -94,6 +95,20 @@ void TestConversionPicture::aLateStartRepeatsNoFrame()
     const QVector<double> times = frameTimes(converted(source, videoOf("mp4", "h264")));
     QCOMPARE(times.size(), 25);
     QVERIFY(qAbs(times.first() - 0.2) < 0.03);
+}
+
+void TestConversionPicture::withoutEditListsALateStartIsShownFromTheBeginning()
+{
+    const QString source =
+        clip(QStringLiteral("late.mkv"),
+             QStringLiteral("-f lavfi -i sine=duration=1 -itsoffset 0.2 -f lavfi -i "
+                            "testsrc2=size=128x96:rate=25:duration=1 -c:v ffv1 -map 0 -map 1"));
+    OutputSettings settings = videoOf("mp4", "h264");
+    settings.hasEditLists = false;
+    const QVector<double> times = frameTimes(converted(source, settings));
+    QCOMPARE(times.size(), 25);
+    QVERIFY(times.first() < 0.03);
+    QVERIFY(qAbs(times.at(1) - 0.24) < 0.03);
 }
 
 void TestConversionPicture::aCeilingThinsAVariableRate()
