@@ -198,6 +198,13 @@ void TestVideoPlan::theEncoderGetsItsOptions_data()
         "-map 0:0 -map 0:1 -c:v:0 libx265 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
         "veryfast "
         "-x265-params:v:0 log-level=error -crf:v:0 23 -c:a:0 copy -f matroska");
+    row("prores takes its colours from the frames", video("mov", "prores", "aac"),
+        facts(film(),
+              [](MediaFacts &f) { f.videoTracks[0].pixelFormat = QStringLiteral("yuv420p"); }),
+        "-map 0:0 -map 0:1 -c:v:0 prores -fps_mode:v:0 vfr -filter:v:0 "
+        "setparams=colorspace=bt709:color_primaries=bt709:color_trc=bt709 "
+        "-pix_fmt:v:0 yuv422p10le -color_range:v:0 tv -colorspace:v:0 bt709 "
+        "-color_primaries:v:0 bt709 -color_trc:v:0 bt709 -c:a:0 copy -movflags +faststart -f mov");
     row("prores knows no bitrate",
         with(video("mov", "prores", "pcm_s16le"),
              [](OutputSettings &s) {
