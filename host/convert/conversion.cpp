@@ -101,7 +101,7 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
 
 void Conversion::start()
 {
-    const Result<> possible = m_job.settings.check();
+    const Result<> possible = m_job.settings.validate();
     if (possible) {
         m_sourceProbe.start(m_job.source);
     } else {

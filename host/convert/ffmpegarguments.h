@@ -20,12 +20,6 @@
                                                   const QString &sourcePath,
                                                   const QString &targetPath, Copies allowed = {});
 
-/*! The audio tracks that are written. */
-[[nodiscard]] QVector<AudioTrack> chosenAudio(const MediaFacts &source, const StreamTarget &target);
-
-/*! Whether the cover is copied: if it is a still image that the container can hold. */
-[[nodiscard]] bool keepsCover(const VideoTrack &cover, const Container &container);
-
 /*! Which streams these arguments copy. */
 [[nodiscard]] Copies copiesIn(const QStringList &arguments);
 

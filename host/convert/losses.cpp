@@ -1,6 +1,6 @@
 #include "host/convert/losses.h"
 
-#include "host/convert/ffmpegarguments.h"
+#include "host/convert/outputstreams.h"
 #include "host/convert/subtitleplan.h"
 
 #include <QCoreApplication>

@@ -182,7 +182,7 @@ OutputSettings OutputSettings::fromPreset(const QVariantMap &preset)
     return settings;
 }
 
-Result<> OutputSettings::check() const
+Result<> OutputSettings::validate() const
 {
     if (Container::find(extension) == nullptr) {
         return failed(tr("files of the kind \".%1\" can't be written; choose another preset")

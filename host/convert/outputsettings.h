@@ -53,13 +53,13 @@ public:
 
     /*!
      * Reads a preset map, as FormatDetailModelData::toVarMap() makes it. An unreadable value
-     * becomes an invalid one that check() reports.
+     * becomes an invalid one that validate() reports.
      */
     [[nodiscard]] static OutputSettings fromPreset(const QVariantMap &preset);
 
     /*! Validates the settings. Fails with the first invalid value and what is allowed. Limits of a
      *  source or of the installed ffmpeg are checked later. */
-    [[nodiscard]] Result<> check() const;
+    [[nodiscard]] Result<> validate() const;
 
     bool operator==(const OutputSettings &other) const;
 

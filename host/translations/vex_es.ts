@@ -821,7 +821,7 @@
     </message>
 </context>
 <context>
-    <name>FfmpegArguments</name>
+    <name>OutputStreams</name>
     <message>
         <source>has no video; choose an audio preset</source>
         <translation>no tiene vídeo; elige un formato de audio</translation>

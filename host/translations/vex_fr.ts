@@ -821,7 +821,7 @@
     </message>
 </context>
 <context>
-    <name>FfmpegArguments</name>
+    <name>OutputStreams</name>
     <message>
         <source>has no video; choose an audio preset</source>
         <translation>ne contient pas de vidéo ; choisissez un format audio</translation>

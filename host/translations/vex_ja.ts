@@ -821,7 +821,7 @@
     </message>
 </context>
 <context>
-    <name>FfmpegArguments</name>
+    <name>OutputStreams</name>
     <message>
         <source>has no video; choose an audio preset</source>
         <translation>動画がありません。音声の形式を選んでください</translation>

@@ -821,7 +821,7 @@
     </message>
 </context>
 <context>
-    <name>FfmpegArguments</name>
+    <name>OutputStreams</name>
     <message>
         <source>has no video; choose an audio preset</source>
         <translation>没有视频；请选择音频预设</translation>

@@ -388,7 +388,7 @@ void TestCatalogueLint::offeredValuesHaveTheBoundsOfTheConverter()
         {QStringLiteral("extension"), QStringLiteral("mkv")},
         {isOfVideo ? QStringLiteral("video") : QStringLiteral("audio"), settings},
         {QStringLiteral("outPutNode"), QVariantMap{{row.param, settings}}}};
-    QCOMPARE(OutputSettings::fromPreset(preset).check().has_value(), isPossible);
+    QCOMPARE(OutputSettings::fromPreset(preset).validate().has_value(), isPossible);
 }
 
 void TestCatalogueLint::aPresetsInvalidValueIsReportedWithThePreset()

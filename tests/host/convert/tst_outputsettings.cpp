@@ -243,7 +243,7 @@ void TestOutputSettings::whatNoFileCanHaveIsNamed_data()
 void TestOutputSettings::whatNoFileCanHaveIsNamed()
 {
     QFETCH(QVariantMap, map);
-    const Result<> checked = OutputSettings::fromPreset(map).check();
+    const Result<> checked = OutputSettings::fromPreset(map).validate();
     QVERIFY(!checked);
     QTEST(checked.error().text, "problem");
 }
@@ -276,7 +276,7 @@ void TestOutputSettings::whatFilesCanHaveIsNoProblem_data()
 void TestOutputSettings::whatFilesCanHaveIsNoProblem()
 {
     QFETCH(QVariantMap, map);
-    const Result<> checked = OutputSettings::fromPreset(map).check();
+    const Result<> checked = OutputSettings::fromPreset(map).validate();
     QVERIFY2(checked, qPrintable(checked ? QString() : checked.error().text));
 }
 
@@ -308,7 +308,7 @@ void TestOutputSettings::aCutMustHoldSomething()
     OutputSettings settings = OutputSettings::fromPreset(preset());
     settings.start = start;
     settings.end = end;
-    const Result<> checked = settings.check();
+    const Result<> checked = settings.validate();
     QCOMPARE(checked.has_value(), isPossible);
     if (!isPossible) {
         QCOMPARE(checked.error().text,
