@@ -27,8 +27,11 @@ void write(const QString &text)
     }
 }
 
+/*! What becomes of lone surrogates, which stand for the invalid bytes of file names. */
+enum class Surrogates { Replaced, Kept };
+
 /*! Makes Qt's JSON visible, which escapes lone surrogates but hardly any control characters. */
-QString visibleJson(const QString &json)
+QString visibleJson(const QString &json, Surrogates surrogates)
 {
     const QLatin1Char backslash('\\');
     QString text;
@@ -39,7 +42,9 @@ QString visibleJson(const QString &json)
             const QStringRef escape = json.midRef(i, length);
             const bool isSurrogate =
                 length == 6 && QChar::isSurrogate(escape.mid(2).toUInt(nullptr, 16));
-            text += isSurrogate ? QString(QChar::ReplacementCharacter) : escape.toString();
+            text += isSurrogate && surrogates == Surrogates::Replaced
+                        ? QString(QChar::ReplacementCharacter)
+                        : escape.toString();
             i += length - 1;
         } else if (character == QLatin1Char('\n') || isVisible(json, i)) {
             text += character;
@@ -79,7 +84,13 @@ void Console::printLines(const QString &lines)
 
 void Console::printJson(const QVariant &value)
 {
-    write(visibleJson(QString::fromUtf8(QJsonDocument::fromVariant(value).toJson())));
+    write(visibleJson(QString::fromUtf8(QJsonDocument::fromVariant(value).toJson()),
+                      Surrogates::Replaced));
+}
+
+void Console::printJsonLine(const QByteArray &json)
+{
+    write(visibleJson(QString::fromUtf8(json), Surrogates::Kept) + QLatin1Char('\n'));
 }
 
 void Console::printTable(const QVector<QStringList> &rows)
@@ -107,6 +118,14 @@ void Console::printError(const QString &line)
 {
     const QByteArray bytes = visibleText(line).toUtf8();
     std::fprintf(stderr, "vexconvert: %s\n", bytes.constData());
+}
+
+void Console::printLog(const QString &lines)
+{
+    const QStringList all = lines.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : all) {
+        std::fprintf(stderr, "%s\n", visibleText(line).toUtf8().constData());
+    }
 }
 
 bool Console::hasFailed()

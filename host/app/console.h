@@ -16,10 +16,14 @@ void print(const QString &line);
 /*! Prints text of several lines, such as the help. */
 void printLines(const QString &lines);
 void printJson(const QVariant &value);
+/*! Prints a compact JSON text on one line. Every name in it can be read back. */
+void printJsonLine(const QByteArray &json);
 /*! Prints columns as wide as their widest cell, two blanks apart; the first row is the heading. */
 void printTable(const QVector<QStringList> &rows);
 /*! Prints one line on standard error, after the command's name. */
 void printError(const QString &line);
+/*! Prints the lines of a log on standard error, as they are. */
+void printLog(const QString &lines);
 
 /*!
  * Whether some standard output was lost, for example on a full disk. Output that a closed pipe such

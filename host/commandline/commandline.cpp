@@ -17,7 +17,8 @@ const QLatin1String languageOption("language");
 
 QVector<Subcommand> subcommands()
 {
-    QVector<Subcommand> all = catalogueCommands() + convertCommands() + presetCommands();
+    QVector<Subcommand> all =
+        catalogueCommands() + convertCommands() + planCommands() + presetCommands();
 #ifdef VEX_CHECKS_CATALOGUE
     all += checkCommands();
 #endif
@@ -153,8 +154,8 @@ Result<ExitCode> runSubcommand(const Subcommand &subcommand, const QStringList &
                               .arg(mistakeIn(parser), subcommand.name));
     }
     const QString own = parser.value(QStringLiteral("config"));
-    return subcommand.run(
-        {parser, parser.positionalArguments(), own.isEmpty() ? configFolder : own});
+    return subcommand.run({subcommand.name, parser, parser.positionalArguments(),
+                           own.isEmpty() ? configFolder : own});
 }
 
 Result<ExitCode> runCommandLine(const QStringList &arguments)

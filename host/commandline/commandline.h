@@ -18,6 +18,7 @@
 /*! The arguments of a subcommand. */
 struct Call
 {
+    QString subcommand;
     const QCommandLineParser &options;
     QStringList arguments; //!< those after the subcommand's name
     QString configFolder;  //!< empty: the platform's
@@ -36,6 +37,7 @@ struct Subcommand
 
 [[nodiscard]] QVector<Subcommand> catalogueCommands();
 [[nodiscard]] QVector<Subcommand> convertCommands();
+[[nodiscard]] QVector<Subcommand> planCommands();
 [[nodiscard]] QVector<Subcommand> presetCommands();
 [[nodiscard]] QVector<Subcommand> checkCommands();
 

@@ -1,58 +1,19 @@
 #include "host/convert/conversion.h"
 
 #include "host/convert/copycheck.h"
+#include "host/convert/failurewords.h"
 #include "host/convert/ffmpegarguments.h"
 #include "host/convert/losses.h"
-#include "host/files/freename.h"
+#include "host/convert/videoplan.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace {
-
-bool isSameFile(const QString &one, const QString &other)
-{
-    std::error_code missing;
-    return std::filesystem::equivalent(QFile::encodeName(one).toStdString(),
-                                       QFile::encodeName(other).toStdString(), missing);
-}
-
-/*! ffmpeg's reason without the names of options that the user never typed. */
-QString inPlainWords(const QString &reason)
-{
-    struct Known
-    {
-        const char *pattern;
-        QString words;
-    };
-    const Known reasons[] = {
-        {"No such filter: '(zscale|tonemap)'",
-         Conversion::tr("its video is HDR, and this ffmpeg can't map that to ordinary colours; "
-                        "install an ffmpeg with zscale and tonemap")},
-        {"unknown timestamp|pts and dts|missing PTS|monoton",
-         Conversion::tr("the source doesn't say when its frames are shown")},
-        {"codec tag|tag for codec|supported in|compatible|bitstream filter|write header",
-         Conversion::tr("this kind of file can't hold one of the streams")},
-        {"parameters such as|setting option|opening encoder|initializing output|layout|"
-         "(^|[ '])-[a-z_:]+",
-         Conversion::tr("the encoder refuses these settings")},
-    };
-    for (const Known &known : reasons) {
-        const QRegularExpression pattern(QLatin1String(known.pattern),
-                                         QRegularExpression::CaseInsensitiveOption);
-        if (pattern.match(reason).hasMatch()) {
-            return known.words;
-        }
-    }
-    return reason;
-}
 
 /*! Ignores failures: a wrong date does no harm. */
 void takeDate(const QString &file, const QString &source)
@@ -75,16 +36,17 @@ bool wroteAll(const ToolRun &run)
 
 } // namespace
 
-QString ConversionOutcome::note() const
+QStringList ConversionOutcome::notes() const
 {
     QStringList notes = {shortfall, losses};
     notes.removeAll(QString());
-    return notes.join(QStringLiteral("; "));
+    return notes;
 }
 
 Conversion::Conversion(const ConversionJob &job, QObject *parent)
     : QObject(parent)
     , m_job(job)
+    , m_name(job.source, job.target, job.settings.extension)
 {
     connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::lookAtSource);
     connect(&m_look, &SourceLook::finished, this, &Conversion::listEncoders);
@@ -102,12 +64,16 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
 void Conversion::start()
 {
     const Result<> possible = m_job.settings.validate();
-    if (possible) {
-        m_sourceProbe.start(m_job.source);
-    } else {
-        QMetaObject::invokeMethod(
-            this, [this, error = possible.error()] { fail(error); }, Qt::QueuedConnection);
-    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, possible] {
+            if (!possible) {
+                fail(possible.error());
+            } else if (!m_name.isComplete() || takesName()) {
+                m_sourceProbe.start(m_job.source);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void Conversion::cancel()
@@ -146,19 +112,29 @@ void Conversion::convertWith(const Result<QSet<QString>> &encoders)
         return;
     }
     m_encoderNames = *encoders;
-    const QString replaced = fileToReplace();
-    const QString target =
-        replaced.isEmpty() ? freeName(folder(), baseName(), m_job.settings.extension) : replaced;
-    const Result<QStringList> planned = argumentsFor(target);
+    if (!m_name.isComplete()) {
+        const Result<> named = namePicture();
+        if (!named) {
+            fail(named.error());
+            return;
+        }
+        if (!takesName()) {
+            return;
+        }
+    }
+    const Result<QStringList> planned = argumentsFor(m_name.path());
     if (!planned) {
         fail(planned.error());
         return;
     }
     if (m_job.planOnly) {
-        Q_EMIT finished(ConversionOutcome{target, {}, losses(), {}, ffmpegCall(*planned)});
+        Q_EMIT finished(ConversionOutcome{m_name.path(), {}, losses(), {}, ffmpegCall(*planned)});
         return;
     }
-    const Result<> created = m_pending.create(folder());
+    if (m_job.target.makesFolder) {
+        QDir().mkpath(m_name.folder()); // creating the file then says what is wrong
+    }
+    const Result<> created = m_pending.create(m_name.folder());
     if (!created) {
         fail(created.error());
         return;
@@ -176,22 +152,29 @@ void Conversion::runFfmpeg()
         return;
     }
     m_progress = ProgressReader(expectedDuration());
-    m_ffmpeg.start(ffmpegCall(*arguments));
+    m_call = ffmpegCall(*arguments);
+    if (m_job.isLogged) {
+        m_call.report = m_pending.logPath();
+    }
+    m_ffmpeg.start(m_call);
 }
 
 void Conversion::checkRun(const Result<ToolRun> &run)
 {
+    if (m_job.isLogged) {
+        log();
+    }
     if (!run) {
         fail(run.error());
     } else if (run->errors.contains("No space left on device")) {
         fail({tr("the disk with %1 is full; free some space or choose another folder")
-                  .arg(QDir::toNativeSeparators(folder()))});
+                  .arg(QDir::toNativeSeparators(m_name.folder()))});
     } else if (!wroteAll(*run)) {
         if (retryWithFewerCopies()) {
             return;
         }
         fail({tr("ffmpeg couldn't convert it (%1); check the file or try another preset")
-                  .arg(inPlainWords(run->firstError()))});
+                  .arg(failureInPlainWords(run->firstError()))});
     } else {
         m_hadErrors = !run->errors.isEmpty();
         m_resultProbe.start(m_pending.path());
@@ -242,18 +225,19 @@ void Conversion::compareFrames(const Result<ToolRun> &run)
 
 void Conversion::publish()
 {
-    const QString replaced = fileToReplace();
-    const Result<QString> target =
-        replaced.isEmpty() ? m_pending.publish(baseName(), m_job.settings.extension)
-                           : m_pending.publishOver(replaced).map([&replaced] { return replaced; });
-    if (!target) {
-        fail(target.error());
+    const Result<> published = m_name.publish(m_pending);
+    if (!published) {
+        fail(published.error());
+        return;
+    }
+    if (m_name.isSkipped()) {
+        skip();
         return;
     }
     if (m_job.keepDates) {
-        takeDate(*target, m_job.source);
+        takeDate(m_name.path(), m_job.source);
     }
-    Q_EMIT finished(ConversionOutcome{*target, m_result, losses(), shortfall()});
+    Q_EMIT finished(ConversionOutcome{m_name.path(), m_result, losses(), shortfall()});
 }
 
 Result<QStringList> Conversion::argumentsFor(const QString &target) const
@@ -264,9 +248,7 @@ Result<QStringList> Conversion::argumentsFor(const QString &target) const
 
 QString Conversion::losses() const
 {
-    const OutputSettings &settings = m_job.settings;
-    return lossesIn(m_source,
-                    {settings, *Container::find(settings.extension), m_encoderNames, m_copies});
+    return lossesIn(m_source, streamTarget());
 }
 
 QString Conversion::shortfall() const
@@ -312,27 +294,48 @@ void Conversion::retryWith(const Copies &copies)
     runFfmpeg();
 }
 
-QString Conversion::folder() const
+StreamTarget Conversion::streamTarget() const
 {
-    return m_job.folder.isEmpty() ? QFileInfo(m_job.source).absolutePath()
-                                  : QFileInfo(m_job.folder).absoluteFilePath();
+    return {m_job.settings, *Container::find(m_job.settings.extension), m_encoderNames, m_copies};
 }
 
-QString Conversion::baseName() const
+Result<> Conversion::namePicture()
 {
-    const QFileInfo source(m_job.source);
-    const QString name = source.completeBaseName();
-    return name.isEmpty() ? source.fileName() : name;
+    const VideoTrack *track = m_source.video();
+    if (!m_job.settings.hasVideo || track == nullptr) {
+        return failed(tr("the output has no picture, so its name can't hold the picture's width "
+                         "or height"));
+    }
+    return VideoPlan::make(*track, streamTarget()).map([this](const VideoPlan &plan) {
+        m_name.setPicture(plan.size);
+    });
 }
 
-QString Conversion::fileToReplace() const
+bool Conversion::takesName()
 {
-    const QString path =
-        QDir(folder()).absoluteFilePath(baseName() + QLatin1Char('.') + m_job.settings.extension);
-    const auto isThere = [&path](const QString &kept) { return isSameFile(path, kept); };
-    const bool isKept =
-        isThere(m_job.source) || std::any_of(m_job.keep.begin(), m_job.keep.end(), isThere);
-    return m_job.overwrite && QFileInfo(path).isFile() && !isKept ? path : QString();
+    const Result<> chosen = m_name.choose();
+    if (!chosen) {
+        fail(chosen.error());
+    } else if (m_name.isSkipped()) {
+        skip();
+    }
+    return chosen && !m_name.isSkipped();
+}
+
+void Conversion::log()
+{
+    QFile report(m_pending.logPath());
+    const bool isOpen = report.open(QIODevice::ReadOnly);
+    Q_EMIT logged(m_call, isOpen ? QFile::decodeName(report.readAll()) : QString());
+}
+
+void Conversion::skip()
+{
+    m_pending.discard();
+    ConversionOutcome outcome;
+    outcome.target = m_name.path();
+    outcome.isSkipped = true;
+    Q_EMIT finished(outcome);
 }
 
 void Conversion::fail(const Error &error)

@@ -2,6 +2,7 @@
 #define CONVERT_CONVERSION_H
 
 #include "host/convert/encoderchoice.h"
+#include "host/convert/outputname.h"
 #include "host/convert/outputsettings.h"
 #include "host/convert/progress.h"
 #include "host/files/pendingfile.h"
@@ -18,24 +19,24 @@ struct ConversionJob
 {
     QString source;
     OutputSettings settings;
-    QString folder;         //!< output folder; empty: the source's
-    bool overwrite = false; //!< false: names in use get " (2)", " (3)" ...
-    QStringList keep;       //!< files that are never overwritten; nor is the source
+    OutputTarget target;
     bool keepDates = false; //!< gives the output the source's date
     bool planOnly = false;  //!< only finds out what would be done
+    bool isLogged = false;  //!< logged() tells what ffmpeg does
 };
 
 /*! The result of a conversion or, with planOnly, of its plan. */
 struct ConversionOutcome
 {
-    QString target;         //!< the new file; for a plan, its current free name
+    QString target;         //!< the new file; for a plan, its name as of now
     MediaFacts facts;       //!< of the new file; empty for a plan
     QString losses = {};    //!< what is left out, one line; empty: nothing
     QString shortfall = {}; //!< says that the output is too short; empty: it isn't
     ToolCall plan = {};     //!< only for a plan: the call that would write the target
+    bool isSkipped = false; //!< the target was there already; nothing was converted
 
-    /*! Losses and shortfall in one line. */
-    [[nodiscard]] QString note() const;
+    /*! What is to be said of it: the shortfall and the losses. */
+    [[nodiscard]] QStringList notes() const;
 };
 Q_DECLARE_METATYPE(Result<ConversionOutcome>)
 
@@ -60,6 +61,9 @@ public:
 Q_SIGNALS:
     /*! About twice a second while ffmpeg runs. */
     void progressed(const Progress &progress);
+    /*! ffmpeg has run with this call, and wrote this log. Once per attempt, if the job is logged.
+     */
+    void logged(const ToolCall &call, const QString &log);
     /*! Once per start(). Slots may delete the conversion only with deleteLater(). */
     void finished(const Result<ConversionOutcome> &outcome);
 
@@ -81,10 +85,13 @@ private:
     bool retryWithFewerCopies();
     void retryWith(const Copies &copies);
 
-    QString folder() const;
-    QString baseName() const;
-    /*! The existing file that the output replaces; empty if it takes a free name. */
-    QString fileToReplace() const;
+    [[nodiscard]] StreamTarget streamTarget() const;
+    /*! Chooses the output's name, and ends the conversion if it is in use and stays. */
+    [[nodiscard]] bool takesName();
+    /*! Fills the picture's size into the output's name. */
+    [[nodiscard]] Result<> namePicture();
+    void log();
+    void skip();
     void fail(const Error &error);
 
     const ConversionJob m_job;
@@ -93,6 +100,8 @@ private:
     QSet<QString> m_encoderNames;
     Copies m_firstCopies; // of the first attempt
     Copies m_copies;      // of the current attempt
+    OutputName m_name;
+    ToolCall m_call; // of the current attempt
     bool m_hadErrors = false;
     QByteArray m_sourceFrames; // the first ones, once known
     PendingFile m_pending;     // declared before m_ffmpeg, which must stop before its file goes

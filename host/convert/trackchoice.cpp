@@ -27,6 +27,15 @@ const QVector<QStringList> &languageCodes()
     return codes;
 }
 
+struct ChoiceWord
+{
+    TrackChoice::Kind kind;
+    const char *text;
+};
+
+constexpr ChoiceWord choiceWords[] = {
+    {TrackChoice::All, "all"}, {TrackChoice::First, "first"}, {TrackChoice::None, "none"}};
+
 /*! All codes of the language, ignoring the region: for "de-CH" those of German. */
 QStringList codesOf(const QString &language)
 {
@@ -45,17 +54,23 @@ QStringList codesOf(const QString &language)
 std::optional<TrackChoice> TrackChoice::fromText(const QString &text)
 {
     static const QRegularExpression code(QStringLiteral("\\A[A-Za-z]{2,3}([-_][A-Za-z0-9]+)*\\z"));
-    if (text == QLatin1String("all")) {
-        return TrackChoice{All};
-    }
-    if (text == QLatin1String("first")) {
-        return TrackChoice{First};
-    }
-    if (text == QLatin1String("none")) {
-        return TrackChoice{None};
+    for (const ChoiceWord &word : choiceWords) {
+        if (text == QLatin1String(word.text)) {
+            return TrackChoice{word.kind};
+        }
     }
     return code.match(text).hasMatch() ? std::optional(TrackChoice{OfLanguage, text})
                                        : std::nullopt;
+}
+
+QString TrackChoice::text() const
+{
+    for (const ChoiceWord &word : choiceWords) {
+        if (kind == word.kind) {
+            return QLatin1String(word.text);
+        }
+    }
+    return language;
 }
 
 bool TrackChoice::takes(const Track &track) const

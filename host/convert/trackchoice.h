@@ -16,6 +16,9 @@ struct TrackChoice
     /*! Reads "all", "first", "none" or a language code; nullopt for anything else. */
     [[nodiscard]] static std::optional<TrackChoice> fromText(const QString &text);
 
+    /*! As fromText() reads it. */
+    [[nodiscard]] QString text() const;
+
     /*! Whether a track is kept; for First, whether it may be. */
     [[nodiscard]] bool takes(const Track &track) const;
 

@@ -92,6 +92,8 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     const bool mustBeEven = !codec.pixelFormat.isEmpty() && !upright.isEmpty();
     const QSize size = !boxed.isEmpty() ? boxed : mustBeEven ? evenSize(upright) : upright;
 
+    plan.size = isFramed ? fit.frame.size : size;
+
     const FieldPlan fields = FieldPlan::make(track, codec, target.container);
     const ColourPlan colour = ColourPlan::make(track, size, codec, target.container);
     plan.filters = fields.filters;
@@ -151,7 +153,7 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
                             : codecToWrite(settings.videoCodec, track.codec,
                                            videoCodec(track.codec).encoderNames(),
                                            target.container.videoCodecs, target));
-    VideoPlan plan{QStringLiteral("copy")};
+    VideoPlan plan{QStringLiteral("copy"), track.displaySize()};
     if (!isCopied) {
         const Result<QString> encoder = availableEncoder(codec.encoderNames(), codec.name, target);
         if (!encoder) {

@@ -10,6 +10,7 @@
 struct VideoPlan
 {
     QString encoder; //!< "copy" takes the stream over as it is
+    QSize size = {}; //!< as it is shown
     QStringList filters = {};
     //! The colours are chosen first, from the source read once more: to keep its frames until then
     //! takes too much memory.

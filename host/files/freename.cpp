@@ -35,12 +35,13 @@ bool isTaken(const QString &path)
     return file.exists() || file.isSymLink();
 }
 
-QString freeName(const QString &folder, const QString &baseName, const QString &extension)
+QString freeName(const QString &folder, const QString &baseName, const QString &extension,
+                 const std::function<bool(const QString &path)> &isUnfree)
 {
     const QDir place(folder);
     for (int number = 1;; ++number) {
         const QString path = place.absoluteFilePath(numberedName(baseName, number, extension));
-        if (!isTaken(path)) {
+        if (!isUnfree(path)) {
             return path;
         }
     }

@@ -10,6 +10,10 @@
 #include <cstdio>
 #include <utility>
 
+#ifdef Q_OS_LINUX
+#include <fcntl.h>
+#endif
+
 namespace {
 
 Error nameRefused(const QString &path, const QString &reason)
@@ -41,6 +45,11 @@ QString PendingFile::path() const
     return m_work ? m_work->filePath(QStringLiteral("part")) : QString();
 }
 
+QString PendingFile::logPath() const
+{
+    return m_work ? m_work->filePath(QStringLiteral("log")) : QString();
+}
+
 Result<> PendingFile::publishOver(const QString &path)
 {
     if (std::rename(QFile::encodeName(this->path()).constData(),
@@ -51,24 +60,51 @@ Result<> PendingFile::publishOver(const QString &path)
     return {};
 }
 
+Result<bool> PendingFile::publishNew(const QString &path)
+{
+    const QByteArray from = QFile::encodeName(this->path());
+    const QByteArray to = QFile::encodeName(path);
+#ifdef Q_OS_LINUX
+    if (renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0) {
+        discard();
+        return true;
+    }
+    if (errno == EEXIST) {
+        return false;
+    }
+    const bool isUnsupported = errno == EINVAL || errno == ENOSYS;
+    if (!isUnsupported) {
+        return tl::make_unexpected(nameRefused(path, qt_error_string(errno)));
+    }
+#endif
+    // Creating the file claims the name; the rename then replaces only this empty file.
+    QFile claim(path);
+    if (!claim.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        if (isTaken(path)) {
+            return false;
+        }
+        return tl::make_unexpected(nameRefused(path, claim.errorString()));
+    }
+    claim.close();
+    const Result<> published = publishOver(path);
+    if (!published) {
+        claim.remove();
+        return failed(published);
+    }
+    return true;
+}
+
 Result<QString> PendingFile::publish(const QString &baseName, const QString &extension)
 {
     const QString folder = QFileInfo(m_work->path()).absolutePath();
     for (;;) {
         const QString path = freeName(folder, baseName, extension);
-        // Creating the file claims the name; the rename then replaces only this empty file.
-        QFile claim(path);
-        if (claim.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-            claim.close();
-            const Result<> published = publishOver(path);
-            if (!published) {
-                claim.remove();
-                return failed(published);
-            }
-            return path;
+        const Result<bool> published = publishNew(path);
+        if (!published) {
+            return failed(published);
         }
-        if (!isTaken(path)) {
-            return tl::make_unexpected(nameRefused(path, claim.errorString()));
+        if (*published) {
+            return path;
         }
     }
 }

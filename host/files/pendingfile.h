@@ -24,11 +24,15 @@ public:
     [[nodiscard]] Result<> create(const QString &folder);
     /*! Where to write the file; empty before create() and after publishing or discarding. */
     [[nodiscard]] QString path() const;
+    /*! Where to write a log of the work, which goes with the unfinished file. */
+    [[nodiscard]] QString logPath() const;
     /*! Removes the unfinished file, as the destructor does. */
     void discard() { m_work.reset(); }
 
     /*! Replaces the file at \a path, if any. On failure nothing changes. */
     [[nodiscard]] Result<> publishOver(const QString &path);
+    /*! Gives the file the name \a path unless anything has it: then false, and nothing changes. */
+    [[nodiscard]] Result<bool> publishNew(const QString &path);
     /*!
      * Gives the file the name that freeName() chooses in its folder, and returns its path. Never
      * replaces a file, even one that appears at the same moment.

@@ -67,6 +67,8 @@ void ConversionQueue::run(int id, Job &job)
     job.conversion = conversion;
     connect(conversion, &Conversion::progressed, this,
             [this, id](const Progress &progress) { Q_EMIT progressed(id, progress); });
+    connect(conversion, &Conversion::logged, this,
+            [this, id](const ToolCall &call, const QString &log) { Q_EMIT logged(id, call, log); });
     connect(conversion, &Conversion::finished, this,
             [this, id, conversion](const Result<ConversionOutcome> &outcome) {
                 conversion->deleteLater();

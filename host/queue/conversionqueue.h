@@ -22,6 +22,7 @@ public:
 
     /*! How many jobs may run at a time. Running ones are not stopped. */
     void setMaxRunning(int count) { m_maxRunning = count; }
+    [[nodiscard]] int maxRunning() const { return m_maxRunning; }
 
     /*! Adds a waiting job. \a job is called when its turn comes. \a id is unique in the queue and
      *  identifies the job in the signals. */
@@ -42,6 +43,8 @@ public:
 Q_SIGNALS:
     void started(int id);
     void progressed(int id, const Progress &progress);
+    /*! See Conversion::logged(). */
+    void logged(int id, const ToolCall &call, const QString &log);
     /*! The job has left the queue, and the next one hasn't started yet. */
     void finished(int id, const Result<ConversionOutcome> &outcome);
 

@@ -39,6 +39,19 @@ Result<QByteArray> cleanOutput(const Result<ToolRun> &run)
     return run->output;
 }
 
+namespace {
+
+/*! For ffmpeg's environment; it gives a meaning to some characters of the path. */
+QString reportSetting(QString path)
+{
+    path.replace(QRegularExpression(QStringLiteral("([\\\\:'])")), QStringLiteral("\\\1"));
+    path.replace(QLatin1Char('%'), QStringLiteral("%%"));
+    constexpr int infoLevel = 32;
+    return QStringLiteral("file=%1:level=%2").arg(path).arg(infoLevel);
+}
+
+} // namespace
+
 Tool::Tool(QObject *parent)
     : QObject(parent)
 {
@@ -77,6 +90,9 @@ void Tool::start(const ToolCall &call, const ToolLimits &limits)
     m_run.program = call.program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("SVT_LOG"), QStringLiteral("1")); // errors only
+    if (!call.report.isEmpty()) {
+        environment.insert(QStringLiteral("FFREPORT"), reportSetting(call.report));
+    }
     m_process.setProcessEnvironment(environment);
     m_group.emplace();
     m_process.start(call.program, call.arguments, QIODevice::ReadOnly);

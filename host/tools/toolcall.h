@@ -9,6 +9,7 @@ struct ToolCall
 {
     QString program;
     QStringList arguments;
+    QString report = {}; //!< the file that ffmpeg writes its whole log to; empty: none
 };
 
 /*! ffmpeg with \a arguments, printing only errors and reading no input from the terminal. */

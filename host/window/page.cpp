@@ -149,7 +149,7 @@ ConversionJob Page::jobOf(int taskId) const
     job.settings = m_formats.outputSettings(task);
     job.settings.start = task.start;
     job.settings.end = task.end;
-    job.folder = folder();
+    job.target.folder = folder();
     return job;
 }
 
@@ -162,7 +162,7 @@ void Page::takeOutcome(int taskId, const Result<ConversionOutcome> &outcome)
     m_tasks.update(taskId, [&outcome](Task &task) {
         task.error = outcome ? QString() : outcome.error().text;
         task.target = outcome ? outcome->target : QString();
-        task.note = outcome ? outcome->note() : QString();
+        task.note = outcome ? outcome->notes().join(QStringLiteral("; ")) : QString();
     });
 }
 

@@ -116,7 +116,7 @@ void TestConversionCopies::whatItHoldsComesAlong()
         const Outcome outcome = convert(job(source, video(QLatin1String(extension))));
         QCOMPARE(errorOf(outcome), QString());
         const MediaFacts &facts = outcome->facts;
-        QCOMPARE(outcome->note(), QString());
+        QCOMPARE(outcome->notes(), QStringList());
         QCOMPARE(facts.audioTracks.size(), 2);
         QCOMPARE(facts.subtitleTracks.size(), 2);
         QCOMPARE(facts.subtitleTracks.at(1).language, QStringLiteral("ger"));

@@ -221,7 +221,7 @@ void TestConversionFailures::aFolderThatCannotBeWrittenIsRefused()
     QFETCH(QString, folder);
     const QString source = copyOf(QStringLiteral("film.mp4"), QStringLiteral("clip.mp4"));
     ConversionJob elsewhere = job(source, video(QStringLiteral("mkv")));
-    elsewhere.folder = path(folder);
+    elsewhere.target.folder = path(folder);
     const Outcome outcome = convert(elsewhere);
     QVERIFY(!outcome);
     QCOMPARE(outcome.error().kind, Error::Failed);

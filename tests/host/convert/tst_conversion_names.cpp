@@ -34,7 +34,7 @@ void TestConversionNames::overwritingReplacesTheResult()
     const QString source = copyOf(QStringLiteral("film.mp4"), QStringLiteral("clip.mp4"));
     QVERIFY(!copyOf(QStringLiteral("cover.png"), QStringLiteral("clip.mkv")).isEmpty());
     ConversionJob overwriting = job(source, video(QStringLiteral("mkv")));
-    overwriting.overwrite = true;
+    overwriting.target.ifExists = OutputTarget::IfExists::Overwrite;
     const Outcome outcome = convert(overwriting);
     QCOMPARE(outcome->target, path(QStringLiteral("clip.mkv")));
     QCOMPARE(everything(), names("clip.mkv|clip.mp4"));
@@ -46,7 +46,7 @@ void TestConversionNames::aSourceIsNeverOverwritten()
     const QString source = copyOf(QStringLiteral("film.mp4"), QStringLiteral("clip.mp4"));
     const QByteArray before = contentOf(source);
     ConversionJob overwriting = job(source, video(QStringLiteral("mp4")));
-    overwriting.overwrite = true;
+    overwriting.target.ifExists = OutputTarget::IfExists::Overwrite;
     QCOMPARE(convert(overwriting).value().target, path(QStringLiteral("clip (2).mp4")));
     QCOMPARE(contentOf(source), before);
 
@@ -64,8 +64,10 @@ void TestConversionNames::filesToKeepAreNotOverwritten()
     const QString kept = copyOf(QStringLiteral("silent.mp4"), QStringLiteral("clip.mkv"));
     const QByteArray before = contentOf(kept);
     ConversionJob overwriting = job(source, video(QStringLiteral("mkv")));
-    overwriting.overwrite = true;
-    overwriting.keep = QStringList{path(QStringLiteral("elsewhere")), kept};
+    overwriting.target.ifExists = OutputTarget::IfExists::Overwrite;
+    overwriting.target.kept = std::make_shared<KeptFiles>();
+    overwriting.target.kept->addFile(path(QStringLiteral("elsewhere")));
+    overwriting.target.kept->addFile(kept);
     QCOMPARE(convert(overwriting).value().target, path(QStringLiteral("clip (2).mkv")));
     QCOMPARE(contentOf(kept), before);
 }
@@ -75,7 +77,7 @@ void TestConversionNames::theResultMayGoElsewhere()
     const QString source = copyOf(QStringLiteral("film.mp4"), QStringLiteral("clip.mp4"));
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("out")));
     ConversionJob elsewhere = job(source, video(QStringLiteral("mp4")));
-    elsewhere.folder = path(QStringLiteral("out"));
+    elsewhere.target.folder = path(QStringLiteral("out"));
     QCOMPARE(convert(elsewhere).value().target, path(QStringLiteral("out/clip.mp4")));
     QCOMPARE(everything(), names("clip.mp4"));
 }

@@ -1,0 +1,83 @@
+#include "host/batch/sourcefiles.h"
+
+#include "host/media/mediafiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+bool isFolder(const QString &path)
+{
+    return QFileInfo(path).isDir();
+}
+
+} // namespace
+
+Result<> SourceFiles::leaveOut(const QString &folder)
+{
+    m_leftOut = QFileInfo(folder).canonicalFilePath();
+    for (const QString &name : qAsConst(m_named)) {
+        if (isFolder(name) && QFileInfo(name).canonicalFilePath() == m_leftOut) {
+            return failed(tr("the results can't go into %1 itself, where they would be taken for "
+                             "sources; choose another folder with --to")
+                              .arg(name));
+        }
+    }
+    return {};
+}
+
+bool SourceFiles::haveFolders() const
+{
+    return std::any_of(m_named.begin(), m_named.end(), isFolder);
+}
+
+void SourceFiles::each(const Take &take) const
+{
+    for (const QString &name : m_named) {
+        if (isFolder(name)) {
+            eachIn(name, {}, take);
+        } else {
+            take({name, {}});
+        }
+    }
+}
+
+void SourceFiles::eachIn(const QString &folder, const QString &subfolder, const Take &take) const
+{
+    const QDir place(folder);
+    const QStringList files = place.entryList(QDir::Files, QDir::Name);
+    for (const QString &file : files) {
+        if (isMediaName(file)) {
+            take({place.filePath(file), subfolder});
+        }
+    }
+    if (!m_isRecursive) {
+        return;
+    }
+    const QStringList folders =
+        place.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+    for (const QString &name : folders) {
+        const QString path = place.filePath(name);
+        if (m_leftOut.isEmpty() || QFileInfo(path).canonicalFilePath() != m_leftOut) {
+            eachIn(path, subfolder.isEmpty() ? name : subfolder + QLatin1Char('/') + name, take);
+        }
+    }
+}
+
+QStringList pathsInList(const QByteArray &list)
+{
+    const char separator = list.contains('\0') ? '\0' : '\n';
+    QStringList paths;
+    const QList<QByteArray> entries = list.split(separator);
+    for (const QByteArray &entry : entries) {
+        const QString path = QFile::decodeName(entry);
+        if (!path.isEmpty()) {
+            paths << path;
+        }
+    }
+    return paths;
+}

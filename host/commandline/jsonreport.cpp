@@ -1,0 +1,86 @@
+#include "host/app/console.h"
+#include "host/commandline/batchreports.h"
+#include "host/commandline/shelltext.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QVariantMap>
+
+namespace {
+
+/*! Prints an event of the job with its \a values. */
+void print(const char *event, const BatchJob &job, QVariantMap values)
+{
+    values.insert(QStringLiteral("event"), QLatin1String(event));
+    values.insert(QStringLiteral("index"), job.number);
+    values.insert(QStringLiteral("source"), job.conversion.source);
+    Console::printJsonLine(
+        QJsonDocument(QJsonObject::fromVariantMap(values)).toJson(QJsonDocument::Compact));
+}
+
+const char *statusOf(const Result<ConversionOutcome> &outcome)
+{
+    if (outcome) {
+        return outcome->isSkipped ? "skipped" : "converted";
+    }
+    return outcome.error().kind == Error::Cancelled ? "stopped" : "failed";
+}
+
+} // namespace
+
+void JsonReport::started(const BatchJob &job)
+{
+    if (m_events == All && !job.conversion.planOnly) {
+        print("planned", job, {});
+    }
+}
+
+void JsonReport::progressed(const BatchJob &job, const Progress &progress)
+{
+    if (m_events == OnlyResults) {
+        return;
+    }
+    QVariantMap values = {{QStringLiteral("seconds"), progress.done}};
+    if (progress.percent() >= 0) {
+        values.insert(QStringLiteral("percent"), progress.percent());
+    }
+    if (progress.speed > 0) {
+        values.insert(QStringLiteral("speed"), progress.speed);
+    }
+    print("progress", job, values);
+}
+
+void JsonReport::logged(const BatchJob &job, const ToolCall &call, const QString &log)
+{
+    print("log", job,
+          {{QStringLiteral("command"), shellText(call)}, {QStringLiteral("text"), log}});
+}
+
+void JsonReport::finished(const BatchJob &job, const Result<ConversionOutcome> &outcome)
+{
+    if (outcome && job.conversion.planOnly && !outcome->isSkipped) {
+        print("planned", job,
+              {{QStringLiteral("target"), outcome->target},
+               {QStringLiteral("command"), shellText(outcome->plan)}});
+        return;
+    }
+    QVariantMap values = {{QStringLiteral("status"), QLatin1String(statusOf(outcome))}};
+    if (!outcome) {
+        values.insert(QStringLiteral("error"), outcome.error().text);
+    } else {
+        values.insert(QStringLiteral("target"), outcome->target);
+        values.insert(QStringLiteral("bytes"), double(QFileInfo(outcome->target).size()));
+        const QStringList notes = outcome->notes();
+        for (const QString &note : notes) {
+            if (m_events == All) {
+                print("note", job, {{QStringLiteral("text"), note}});
+            }
+        }
+        if (!notes.isEmpty()) {
+            values.insert(QStringLiteral("notes"), notes);
+        }
+    }
+    values.insert(QStringLiteral("isComplete"), outcome && outcome->shortfall.isEmpty());
+    print("result", job, values);
+}

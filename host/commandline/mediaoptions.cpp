@@ -1,0 +1,129 @@
+#include "host/commandline/mediaoptions.h"
+
+#include "host/media/clocktext.h"
+
+namespace {
+
+const QLatin1String audioOption("audio");
+const QLatin1String subtitlesOption("subtitles");
+const QLatin1String burnOption("burn-subtitles");
+const QLatin1String keepDatesFlag("keep-dates");
+const QLatin1String startOption("start");
+const QLatin1String endOption("end");
+const QLatin1String durationOption("duration");
+const QLatin1String averageFlag("average");
+const QLatin1String sizeOption("size");
+
+/*! Takes what the options say of tracks and of pictures. */
+Result<> readTrackOptions(const Call &call, OutputSettings &settings)
+{
+    const auto read = [&call](const QString &option, TrackChoice &choice) -> Result<> {
+        if (!call.options.isSet(option)) {
+            return {};
+        }
+        const QString text = call.options.value(option);
+        const std::optional<TrackChoice> chosen = TrackChoice::fromText(text);
+        if (!chosen) {
+            return wrongUsage(CommandLine::tr("--%1 takes a word such as all, or a language such "
+                                              "as de, not \"%2\"")
+                                  .arg(option, text));
+        }
+        choice = *chosen;
+        return {};
+    };
+    Result<> done = read(audioOption, settings.audioTracks);
+    if (done && settings.audioTracks.kind == TrackChoice::None) {
+        done = wrongUsage(CommandLine::tr("--audio takes all, first or a language such as de"));
+    }
+    if (done) {
+        done = read(subtitlesOption, settings.subtitles);
+    }
+    const auto number = [&call, &done](const QString &option, double least) {
+        bool isNumber = false;
+        const double value = call.options.value(option).toDouble(&isNumber);
+        const bool isSet = call.options.isSet(option);
+        if (isSet && !(isNumber && value >= least && value <= 86400)) {
+            done =
+                wrongUsage(CommandLine::tr("--%1 takes a number from %2").arg(option).arg(least));
+        }
+        return isSet ? value : 0;
+    };
+    settings.burnedSubtitles = int(number(burnOption, 1));
+    settings.stillSeconds = number(durationOption, 0.1);
+    return done;
+}
+
+/*! The size that each result may have; 0 for any. */
+Result<double> wantedMegabytes(const Call &call)
+{
+    if (!call.options.isSet(sizeOption)) {
+        return 0;
+    }
+    bool isNumber = false;
+    const double megabytes = call.options.value(sizeOption).toDouble(&isNumber);
+    constexpr double most = 1e6;
+    if (!isNumber || megabytes <= 0 || megabytes > most) {
+        return wrongUsage(CommandLine::tr("--size takes a number of megabytes, such as 25"));
+    }
+    return megabytes;
+}
+
+/*! Takes the cut. */
+Result<> readTimes(const Call &call, OutputSettings &settings)
+{
+    const auto read = [&call](const QString &option, double &seconds) -> Result<> {
+        if (call.options.isSet(option)) {
+            seconds = secondsFromClockText(call.options.value(option));
+        }
+        return seconds >= 0 ? Result<>()
+                            : wrongUsage(CommandLine::tr("--%1 takes a time such as 1:02:03.5 or "
+                                                         "a number of seconds")
+                                             .arg(option));
+    };
+    return read(startOption, settings.start).and_then([&] {
+        return read(endOption, settings.end);
+    });
+}
+
+} // namespace
+
+QList<QCommandLineOption> mediaOptions()
+{
+    return {
+        valueOption(audioOption,
+                    CommandLine::tr("Audio tracks to write: all that the format holds (the "
+                                    "default), first, or those of a language."),
+                    CommandLine::tr("all|first|LANG")),
+        valueOption(subtitlesOption,
+                    CommandLine::tr("Subtitles to write: all that the format holds (the default), "
+                                    "none, or those of a language."),
+                    CommandLine::tr("all|none|LANG")),
+        valueOption(burnOption,
+                    CommandLine::tr("Draw the subtitle track with this number, from 1, onto the "
+                                    "picture."),
+                    CommandLine::tr("N")),
+        valueOption(startOption,
+                    CommandLine::tr("Begin there in the source, such as 1:02:03.5 or 90."),
+                    CommandLine::tr("TIME")),
+        valueOption(endOption, CommandLine::tr("End there in the source."),
+                    CommandLine::tr("TIME")),
+        {keepDatesFlag, CommandLine::tr("Give results the dates of their sources.")},
+        valueOption(durationOption,
+                    CommandLine::tr("Make films of single pictures, of so many seconds."),
+                    CommandLine::tr("SECONDS")),
+        {averageFlag, CommandLine::tr("Reach the preset's video bitrate on average, instead of "
+                                      "taking it for the most.")},
+        valueOption(sizeOption, CommandLine::tr("Make each result at most that large."),
+                    CommandLine::tr("MB")),
+    };
+}
+
+Result<> readMediaOptions(const Call &call, ConversionJob &job)
+{
+    job.settings.averagesBitrate = call.options.isSet(averageFlag);
+    job.keepDates = call.options.isSet(keepDatesFlag);
+    return readTrackOptions(call, job.settings)
+        .and_then([&] { return readTimes(call, job.settings); })
+        .and_then([&] { return wantedMegabytes(call); })
+        .map([&job](double megabytes) { job.settings.targetBytes = megabytes * 1000000; });
+}
