@@ -1,6 +1,7 @@
 #include "host/app/console.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/fitting.h"
+#include "host/commandline/nearestword.h"
 #include "host/commandline/presettable.h"
 
 #include "formats/models/formatdetailmodel.h"
@@ -53,6 +54,15 @@ QString formatTitled(const FormatListModel &formats, const QString &name)
         }
     }
     return {};
+}
+
+QStringList titlesOf(const FormatListModel &formats)
+{
+    QStringList titles;
+    for (int row = 0; row < formats.rowCount(); ++row) {
+        titles << formats.getTitle(row);
+    }
+    return titles;
 }
 
 Result<ExitCode> runFormats(const Call &call)
@@ -115,8 +125,9 @@ Result<ExitCode> runPresets(const Call &call)
     const FormatDetailModel *list = formats.formatDetailModel(title);
     if (list == nullptr) {
         return wrongUsage(CommandLine::tr("there is no format \"%1\"; \"vexconvert formats\" lists "
-                                          "them, \"vexconvert search TEXT\" finds one")
-                              .arg(call.arguments.constFirst()));
+                                          "them, \"vexconvert search TEXT\" finds one%2")
+                              .arg(call.arguments.constFirst(),
+                                   didYouMean(call.arguments.constFirst(), titlesOf(formats))));
     }
     QQueue<FormatDetailModelData> records;
     list->getModelInfo(records);

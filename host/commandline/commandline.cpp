@@ -2,10 +2,12 @@
 
 #include "host/app/console.h"
 #include "host/app/languages.h"
+#include "host/commandline/nearestword.h"
 #include "host/files/localpath.h"
 
 #include "formats/proxy/formatsproxy.h"
 
+#include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
 
@@ -81,6 +83,13 @@ bool parseOverall(QCommandLineParser &parser, const QStringList &arguments)
     return parser.parse(QStringList{QCoreApplication::applicationName()} + arguments);
 }
 
+/*! Empty: the platform's. */
+QString configFolderOf(const QCommandLineParser &parser)
+{
+    const QString given = parser.value(QStringLiteral("config"));
+    return given.isEmpty() ? configFolderOfEnvironment() : given;
+}
+
 /*! Whether the window speaks the language that is asked for, if any is. */
 bool isLanguageSpoken(const QCommandLineParser &parser)
 {
@@ -131,6 +140,15 @@ QString mistakeIn(const QCommandLineParser &parser)
     return text;
 }
 
+QStringList namesOf(const QList<QCommandLineOption> &options)
+{
+    QStringList names;
+    for (const QCommandLineOption &option : options) {
+        names += option.names();
+    }
+    return names;
+}
+
 QString helpText(const Subcommand &subcommand, const QCommandLineParser &parser)
 {
     return CommandLine::tr("Usage: vexconvert %1 %2\n\n%3\n%4\n%5")
@@ -150,12 +168,19 @@ Result<ExitCode> runSubcommand(const Subcommand &subcommand, const QStringList &
         return Success;
     }
     if (!isParsed) {
-        return wrongUsage(CommandLine::tr("%1; see \"vexconvert %2 --help\"")
-                              .arg(mistakeIn(parser), subcommand.name));
+        return wrongUsage(CommandLine::tr("%1; see \"vexconvert %2 --help\"%3")
+                              .arg(mistakeIn(parser), subcommand.name,
+                                   didYouMean(parser.unknownOptionNames().value(0),
+                                              namesOf(subcommand.options))));
     }
     const QString own = parser.value(QStringLiteral("config"));
-    return subcommand.run({subcommand.name, parser, parser.positionalArguments(),
-                           own.isEmpty() ? configFolder : own});
+    const QString folder = own.isEmpty() ? configFolder : own;
+    const Result<Options> values =
+        Options::withDefaults(parser, subcommand.options, PresetStore::folderAt(folder));
+    if (!values) {
+        return failed(values);
+    }
+    return subcommand.run({subcommand.name, *values, parser.positionalArguments(), folder});
 }
 
 Result<ExitCode> runCommandLine(const QStringList &arguments)
@@ -188,9 +213,13 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
                 .arg(rest.at(missing)));
     }
     if (named == nullptr) {
+        QStringList names;
+        for (const Subcommand &subcommand : all) {
+            names << subcommand.name;
+        }
         return wrongUsage(
-            CommandLine::tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them")
-                .arg(rest.constFirst()));
+            CommandLine::tr("there is no subcommand \"%1\"; \"vexconvert --help\" lists them%2")
+                .arg(rest.constFirst(), didYouMean(rest.constFirst(), names)));
     }
     const QList<QCommandLineOption> forTheWindow = windowOnlyOptions();
     for (const QCommandLineOption &option : forTheWindow) {
@@ -201,7 +230,7 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
                     .arg(name));
         }
     }
-    Result<ExitCode> result = runSubcommand(*named, rest, parser.value(QStringLiteral("config")));
+    Result<ExitCode> result = runSubcommand(*named, rest, configFolderOf(parser));
     if (result && Console::hasFailed()) {
         return failed(CommandLine::tr("the output couldn't be written"));
     }
@@ -224,8 +253,7 @@ std::optional<WindowOptions> CommandLine::windowOptions(const QStringList &argum
     if (isSubcommand || files.contains(QString()) || !isLanguageSpoken(parser)) {
         return std::nullopt;
     }
-    return WindowOptions{parser.value(QStringLiteral("config")), parser.value(languageOption),
-                         files};
+    return WindowOptions{configFolderOf(parser), parser.value(languageOption), files};
 }
 
 ExitCode CommandLine::run(const QStringList &arguments)
@@ -258,8 +286,8 @@ Result<FoundPreset> findPreset(const PresetStore &presets, const QString &id)
     if (!preset) {
         return wrongUsage(
             CommandLine::tr("no preset has the id \"%1\"; \"vexconvert search TEXT\" finds "
-                            "formats, \"vexconvert presets FORMAT\" lists ids")
-                .arg(id));
+                            "formats, \"vexconvert presets FORMAT\" lists ids%2")
+                .arg(id, didYouMean(id, presets.ids())));
     }
     return *preset;
 }

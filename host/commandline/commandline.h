@@ -3,10 +3,10 @@
 
 #include "host/app/exitcode.h"
 #include "host/app/windowoptions.h"
+#include "host/commandline/options.h"
 #include "host/presets/presetstore.h"
 
 #include <QCommandLineOption>
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
@@ -19,7 +19,7 @@
 struct Call
 {
     QString subcommand;
-    const QCommandLineParser &options;
+    const Options &options;
     QStringList arguments; //!< those after the subcommand's name
     QString configFolder;  //!< empty: the platform's
 };

@@ -23,9 +23,9 @@ Batch::NextJob jobsFor(const ConvertRequest &request)
 
 Result<ExitCode> runConvert(const Call &call)
 {
-    const bool isQuiet = call.options.isSet(quietFlag);
     const bool isVerbose = call.options.isSet(verboseFlag);
-    if (isQuiet && isVerbose) {
+    const bool isQuiet = call.options.isSet(quietFlag) && !isVerbose;
+    if (isVerbose && call.options.isGiven(quietFlag)) {
         return wrongUsage(CommandLine::tr("choose one of --quiet and --verbose"));
     }
     const Result<int> sideBySide = jobsOf(call);

@@ -105,7 +105,8 @@ Result<> readOutputFile(const Call &call, ConvertRequest &request)
 {
     const QString output = call.options.value(outputOption);
     const QFileInfo file(output);
-    if (request.count != 1 || call.options.isSet(folderOption) || call.options.isSet(nameOption)) {
+    if (request.count != 1 || call.options.isGiven(folderOption) ||
+        call.options.isGiven(nameOption)) {
         return wrongUsage(CommandLine::tr("--output names the result of one file; for several "
                                           "use --to and --name"));
     }

@@ -55,13 +55,13 @@ QList<QCommandLineOption> fittingOptions()
     };
 }
 
-bool hasFittingOptions(const QCommandLineParser &options)
+bool hasFittingOptions(const Options &options)
 {
     return options.isSet(typeOption) || options.isSet(formatOption) ||
            options.isSet(targetOption) || options.isSet(preferSourceOption);
 }
 
-Result<QVariantMap> fittingPreset(const QCommandLineParser &options, const FormatsProxy &formats)
+Result<QVariantMap> fittingPreset(const Options &options, const FormatsProxy &formats)
 {
     const QString type = options.value(typeOption);
     const QString format = options.value(formatOption);

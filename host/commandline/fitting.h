@@ -9,10 +9,10 @@ class FormatsProxy;
 
 /*! The options that describe a preset instead of naming it: --type, --format and so on. */
 [[nodiscard]] QList<QCommandLineOption> fittingOptions();
-[[nodiscard]] bool hasFittingOptions(const QCommandLineParser &options);
+[[nodiscard]] bool hasFittingOptions(const Options &options);
 
 /*! The closest preset; an error if there is none or an option is missing or invalid. */
-[[nodiscard]] Result<QVariantMap> fittingPreset(const QCommandLineParser &options,
+[[nodiscard]] Result<QVariantMap> fittingPreset(const Options &options,
                                                 const FormatsProxy &formats);
 
 #endif

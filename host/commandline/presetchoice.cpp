@@ -41,8 +41,11 @@ QList<QCommandLineOption> presetOptions()
 
 Result<FoundPreset> chosenPreset(const Call &call, Noting noting)
 {
-    const QString id = call.options.value(presetOption);
-    if (id.isEmpty() == !hasFittingOptions(call.options)) {
+    const bool isDescribed = hasFittingOptions(call.options);
+    // What is given on the command line comes before a default.
+    const bool isNamed = call.options.isGiven(presetOption) || !isDescribed;
+    const QString id = isNamed ? call.options.value(presetOption) : QString();
+    if (id.isEmpty() == !isDescribed) {
         return wrongUsage(CommandLine::tr("choose a preset: either --preset ID or --type, "
                                           "--format and --target"));
     }

@@ -48,6 +48,21 @@ Result<ExitCode> saveAndTell(PresetStore &store, const QString &done)
     return Success;
 }
 
+/*! For other programs prints the preset instead. */
+Result<ExitCode> saveAndShow(const Call &call, PresetStore &store, const QString &id,
+                             const QString &done)
+{
+    if (!call.options.isSet(jsonFlag)) {
+        return saveAndTell(store, done);
+    }
+    return store.save()
+        .and_then([&store, &id] { return findPreset(store, id); })
+        .map([](const FoundPreset &preset) {
+            Console::printJson(preset.map);
+            return Success;
+        });
+}
+
 Result<ExitCode> listRecent(const Call &call)
 {
     PresetStore store = presetsOf(call);
@@ -179,7 +194,7 @@ Result<ExitCode> addUser(const Call &call, PresetStore &store, const FoundPreset
     }
     const QString id =
         store.formats().addUserDefineFormat(base.tag, base.className, baseId, *values);
-    return saveAndTell(store, CommandLine::tr("%1 added to %2").arg(id, base.className));
+    return saveAndShow(call, store, id, CommandLine::tr("%1 added to %2").arg(id, base.className));
 }
 
 Result<ExitCode> changeUser(const Call &call, PresetStore &store, const FoundPreset &preset)
@@ -190,7 +205,7 @@ Result<ExitCode> changeUser(const Call &call, PresetStore &store, const FoundPre
         return failed(values);
     }
     store.formats().changeUserDefineFormat(preset.className, id, *values);
-    return saveAndTell(store, CommandLine::tr("%1 changed").arg(id));
+    return saveAndShow(call, store, id, CommandLine::tr("%1 changed").arg(id));
 }
 
 Result<ExitCode> deleteUser(const Call &, PresetStore &store, const FoundPreset &preset)
@@ -260,8 +275,8 @@ QVector<Subcommand> presetCommands()
          {jsonOption()},
          runRecent},
         {QStringLiteral("user"),
-         CommandLine::tr("list [--json] | add BASE_ID --title TITLE [settings] | change ID "
-                         "[settings] | delete ID"),
+         CommandLine::tr("list [--json] | add BASE_ID --title TITLE [settings] [--json] | "
+                         "change ID [settings] [--json] | delete ID"),
          CommandLine::tr("List, add, change or delete your own presets."),
          CommandLine::tr("\nA new preset starts with the values of its base. A setting must be one "
                          "of the choices that\n\"vexconvert show ID\" lists; 0 keeps the source's "

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QProcess>
+#include <QQueue>
 #include <QStandardPaths>
 
 #include <utility>
@@ -18,12 +19,6 @@
 namespace {
 
 using Content = UserFile::Content;
-
-QString absoluteFolder(const QString &folder)
-{
-    return folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
-                            : QDir(folder).absolutePath();
-}
 
 QByteArray bytesOf(const QString &path)
 {
@@ -57,11 +52,17 @@ OutputSettings FoundPreset::outputSettings() const
 
 PresetStore::PresetStore(FormatsProxy &formats, const QString &folder, const Report &report)
     : m_formats(formats)
-    , m_folder(absoluteFolder(folder))
+    , m_folder(folderAt(folder))
     , m_report(report)
     , m_userPresets(filePath(QStringLiteral("formatCache.json")))
     , m_recently(filePath(QStringLiteral("recently.json")))
 {}
+
+QString PresetStore::folderAt(const QString &folder)
+{
+    return folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
+                            : QDir(folder).absolutePath();
+}
 
 Result<> PresetStore::lock(int patience)
 {
@@ -178,6 +179,22 @@ Result<> PresetStore::save()
         }
     }
     return {};
+}
+
+QStringList PresetStore::ids() const
+{
+    const FormatListModel &formats = *m_formats.formatListModel();
+    QStringList ids;
+    for (int row = 0; row < formats.rowCount(); ++row) {
+        QQueue<FormatDetailModelData> presets;
+        if (const FormatDetailModel *list = formats.formatDetailModel(formats.getTitle(row))) {
+            list->getModelInfo(presets);
+        }
+        for (const FormatDetailModelData &preset : qAsConst(presets)) {
+            ids << preset.id;
+        }
+    }
+    return ids;
 }
 
 std::optional<FoundPreset> PresetStore::find(const QString &id) const

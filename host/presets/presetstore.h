@@ -50,6 +50,9 @@ public:
      */
     PresetStore(FormatsProxy &formats, const QString &folder, const Report &report = {});
 
+    /*! The absolute path of \a folder, or of the platform's for an empty one. */
+    [[nodiscard]] static QString folderAt(const QString &folder);
+
     /*!
      * Keeps other processes from writing to the folder while this store exists; see
      * FolderLock::lock(). Without it, open() locks for ReadWrite, without waiting.
@@ -68,6 +71,8 @@ public:
     /*! The path of a file in the configuration folder. */
     [[nodiscard]] QString filePath(const QString &name) const;
     [[nodiscard]] FormatsProxy &formats() const { return m_formats; }
+    /*! The ids of all presets of the catalogue and of the user. */
+    [[nodiscard]] QStringList ids() const;
     /*! The preset with this id of the catalogue or the user, else of the recently used list. */
     [[nodiscard]] std::optional<FoundPreset> find(const QString &id) const;
 
