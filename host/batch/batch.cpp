@@ -26,6 +26,21 @@ BatchSummary Batch::run()
     return m_summary;
 }
 
+BatchSummary Batch::runUntilInterrupted()
+{
+    m_waits = true;
+    m_loop.exec();
+    return m_summary;
+}
+
+void Batch::wake()
+{
+    if (!m_summary.isInterrupted) {
+        m_isExhausted = false;
+        startJobs();
+    }
+}
+
 void Batch::startJobs()
 {
     while (!m_isExhausted && int(m_running.size()) < m_queue.maxRunning()) {
@@ -57,14 +72,18 @@ void Batch::finish(int number, const Result<ConversionOutcome> &outcome)
     }
     m_report.finished(job, outcome);
     startJobs();
-    if (m_running.empty()) {
+    if (m_running.empty() && !m_waits) {
         m_loop.quit();
     }
 }
 
 void Batch::stop()
 {
-    m_summary.isInterrupted = !m_isExhausted;
+    m_summary.isInterrupted = m_waits || !m_isExhausted;
     m_isExhausted = true;
+    m_waits = false;
     m_queue.stop();
+    if (m_running.empty()) {
+        m_loop.quit();
+    }
 }

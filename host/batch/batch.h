@@ -66,6 +66,10 @@ public:
 
     /*! Returns when all jobs have ended. */
     [[nodiscard]] BatchSummary run();
+    /*! Waits for more jobs, which wake() announces, until the user interrupts it. */
+    [[nodiscard]] BatchSummary runUntilInterrupted();
+    /*! Asks for jobs again after there were none. */
+    void wake();
 
 private:
     void startJobs();
@@ -78,6 +82,7 @@ private:
     BatchSummary m_summary;
     std::map<int, BatchJob> m_running;
     bool m_isExhausted = false;
+    bool m_waits = false; // for more jobs
     Interrupt m_interrupt;
     ConversionQueue m_queue;
     QEventLoop m_loop;

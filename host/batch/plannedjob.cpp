@@ -135,14 +135,10 @@ QByteArray PlannedJob::toLine() const
 
 ConversionJob PlannedJob::conversion(OutputTarget::IfExists ifExists) const
 {
-    const QFileInfo file(target);
     ConversionJob job;
     job.source = source;
     job.settings = settings;
-    job.target.folder = file.absolutePath();
-    job.target.makesFolder = true;
-    job.target.name = NameTemplate::literal(file.completeBaseName());
-    job.target.ifExists = ifExists;
+    job.target = fixedOutput(target, ifExists);
     job.keepDates = keepDates;
     return job;
 }

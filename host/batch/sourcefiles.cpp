@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -30,9 +31,11 @@ Result<> SourceFiles::leaveOut(const QString &folder)
     return {};
 }
 
-bool SourceFiles::haveFolders() const
+QStringList SourceFiles::folders() const
 {
-    return std::any_of(m_named.begin(), m_named.end(), isFolder);
+    QStringList folders;
+    std::copy_if(m_named.begin(), m_named.end(), std::back_inserter(folders), isFolder);
+    return folders;
 }
 
 void SourceFiles::each(const Take &take) const

@@ -31,8 +31,8 @@ public:
 
     /*! Leaves \a folder out, as it gets the results. An error if it is one of the folders. */
     [[nodiscard]] Result<> leaveOut(const QString &folder);
-    /*! Whether a folder was named. */
-    [[nodiscard]] bool haveFolders() const;
+    /*! The folders that were named. */
+    [[nodiscard]] QStringList folders() const;
     /*!
      * Calls \a take for each file, in the order in which they were named. Those of a folder follow
      * sorted by name, then those of its subfolders if the search is recursive. Links to folders and

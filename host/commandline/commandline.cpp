@@ -19,8 +19,8 @@ const QLatin1String languageOption("language");
 
 QVector<Subcommand> subcommands()
 {
-    QVector<Subcommand> all =
-        catalogueCommands() + convertCommands() + planCommands() + presetCommands();
+    QVector<Subcommand> all = catalogueCommands() + convertCommands() + watchCommands() +
+                              planCommands() + presetCommands();
 #ifdef VEX_CHECKS_CATALOGUE
     all += checkCommands();
 #endif

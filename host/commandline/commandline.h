@@ -39,6 +39,7 @@ struct Subcommand
 [[nodiscard]] QVector<Subcommand> convertCommands();
 [[nodiscard]] QVector<Subcommand> planCommands();
 [[nodiscard]] QVector<Subcommand> presetCommands();
+[[nodiscard]] QVector<Subcommand> watchCommands();
 [[nodiscard]] QVector<Subcommand> checkCommands();
 
 /*! The command line: finds the subcommand, or prints the help. */

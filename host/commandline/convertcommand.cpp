@@ -4,7 +4,6 @@
 namespace {
 
 const QLatin1String dryRunFlag("dry-run");
-const QLatin1String quietFlag("quiet");
 const QLatin1String verboseFlag("verbose");
 
 /*! The files one after another, as jobs. */
@@ -24,8 +23,8 @@ Batch::NextJob jobsFor(const ConvertRequest &request)
 Result<ExitCode> runConvert(const Call &call)
 {
     const bool isVerbose = call.options.isSet(verboseFlag);
-    const bool isQuiet = call.options.isSet(quietFlag) && !isVerbose;
-    if (isVerbose && call.options.isGiven(quietFlag)) {
+    const bool isQuiet = call.options.isSet(quietFlag()) && !isVerbose;
+    if (isVerbose && call.options.isGiven(quietFlag())) {
         return wrongUsage(CommandLine::tr("choose one of --quiet and --verbose"));
     }
     const Result<int> sideBySide = jobsOf(call);
@@ -34,7 +33,7 @@ Result<ExitCode> runConvert(const Call &call)
     }
     const bool isDryRun = call.options.isSet(dryRunFlag);
     Result<ConvertRequest> request =
-        convertRequest(call, isDryRun ? Noting::Nowhere : Noting::AsUsed);
+        requestForFiles(call, isDryRun ? Noting::Nowhere : Noting::AsUsed);
     if (!request) {
         return failed(request);
     }
@@ -63,7 +62,7 @@ QVector<Subcommand> convertCommands()
     const QList<QCommandLineOption> own = {
         jobsOption(),
         jsonOption(),
-        {{QStringLiteral("q"), quietFlag}, CommandLine::tr("Print only what went wrong.")},
+        quietOption(),
         {verboseFlag, CommandLine::tr("Print ffmpeg's commands and logs, on standard error.")},
         {dryRunFlag, CommandLine::tr("Only print the ffmpeg commands.")},
     };

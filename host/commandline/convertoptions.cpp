@@ -75,7 +75,7 @@ Result<> findSources(const Call &call, ConvertRequest &request)
     const bool isRecursive = call.options.isSet(recursiveFlag);
     const QString folder = request.prototype.target.folder;
     request.files = SourceFiles(named, isRecursive);
-    if (request.files.haveFolders() && folder.isEmpty()) {
+    if (!request.files.folders().isEmpty() && folder.isEmpty()) {
         return wrongUsage(CommandLine::tr("say with --to where the results of a folder go"));
     }
     if (request.isMirrored && folder.isEmpty()) {
@@ -92,11 +92,6 @@ Result<> findSources(const Call &call, ConvertRequest &request)
         request.prototype.target.kept->addFile(file.path);
         ++request.count;
     });
-    if (request.count == 0) {
-        return failed(CommandLine::tr("there are no media files in %1; name other files or "
-                                      "folders, or look below them with --recursive")
-                          .arg(call.arguments.join(QStringLiteral(", "))));
-    }
     return {};
 }
 
@@ -216,6 +211,27 @@ Result<ConvertRequest> convertRequest(const Call &call, Noting noting)
     return request;
 }
 
+Result<ConvertRequest> requestForFiles(const Call &call, Noting noting)
+{
+    Result<ConvertRequest> request = convertRequest(call, noting);
+    if (request && request->count == 0) {
+        return failed(CommandLine::tr("there are no media files in %1; name other files or "
+                                      "folders, or look below them with --recursive")
+                          .arg(call.arguments.join(QStringLiteral(", "))));
+    }
+    return request;
+}
+
+Result<QString> fixedTarget(const ConversionJob &job)
+{
+    OutputName name(job.source, job.target, job.settings.extension);
+    if (!name.isComplete()) {
+        return wrongUsage(CommandLine::tr("a name that is fixed before the source is read can't "
+                                          "have {width} or {height}; leave them out"));
+    }
+    return name.choose().map([&name] { return name.path(); });
+}
+
 QCommandLineOption ifExistsOption(bool isFixed)
 {
     return valueOption(ifExists,
@@ -260,4 +276,14 @@ Result<int> jobsOf(const Call &call)
         return wrongUsage(CommandLine::tr("--jobs takes a number from 1 to %1").arg(most));
     }
     return count;
+}
+
+QString quietFlag()
+{
+    return QStringLiteral("quiet");
+}
+
+QCommandLineOption quietOption()
+{
+    return {{QStringLiteral("q"), quietFlag()}, CommandLine::tr("Print only what went wrong.")};
 }

@@ -22,11 +22,20 @@ struct ConvertRequest
 /*! The options that both have. */
 [[nodiscard]] QList<QCommandLineOption> convertOptions();
 [[nodiscard]] Result<ConvertRequest> convertRequest(const Call &call, Noting noting);
+/*! The same; an error if there are no files. */
+[[nodiscard]] Result<ConvertRequest> requestForFiles(const Call &call, Noting noting);
+
+/*! The path of the job's result, chosen now and for good. */
+[[nodiscard]] Result<QString> fixedTarget(const ConversionJob &job);
 
 /*! The option --if-exists and its value; \a usual if it isn't given. Renaming is no choice where
  *  names are \a fixed. */
 [[nodiscard]] QCommandLineOption ifExistsOption(bool isFixed);
 [[nodiscard]] Result<OutputTarget::IfExists> ifExistsOf(const Call &call, bool isFixed);
+
+/*! The option --quiet. */
+[[nodiscard]] QString quietFlag();
+[[nodiscard]] QCommandLineOption quietOption();
 
 /*! The option --jobs and its value; 0 if it isn't given. */
 [[nodiscard]] QCommandLineOption jobsOption();

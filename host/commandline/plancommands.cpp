@@ -11,20 +11,9 @@ namespace {
 
 const QLatin1String indexOption("index");
 
-/*! The target's path, now and for good. */
-Result<QString> fixedTarget(const ConversionJob &job)
-{
-    OutputName name(job.source, job.target, job.settings.extension);
-    if (!name.isComplete()) {
-        return wrongUsage(CommandLine::tr("a plan doesn't read its sources, so a name in it can't "
-                                          "have {width} or {height}"));
-    }
-    return name.choose().map([&name] { return name.path(); });
-}
-
 Result<ExitCode> runPlan(const Call &call)
 {
-    const Result<ConvertRequest> request = convertRequest(call, Noting::AsUsed);
+    const Result<ConvertRequest> request = requestForFiles(call, Noting::AsUsed);
     if (!request) {
         return failed(request);
     }

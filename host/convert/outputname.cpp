@@ -22,6 +22,17 @@ NameTemplate nameOf(const QString &source)
 
 } // namespace
 
+OutputTarget fixedOutput(const QString &path, OutputTarget::IfExists ifExists)
+{
+    const QFileInfo file(path);
+    OutputTarget target;
+    target.folder = file.absolutePath();
+    target.makesFolder = true;
+    target.name = NameTemplate::literal(file.completeBaseName());
+    target.ifExists = ifExists;
+    return target;
+}
+
 QStringList OutputName::pictureFields()
 {
     return {widthField, heightField};

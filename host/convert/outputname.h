@@ -32,6 +32,9 @@ struct OutputTarget
         {}; //!< of the run; names that are given are added. May be null
 };
 
+/*! The target with this very \a path. */
+[[nodiscard]] OutputTarget fixedOutput(const QString &path, OutputTarget::IfExists ifExists);
+
 /*!
  * Gives the output of one conversion its name. Neither the source nor a kept file is ever replaced
  * or taken for an earlier result: where one is in the way, the output gets the next name.
