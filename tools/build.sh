@@ -34,6 +34,7 @@ build() {
 build_packages=(
     g++ cmake ninja-build
     qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev qttools5-dev qttools5-dev-tools libexpected-dev
+    pkgconf libavformat-dev libavcodec-dev libavutil-dev
 )
 run_packages=(
     ffmpeg libqt5svg5 fonts-dejavu-core

@@ -4,22 +4,80 @@
 
 #include <QFileInfo>
 
-MediaProbe::MediaProbe(QObject *parent)
+MediaProbe::MediaProbe(QObject *parent, ProbeHelpers &helpers)
     : QObject(parent)
+    , m_helpers(helpers)
 {
-    connect(&m_tool, &Tool::finished, this,
+    connect(&m_ffprobe, &Tool::finished, this,
             [this](const Result<ToolRun> &run) { Q_EMIT finished(factsFrom(run)); });
+}
+
+MediaProbe::~MediaProbe()
+{
+    abandon();
 }
 
 void MediaProbe::start(const QString &path, const ToolLimits &limits)
 {
+    abandon();
     m_path = path;
-    m_tool.start(
+    m_limits = limits;
+    m_isStopped = false;
+    m_helper = m_helpers.take();
+    connect(m_helper.get(), &ProbeHelper::answered, this, &MediaProbe::takeAnswer);
+    // A helper that hangs leaves ffprobe most of the time.
+    m_helper->ask(path, {limits.unreadBytes, limits.milliseconds / 3});
+}
+
+void MediaProbe::stop()
+{
+    if (m_helper != nullptr) {
+        m_isStopped = true;
+        m_helper->stop();
+    }
+    m_ffprobe.stop();
+}
+
+void MediaProbe::abandon()
+{
+    if (m_helper != nullptr) {
+        m_helper->abandon();
+        releaseHelper();
+    }
+    m_ffprobe.abandon();
+}
+
+void MediaProbe::takeAnswer(const QByteArray &json)
+{
+    const MediaFacts facts = MediaFacts::fromProbe(json);
+    const bool isNonsense = facts.isEmpty() && !json.isEmpty();
+    if (m_isStopped || isNonsense) {
+        m_helper->abandon();
+    }
+    releaseHelper();
+    if (m_isStopped) {
+        Q_EMIT finished(failed({}, Error::Cancelled));
+    } else if (facts.isEmpty()) {
+        askFfprobe();
+    } else {
+        Q_EMIT finished(facts);
+    }
+}
+
+void MediaProbe::releaseHelper()
+{
+    m_helper->disconnect(this);
+    m_helpers.giveBack(std::move(m_helper));
+}
+
+void MediaProbe::askFfprobe()
+{
+    m_ffprobe.start(
         ffprobeCall(QStringList{QStringLiteral("-print_format"), QStringLiteral("json"),
                                 QStringLiteral("-show_format"), QStringLiteral("-show_streams"),
                                 QStringLiteral("-show_chapters")} +
-                    inputArguments(path, demuxersFor(path))),
-        limits);
+                    inputArguments(m_path, demuxersFor(m_path))),
+        {m_limits.unreadBytes, m_limits.milliseconds - m_limits.milliseconds / 3});
 }
 
 Result<MediaFacts> MediaProbe::factsFrom(const Result<ToolRun> &run) const

@@ -71,8 +71,6 @@ Tool::Tool(QObject *parent)
     connect(&m_deadline, &QTimer::timeout, this, [this] { exceed(ToolRun::OfTime); });
     m_startFailure.setSingleShot(true);
     connect(&m_startFailure, &QTimer::timeout, this, [this] { finish(failed(notStartedText())); });
-
-    m_process.setStandardInputFile(QProcess::nullDevice());
 }
 
 Tool::~Tool()
@@ -95,7 +93,9 @@ void Tool::start(const ToolCall &call, const ToolLimits &limits)
     }
     m_process.setProcessEnvironment(environment);
     m_group.emplace();
-    m_process.start(call.program, call.arguments, QIODevice::ReadOnly);
+    m_process.setStandardInputFile(call.takesInput ? QString() : QProcess::nullDevice());
+    m_process.start(call.program, call.arguments,
+                    call.takesInput ? QIODevice::ReadWrite : QIODevice::ReadOnly);
     if (m_process.processId() != 0) {
         m_group->watch(m_process.processId());
     }
@@ -121,6 +121,13 @@ void Tool::abandon()
     m_group.reset();
     m_process.kill();
     m_process.waitForFinished();
+}
+
+void Tool::write(const QByteArray &input)
+{
+    if (m_process.isWritable()) {
+        m_process.write(input);
+    }
 }
 
 void Tool::Process::setupChildProcess()

@@ -41,9 +41,9 @@ public:
 [[nodiscard]] Result<QByteArray> cleanOutput(const Result<ToolRun> &run);
 
 /*!
- * Runs ffmpeg or ffprobe asynchronously, any number of times, one run after another. Everything
- * that the program started ends with it, at the latest with this object. Ctrl-C in the terminal
- * only reaches the host, which then stops the tool.
+ * Runs ffmpeg or another tool asynchronously, any number of times, one run after another.
+ * Everything that the program started ends with it, at the latest with this object. Ctrl-C in the
+ * terminal only reaches the host, which then stops the tool.
  */
 class Tool : public QObject
 {
@@ -62,6 +62,10 @@ public:
     /*! Kills the program and everything it started; finished() does not follow. */
     void abandon();
 
+    /*! Whether a run has begun and not finished. */
+    [[nodiscard]] bool isRunning() const { return m_group.has_value(); }
+    /*! Sends \a input to a program that takes input. Does nothing if it couldn't start. */
+    void write(const QByteArray &input);
     /*! What the program has printed since the last call. */
     [[nodiscard]] QByteArray readOutput() { return m_process.readAllStandardOutput(); }
 

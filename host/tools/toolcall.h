@@ -4,12 +4,13 @@
 #include <QString>
 #include <QStringList>
 
-/*! A program on the PATH and its arguments. */
+/*! A program, by its path or on the PATH, and its arguments. */
 struct ToolCall
 {
     QString program;
     QStringList arguments;
     QString report = {}; //!< the file that ffmpeg writes its whole log to; empty: none
+    bool takesInput = false; //!< from Tool::write(); else its standard input is empty
 };
 
 /*! ffmpeg with \a arguments, printing only errors and reading no input from the terminal. */

@@ -5,12 +5,23 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /*! Small clips, made with ffmpeg and probed with ffprobe; each call waits for the tool. */
 namespace MediaClips {
 
 /*! Runs ffmpeg with these space-separated arguments, and the file to write. */
 bool make(const QString &path, const QString &arguments);
+
+/*! A file name that says its kind, and the arguments for make(). */
+struct Kind
+{
+    QString name;
+    QString arguments;
+};
+/*! The kinds of media files that ffmpeg writes and converters meet; ffmpegs differ in what they can
+ *  write. */
+QVector<Kind> kinds();
 
 /*! A video with audio: 320x240, 25 fps, h264; a sine, aac 44100 Hz mono. */
 bool makeFilm(const QString &path, int seconds = 1);
