@@ -25,6 +25,22 @@ QString identityOf(const QString &program)
                          : QString();
 }
 
+/*! The running query of each ffmpeg, by identityOf(). */
+QHash<QString, QWeakPointer<Tool>> &runningQueries()
+{
+    static QHash<QString, QWeakPointer<Tool>> queries;
+    return queries;
+}
+
+/*! Ends with the last one who asked; that may be while it tells them the answer. */
+QSharedPointer<Tool> newQuery()
+{
+    return QSharedPointer<Tool>(new Tool, [](Tool *tool) {
+        tool->abandon();
+        tool->deleteLater();
+    });
+}
+
 /*! Far more than any ffmpeg needs to print a list. */
 constexpr ToolLimits listingLimits{1024 * 1024, 60000};
 
@@ -33,7 +49,6 @@ constexpr ToolLimits listingLimits{1024 * 1024, 60000};
 EncoderList::EncoderList(QObject *parent)
     : QObject(parent)
 {
-    connect(&m_tool, &Tool::finished, this, &EncoderList::take);
     m_answer.setSingleShot(true);
     connect(&m_answer, &QTimer::timeout, this, [this] {
         if (m_isStopped) {
@@ -47,23 +62,45 @@ EncoderList::EncoderList(QObject *parent)
 void EncoderList::start()
 {
     const ToolCall call = ffmpegCall({QStringLiteral("-encoders")});
+    forgetQuery();
+    m_answer.stop();
     m_isStopped = false;
     m_program = identityOf(call.program);
     if (knownLists().contains(m_program)) {
         m_answer.start(0);
-    } else {
-        m_tool.start(call, listingLimits);
+        return;
     }
+    QWeakPointer<Tool> &running = runningQueries()[m_program];
+    m_query = running.toStrongRef();
+    if (m_query.isNull()) {
+        m_query = newQuery();
+        running = m_query;
+        m_query->start(call, listingLimits);
+    }
+    connect(m_query.get(), &Tool::finished, this, &EncoderList::take);
 }
 
 void EncoderList::stop()
 {
+    if (!m_query.isNull()) {
+        forgetQuery();
+        m_answer.start(0);
+    }
     m_isStopped = true;
-    m_tool.stop();
+}
+
+void EncoderList::forgetQuery()
+{
+    if (!m_query.isNull()) {
+        m_query->disconnect(this);
+        m_query.reset();
+    }
 }
 
 void EncoderList::take(const Result<ToolRun> &run)
 {
+    runningQueries().remove(m_program);
+    forgetQuery();
     if (!run) {
         Q_EMIT finished(tl::make_unexpected(run.error()));
         return;

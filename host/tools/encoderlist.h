@@ -4,10 +4,11 @@
 #include "host/tools/tool.h"
 
 #include <QSet>
+#include <QSharedPointer>
 
 /*!
- * Finds out which encoders the ffmpeg on the PATH has. The list is cached until the process ends or
- * the program's file changes.
+ * Finds out which encoders the ffmpeg on the PATH has. Those who ask at the same time share a
+ * query; its list is cached until the process ends or the program's file changes.
  */
 class EncoderList : public QObject
 {
@@ -27,10 +28,11 @@ Q_SIGNALS:
     void finished(const Result<QSet<QString>> &encoders);
 
 private:
+    void forgetQuery();
     void take(const Result<ToolRun> &run);
 
-    Tool m_tool;
-    QTimer m_answer; // delivers a cached list from the event loop
+    QSharedPointer<Tool> m_query; // while it runs
+    QTimer m_answer;              // delivers what is known already from the event loop
     QString m_program;
     bool m_isStopped = false;
 };

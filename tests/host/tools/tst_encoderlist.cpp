@@ -2,6 +2,8 @@
 #include "tests/support/mediaclips.h"
 #include "tests/support/messagelog.h"
 #include "tests/support/patience.h"
+#include "tests/support/runningprocess.h"
+#include "tests/support/testfiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -23,6 +25,9 @@ private Q_SLOTS:
     void aListingWithoutARuleHasNoEncoders();
     void theFfmpegOnThePathIsQueried();
     void anFfmpegIsQueriedOnce();
+    void thoseWhoAskAtTheSameTimeShareAQuery();
+    void aSharedQueryGoesOnWhenOneStops();
+    void aQueryEndsWithTheLastWhoAsked();
     void anotherFfmpegIsQueriedAgain();
     void aFailedListingIsAnError_data();
     void aFailedListingIsAnError();
@@ -119,6 +124,57 @@ void TestEncoderList::anFfmpegIsQueriedOnce()
     QCOMPARE(namesOf(ask()), QStringList{QStringLiteral("one")});
     QCOMPARE(namesOf(ask()), QStringList{QStringLiteral("one")});
     QCOMPARE(timesAsked(), 1);
+}
+
+void TestEncoderList::thoseWhoAskAtTheSameTimeShareAQuery()
+{
+    standIn("sleep 0.2; " + listing("one"));
+    EncoderList lists[3];
+    QVector<Encoders> answers;
+    for (EncoderList &list : lists) {
+        connect(&list, &EncoderList::finished, this,
+                [&answers](const Encoders &encoders) { answers.append(encoders); });
+        list.start();
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(answers.size(), 3, patience);
+    for (const Encoders &answer : qAsConst(answers)) {
+        QCOMPARE(namesOf(answer), QStringList{QStringLiteral("one")});
+    }
+    QCOMPARE(timesAsked(), 1);
+}
+
+void TestEncoderList::aSharedQueryGoesOnWhenOneStops()
+{
+    standIn("sleep 0.2; " + listing("one"));
+    EncoderList stopped;
+    std::optional<Encoders> cancelled;
+    connect(&stopped, &EncoderList::finished, this,
+            [&cancelled](const Encoders &encoders) { cancelled = encoders; });
+    stopped.start();
+    EncoderList other;
+    std::optional<Encoders> answer;
+    connect(&other, &EncoderList::finished, this,
+            [&answer](const Encoders &encoders) { answer = encoders; });
+    other.start();
+    stopped.stop();
+    QTRY_VERIFY_WITH_TIMEOUT(cancelled && answer, patience);
+    QCOMPARE(cancelled->error().kind, Error::Cancelled);
+    QCOMPARE(namesOf(*answer), QStringList{QStringLiteral("one")});
+    QCOMPARE(timesAsked(), 1);
+}
+
+void TestEncoderList::aQueryEndsWithTheLastWhoAsked()
+{
+    standIn("echo $$ > \"${0%/*}/id\"; exec sleep 600");
+    std::optional<EncoderList> list;
+    list.emplace().start();
+    const auto process = [this] {
+        return contentOf(m_folder->filePath(QStringLiteral("id"))).trimmed().toLongLong();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(process() != 0, patience);
+    QVERIFY(isRunning(process()));
+    list.reset();
+    QVERIFY(!isRunning(process()));
 }
 
 void TestEncoderList::anotherFfmpegIsQueriedAgain()
