@@ -2,9 +2,11 @@
 
 Batch::Batch(const NextJob &next, int sideBySide, BatchReport &report)
     : m_next(next)
-    , m_sideBySide(sideBySide)
     , m_report(report)
 {
+    if (sideBySide > 0) {
+        m_queue.setMaxRunning(sideBySide);
+    }
     connect(&m_interrupt, &Interrupt::caught, this, &Batch::stop);
     connect(&m_queue, &ConversionQueue::progressed, this,
             [this](int number, const Progress &progress) {
@@ -43,11 +45,10 @@ void Batch::wake()
 
 void Batch::startJobs()
 {
-    while (!m_isExhausted && int(m_running.size()) < m_queue.maxRunning()) {
+    while (!m_isExhausted && m_queue.hasRoom()) {
         const std::optional<BatchJob> job = m_next();
         m_isExhausted = !job;
         if (job) {
-            m_queue.setMaxRunning(m_sideBySide > 0 ? m_sideBySide : 1);
             m_running.insert({job->number, *job});
             m_queue.add(job->number, [conversion = job->conversion] { return conversion; });
             m_report.started(*job);

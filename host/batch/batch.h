@@ -61,7 +61,8 @@ public:
      *  100,000 jobs needn't be in memory at once. */
     using NextJob = std::function<std::optional<BatchJob>()>;
 
-    /*! At most \a sideBySide jobs run at a time; 0: as many as suit their codecs. */
+    /*! At most \a sideBySide jobs run at a time; 0: as many as keep
+     *  the cores busy. */
     Batch(const NextJob &next, int sideBySide, BatchReport &report);
 
     /*! Returns when all jobs have ended. */
@@ -77,7 +78,6 @@ private:
     void stop();
 
     const NextJob m_next;
-    const int m_sideBySide;
     BatchReport &m_report;
     BatchSummary m_summary;
     std::map<int, BatchJob> m_running;

@@ -106,6 +106,11 @@ public:
         hasPalette = true;
         return *this;
     }
+    Video keepingBusy(int cores)
+    {
+        busyCores = cores;
+        return *this;
+    }
     Video inFrame(const QSize &size, Ratio pixelAspect, Ratio rate, const char *format)
     {
         frames.append({size, pixelAspect, rate, QLatin1String(format)});
@@ -189,24 +194,24 @@ QVector<VideoCodec> makeVideoCodecs()
                                 {50, 1}};
     return {
         Video("h264").writtenBy("libx264").with("preset", "medium").goodAt("crf", 21.5, -3, 0)
-            .takesLevelAs("level", "%1").inPixels("yuv420p").atAnyTime(),
+            .takesLevelAs("level", "%1").inPixels("yuv420p").atAnyTime().keepingBusy(8),
         Video("hevc").writtenBy("libx265").with("preset", "veryfast")
             .with("x265-params", "log-level=error").goodAt("crf", 23, -3, 0)
             .takesLevelAs("x265-params", "log-level=error:high-tier=0:level-idc=%1")
-            .inPixels("yuv420p").atAnyTime().inDeepPixels("yuv420p10le"),
+            .inPixels("yuv420p").atAnyTime().keepingBusy(8).inDeepPixels("yuv420p10le"),
         Video("vp8").writtenBy("libvpx").with("deadline", "good").with("cpu-used", "4")
             .goodAt("crf", 10, -3, 4).keepsBelow(Ceiling::Targeted).orElse("b", "8M")
-            .inPixels("yuv420p").atAnyTime().inAlphaPixels("yuva420p", flatAlpha),
+            .inPixels("yuv420p").atAnyTime().keepingBusy(2).inAlphaPixels("yuva420p", flatAlpha),
         Video("vp9").writtenBy("libvpx-vp9").with("deadline", "good").with("cpu-used", "5")
             .with("row-mt", "1").with("max-intra-rate", "200")
             .goodAt("crf", 31, -4, 0).keepsBelow(Ceiling::Targeted)
-            .orElse("b", "0").inPixels("yuv420p").atAnyTime().inDeepPixels("yuv420p10le")
-            .inAlphaPixels("yuva420p", flatAlpha),
+            .orElse("b", "0").inPixels("yuv420p").atAnyTime().keepingBusy(4)
+            .inDeepPixels("yuv420p10le").inAlphaPixels("yuva420p", flatAlpha),
         Video("av1").writtenBy("libsvtav1").with("preset", "9").goodAt("crf", 32, -5, 1)
             .keepsBelow(Ceiling::Capped)
             .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1")
             .goodAt("crf", 30, -5, 0).keepsBelow(Ceiling::Targeted).orElse("b", "0")
-            .inPixels("yuv420p").atAnyTime().inDeepPixels("yuv420p10le"),
+            .inPixels("yuv420p").atAnyTime().keepingBusy(8).inDeepPixels("yuv420p10le"),
         Video("mpeg4").writtenLikeMpegBy("mpeg4").inPixels("yuv420p"),
         Video("mpeg2video").writtenLikeMpegBy("mpeg2video").inPixels("yuv420p").atRates(mpeg)
             .keepingFieldsWith("+ildct+ilme"),
@@ -221,10 +226,10 @@ QVector<VideoCodec> makeVideoCodecs()
         Video("mjpeg").writtenLikeMpegBy("mjpeg").inPixels("yuvj420p").atAnyTime()
             .inOwnColour("bt470bg", "pc"),
         Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate().atAnyTime()
-            .taggedByFrames()
+            .taggedByFrames().keepingBusy(8)
             .inDeepPixels("yuv422p10le").inAlphaPixels("yuva444p10le"),
         Video("dnxhd").writtenBy("dnxhd").with("profile", "dnxhr_sq").inPixels("yuv422p")
-            .withoutBitrate().atAnyTime()
+            .withoutBitrate().atAnyTime().keepingBusy(8)
             .inDeepPixels("yuv422p10le", {{QStringLiteral("profile"), QStringLiteral("dnxhr_hqx")}}),
         Video("gif").writtenBy("gif").withoutBitrate().atRates(gif).inPalette(),
         Video("dvvideo").writtenBy("dvvideo").withoutBitrate().keepingFieldsWith("+ildct")

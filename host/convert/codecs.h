@@ -67,6 +67,7 @@ struct VideoCodec
     bool isBottomFieldFirst = false; //!< and never the other way round
     bool hasPalette = false;         //!< its colours are few, and chosen for each film
     QVector<Frame> frames = {};      //!< the only ones allowed
+    int busyCores = 1;               //!< that its encoder keeps busy with a film in HD
 
     /*! The encoders' names for ffmpeg, the best first. */
     [[nodiscard]] QStringList encoderNames() const;

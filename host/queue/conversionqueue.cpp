@@ -1,5 +1,9 @@
 #include "host/queue/conversionqueue.h"
 
+#include "host/queue/corestobusy.h"
+
+#include <QThread>
+
 #include <algorithm>
 
 void ConversionQueue::add(int id, const JobSource &job)
@@ -13,12 +17,22 @@ void ConversionQueue::start()
     // A slot connected to started() may change the queue, so each round searches again.
     for (;;) {
         const auto next = std::find_if_not(m_jobs.begin(), m_jobs.end(), isRunning);
-        if (next == m_jobs.end() ||
-            std::count_if(m_jobs.begin(), m_jobs.end(), isRunning) >= m_maxRunning) {
+        if (next == m_jobs.end() || !hasRoom()) {
             return;
         }
         run(next->first, next->second);
     }
+}
+
+bool ConversionQueue::hasRoom() const
+{
+    int running = 0;
+    int busyCores = 0;
+    for (const auto &[id, job] : m_jobs) {
+        running += job.conversion != nullptr ? 1 : 0;
+        busyCores += job.cores;
+    }
+    return m_maxRunning ? running < *m_maxRunning : busyCores < QThread::idealThreadCount();
 }
 
 void ConversionQueue::cancel(int id)
@@ -63,8 +77,10 @@ void ConversionQueue::stop()
 
 void ConversionQueue::run(int id, Job &job)
 {
-    auto *conversion = new Conversion(job.source(), this);
+    const ConversionJob wanted = job.source();
+    auto *conversion = new Conversion(wanted, this);
     job.conversion = conversion;
+    job.cores = coresToBusy(wanted.settings);
     connect(conversion, &Conversion::progressed, this,
             [this, id](const Progress &progress) { Q_EMIT progressed(id, progress); });
     connect(conversion, &Conversion::logged, this,

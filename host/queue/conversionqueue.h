@@ -5,10 +5,11 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 
 /*!
- * Runs conversions in the order of their ids, one at a time unless setMaxRunning() allows more. A
- * failed conversion doesn't stop the others.
+ * Starts conversions in the order of their ids, side by side as long as they leave processor cores
+ * idle. A failed conversion doesn't stop the others.
  */
 class ConversionQueue : public QObject
 {
@@ -20,9 +21,10 @@ public:
 
     using QObject::QObject;
 
-    /*! How many jobs may run at a time. Running ones are not stopped. */
+    /*! How many jobs run at a time, whatever cores they keep busy. Running ones are not stopped. */
     void setMaxRunning(int count) { m_maxRunning = count; }
-    [[nodiscard]] int maxRunning() const { return m_maxRunning; }
+    /*! Whether another job would run now. */
+    [[nodiscard]] bool hasRoom() const;
 
     /*! Adds a waiting job. \a job is called when its turn comes. \a id is unique in the queue and
      *  identifies the job in the signals. */
@@ -53,13 +55,14 @@ private:
     {
         JobSource source;
         Conversion *conversion = nullptr; //!< null while it waits
+        int cores = 0;                    //!< that it keeps busy
     };
 
     void run(int id, Job &job);
     void finish(int id, const Result<ConversionOutcome> &outcome);
 
     std::map<int, Job> m_jobs;
-    int m_maxRunning = 1;
+    std::optional<int> m_maxRunning;
 };
 
 #endif

@@ -75,9 +75,10 @@ void TestConvertCommand::oneBadFileDoesNotStopTheOthers()
     QVERIFY(writeFile(path(QStringLiteral("bad.avi")), "no media"));
     const CommandRun result = run("convert missing.mp4 bad.avi film.mp4 --preset V_MKV_1");
     QCOMPARE(result.exitCode, 1);
-    QVERIFY(result.err.startsWith(
-        QStringLiteral("vexconvert: missing.mp4: no such file; check its name\n"
-                       "vexconvert: bad.avi: cannot be read as media (")));
+    // Side by side, either may be the first to fail.
+    QVERIFY(result.err.contains(
+        QStringLiteral("vexconvert: missing.mp4: no such file; check its name\n")));
+    QVERIFY(result.err.contains(QStringLiteral("vexconvert: bad.avi: cannot be read as media (")));
     QCOMPARE(result.err.count(QLatin1Char('\n')), 2);
     QVERIFY(result.out.endsWith(QStringLiteral("1 of 3 files converted\n")));
     QCOMPARE(everything(), words("bad.avi film.mkv film.mp4"));
@@ -148,7 +149,7 @@ void TestConvertCommand::interruptingLeavesNothing()
 
     GroupProcess process;
     start(process, QStringList{QStringLiteral("--config"), config()} +
-                       words("convert long.mp4 film.mp4 --preset V_MKV_1"));
+                       words("convert long.mp4 --preset V_MKV_1"));
     QByteArray result;
     while (!result.contains("long.mp4: ") && process.waitForReadyRead(patience)) {
         result += process.readAllStandardOutput();
@@ -158,7 +159,7 @@ void TestConvertCommand::interruptingLeavesNothing()
     const CommandRun ended = CommandRun::of(process);
     QCOMPARE(ended.exitCode, 1);
     QCOMPARE(ended.err, QStringLiteral("vexconvert: long.mp4: stopped; nothing was written\n"));
-    QCOMPARE(ended.out, QStringLiteral("0 of 2 files converted\n"));
+    QCOMPARE(ended.out, QString());
     QCOMPARE(everything(), words("film.mp4 long.mp4"));
     QCOMPARE(contentOf(path(QStringLiteral("long.mp4"))), before);
 }
@@ -194,7 +195,7 @@ void TestConvertCommand::withoutFfmpegItSaysWhatToInstall()
     m_environment.insert(QStringLiteral("PATH"), m_folder->path());
     const CommandRun result = run("convert film.mp4 --preset V_MKV_1");
     QCOMPARE(result.exitCode, 1);
-    QCOMPARE(result.err, QStringLiteral("vexconvert: film.mp4: ffprobe is not on the PATH; install "
+    QCOMPARE(result.err, QStringLiteral("vexconvert: film.mp4: ffmpeg is not on the PATH; install "
                                         "ffmpeg (Debian: apt-get install ffmpeg) and try again\n"));
     QCOMPARE(run("formats").exitCode, 0);
 }

@@ -1,9 +1,12 @@
 #include "host/queue/conversionqueue.h"
+#include "host/queue/corestobusy.h"
 
 #include "tests/support/mediaclips.h"
 #include "tests/support/patience.h"
+#include "tests/support/testfiles.h"
 
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtTest>
 
 #include <memory>
@@ -19,7 +22,7 @@ private Q_SLOTS:
     void cleanup();
 
     void nothingRunsBeforeTheStart();
-    void jobsRunOneAtATimeInTheOrderOfTheirIds();
+    void jobsRunInTheOrderOfTheirIds();
     void aFailureDoesNotStopTheOthers();
     void progressNamesItsJob();
     void aJobIsRequestedOnlyWhenItsTurnComes();
@@ -33,6 +36,10 @@ private Q_SLOTS:
     void aJobRemovedBeforeItFailsEmitsNothing();
     void stoppingCancelsRunningJobsAndRemovesWaitingOnes();
     void noMoreJobsRunThanAllowed();
+    void jobsStartWhileCoresAreIdle_data();
+    void jobsStartWhileCoresAreIdle();
+    void jobsSideBySideKeepEachOthersResults_data();
+    void jobsSideBySideKeepEachOthersResults();
     void destroyingTheQueueLeavesNothing();
     void unknownIdsChangeNothing();
 
@@ -74,6 +81,7 @@ void TestConversionQueue::init()
 
     m_events.clear();
     m_queue = std::make_unique<ConversionQueue>();
+    m_queue->setMaxRunning(1);
     connect(m_queue.get(), &ConversionQueue::started, this,
             [this](int id) { m_events << QStringLiteral("started %1").arg(id); });
     connect(m_queue.get(), &ConversionQueue::finished, this,
@@ -109,7 +117,7 @@ void TestConversionQueue::nothingRunsBeforeTheStart()
     QVERIFY(!m_queue->isEmpty());
 }
 
-void TestConversionQueue::jobsRunOneAtATimeInTheOrderOfTheirIds()
+void TestConversionQueue::jobsRunInTheOrderOfTheirIds()
 {
     add(3, "song.wav");
     add(1, "song.wav");
@@ -268,6 +276,81 @@ void TestConversionQueue::noMoreJobsRunThanAllowed()
     m_events.sort();
     QCOMPARE(m_events,
              events("cancelled 1, cancelled 3, finished 2, started 1, started 2, started 3"));
+}
+
+void TestConversionQueue::jobsStartWhileCoresAreIdle_data()
+{
+    QTest::addColumn<QString>("extension");
+    QTest::addColumn<QString>("videoCodec");
+    QTest::addColumn<int>("cores");
+    QTest::newRow("audio") << QStringLiteral("mp3") << QString() << 1;
+    QTest::newRow("an encoder with a single thread")
+        << QStringLiteral("ogv") << QStringLiteral("theora") << 1;
+    QTest::newRow("an encoder with many threads")
+        << QStringLiteral("mkv") << QStringLiteral("hevc") << 8;
+    QTest::newRow("the container's usual encoder") << QStringLiteral("mp4") << QString() << 8;
+}
+
+void TestConversionQueue::jobsStartWhileCoresAreIdle()
+{
+    QFETCH(QString, extension);
+    QFETCH(QString, videoCodec);
+    QFETCH(int, cores);
+    ConversionJob wanted = job("hanging.wav")();
+    wanted.settings.extension = extension;
+    wanted.settings.hasVideo = extension != QLatin1String("mp3");
+    wanted.settings.videoCodec = videoCodec;
+    QCOMPARE(coresToBusy(wanted.settings), cores);
+
+    ConversionQueue queue;
+    QSignalSpy started(&queue, &ConversionQueue::started);
+    const int most = (QThread::idealThreadCount() + cores - 1) / cores;
+    for (int id = 0; id <= most; ++id) {
+        queue.add(id, [wanted] { return wanted; });
+    }
+    queue.start();
+    QCOMPARE(started.size(), most);
+}
+
+void TestConversionQueue::jobsSideBySideKeepEachOthersResults_data()
+{
+    QTest::addColumn<bool>("overwrite");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("each takes a free name")
+        << false << events("song (2).mp3, song (3).mp3, song.mp3");
+    QTest::newRow("one replaces what was there") << true << events("song (2).mp3, song.mp3");
+}
+
+void TestConversionQueue::jobsSideBySideKeepEachOthersResults()
+{
+    QFETCH(bool, overwrite);
+    QFETCH(QStringList, expected);
+    const QDir results(m_folder->filePath(QStringLiteral("results")));
+    QVERIFY(results.mkpath(QStringLiteral("other")));
+    QVERIFY(writeFile(results.filePath(QStringLiteral("song.mp3")), "old"));
+    QVERIFY(QFile::copy(m_folder->filePath(QStringLiteral("song.wav")),
+                        results.filePath(QStringLiteral("other/song.wav"))));
+    m_queue->setMaxRunning(2);
+    const auto kept = std::make_shared<KeptFiles>();
+    int id = 0;
+    for (const QString &source : {m_folder->filePath(QStringLiteral("song.wav")),
+                                  results.filePath(QStringLiteral("other/song.wav"))}) {
+        ConversionJob wanted = job("song.wav")();
+        wanted.source = source;
+        wanted.target.folder = results.path();
+        wanted.target.ifExists =
+            overwrite ? OutputTarget::IfExists::Overwrite : OutputTarget::IfExists::Rename;
+        wanted.target.kept = kept;
+        m_queue->add(++id, [wanted] { return wanted; });
+    }
+    m_queue->start();
+    QCOMPARE(m_events, events("started 1, started 2"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(results.entryList({QStringLiteral("*.mp3")}), expected);
+    for (const QString &name : qAsConst(expected)) {
+        const bool isOld = !overwrite && name == QLatin1String("song.mp3");
+        QCOMPARE(contentOf(results.filePath(name)) == "old", isOld);
+    }
 }
 
 void TestConversionQueue::destroyingTheQueueLeavesNothing()
