@@ -3,82 +3,110 @@
 #include "host/media/mediainput.h"
 
 #include <QFile>
+#include <QThread>
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+template <typename Requests>
+void removeById(Requests &requests, int id)
+{
+    requests.erase(std::remove_if(requests.begin(), requests.end(),
+                                  [id](const auto &request) { return request.id == id; }),
+                   requests.end());
+}
+
+} // namespace
 
 Inspector::Inspector(QObject *parent)
     : QObject(parent)
 {
-    connect(&m_probe, &MediaProbe::finished, this, &Inspector::takeFacts);
+    for (int i = 0; i < QThread::idealThreadCount(); ++i) {
+        Reader *reader = m_readers.emplace_back(std::make_unique<Reader>()).get();
+        connect(&reader->probe, &MediaProbe::finished, this,
+                [this, reader](const Result<MediaFacts> &facts) {
+                    const int id = std::exchange(reader->id, 0);
+                    readNext();
+                    Q_EMIT read(id, facts);
+                });
+    }
     connect(&m_ffmpeg, &Tool::finished, this, &Inspector::takeThumbnail);
 }
 
 void Inspector::inspect(int id, const QString &path)
 {
-    m_requests.enqueue({id, path});
-    if (m_requests.size() == 1) {
-        readNext();
+    m_unread.enqueue({id, path});
+    readNext();
+}
+
+void Inspector::requestThumbnail(int id, const QString &path, const MediaFacts &facts)
+{
+    const VideoTrack *track = facts.video() == nullptr ? facts.cover() : facts.video();
+    if (track == nullptr || !m_thumbnails || id == m_pictured) {
+        return;
     }
+    // The first frames of a video are often black.
+    const double moment = facts.video() == nullptr ? 0 : facts.duration / 10;
+    removeById(m_pictures, id);
+    m_pictures.append(
+        {id,
+         QStringList{QStringLiteral("-y"), QStringLiteral("-ss"), QString::number(moment, 'f', 3)} +
+             inputArguments(path, facts.container) +
+             QStringList{QStringLiteral("-map"), QStringLiteral("0:%1").arg(track->index),
+                         QStringLiteral("-frames:v"), QStringLiteral("1"), QStringLiteral("-vf"),
+                         QStringLiteral("scale=256:-2"),
+                         QStringLiteral("-update"), // else "%d" in the path is a number
+                         QStringLiteral("1"), fileArgument(thumbnailFile(id))}});
+    makeNextThumbnail();
 }
 
 void Inspector::forget(int id)
 {
-    const auto found = std::find_if(m_requests.begin(), m_requests.end(),
-                                    [id](const Request &request) { return request.id == id; });
-    if (found == m_requests.end()) {
-        return;
+    removeById(m_unread, id);
+    removeById(m_pictures, id);
+    // A hanging tool must not block the other files.
+    for (const std::unique_ptr<Reader> &reader : m_readers) {
+        if (reader->id == id) {
+            reader->probe.abandon();
+            reader->id = 0;
+            readNext();
+        }
     }
-    const bool isBeingRead = found == m_requests.begin();
-    m_requests.erase(found);
-    if (isBeingRead) {
-        // A hanging tool must not block the other files.
-        m_probe.abandon();
+    if (m_pictured == id) {
         m_ffmpeg.abandon();
-        readNext();
+        m_pictured = 0;
+        makeNextThumbnail();
     }
 }
 
 void Inspector::readNext()
 {
-    if (!m_requests.isEmpty()) {
-        m_probe.start(m_requests.head().path);
+    for (const std::unique_ptr<Reader> &reader : m_readers) {
+        if (reader->id == 0 && !m_unread.isEmpty()) {
+            const File file = m_unread.dequeue();
+            reader->id = file.id;
+            reader->probe.start(file.path);
+        }
     }
+    makeNextThumbnail();
 }
 
-void Inspector::takeFacts(const Result<MediaFacts> &facts)
+void Inspector::makeNextThumbnail()
 {
-    const Request request = m_requests.head();
-    if (m_thumbnails && facts && (facts->video() != nullptr || facts->cover() != nullptr)) {
-        makeThumbnail(request, *facts);
-    } else {
-        m_requests.dequeue();
-        readNext();
+    if (m_pictured == 0 && m_unread.isEmpty() && !m_pictures.isEmpty()) {
+        const Picture picture = m_pictures.takeLast();
+        m_pictured = picture.id;
+        m_ffmpeg.start(ffmpegCall(picture.arguments), probeLimits);
     }
-    Q_EMIT read(request.id, facts);
-}
-
-void Inspector::makeThumbnail(const Request &request, const MediaFacts &facts)
-{
-    // The first frames of a video are often black.
-    const double moment = facts.video() == nullptr ? 0 : facts.duration / 10;
-    const VideoTrack *track = facts.video() == nullptr ? facts.cover() : facts.video();
-    m_ffmpeg.start(
-        ffmpegCall(QStringList{QStringLiteral("-y"), QStringLiteral("-ss"),
-                               QString::number(moment, 'f', 3)} +
-                   inputArguments(request.path, facts.container) +
-                   QStringList{QStringLiteral("-map"), QStringLiteral("0:%1").arg(track->index),
-                               QStringLiteral("-frames:v"), QStringLiteral("1"),
-                               QStringLiteral("-vf"), QStringLiteral("scale=256:-2"),
-                               QStringLiteral("-update"), // else "%d" in the path is a number
-                               QStringLiteral("1"), fileArgument(thumbnailFile(request.id))}),
-        probeLimits);
 }
 
 void Inspector::takeThumbnail(const Result<ToolRun> &run)
 {
-    const int id = m_requests.dequeue().id;
-    readNext();
+    const int id = std::exchange(m_pictured, 0);
+    makeNextThumbnail();
     if (cleanOutput(run) && QFile::exists(thumbnailFile(id))) {
         Q_EMIT thumbnailReady(id, QUrl::fromLocalFile(thumbnailFile(id)).toString());
     }

@@ -107,6 +107,13 @@ void Page::takeFacts(int taskId, const Result<MediaFacts> &facts)
     });
 }
 
+void Page::requestThumbnail(int taskId)
+{
+    if (const Task *task = m_tasks.find(taskId)) {
+        m_inspector.requestThumbnail(taskId, task->source, task->facts);
+    }
+}
+
 void Page::remove(int taskId)
 {
     m_inspector.forget(taskId);

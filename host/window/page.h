@@ -10,7 +10,7 @@
 
 /*!
  * A page of the window: its list of files, its preset, its output folder, and its conversions,
- * which run one at a time. A failed task keeps its error, and the next one starts.
+ * which run side by side while cores are idle. A failed task keeps its error, and the others go on.
  */
 class Page : public QObject
 {
@@ -43,6 +43,8 @@ public:
     void addPaths(const QStringList &paths);
     /*! A running task is stopped first. */
     Q_INVOKABLE void remove(int taskId);
+    /*! Has the thumbnail made, if the file has a picture. Meant for the rows in sight. */
+    Q_INVOKABLE void requestThumbnail(int taskId);
     Q_INVOKABLE void convert(int taskId);
     /*! Converts all files that aren't converted yet. */
     Q_INVOKABLE void convertAll();

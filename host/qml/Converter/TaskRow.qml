@@ -36,6 +36,11 @@ Rectangle {
     readonly property bool isQueued: root.taskState === Task.Waiting
                                      || root.taskState === Task.Running
 
+    property bool isComplete: false
+    // The details are there once the file has been read.
+    readonly property bool lacksThumbnail: root.isComplete && root.details !== ""
+                                           && root.thumbnail === ""
+
     signal formatClicked(Item button)
     signal pressed()
 
@@ -67,6 +72,13 @@ Rectangle {
     Keys.onEnterPressed: root.activate()
     Keys.onSpacePressed: root.activate()
     Keys.onDeletePressed: root.page.remove(root.taskId)
+
+    Component.onCompleted: root.isComplete = true
+    onLacksThumbnailChanged: {
+        if (root.lacksThumbnail) {
+            root.page.requestThumbnail(root.taskId)
+        }
+    }
 
     HoverHandler {
         id: hover

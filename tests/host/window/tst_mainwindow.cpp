@@ -42,6 +42,7 @@ private Q_SLOTS:
     void aSecondInstancePassesItsFiles();
     void aSecondInstanceRaisesTheWindow();
     void aFolderWithoutMediaIsReported();
+    void theFilesInSightGetThumbnails();
     void aResultIsShownInTheFileManager();
     void aPresetInUseIsNotDeleted();
     void closingTheWindowStopsItsConversion();
@@ -166,6 +167,22 @@ void TestMainWindow::aFolderWithoutMediaIsReported()
             .arg(m_files->path());
     QTRY_VERIFY_WITH_TIMEOUT(!itemsNamed(m_window->contentItem(), line).isEmpty(), patience);
     QCOMPARE(takeWarnings(), line);
+}
+
+void TestMainWindow::theFilesInSightGetThumbnails()
+{
+    QVERIFY(MediaClips::makeFilm(path("film.mp4")));
+    constexpr int films = 60;
+    for (int i = 0; i < films; ++i) {
+        m_main->converter().addPaths({path("film.mp4")});
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!tasks().constFirst().thumbnail.isEmpty(), patience);
+    QVERIFY(tasks().constLast().thumbnail.isEmpty());
+    const int last = tasks().constLast().id;
+    while (tasks().constFirst().id != last) {
+        m_main->converter().remove(tasks().constFirst().id);
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!tasks().constFirst().thumbnail.isEmpty(), patience);
 }
 
 void TestMainWindow::aResultIsShownInTheFileManager()

@@ -1,4 +1,5 @@
 #include "tests/host/window/pagetest.h"
+#include "tests/support/testfiles.h"
 
 #include <csignal>
 
@@ -8,7 +9,7 @@ class TestPage : public PageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void aFileIsReadAndGetsAThumbnail();
+    void aFileIsReadAndGetsTheThumbnailAskedFor();
     void aFoldersMediaFilesAreAdded();
     void aFolderWithoutMediaIsNamed();
     void aFileThatIsNotMediaFailsAndTheOthersGoOn();
@@ -17,7 +18,7 @@ private Q_SLOTS:
     void removingAHangingFileLetsTheNextOneBeRead();
 };
 
-void TestPage::aFileIsReadAndGetsAThumbnail()
+void TestPage::aFileIsReadAndGetsTheThumbnailAskedFor()
 {
     const QString path = m_files->filePath(QStringLiteral("film.mp4"));
     QVERIFY(MediaClips::makeFilm(path));
@@ -26,6 +27,7 @@ void TestPage::aFileIsReadAndGetsAThumbnail()
     QCOMPARE(task(*m_converter, id).state, Task::Reading);
     QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).state, Task::Ready, patience);
     QCOMPARE(task(*m_converter, id).facts.video()->codec, QStringLiteral("h264"));
+    m_converter->requestThumbnail(id);
     QTRY_VERIFY_WITH_TIMEOUT(!task(*m_converter, id).thumbnail.isEmpty(), patience);
     const QImage thumbnail(QUrl(task(*m_converter, id).thumbnail).toLocalFile());
     QCOMPARE(thumbnail.size(), QSize(256, 192));
@@ -94,15 +96,18 @@ void TestPage::factsThatArriveLateDoNotChangeTheState()
 void TestPage::removingAHangingFileLetsTheNextOneBeRead_data()
 {
     QTest::addColumn<QString>("tool");
-    QTest::newRow("while it is read") << QStringLiteral("ffprobe");
-    QTest::newRow("while its thumbnail is made") << QStringLiteral("ffmpeg");
+    QTest::addColumn<bool>("isFilm");
+    QTest::newRow("while it is read") << QStringLiteral("ffprobe") << false;
+    QTest::newRow("while its thumbnail is made") << QStringLiteral("ffmpeg") << true;
 }
 
 void TestPage::removingAHangingFileLetsTheNextOneBeRead()
 {
     QFETCH(QString, tool);
+    QFETCH(bool, isFilm);
     const QString film = m_files->filePath(QStringLiteral("hanging.mp4"));
-    QVERIFY(MediaClips::makeFilm(film));
+    // ffprobe is asked only about what isn't media.
+    QVERIFY(isFilm ? MediaClips::makeFilm(film) : writeFile(film, "no film"));
     const QUrl next = song();
     // The tool writes its process id, and hangs on this file only.
     const QString pidFile = m_files->filePath(QStringLiteral("pid"));
@@ -118,15 +123,17 @@ void TestPage::removingAHangingFileLetsTheNextOneBeRead()
     const int first = m_converter->tasks()->tasks().at(0).id;
     const int second = m_converter->tasks()->tasks().at(1).id;
     int pid = 0;
-    const bool hangs = QTest::qWaitFor([&pidFile, &pid] {
-        QFile file(pidFile);
-        pid = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
-        return pid != 0;
-    });
+    const bool hangs = QTest::qWaitFor(
+        [this, first, &pidFile, &pid] {
+            m_converter->requestThumbnail(first);
+            pid = contentOf(pidFile).trimmed().toInt();
+            return pid != 0;
+        },
+        patience);
     m_converter->remove(first);
     const bool isStopped = ::kill(pid, 0) != 0;
-    const bool isNextRead =
-        QTest::qWaitFor([this, second] { return task(*m_converter, second).state == Task::Ready; });
+    const bool isNextRead = QTest::qWaitFor(
+        [this, second] { return task(*m_converter, second).state == Task::Ready; }, patience);
     qputenv("PATH", path);
     QVERIFY(hangs);
     QVERIFY(isStopped);
