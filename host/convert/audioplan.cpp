@@ -92,12 +92,23 @@ QString wantedCodec(const AudioTrack &track, const StreamTarget &target)
                                                                    : chosen;
 }
 
+/*! Whether the track has no more than the preset asks for: in a film the bitrate is a ceiling. */
+bool isBelowCeiling(const AudioTrack &track, const OutputSettings &settings)
+{
+    // Encoders, too, miss a bitrate by so much.
+    constexpr double tolerance = 1.05;
+    return settings.hasVideo && track.kbps > 0 && !isLossless(track) &&
+           track.kbps <= askedKbps(settings, track.channels) * tolerance;
+}
+
 bool canBeCopied(const AudioTrack &track, const QString &wanted, const StreamTarget &target)
 {
+    const OutputSettings &settings = target.settings;
     const bool isOwnCodec = wanted.isEmpty() ? target.container.audioCodecs.contains(track.codec)
                                              : wanted == track.codec;
     return target.allowsAudioCopy() && !target.container.hasAudioInFrames && isOwnCodec &&
-           target.settings.audioKbps == 0 && wantedSampleRate(track, target) == track.sampleRate &&
+           (settings.audioKbps == 0 || isBelowCeiling(track, settings)) &&
+           wantedSampleRate(track, target) == track.sampleRate &&
            wantedChannels(track, target) == track.channels;
 }
 
@@ -137,6 +148,16 @@ double askedKbps(const OutputSettings &settings, int channels)
     return areFewer ? settings.audioKbps * channels / settings.channels : settings.audioKbps;
 }
 
+double sufficientKbps(const AudioTrack &track, const OutputSettings &settings, int channels)
+{
+    // Enough in any codec, as some need more than the source's for the same quality.
+    constexpr double enoughPerChannel = 64;
+    const double asked = askedKbps(settings, channels);
+    const bool isCeiling = settings.hasVideo && track.kbps > 0 && !isLossless(track);
+    return isCeiling ? std::min(asked, std::max(std::ceil(track.kbps), enoughPerChannel * channels))
+                     : asked;
+}
+
 Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &target)
 {
     const QString wantedName = wantedCodec(track, target);
@@ -159,7 +180,8 @@ Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &t
     // Channels without a layout get the default one for their number.
     plan.channels = channels == track.channels && !track.layout.isEmpty() ? 0 : channels;
     plan.layout = layoutToWrite(track, codec, channels);
-    plan.kbps = encodedKbps(codec, askedKbps(target.settings, channels), sampleRate, channels);
+    plan.kbps =
+        encodedKbps(codec, sufficientKbps(track, target.settings, channels), sampleRate, channels);
     plan.quality = codec.quality;
     plan.isPadded = target.container.hasAudioInFrames;
     return plan;

@@ -28,4 +28,9 @@ struct AudioPlan
  *  preset's need less. 0: any. */
 [[nodiscard]] double askedKbps(const OutputSettings &settings, int channels);
 
+/*! The same for \a track. In a film the bitrate is a ceiling: a lossy track of fewer kbps, which
+ * more couldn't improve, gets its own. 0: any. */
+[[nodiscard]] double sufficientKbps(const AudioTrack &track, const OutputSettings &settings,
+                                    int channels);
+
 #endif

@@ -1,5 +1,7 @@
 #include "host/convert/ratecontrol.h"
 
+#include "host/convert/audioplan.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -107,7 +109,8 @@ double audioKbps(const OutputSettings &settings, const MediaFacts &source)
     double kbps = 0;
     for (const AudioTrack &track : source.audioTracks) {
         const double usual = std::max(track.kbps, 96.0 * track.channels);
-        const double own = settings.audioKbps > 0 ? settings.audioKbps : usual;
+        const double own =
+            settings.audioKbps > 0 ? sufficientKbps(track, settings, track.channels) : usual;
         const bool isOnlyOne = settings.audioTracks.kind == TrackChoice::First;
         kbps = isOnlyOne ? std::max(kbps, own) : kbps + own;
     }

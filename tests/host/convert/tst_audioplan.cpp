@@ -11,6 +11,8 @@ private Q_SLOTS:
     void theSoundIsAsAskedAndAsItsCodecAllows() { compareWithRow(); }
     void itsOwnCodecIsCopiedUnlessSomethingElseIsAsked_data();
     void itsOwnCodecIsCopiedUnlessSomethingElseIsAsked() { compareWithRow(); }
+    void aFilmsAudioGetsNoMoreThanItsSource_data();
+    void aFilmsAudioGetsNoMoreThanItsSource() { compareWithRow(); }
     void losslessSoundKeepsItsBits_data();
     void losslessSoundKeepsItsBits() { compareWithRow(); }
     void theSpeakersAreThoseThatTheCodecKnows_data();
@@ -133,6 +135,44 @@ void TestAudioPlan::itsOwnCodecIsCopiedUnlessSomethingElseIsAsked_data()
         "-map 0:0 -c:a:0 libmp3lame -ar:a:0 48000 -q:a:0 2 -f mp3");
     row("fewer channels", with(mp3, [](OutputSettings &s) { s.channels = 1; }), source,
         "-map 0:0 -c:a:0 libmp3lame -ac:a:0 1 -q:a:0 2 -f mp3");
+}
+
+/*! The film with audio of so many kbps. */
+static MediaFacts filmOf(const char *codec, double kbps, int channels = 2)
+{
+    return facts(film(), [codec, kbps, channels](MediaFacts &f) {
+        f.audioTracks = {sound(QLatin1String(codec), 1, 48000, channels)};
+        f.audioTracks[0].kbps = kbps;
+    });
+}
+
+void TestAudioPlan::aFilmsAudioGetsNoMoreThanItsSource_data()
+{
+    addColumns();
+    const auto stereo192 = [](OutputSettings &s) {
+        s.audioKbps = 192;
+        s.channels = 2;
+    };
+    const OutputSettings mp4 = with(video("mp4", "", "aac"), stereo192);
+    const auto mp4Row = [&mp4](const char *name, const MediaFacts &source, const char *audio) {
+        const QByteArray output = QByteArray("-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 ") + audio +
+                                  " -movflags +faststart -f mp4";
+        row(name, mp4, source, output.constData());
+    };
+    mp4Row("its own codec with less is copied", filmOf("aac", 96.3), "copy");
+    mp4Row("so is one a little above", filmOf("aac", 194), "copy");
+    mp4Row("more is encoded", filmOf("aac", 256), "aac -b:a:0 192k");
+    mp4Row("an unknown bitrate is encoded", filmOf("aac", 0), "aac -b:a:0 192k");
+    mp4Row("another codec gets the source's", filmOf("mp3", 159.6), "aac -b:a:0 160k");
+    mp4Row("another codec with more", filmOf("mp3", 320), "aac -b:a:0 192k");
+    mp4Row("another codec with too little for this one", filmOf("opus", 48), "aac -b:a:0 128k");
+    mp4Row("mono has half of the bitrate", filmOf("aac", 127, 1), "aac -b:a:0 96k");
+    mp4Row("surround is mixed down", filmOf("aac", 160, 6), "aac -ac:a:0 2 -b:a:0 160k");
+    row("lossless gets the preset's", mp4,
+        facts(filmOf("flac", 150), [](MediaFacts &f) { f.audioTracks[0].bitsPerSample = 16; }),
+        "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 aac -b:a:0 192k -movflags +faststart -f mp4");
+    row("an audio preset's bitrate is kept", with(audio("m4a", "aac"), stereo192),
+        filmOf("aac", 96), "-map 0:1 -c:a:0 aac -b:a:0 192k -movflags +faststart -f ipod");
 }
 
 /*! A lossless song of so many bits. */

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aHigherBitrateIsABetterPicture_data();
     void aHigherBitrateIsABetterPicture();
     void theResultFitsTheAskedSize();
+    void whatAudioDoesNotNeedIsTheVideos();
     void aSizeTooSmallForTheSoundIsRefused();
     void aSourceWithoutLengthHasNoAskedSize();
 
@@ -162,6 +163,19 @@ void TestRateControl::theResultFitsTheAskedSize()
     const double bytes = (fitted->videoKbps * seconds + 128 * 60) * 1000 / 8;
     QVERIFY(bytes < settings.targetBytes);
     QVERIFY(bytes > settings.targetBytes * 0.95);
+}
+
+void TestRateControl::whatAudioDoesNotNeedIsTheVideos()
+{
+    OutputSettings settings = atMost(0);
+    settings.hasVideo = true;
+    settings.audioKbps = 320;
+    settings.targetBytes = 10000000;
+    MediaFacts poor = film();
+    poor.audioTracks[0].kbps = 128;
+    const double gained =
+        fittedToSize(settings, poor)->videoKbps - fittedToSize(settings, film())->videoKbps;
+    QVERIFY(qAbs(gained - 192) < 20);
 }
 
 void TestRateControl::aSizeTooSmallForTheSoundIsRefused()
