@@ -23,6 +23,7 @@ private Q_SLOTS:
     void resultsOfOneRunAreNotOverwritten();
     void aDryRunOnlyPrintsTheCommand();
     void aNameInUseIsNumberedUnlessOverwriting();
+    void aResultHasItsSourcesDateOnDemand();
     void interruptingLeavesNothing_data();
     void interruptingLeavesNothing();
     void aKillLeavesNoToolRunning();
@@ -126,6 +127,22 @@ void TestConvertCommand::aNameInUseIsNumberedUnlessOverwriting()
     QCOMPARE(run("convert film.mp4 --preset V_MKV_1 --overwrite").exitCode, 0);
     QVERIFY(contentOf(path(QStringLiteral("film.mkv"))) != QByteArray("mine"));
     QCOMPARE(everything().size(), 3);
+}
+
+void TestConvertCommand::aResultHasItsSourcesDateOnDemand()
+{
+    const QDateTime date(QDate(2019, 5, 6), QTime(7, 8, 9));
+    QFile source(path(QStringLiteral("film.mp4")));
+    QVERIFY(source.open(QIODevice::ReadWrite));
+    QVERIFY(source.setFileTime(date, QFileDevice::FileModificationTime));
+    source.close();
+    const QString target = path(QStringLiteral("film.mkv"));
+    const auto dateOfTarget = [&target] { return QFileInfo(target).lastModified(); };
+
+    QCOMPARE(run("convert film.mp4 --preset V_MKV_1 --keep-dates").exitCode, 0);
+    QCOMPARE(dateOfTarget(), date);
+    QCOMPARE(run("convert film.mp4 --preset V_MKV_1 --overwrite").exitCode, 0);
+    QVERIFY(dateOfTarget() != date);
 }
 
 void TestConvertCommand::interruptingLeavesNothing_data()

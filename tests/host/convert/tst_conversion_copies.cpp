@@ -3,6 +3,11 @@
 #include "tests/host/convert/conversiontest.h"
 #include "tests/support/mediaclips.h"
 
+#include <QProcess>
+
+#include <algorithm>
+#include <limits>
+
 /*! What becomes of streams that may stay as they are. */
 class TestConversionCopies : public ConversionTest
 {
@@ -11,14 +16,17 @@ class TestConversionCopies : public ConversionTest
 private Q_SLOTS:
     void itShowsWhatItsSourceShows_data();
     void itShowsWhatItsSourceShows();
+    void framesThatShareAPacketAreSplit();
     void whatTheMuxerRefusesIsEncoded();
     void soundThatItsContainerLacksIsEncodedAlone();
     void whatItHoldsComesAlong();
+    void subtitlesThatArePicturesNeedAnMkv();
     void aSourceThatEndsEarlyIsSaid();
     void aPictureIsShownForSoLong();
 
 private:
     static QByteArray firstFramesOf(const QString &path);
+    static int smallestVideoPacket(const QString &path);
 };
 
 QByteArray TestConversionCopies::firstFramesOf(const QString &path)
@@ -28,6 +36,22 @@ QByteArray TestConversionCopies::firstFramesOf(const QString &path)
     ffmpeg.start(call.program, call.arguments);
     ffmpeg.waitForFinished();
     return ffmpeg.readAllStandardOutput();
+}
+
+/*! In bytes. */
+int TestConversionCopies::smallestVideoPacket(const QString &path)
+{
+    QProcess ffprobe;
+    ffprobe.start(QStringLiteral("ffprobe"),
+                  QStringLiteral("-v error -select_streams v -show_entries packet=size -of csv=p=0")
+                          .split(QLatin1Char(' ')) +
+                      QStringList{path});
+    ffprobe.waitForFinished();
+    int smallest = std::numeric_limits<int>::max();
+    for (const QByteArray &line : ffprobe.readAllStandardOutput().split('\n')) {
+        smallest = line.isEmpty() ? smallest : std::min(smallest, line.toInt());
+    }
+    return smallest;
 }
 
 void TestConversionCopies::itShowsWhatItsSourceShows_data()
@@ -73,6 +97,25 @@ void TestConversionCopies::itShowsWhatItsSourceShows()
     QVERIFY(qAbs(outcome->facts.duration - 2.0) < 0.2);
     const QByteArray frames = firstFramesOf(path(source));
     QCOMPARE(beginsAlike(frames, firstFramesOf(outcome->target)), isCopied);
+}
+
+void TestConversionCopies::framesThatShareAPacketAreSplit()
+{
+    // After two frames in one packet comes an empty one, which only players of AVI expect.
+    constexpr int emptyPacket = 16;
+    const QString late = path(QStringLiteral("late.avi"));
+    QVERIFY(
+        MediaClips::make(late, QStringLiteral("-f lavfi -i testsrc2=size=128x96:rate=25:duration=1 "
+                                              "-pix_fmt yuv420p -c:v libxvid -bf 2 -q:v 4")));
+    // ffmpeg leaves a gap after the first frame, other programs don't.
+    const QString source = path(QStringLiteral("packed.avi"));
+    QVERIFY(MediaClips::make(
+        source, QStringLiteral("-fflags +genpts -i %1 -c copy -bsf:v setts=ts=N/25/TB").arg(late)));
+    QVERIFY(smallestVideoPacket(source) < emptyPacket);
+    const Outcome outcome = convert(job(source, video(QStringLiteral("mp4"))));
+    QCOMPARE(errorOf(outcome), QString());
+    QVERIFY(beginsAlike(firstFramesOf(source), firstFramesOf(outcome->target)));
+    QVERIFY(smallestVideoPacket(outcome->target) > emptyPacket);
 }
 
 void TestConversionCopies::whatTheMuxerRefusesIsEncoded()
@@ -130,6 +173,32 @@ void TestConversionCopies::whatItHoldsComesAlong()
     const Outcome drawn = convert(job(source, burned));
     QCOMPARE(errorOf(drawn), QString());
     QVERIFY(drawn->facts.subtitleTracks.isEmpty());
+}
+
+void TestConversionCopies::subtitlesThatArePicturesNeedAnMkv()
+{
+    // A segment that ends a picture, shown after half a second, as Blu-rays have it.
+    QFile pictures(path(QStringLiteral("pictures.sup")));
+    QVERIFY(pictures.open(QIODevice::WriteOnly));
+    pictures.write(QByteArray::fromHex("50470000afc800000000800000"));
+    pictures.close();
+    const QString source = path(QStringLiteral("film.mkv"));
+    QVERIFY(MediaClips::make(
+        source, QStringLiteral("-i %1 -i %2 -map 0 -map 1 -c copy")
+                    .arg(m_clips->filePath(QStringLiteral("film.mp4")), pictures.fileName())));
+    const QString kind = QStringLiteral("hdmv_pgs_subtitle");
+    QCOMPARE(MediaClips::factsOf(source).subtitleTracks.at(0).codec, kind);
+
+    const Outcome kept = convert(job(source, video(QStringLiteral("mkv"))));
+    QCOMPARE(errorOf(kept), QString());
+    QCOMPARE(kept->note(), QString());
+    QCOMPARE(kept->facts.subtitleTracks.at(0).codec, kind);
+
+    const Outcome lost = convert(job(source, video(QStringLiteral("mp4"))));
+    QCOMPARE(errorOf(lost), QString());
+    QCOMPARE(lost->note(), QStringLiteral("left out: subtitle tracks: 1 (hdmv_pgs_subtitle; .mp4 "
+                                          "doesn't hold them, .mkv does)"));
+    QVERIFY(lost->facts.subtitleTracks.isEmpty());
 }
 
 void TestConversionCopies::aSourceThatEndsEarlyIsSaid()

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void aFullDiskLeavesNothing();
     void aFailingFfmpegLeavesNothing_data();
     void aFailingFfmpegLeavesNothing();
+    void whatFfmpegSaysIsPutInPlainWords_data();
+    void whatFfmpegSaysIsPutInPlainWords();
     void aMissingEncoderIsNamed();
     void anFfmpegThatListsNoEncodersIsToBeChecked();
     void withoutTheToolsItSaysWhatToInstall_data();
@@ -296,6 +298,42 @@ void TestConversionFailures::aFailingFfmpegLeavesNothing()
     QVERIFY2(errorOf(outcome).contains(reason), qPrintable(errorOf(outcome)));
     QVERIFY2(!errorOf(outcome).contains(QLatin1Char('\n')), qPrintable(errorOf(outcome)));
     QCOMPARE(everything(), names("clip.mp4"));
+}
+
+void TestConversionFailures::whatFfmpegSaysIsPutInPlainWords_data()
+{
+    QTest::addColumn<QString>("said");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char *said, const char *words) {
+        QTest::newRow(said) << QString::fromLatin1(said) << QString::fromLatin1(words);
+    };
+    row("[AVFilterGraph @ 0x55d] No such filter: 'zscale'",
+        "its video is HDR, and this ffmpeg can't map that to ordinary colours; install an ffmpeg "
+        "with zscale and tonemap");
+    row("[matroska @ 0x55d] Can't write packet with unknown timestamp",
+        "the source doesn't say when its frames are shown");
+    row("[mp4 @ 0x55d] Application provided invalid, non monotonically increasing dts to muxer",
+        "the source doesn't say when its frames are shown");
+    row("[mp4 @ 0x55d] Could not find tag for codec pcm_s16le in stream #1",
+        "this kind of file can't hold one of the streams");
+    row("Could not write header for output file #0 (incorrect codec parameters ?)",
+        "this kind of file can't hold one of the streams");
+    row("Error while opening encoder for output stream #0:1 - maybe incorrect parameters such as "
+        "bit_rate, rate, width or height",
+        "the encoder refuses these settings");
+    row("Specified sample rate 7 is not supported", "Specified sample rate 7 is not supported");
+}
+
+void TestConversionFailures::whatFfmpegSaysIsPutInPlainWords()
+{
+    QFETCH(QString, said);
+    QFETCH(QString, words);
+    const QString source = copyOf(QStringLiteral("film.mp4"), QStringLiteral("clip.mp4"));
+    standIn(QStringLiteral("echo \"%1\" >&2; exit 1").arg(said));
+    const Outcome outcome = convert(job(source, video(QStringLiteral("mkv"))));
+    QVERIFY(!outcome);
+    QVERIFY2(errorOf(outcome).contains(QLatin1Char('(') + words + QLatin1Char(')')),
+             qPrintable(errorOf(outcome)));
 }
 
 void TestConversionFailures::aMissingEncoderIsNamed()
