@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Converts generated sources of many kinds into many formats, judges each result by decoding it, and
-prints a table for each source: what is kept, changed, dropped and said.
+tells for each source what is kept, changed, dropped and said.
 
-    tools/fidelity.py build/release/host/vexconvert             # takes about ten minutes
-    tools/fidelity.py build/release/host/vexconvert --only HDR  # sources with a text in their name
+    tools/fidelity.py build/dev/host/vexconvert                             # about ten minutes
+    tools/fidelity.py build/dev/host/vexconvert --only HDR                  # sources with that name
+    tools/fidelity.py build/dev/host/vexconvert --write docs/fidelity.md    # between its markers
 
 Exits with 1 if a result isn't what someone who knows the field would accept.
 """
@@ -14,8 +15,10 @@ import re
 import subprocess
 import sys
 import tempfile
+import textwrap
 from concurrent.futures import ThreadPoolExecutor
 from dataclasses import dataclass, field
+from fractions import Fraction
 from pathlib import Path
 
 SECONDS = 2
@@ -116,7 +119,8 @@ SOURCES = [
            f'-c:v libx264 -b:v 200k -pix_fmt yuv420p {TAGS_709} -c:a aac -ac 1 -b:a 48k',
            'scale=426:240:out_color_matrix=bt709,format=yuv420p'),
     Source('Silent film', 'silent.mp4', f'-an {H264} {TAGS_709}', TO_709),
-    Source('Film that breaks off', 'broken.ts', f'{H264} {TAGS_709} -c:a aac', TO_709,
+    # In a container that says how long the whole is.
+    Source('Film that breaks off', 'broken.mkv', f'{H264} {TAGS_709} -c:a aac', TO_709,
            is_damaged=True),
     Source('Song, MP3 with cover', 'song.mp3',
            '-map 1:a -map 2:v -c:a libmp3lame -b:a 192k -c:v copy -disposition:v attached_pic '
@@ -153,8 +157,9 @@ def make_sources(folder):
         if source.turn:
             ffmpeg('-i', written, '-c', 'copy', '-metadata:s:v:0', f'rotate={source.turn}',
                    source.file, folder=folder)
-    whole = (folder / 'broken.ts').read_bytes()
-    (folder / 'broken.ts').write_bytes(whole[:len(whole) // 2])
+        if source.is_damaged:
+            whole = (folder / source.file).read_bytes()
+            (folder / source.file).write_bytes(whole[:len(whole) // 2])
 
 
 # Formats ------------------------------------------------------------------------------------------
@@ -162,6 +167,7 @@ def make_sources(folder):
 
 @dataclass
 class Format:
+    name: str
     preset: str
     is_film: bool = True
     has_own_rate: bool = False   # can't have each rate, or each frame at its own time
@@ -171,17 +177,18 @@ class Format:
 
 
 FORMATS = [
-    Format('Video_MP4_001'), Format('Video_MP4_005'), Format('Video_HEVCMP4_004'),
-    Format('Video_MOV_001'), Format('Video_MKV_001'), Format('Video_WEBM_005'),
-    Format('Video_AVI_001', has_own_rate=True, tells_colours=False),
-    Format('Video_PRORESMOV_001'),
-    Format('Video_VOB_001', has_own_rate=True, can_be_combed=True,
-           tells_colours=False, least_psnr=26),
-    Format('Video_GIF_001', has_own_rate=True, can_be_combed=True, tells_colours=False,
+    Format('MP4', 'Video_MP4_001'), Format('MP4 720p', 'Video_MP4_005'),
+    Format('HEVC 1080p', 'Video_HEVCMP4_004'), Format('MOV', 'Video_MOV_001'),
+    Format('MKV', 'Video_MKV_001'), Format('WebM 720p', 'Video_WEBM_005'),
+    Format('AVI', 'Video_AVI_001', has_own_rate=True, tells_colours=False),
+    Format('ProRes', 'Video_PRORESMOV_001'),
+    Format('VOB', 'Video_VOB_001', has_own_rate=True, can_be_combed=True, tells_colours=False,
+           least_psnr=26),
+    Format('GIF', 'Video_GIF_001', has_own_rate=True, can_be_combed=True, tells_colours=False,
            least_psnr=18),
-    Format('Device_APPLE_001'), Format('SocialVideo_YOUTUBE_004'),
-    Format('Audio_MP3_001', is_film=False), Format('Audio_M4A_001', is_film=False),
-    Format('Audio_FLAC_001', is_film=False), Format('Audio_WAV_001', is_film=False),
+    Format('iPhone 4K', 'Device_APPLE_001'), Format('YouTube 720p', 'SocialVideo_YOUTUBE_004'),
+    Format('MP3', 'Audio_MP3_001', is_film=False), Format('M4A', 'Audio_M4A_001', is_film=False),
+    Format('FLAC', 'Audio_FLAC_001', is_film=False), Format('WAV', 'Audio_WAV_001', is_film=False),
 ]
 LEAST_PSNR_OF_HDR = 20
 MOST_COMBED_FRAMES = 4
@@ -224,7 +231,7 @@ def as_shown(path, pixels):
 def psnr(result, reference, pixels='gbrp'):
     log = run('ffmpeg', '-nostdin', '-hide_banner', '-i', result, '-i', reference, '-lavfi',
               f'[0:v]{as_shown(result, pixels)}[a];[1:v]{as_shown(reference, pixels)}[b];'
-              '[a][b]psnr', '-f', 'null', '-').stderr
+              '[a][b]psnr=shortest=1', '-f', 'null', '-').stderr
     average = re.search(r'average:(\S+)', log)
     return float(average.group(1)) if average else 0.0
 
@@ -234,6 +241,11 @@ def combed_frames(path):
               '-an', '-f', 'null', '-').stderr
     counts = re.search(r'Multi frame detection: TFF: *(\d+) BFF: *(\d+)', log)
     return int(counts.group(1)) + int(counts.group(2)) if counts else 0
+
+
+def speakers(audio):
+    usual = {1: 'mono', 2: 'stereo'}  # not all containers name them
+    return audio.get('channel_layout', usual.get(audio['channels'], f'{audio["channels"]} channels'))
 
 
 class Cell:
@@ -247,9 +259,10 @@ class Cell:
                      if line.startswith('vexconvert:')]
         self.faults = []
         self.video = self.audio = self.besides = ''
-        expected = 1 if source.is_damaged or result is None else 0
+        self.is_refused = result is None
+        expected = 1 if source.is_damaged or self.is_refused else 0
         self.expect(done.returncode == expected, f'exit code {done.returncode}')
-        if result is None:
+        if self.is_refused:
             self.video = self.audio = 'refused'
             is_impossible = source.is_still or source.is_film != format_.is_film
             self.expect(is_impossible or (source.name == 'Silent film' and not format_.is_film),
@@ -295,7 +308,7 @@ class Cell:
         if likeness < least and (stays_hdr or not self.source.is_hdr):
             # Held against what it was made from: a source's own times and losses aren't ours.
             likeness = psnr(self.result, self.path, 'yuv420p10le' if stays_hdr else 'gbrp')
-        rate = after['avg_frame_rate'].removesuffix('/1')
+        rate = f'{float(Fraction(after["avg_frame_rate"])):.4g}'
         self.video = (f'{after["codec_name"]}, {after["width"]}x{after["height"]}, {rate} fps, '
                       f'{after["pix_fmt"]}{", HDR" if stays_hdr else ""}, {likeness:.1f} dB')
         self.expect(likeness >= least, f'only {likeness:.1f} dB')
@@ -328,7 +341,7 @@ class Cell:
             is_whole or is_same(self.path, self.result, 'a:0'))
         self.audio = tracks + last['codec_name'] + (
             ', as is' if is_kept else ', every bit' if is_whole else
-            f', {last["sample_rate"]} Hz, {last.get("channel_layout", last["channels"])}')
+            f', {last["sample_rate"]} Hz, {speakers(last)}')
         self.expect(last['channels'] <= first['channels'], 'more channels than the source')
         self.expect(len(after) == len(before) or self.says('audio'), 'audio tracks dropped silently')
 
@@ -358,29 +371,85 @@ def convert(program, source, format_, folder):
 # Tables -------------------------------------------------------------------------------------------
 
 
-def title(program, format_):
-    """The format of the preset and its title: "MP4, HD 720P"."""
-    preset = json.loads(run(program, 'show', format_.preset, '--json').stdout)
-    return f'{format_.preset.split("_")[1]}, {preset["title"]}'
+BEGIN, END = '<!-- written by tools/fidelity.py -->', '<!-- end of what it writes -->'
+KEPT, CHANGED, NONE, REFUSED, LEFT_OUT = '=', '~', '·', '×', '!'
+LEGEND = f"""A run with ffmpeg {{version}}. What became of video and audio:
+
+- `{KEPT}` kept as it is, or every bit of it
+- `{CHANGED}` encoded
+- `{NONE}` there is none
+- `{REFUSED}` refused, and said why
+- `{LEFT_OUT}` something was left out or is missing, and said so
+
+"""
+DETAILS = """
+Formats with the same result share a row. What is there "as is" was copied, and "every bit" is in
+another lossless codec. The likeness in dB is the PSNR of the decoded result to the picture that the
+source was made from, or to the source itself where it stays HDR: from 35 dB on few people see a
+difference. A picture whose HDR was mapped to ordinary colours is another picture, of 20 dB and more.
+"""
 
 
-def table(source, cells, title_of):
-    lines = [f'### {source.name}', '', '| Format | Video | Audio | Besides | Said |',
-             '|---|---|---|---|---|']
+def row(cells):
+    return f'| {" | ".join(cells)} |'
+
+
+def rows(heads, lines):
+    return '\n'.join([row(heads), '|' + '---|' * len(heads), *map(row, lines)]) + '\n'
+
+
+def sign(text):
+    return NONE if not text else KEPT if text.endswith(('as is', 'every bit')) else CHANGED
+
+
+def signs(cell):
+    if cell.is_refused:
+        return REFUSED
+    return f'{sign(cell.video)} {sign(cell.audio)}{" " + LEFT_OUT if cell.said else ""}'
+
+
+def overview(results):
+    return rows(['Source'] + [format_.name for format_ in FORMATS],
+                [[name, *map(signs, cells)] for name, cells in results.items()])
+
+
+def details(name, cells):
+    formats_with = {}
     for cell in cells:
         said = '; '.join(cell.said).replace('|', '\\|')
-        lines.append(f'| {title_of[cell.format.preset]} | {cell.video} | {cell.audio} | '
-                     f'{cell.besides} | {said} |')
-    return '\n'.join(lines) + '\n'
+        formats_with.setdefault((cell.video, cell.audio, cell.besides, said), []).append(
+            cell.format.name)
+    return f'### {name}\n\n' + rows(
+        ['Format', 'Video', 'Audio', 'Besides', 'Said'],
+        [[', '.join(formats), *texts] for texts, formats in formats_with.items()])
+
+
+def report(results):
+    version = run('ffmpeg', '-version').stdout.split()[2]
+    names = ', '.join(f'{format_.name} `{format_.preset}`' for format_ in FORMATS)
+    presets = textwrap.fill(f'The presets: {names}.', 100)
+    return (LEGEND.format(version=version) + overview(results) + f'\n{presets}\n' + DETAILS + ''.join('\n' + details(*result) for result in results.items()))
+
+
+def write(page, text):
+    """Replaces what stands between the markers of the page."""
+    before, begin, rest = page.read_text(encoding='utf-8').partition(BEGIN)
+    _, end, after = rest.partition(END)
+    if not end:
+        sys.exit(f'{page} lacks the lines "{BEGIN}" and "{END}"')
+    page.write_text(f'{before}{begin}\n\n{text}\n{end}{after}', encoding='utf-8')
 
 
 def main():
     options = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     options.add_argument('program', type=Path)
     options.add_argument('--only', default='', help='a text in the names of the sources to try')
+    options.add_argument('--write', type=Path, metavar='PAGE', help='a page to put the tables into')
     options.add_argument('--keep', type=Path, help='folder for the files, which stay')
     options.add_argument('--jobs', type=int, default=2)
     chosen = options.parse_args()
+    if chosen.only and chosen.write:
+        options.error('a page needs all sources')
     program = chosen.program.resolve()
     sources = [source for source in SOURCES if chosen.only in source.name]
 
@@ -396,9 +465,10 @@ def main():
                 if cell.faults:
                     print(f'{source.name} to {cell.format.preset}: {", ".join(cell.faults)}',
                           file=sys.stderr)
-    title_of = {format_.preset: title(program, format_) for format_ in FORMATS}
-    for source in sources:
-        print(table(source, results[source.name], title_of))
+    if chosen.write:
+        write(chosen.write, report(results))
+    else:
+        print(report(results))
     faults = sum(bool(cell.faults) for cells in results.values() for cell in cells)
     print(f'{faults} of {len(sources) * len(FORMATS)} results are wrong', file=sys.stderr)
     sys.exit(1 if faults else 0)
