@@ -269,7 +269,7 @@ tl::unexpected<Error> wrongUsage(const QString &text)
 
 PresetStore presetsOf(const Call &call)
 {
-    return PresetStore(*FormatsProxy::getInstance(), call.configFolder, Console::printError);
+    return {*FormatsProxy::getInstance(), call.configFolder, Console::printError};
 }
 
 void openWhatCanBeRead(PresetStore &presets)

@@ -67,7 +67,7 @@ QString pcmAsDeep(const AudioTrack &track, const QString &like, const QStringLis
  *  supports none. */
 QString losslessCodec(const AudioTrack &track, const QStringList &held)
 {
-    const QString flac = QStringLiteral("flac");
+    QString flac = QStringLiteral("flac");
     if (!isPcm(track.codec) && held.contains(flac)) {
         return flac;
     }
@@ -79,7 +79,7 @@ QString losslessCodec(const AudioTrack &track, const QStringList &held)
 QString wantedCodec(const AudioTrack &track, const StreamTarget &target)
 {
     const QStringList &held = target.container.audioCodecs;
-    const QString chosen = target.settings.audioCodec;
+    const QString &chosen = target.settings.audioCodec;
     if (!isLossless(track)) {
         return chosen;
     }
@@ -96,7 +96,7 @@ QString wantedCodec(const AudioTrack &track, const StreamTarget &target)
 bool isBelowCeiling(const AudioTrack &track, const OutputSettings &settings)
 {
     // Encoders, too, miss a bitrate by so much.
-    constexpr double tolerance = 1.05;
+    constexpr double tolerance = 1.02;
     return settings.hasVideo && track.kbps > 0 && !isLossless(track) &&
            track.kbps <= askedKbps(settings, track.channels) * tolerance;
 }

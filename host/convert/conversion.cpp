@@ -25,7 +25,7 @@ void takeDate(const QString &file, const QString &source)
 }
 
 /*! Enough for the frames of one second at any size. */
-constexpr ToolLimits frameLimits{1024 * 1024, 120000};
+constexpr ToolLimits frameLimits{1024LL * 1024, 120000};
 
 /*! ffmpeg may exit cleanly although it couldn't write the last bytes; its errors show it. */
 bool wroteAll(const ToolRun &run)

@@ -13,8 +13,8 @@ int nearestEven(double length, int limit)
 
 QSize scaled(const QSizeF &size, double factor, const QSize &limit)
 {
-    return QSize(nearestEven(size.width() * factor, limit.width()),
-                 nearestEven(size.height() * factor, limit.height()));
+    return {nearestEven(size.width() * factor, limit.width()),
+            nearestEven(size.height() * factor, limit.height())};
 }
 
 double factorInto(const QSizeF &size, const QSizeF &box)
