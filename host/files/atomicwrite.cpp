@@ -70,7 +70,7 @@ Result<> writeAtomically(const QString &path, const QByteArray &content, const Q
     if (QFile::exists(model)) {
         file.setPermissions(QFile::permissions(model));
     }
-    const Result<> written = writeToDisk(file, content);
+    Result<> written = writeToDisk(file, content);
     if (!written) {
         return written;
     }

@@ -40,7 +40,7 @@ QString freeName(const QString &folder, const QString &baseName, const QString &
 {
     const QDir place(folder);
     for (int number = 1;; ++number) {
-        const QString path = place.absoluteFilePath(numberedName(baseName, number, extension));
+        QString path = place.absoluteFilePath(numberedName(baseName, number, extension));
         if (!isUnfree(path)) {
             return path;
         }

@@ -27,7 +27,7 @@ QString clockText(double seconds)
 QString exactClockText(double seconds)
 {
     const qint64 hundredths = std::llround(plausibleSeconds(seconds) * 100);
-    const QString text = wholeText(hundredths / 100);
+    QString text = wholeText(hundredths / 100);
     const qint64 rest = hundredths % 100;
     if (rest == 0) {
         return text;
