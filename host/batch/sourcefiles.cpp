@@ -40,11 +40,16 @@ QStringList SourceFiles::folders() const
 
 void SourceFiles::each(const Take &take) const
 {
+    const Take takeKept = [this, &take](const SourceFile &file) {
+        if (!m_only || m_only->contains(file.path)) {
+            take(file);
+        }
+    };
     for (const QString &name : m_named) {
         if (isFolder(name)) {
-            eachIn(name, {}, take);
+            eachIn(name, {}, takeKept);
         } else {
-            take({name, {}});
+            takeKept({name, {}});
         }
     }
 }

@@ -4,10 +4,12 @@
 #include "host/error.h"
 
 #include <QCoreApplication>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 /*! A file to convert. */
 struct SourceFile
@@ -31,6 +33,8 @@ public:
 
     /*! Leaves \a folder out, as it gets the results. An error if it is one of the folders. */
     [[nodiscard]] Result<> leaveOut(const QString &folder);
+    /*! Leaves all files out but those with these paths. */
+    void keepOnly(const QSet<QString> &paths) { m_only = paths; }
     /*! The folders that were named. */
     [[nodiscard]] QStringList folders() const;
     /*!
@@ -46,6 +50,7 @@ private:
     QStringList m_named;
     bool m_isRecursive = false;
     QString m_leftOut;
+    std::optional<QSet<QString>> m_only;
 };
 
 /*! The paths in a list of them, one per line, or each ended by a NUL as "find -print0" does. */

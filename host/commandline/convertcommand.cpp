@@ -1,3 +1,4 @@
+#include "host/batch/resultlog.h"
 #include "host/commandline/batchreports.h"
 #include "host/commandline/convertoptions.h"
 
@@ -5,6 +6,20 @@ namespace {
 
 const QLatin1String dryRunFlag("dry-run");
 const QLatin1String verboseFlag("verbose");
+const QLatin1String retryOption("retry-failed");
+
+/*! Keeps only the files that failed before, if the options say so. */
+Result<> keepFailed(const Call &call, ConvertRequest &request)
+{
+    if (!call.options.isSet(retryOption)) {
+        return {};
+    }
+    return sourcesToRetry(call.options.value(retryOption))
+        .map([&request](const QSet<QString> &sources) {
+            request.files.keepOnly(sources);
+            request.count = sources.size();
+        });
+}
 
 /*! The files one after another, as jobs. */
 Batch::NextJob jobsFor(const ConvertRequest &request)
@@ -37,6 +52,10 @@ Result<ExitCode> runConvert(const Call &call)
     if (!request) {
         return failed(request);
     }
+    const Result<> kept = keepFailed(call, *request);
+    if (!kept) {
+        return failed(kept);
+    }
     request->prototype.planOnly = isDryRun;
     request->prototype.isLogged = isVerbose;
     // The commands of a dry run are printed in the files' order.
@@ -64,6 +83,10 @@ QVector<Subcommand> convertCommands()
         jsonOption(),
         quietOption(),
         {verboseFlag, CommandLine::tr("Print ffmpeg's commands and logs, on standard error.")},
+        valueOption(retryOption,
+                    CommandLine::tr("Convert only those of the files that have no result in the "
+                                    "LOG of an earlier run with --json."),
+                    CommandLine::tr("LOG")),
         {dryRunFlag, CommandLine::tr("Only print the ffmpeg commands.")},
     };
     return {

@@ -9,8 +9,8 @@ struct ToolCall
 {
     QString program;
     QStringList arguments;
-    QString report = {}; //!< the file that ffmpeg writes its whole log to; empty: none
     bool takesInput = false; //!< from Tool::write(); else its standard input is empty
+    QString report = {};     //!< the file that ffmpeg writes its whole log to; empty: none
 };
 
 /*! ffmpeg with \a arguments, printing only errors and reading no input from the terminal. */
