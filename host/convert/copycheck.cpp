@@ -18,7 +18,8 @@ struct SeenFrame
 QVector<SeenFrame> framesIn(const QByteArray &list)
 {
     QVector<SeenFrame> frames;
-    for (const QByteArray &line : list.split('\n')) {
+    const QList<QByteArray> lines = list.split('\n');
+    for (const QByteArray &line : lines) {
         const QList<QByteArray> cells = line.split(',');
         if (!line.startsWith('#') && cells.size() >= 6) {
             frames.append({cells.at(2).trimmed().toDouble() / 1000, cells.at(5).trimmed()});
