@@ -8,7 +8,7 @@
 namespace {
 
 // A look that takes longer is given up: the conversion does without.
-constexpr ToolLimits lookLimits{4 * 1024 * 1024, 30000};
+constexpr ToolLimits lookLimits{4LL * 1024 * 1024, 30000};
 
 bool canBeInterlaced(const VideoTrack &track)
 {

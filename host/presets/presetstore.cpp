@@ -88,7 +88,7 @@ Result<> PresetStore::openToRead() const
 
 Result<> PresetStore::openToWrite(UserFile::Unrecoverable unrecoverable)
 {
-    const Result<> locked = m_lock.isLocked() ? Result<>() : lock(0);
+    Result<> locked = m_lock.isLocked() ? Result<>() : lock(0);
     if (!locked) {
         return locked;
     }
@@ -173,7 +173,7 @@ Result<> PresetStore::save()
                 tr("can't write %1, which is as before; check its disk and its permissions")
                     .arg(QDir::toNativeSeparators(part.file.path())));
         }
-        const Result<> replaced = part.file.replace(written);
+        Result<> replaced = part.file.replace(written);
         if (!replaced) {
             return replaced;
         }
