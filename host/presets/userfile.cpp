@@ -17,7 +17,7 @@ namespace {
 using Content = UserFile::Content;
 
 /*! Some 20,000 presets: more than anyone creates. */
-constexpr qint64 largestFile = 64 * 1024 * 1024;
+constexpr qint64 largestFile = 64LL * 1024 * 1024;
 
 QString shown(const QString &path)
 {

@@ -42,7 +42,7 @@ QSharedPointer<Tool> newQuery()
 }
 
 /*! Far more than any ffmpeg needs to print a list. */
-constexpr ToolLimits listingLimits{1024 * 1024, 60000};
+constexpr ToolLimits listingLimits{1024LL * 1024, 60000};
 
 } // namespace
 
