@@ -26,7 +26,7 @@ void ProbeHelper::ask(const QString &path, const ToolLimits &limits)
     m_received.clear();
     m_mostBytes = limits.unreadBytes;
     if (!m_tool.isRunning()) {
-        m_tool.start({m_program, {}, true});
+        m_tool.start({m_program, {}, true, {}});
     }
     m_tool.write(demuxersFor(path).toLatin1() + '\0' + QFile::encodeName(fileArgument(path)) +
                  '\0');

@@ -191,7 +191,7 @@ void TestConversionCopies::subtitlesThatArePicturesNeedAnMkv()
 
     const Outcome kept = convert(job(source, video(QStringLiteral("mkv"))));
     QCOMPARE(errorOf(kept), QString());
-    QCOMPARE(kept->note(), QString());
+    QCOMPARE(kept->notes(), QStringList());
     QCOMPARE(kept->facts.subtitleTracks.at(0).codec, kind);
 
     const Outcome lost = convert(job(source, video(QStringLiteral("mp4"))));
