@@ -35,10 +35,10 @@ QHash<QString, QWeakPointer<Tool>> &runningQueries()
 /*! Ends with the last one who asked; that may be while it tells them the answer. */
 QSharedPointer<Tool> newQuery()
 {
-    return QSharedPointer<Tool>(new Tool, [](Tool *tool) {
-        tool->abandon();
-        tool->deleteLater();
-    });
+    return {new Tool, [](Tool *tool) {
+                tool->abandon();
+                tool->deleteLater();
+            }};
 }
 
 /*! Far more than any ffmpeg needs to print a list. */
