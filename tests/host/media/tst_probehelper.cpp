@@ -74,7 +74,7 @@ private:
                 });
         probe.start(file, {1000000, 6000});
         loop.exec();
-        return facts ? facts->videoTracks.constFirst().codec : facts.error().text;
+        return facts ? facts->videoTracks.value(0).codec : facts.error().text;
     }
 
     QTemporaryDir m_clips;

@@ -124,7 +124,7 @@ void TestInspector::aHangingFileDoesNotStopTheOthers()
 
 void TestInspector::factsComeBeforeThumbnails()
 {
-    const int files = 3 * m_cores;
+    const int files = 60 * m_cores; // which takes longer than a thumbnail
     const MediaFacts facts = MediaClips::factsOf(clip("film.mp4"));
     inspectSongs(2, files);
     m_inspector->requestThumbnail(1, clip("film.mp4"), facts);
