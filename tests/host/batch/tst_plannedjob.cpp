@@ -20,11 +20,10 @@ private:
         PlannedJob made;
         made.source = QStringLiteral("/in/clip.mkv");
         made.target = QStringLiteral("/out/clip.a (2).mp4");
-        made.preset = {
-            {QStringLiteral("extension"), QStringLiteral("mp4")},
-            {QStringLiteral("video"),
-             QVariantMap{{QStringLiteral("encoder"), QStringLiteral("h264")},
-                         {QStringLiteral("resolution"), QStringLiteral("1280x720")}}}};
+        made.preset = {{QStringLiteral("extension"), QStringLiteral("mp4")},
+                       {QStringLiteral("video"),
+                        QVariantMap{{QStringLiteral("encoder"), QStringLiteral("h264")},
+                                    {QStringLiteral("resolution"), QStringLiteral("1280x720")}}}};
         made.settings = OutputSettings::fromPreset(made.preset);
         made.settings.start = 1.5;
         made.settings.end = 9;

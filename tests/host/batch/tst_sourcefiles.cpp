@@ -96,8 +96,8 @@ void TestSourceFiles::onlySomeCanBeKept()
 {
     SourceFiles files({path("in"), path("in/notes.txt")}, true);
     files.keepOnly({path("in/sub/c.flac"), path("in/notes.txt"), path("elsewhere")});
-    QCOMPARE(found(files), QStringList({QStringLiteral("sub|in/sub/c.flac"),
-                                        QStringLiteral("|in/notes.txt")}));
+    QCOMPARE(found(files),
+             QStringList({QStringLiteral("sub|in/sub/c.flac"), QStringLiteral("|in/notes.txt")}));
 }
 
 void TestSourceFiles::aListMayHaveAnySeparator_data()

@@ -196,8 +196,9 @@ void TestConversionCopies::subtitlesThatArePicturesNeedAnMkv()
 
     const Outcome lost = convert(job(source, video(QStringLiteral("mp4"))));
     QCOMPARE(errorOf(lost), QString());
-    QCOMPARE(lost->note(), QStringLiteral("left out: subtitle tracks: 1 (hdmv_pgs_subtitle; .mp4 "
-                                          "doesn't hold them, .mkv does)"));
+    QCOMPARE(lost->notes(),
+             QStringList(QStringLiteral("left out: subtitle tracks: 1 (hdmv_pgs_subtitle; .mp4 "
+                                        "doesn't hold them, .mkv does)")));
     QVERIFY(lost->facts.subtitleTracks.isEmpty());
 }
 

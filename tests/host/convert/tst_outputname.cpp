@@ -178,9 +178,9 @@ void TestOutputName::aFileThatAppearsMeanwhileStays()
 void TestOutputName::thePictureIsFilledIn()
 {
     OutputTarget target;
-    target.name = NameTemplate::fromText(QStringLiteral("{width}x{height}"),
-                                         OutputName::pictureFields())
-                      .value();
+    target.name =
+        NameTemplate::fromText(QStringLiteral("{width}x{height}"), OutputName::pictureFields())
+            .value();
     OutputName name(path("clip.mkv"), target, QStringLiteral("mp4"));
     QVERIFY(!name.isComplete());
     name.setPicture({1280, 720});
