@@ -23,6 +23,8 @@ public:
 
     /*! Looks now, and then again and again. */
     void start();
+    /*! Looks once. */
+    void look();
 
 Q_SIGNALS:
     /*! A file is complete: once for each, and again if it has changed since. */
@@ -35,8 +37,6 @@ private:
         QDateTime modified;
         bool isTold = false;
     };
-
-    void look();
 
     const SourceFiles m_files;
     QHash<QString, Look> m_looks; // by path

@@ -63,16 +63,14 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
 
 void Conversion::start()
 {
-    const Result<> possible = m_job.settings.validate();
+    const Result<> possible = m_job.settings.validate().and_then(
+        [this] { return m_name.isComplete() ? m_name.choose() : Result<>(); });
+    if (possible && !m_name.isSkipped()) {
+        m_sourceProbe.start(m_job.source);
+        return;
+    }
     QMetaObject::invokeMethod(
-        this,
-        [this, possible] {
-            if (!possible) {
-                fail(possible.error());
-            } else if (!m_name.isComplete() || takesName()) {
-                m_sourceProbe.start(m_job.source);
-            }
-        },
+        this, [this, possible] { possible ? skip() : fail(possible.error()); },
         Qt::QueuedConnection);
 }
 
@@ -113,12 +111,13 @@ void Conversion::convertWith(const Result<QSet<QString>> &encoders)
     }
     m_encoderNames = *encoders;
     if (!m_name.isComplete()) {
-        const Result<> named = namePicture();
+        const Result<> named = namePicture().and_then([this] { return m_name.choose(); });
         if (!named) {
             fail(named.error());
             return;
         }
-        if (!takesName()) {
+        if (m_name.isSkipped()) {
+            skip();
             return;
         }
     }
@@ -309,17 +308,6 @@ Result<> Conversion::namePicture()
     return VideoPlan::make(*track, streamTarget()).map([this](const VideoPlan &plan) {
         m_name.setPicture(plan.size);
     });
-}
-
-bool Conversion::takesName()
-{
-    const Result<> chosen = m_name.choose();
-    if (!chosen) {
-        fail(chosen.error());
-    } else if (m_name.isSkipped()) {
-        skip();
-    }
-    return chosen && !m_name.isSkipped();
 }
 
 void Conversion::log()

@@ -86,8 +86,6 @@ private:
     void retryWith(const Copies &copies);
 
     [[nodiscard]] StreamTarget streamTarget() const;
-    /*! Chooses the output's name, and ends the conversion if it is in use and stays. */
-    [[nodiscard]] bool takesName();
     /*! Fills the picture's size into the output's name. */
     [[nodiscard]] Result<> namePicture();
     void log();

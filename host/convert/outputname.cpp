@@ -59,6 +59,7 @@ QString OutputName::folder() const
 
 Result<> OutputName::choose()
 {
+    m_isSkipped = false;
     m_path = freeName(folder(), m_name.text(), m_extension,
                       [this](const QString &path) { return isUnfree(path); });
     if (m_target.kept) {
@@ -86,7 +87,9 @@ Result<> OutputName::publish(PendingFile &output)
 
 bool OutputName::isUnfree(const QString &path) const
 {
-    if (isSameFile(path, m_source) || (m_target.kept && m_target.kept->contains(path))) {
+    // A conversion that starts again may have its own name.
+    const bool isOfAnother = path != m_path && m_target.kept && m_target.kept->contains(path);
+    if (isOfAnother || isSameFile(path, m_source)) {
         return true;
     }
     switch (m_target.ifExists) {

@@ -11,6 +11,7 @@ class TestFolderWatch : public QObject
 
 private Q_SLOTS:
     void aFileArrivesWhenItHasStoppedGrowing();
+    void aWatchLooksAgainByItself();
 };
 
 void TestFolderWatch::aFileArrivesWhenItHasStoppedGrowing()
@@ -27,29 +28,36 @@ void TestFolderWatch::aFileArrivesWhenItHasStoppedGrowing()
     FolderWatch watch(SourceFiles({folder.path()}, false));
     connect(&watch, &FolderWatch::arrived, this,
             [&arrived](const SourceFile &file) { arrived << file.path; });
-    watch.start();
-    QFile file(growing);
-    QVERIFY(file.open(QIODevice::Append));
-    QTimer writer;
-    connect(&writer, &QTimer::timeout, this, [&file] {
-        file.write("more");
-        file.flush();
-    });
-    writer.start(FolderWatch::msBetweenLooks / 10);
-
-    QTRY_COMPARE_WITH_TIMEOUT(arrived, QStringList(waiting), patience);
-    QTest::qWait(FolderWatch::msBetweenLooks * 3 / 2);
+    watch.look();
+    QCOMPARE(arrived, QStringList());
+    QVERIFY(writeFile(growing, "ab"));
+    watch.look();
     QCOMPARE(arrived, QStringList(waiting));
-    writer.stop();
-    QTRY_COMPARE_WITH_TIMEOUT(arrived, QStringList({waiting, growing}), patience);
+    QVERIFY(writeFile(growing, "abc"));
+    watch.look();
+    QCOMPARE(arrived, QStringList(waiting));
+    watch.look();
+    QCOMPARE(arrived, QStringList({waiting, growing}));
 
     // It arrives again only if it changes.
-    QTest::qWait(FolderWatch::msBetweenLooks * 3 / 2);
+    watch.look();
     QCOMPARE(arrived.size(), 2);
-    writer.start(FolderWatch::msBetweenLooks / 10);
-    QTest::qWait(FolderWatch::msBetweenLooks);
-    writer.stop();
-    QTRY_COMPARE_WITH_TIMEOUT(arrived, QStringList({waiting, growing, growing}), patience);
+    QVERIFY(writeFile(growing, "abcd"));
+    watch.look();
+    QCOMPARE(arrived.size(), 2);
+    watch.look();
+    QCOMPARE(arrived, QStringList({waiting, growing, growing}));
+}
+
+void TestFolderWatch::aWatchLooksAgainByItself()
+{
+    const QTemporaryDir folder;
+    const QString waiting = folder.filePath(QStringLiteral("waiting.wav"));
+    FolderWatch watch(SourceFiles({folder.path()}, false));
+    QSignalSpy arrived(&watch, &FolderWatch::arrived);
+    watch.start();
+    QVERIFY(writeFile(waiting, "complete"));
+    QTRY_COMPARE_WITH_TIMEOUT(arrived.size(), 1, patience);
 }
 
 QTEST_GUILESS_MAIN(TestFolderWatch)

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void anotherSourceIsNotReplaced();
     void aLinkToAnotherSourceIsNotReplaced();
     void eachResultOfARunHasItsOwnName();
+    void aNameChosenTwiceIsTheSame();
     void aFolderInTheWayIsPassedBy();
     void aFileThatAppearsMeanwhileStays_data();
     void aFileThatAppearsMeanwhileStays();
@@ -138,6 +139,14 @@ void TestOutputName::eachResultOfARunHasItsOwnName()
         QCOMPARE(first.path(), path("clip.mp4"));
         QCOMPARE(second.path(), path("clip (2).mp4"));
     }
+}
+
+void TestOutputName::aNameChosenTwiceIsTheSame()
+{
+    OutputName name = this->name(IfExists::Skip, std::make_shared<KeptFiles>());
+    QVERIFY(name.choose());
+    QVERIFY(name.choose());
+    QCOMPARE(name.path(), path("clip.mp4"));
 }
 
 void TestOutputName::aFolderInTheWayIsPassedBy()
