@@ -3,6 +3,7 @@
 #include "host/media/mediafiles.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -14,6 +15,19 @@ namespace {
 bool isFolder(const QString &path)
 {
     return QFileInfo(path).isDir();
+}
+
+/*! QDir would hold all facts of each file while it sorts. */
+QStringList sortedNames(const QString &folder, QDir::Filters filters)
+{
+    QStringList names;
+    QDirIterator entries(folder, filters);
+    while (entries.hasNext()) {
+        entries.next();
+        names << entries.fileName();
+    }
+    names.sort();
+    return names;
 }
 
 } // namespace
@@ -56,20 +70,19 @@ void SourceFiles::each(const Take &take) const
 
 void SourceFiles::eachIn(const QString &folder, const QString &subfolder, const Take &take) const
 {
-    const QDir place(folder);
-    const QStringList files = place.entryList(QDir::Files, QDir::Name);
-    for (const QString &file : files) {
-        if (isMediaName(file)) {
-            take({place.filePath(file), subfolder});
+    const QStringList names = sortedNames(folder, QDir::Files);
+    for (const QString &name : names) {
+        if (isMediaName(name)) {
+            take({QDir(folder).filePath(name), subfolder});
         }
     }
     if (!m_isRecursive) {
         return;
     }
     const QStringList folders =
-        place.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+        sortedNames(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
     for (const QString &name : folders) {
-        const QString path = place.filePath(name);
+        const QString path = QDir(folder).filePath(name);
         if (m_leftOut.isEmpty() || QFileInfo(path).canonicalFilePath() != m_leftOut) {
             eachIn(path, subfolder.isEmpty() ? name : subfolder + QLatin1Char('/') + name, take);
         }
