@@ -1,5 +1,9 @@
 #include "host/batch/batch.h"
 
+#include "host/files/workfolder.h"
+
+#include <QFileInfo>
+
 Batch::Batch(const NextJob &next, int sideBySide, BatchReport &report)
     : m_next(next)
     , m_report(report)
@@ -24,6 +28,10 @@ BatchSummary Batch::run()
     startJobs();
     if (!m_queue.isEmpty()) {
         m_loop.exec();
+    }
+    // Where all is there already, no conversion has swept what a killed run left.
+    for (const QString &folder : qAsConst(m_foldersOfSkipped)) {
+        WorkFolder::sweep(folder);
     }
     return m_summary;
 }
@@ -63,6 +71,7 @@ void Batch::finish(int number, const Result<ConversionOutcome> &outcome)
     m_running.erase(number);
     if (outcome && outcome->isSkipped) {
         ++m_summary.skipped;
+        m_foldersOfSkipped.insert(QFileInfo(outcome->target).absolutePath());
     } else if (outcome) {
         ++m_summary.converted;
         m_summary.incomplete += outcome->shortfall.isEmpty() ? 0 : 1;

@@ -5,6 +5,7 @@
 #include "host/queue/conversionqueue.h"
 
 #include <QEventLoop>
+#include <QSet>
 #include <QStringList>
 
 #include <functional>
@@ -81,6 +82,7 @@ private:
     BatchReport &m_report;
     BatchSummary m_summary;
     std::map<int, BatchJob> m_running;
+    QSet<QString> m_foldersOfSkipped;
     bool m_isExhausted = false;
     bool m_waits = false; // for more jobs
     Interrupt m_interrupt;

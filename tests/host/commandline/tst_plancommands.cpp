@@ -21,6 +21,7 @@ private Q_SLOTS:
     void runningAgainConvertsNothingTwice();
     void twoRunsAtOnceWriteEachResultOnce();
     void aKilledRunIsFinishedByTheNext();
+    void whatAKilledRunLeftIsRemoved();
     void aSourceThatVanishedIsNamed();
     void anInvalidLineDoesNotStopTheOthers();
     void aMissingJobIsAnError_data();
@@ -152,6 +153,24 @@ void TestPlanCommands::aKilledRunIsFinishedByTheNext()
     for (const QString &name : results()) {
         QVERIFY(MediaClips::factsOf(path(QStringLiteral("out/") + name)).audio() != nullptr);
     }
+}
+
+void TestPlanCommands::whatAKilledRunLeftIsRemoved()
+{
+    QVERIFY(makeSongs(2));
+    QVERIFY(plan("plan in --preset A_MP3_1 --to out"));
+    QCOMPARE(run("run plan").exitCode, 0);
+    QTemporaryDir tools;
+    QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("sleep 60")));
+    m_environment.insert(QStringLiteral("PATH"),
+                         QString::fromLocal8Bit(MediaClips::pathWith(tools.path())));
+    QProcess killed;
+    start(killed, words("run plan --if-exists overwrite"));
+    QTRY_VERIFY_WITH_TIMEOUT(results().size() > 2, patience);
+    killed.kill();
+    QVERIFY(killed.waitForFinished(patience));
+    QCOMPARE(run("run plan").exitCode, 0);
+    QCOMPARE(results(), words("1.mp3 2.mp3"));
 }
 
 void TestPlanCommands::aSourceThatVanishedIsNamed()
