@@ -1,5 +1,6 @@
 #include "host/app/console.h"
 #include "host/commandline/batchreports.h"
+#include "host/commandline/convertoptions.h"
 #include "host/commandline/shelltext.h"
 
 #include <QFileInfo>
@@ -68,6 +69,10 @@ void JsonReport::finished(const BatchJob &job, const Result<ConversionOutcome> &
     QVariantMap values = {{QStringLiteral("status"), QLatin1String(statusOf(outcome))}};
     if (!outcome) {
         values.insert(QStringLiteral("error"), outcome.error().text);
+        if (m_events == OnlyResults) {
+            values.insert(QStringLiteral("target"),
+                          fixedTarget(job.conversion).value_or(QString()));
+        }
     } else {
         values.insert(QStringLiteral("target"), outcome->target);
         values.insert(QStringLiteral("bytes"), double(QFileInfo(outcome->target).size()));
