@@ -20,7 +20,7 @@ const QLatin1String languageOption("language");
 QVector<Subcommand> subcommands()
 {
     QVector<Subcommand> all = catalogueCommands() + convertCommands() + watchCommands() +
-                              planCommands() + presetCommands();
+                              planCommands() + engineCommands() + presetCommands();
 #ifdef VEX_CHECKS_CATALOGUE
     all += checkCommands();
 #endif

@@ -37,6 +37,7 @@ struct Subcommand
 
 [[nodiscard]] QVector<Subcommand> catalogueCommands();
 [[nodiscard]] QVector<Subcommand> convertCommands();
+[[nodiscard]] QVector<Subcommand> engineCommands();
 [[nodiscard]] QVector<Subcommand> planCommands();
 [[nodiscard]] QVector<Subcommand> presetCommands();
 [[nodiscard]] QVector<Subcommand> watchCommands();

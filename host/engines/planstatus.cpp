@@ -1,0 +1,76 @@
+#include "host/engines/planstatus.h"
+
+#include "host/engines/slurmengine.h"
+#include "host/files/freename.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+
+int linesIn(const QString &path)
+{
+    QFile file(path);
+    int lines = 0;
+    if (file.open(QIODevice::ReadOnly)) {
+        while (file.readLine().endsWith('\n')) {
+            ++lines;
+        }
+    }
+    return lines;
+}
+
+/*! Tasks do their jobs one after another. */
+void countInSlurm(const SubmissionFolder &folder, PlanStatus &status)
+{
+    const auto tasks = SlurmEngine(folder).tasks();
+    if (!tasks) {
+        status.engineError = tasks.error().text;
+        return;
+    }
+    for (auto task = tasks->begin(); task != tasks->end(); ++task) {
+        const QString name = QStringLiteral("%1.jsonl").arg(task.key());
+        const int rest = std::max(0, linesIn(folder.tasks().filePath(name)) -
+                                         linesIn(folder.results().filePath(name)));
+        const int running = task.value() == SlurmTaskState::Running ? std::min(1, rest) : 0;
+        status.running += running;
+        status.waiting += rest - running;
+    }
+}
+
+} // namespace
+
+Result<PlanStatus> planStatus(PlanJobs &plan, const SubmissionFolder &folder,
+                              const std::function<void(const JobResult &result)> &onFailed)
+{
+    PlanStatus status;
+    // Asked first: a job that ends in the meantime counts as done, not as lost.
+    const bool isInUse = folder.isInUse();
+    if (!isInUse) {
+        countInSlurm(folder, status);
+    }
+    int done = 0;
+    const Result<> read = plan.each([&status, &done](const JobPlace &, const PlannedJob &job) {
+        ++status.jobs;
+        done += isDone(job) ? 1 : 0;
+    });
+    if (!read) {
+        return failed(read);
+    }
+    eachResult(folder.results(), [&status, &onFailed](const JobResult &result) {
+        status.converted += result.status == JobResult::Converted ? 1 : 0;
+        // It may have been converted since.
+        if (result.status == JobResult::Failed && !isTaken(result.target)) {
+            ++status.failed;
+            onFailed(result);
+        }
+    });
+    status.converted = std::min(status.converted, done);
+    status.skipped = done - status.converted;
+    const int open = std::max(0, status.jobs - done - status.failed);
+    status.running = std::min(status.running, open);
+    status.waiting = std::min(status.waiting, open - status.running);
+    status.underWay = isInUse ? open : 0;
+    return status;
+}
