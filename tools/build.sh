@@ -44,6 +44,7 @@ run_packages=(
 )
 test_packages=(
     qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3 python3-jsonschema
+    parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
 )
 fuzz_packages=(clang libclang-rt-dev)
 lint_packages=(
