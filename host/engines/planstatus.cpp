@@ -3,25 +3,10 @@
 #include "host/engines/slurmengine.h"
 #include "host/files/freename.h"
 
-#include <QFile>
-
 #include <algorithm>
 
 namespace {
 
-int linesIn(const QString &path)
-{
-    QFile file(path);
-    int lines = 0;
-    if (file.open(QIODevice::ReadOnly)) {
-        while (file.readLine().endsWith('\n')) {
-            ++lines;
-        }
-    }
-    return lines;
-}
-
-/*! Tasks do their jobs one after another. */
 void countInSlurm(const SubmissionFolder &folder, PlanStatus &status)
 {
     const auto tasks = SlurmEngine(folder).tasks();
@@ -29,13 +14,10 @@ void countInSlurm(const SubmissionFolder &folder, PlanStatus &status)
         status.engineError = tasks.error().text;
         return;
     }
-    for (auto task = tasks->begin(); task != tasks->end(); ++task) {
-        const QString name = QStringLiteral("%1.jsonl").arg(task.key());
-        const int rest = std::max(0, linesIn(folder.tasks().filePath(name)) -
-                                         linesIn(folder.results().filePath(name)));
-        const int running = task.value() == SlurmTaskState::Running ? std::min(1, rest) : 0;
+    for (const SlurmTask &task : *tasks) {
+        const int running = task.isRunning ? 1 : 0;
         status.running += running;
-        status.waiting += rest - running;
+        status.waiting += task.left - running;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/engines/engineprogram.h"
 
+#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -22,6 +23,18 @@ EngineProgram slurm(const char *name)
     return {QLatin1String(name), QStringLiteral("slurm-client")};
 }
 
+int linesIn(const QString &path)
+{
+    QFile file(path);
+    int lines = 0;
+    if (file.open(QIODevice::ReadOnly)) {
+        while (file.readLine().endsWith('\n')) {
+            ++lines;
+        }
+    }
+    return lines;
+}
+
 /*! What went wrong, with a program's own words. */
 Result<QByteArray> answerOf(const char *name, const QStringList &arguments)
 {
@@ -32,7 +45,7 @@ Result<QByteArray> answerOf(const char *name, const QStringList &arguments)
 
 } // namespace
 
-Result<QMap<int, SlurmTaskState>> SlurmEngine::tasks() const
+Result<QVector<SlurmTask>> SlurmEngine::tasks() const
 {
     if (!m_folder.tasks().exists() || m_folder.tasks().isEmpty()) {
         return {};
@@ -45,14 +58,16 @@ Result<QMap<int, SlurmTaskState>> SlurmEngine::tasks() const
     if (!list) {
         return failed(list);
     }
-    QMap<int, SlurmTaskState> tasks;
+    QVector<SlurmTask> tasks;
     const QStringList lines = QString::fromLatin1(*list).split(QLatin1Char('\n'));
     for (const QString &line : lines) {
         const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        if (words.size() == 2) {
-            const bool isWaiting = words.at(1) == QLatin1String("PD");
-            tasks.insert(words.at(0).toInt(),
-                         isWaiting ? SlurmTaskState::Waiting : SlurmTaskState::Running);
+        const QString file = words.value(0) + QStringLiteral(".jsonl");
+        const int left =
+            linesIn(m_folder.tasks().filePath(file)) - linesIn(m_folder.results().filePath(file));
+        // Slurm takes its time with tasks that have ended.
+        if (words.size() == 2 && left > 0) {
+            tasks << SlurmTask{words.at(1) != QLatin1String("PD"), left};
         }
     }
     return tasks;

@@ -5,11 +5,15 @@
 #include "host/engines/submissionfolder.h"
 
 #include <QCoreApplication>
-#include <QMap>
 #include <QString>
+#include <QVector>
 
-/*! How Slurm knows the task of an array. */
-enum class SlurmTaskState { Waiting, Running };
+/*! A task of an array that hasn't ended all of its jobs. */
+struct SlurmTask
+{
+    bool isRunning = false; //!< else it is waiting
+    int left = 0;           //!< its jobs without a result; a running task is at the first of them
+};
 
 /*!
  * Slurm, whose job arrays convert plans. All machines share the plan's disk. A task of the array
@@ -24,9 +28,8 @@ public:
         : m_folder(folder)
     {}
 
-    /*! The tasks of the plan that are waiting or running, by their number; none if the last
-     *  submission used another engine. */
-    [[nodiscard]] Result<QMap<int, SlurmTaskState>> tasks() const;
+    /*! The tasks of the plan that Slurm has; none if the last submission used another engine. */
+    [[nodiscard]] Result<QVector<SlurmTask>> tasks() const;
 
     /*! Whether Slurm is there. */
     [[nodiscard]] Result<> prepare() const;
