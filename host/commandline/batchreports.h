@@ -1,7 +1,7 @@
 #ifndef COMMANDLINE_BATCHREPORTS_H
 #define COMMANDLINE_BATCHREPORTS_H
 
-#include "host/batch/batch.h"
+#include "host/queue/batch.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
-#include "host/batch/resultlog.h"
 #include "host/commandline/batchreports.h"
 #include "host/commandline/convertoptions.h"
+#include "host/queue/resultlog.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #ifndef COMMANDLINE_CONVERTOPTIONS_H
 #define COMMANDLINE_CONVERTOPTIONS_H
 
-#include "host/batch/batch.h"
-#include "host/batch/sourcefiles.h"
+#include "host/queue/batch.h"
+#include "host/queue/sourcefiles.h"
 #include "host/commandline/presetchoice.h"
 
 /*! What the options of "convert" and "plan" ask for. */

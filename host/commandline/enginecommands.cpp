@@ -1,10 +1,10 @@
 #include "host/app/console.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/convertoptions.h"
-#include "host/engines/parallelengine.h"
-#include "host/engines/planstatus.h"
-#include "host/engines/slurmengine.h"
-#include "host/engines/submissionfolder.h"
+#include "host/queue/engines/parallelengine.h"
+#include "host/queue/engines/planstatus.h"
+#include "host/queue/engines/slurmengine.h"
+#include "host/queue/engines/submissionfolder.h"
 
 #include <QCoreApplication>
 #include <QDir>

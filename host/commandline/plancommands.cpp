@@ -1,7 +1,7 @@
 #include "host/app/console.h"
-#include "host/batch/plannedjob.h"
 #include "host/commandline/batchreports.h"
 #include "host/commandline/convertoptions.h"
+#include "host/queue/plannedjob.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "host/app/console.h"
-#include "host/batch/folderwatch.h"
-#include "host/batch/watchjournal.h"
 #include "host/commandline/batchreports.h"
 #include "host/commandline/convertoptions.h"
+#include "host/queue/folderwatch.h"
+#include "host/queue/watchjournal.h"
 
 #include <QDir>
 #include <QFileInfo>
