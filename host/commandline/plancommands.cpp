@@ -1,10 +1,8 @@
 #include "host/app/console.h"
 #include "host/commandline/batchreports.h"
 #include "host/commandline/convertoptions.h"
-#include "host/queue/plannedjob.h"
+#include "host/queue/planjobs.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -42,35 +40,6 @@ Result<ExitCode> runPlan(const Call &call)
     return done.map([] { return Success; });
 }
 
-/*! Reads the jobs of a plan one after another. */
-class PlanReader
-{
-public:
-    explicit PlanReader(const QString &path)
-        : m_file(path)
-    {}
-
-    [[nodiscard]] bool open() { return m_file.open(QIODevice::ReadOnly); }
-    [[nodiscard]] QString errorString() const { return m_file.errorString(); }
-
-    /*! The next line's number, from 1, and its job; nothing at the end. Empty lines only count. */
-    std::optional<std::pair<int, Result<PlannedJob>>> next()
-    {
-        while (!m_file.atEnd()) {
-            const QByteArray line = m_file.readLine().trimmed();
-            ++m_number;
-            if (!line.isEmpty()) {
-                return std::pair(m_number, PlannedJob::fromLine(line));
-            }
-        }
-        return std::nullopt;
-    }
-
-private:
-    QFile m_file;
-    int m_number = 0;
-};
-
 Result<ExitCode> runPlannedJobs(const Call &call)
 {
     if (call.arguments.size() != 1) {
@@ -86,31 +55,26 @@ Result<ExitCode> runPlannedJobs(const Call &call)
         return wrongUsage(CommandLine::tr("--index takes the number of a line, from 1"));
     }
     const QString path = call.arguments.constFirst();
-    PlanReader plan(path);
-    if (!plan.open()) {
-        return failed(CommandLine::tr("can't read the plan %1 (%2); check its name")
-                          .arg(path, plan.errorString()));
+    PlanJobs plan;
+    const Result<> opened = plan.open(path);
+    if (!opened) {
+        return failed(opened);
     }
     int unread = 0;
     int found = 0;
     const auto next = [&]() -> std::optional<BatchJob> {
-        for (;;) {
-            const auto line = plan.next();
-            if (!line) {
-                return std::nullopt;
-            }
-            const auto &[number, job] = *line;
-            if (index > 0 && number != index) {
+        while (const std::optional<PlanLine> line = plan.next()) {
+            if (index > 0 && line->place.index != index) {
                 continue;
             }
             ++found;
-            if (job) {
-                return BatchJob{number, job->conversion(*ifExists)};
+            if (line->job) {
+                return BatchJob{line->place.index, line->job->conversion(*ifExists)};
             }
             ++unread;
-            Console::printError(
-                CommandLine::tr("line %1 of %2 %3").arg(number).arg(path, job.error().text));
+            Console::printError(line->job.error().text);
         }
+        return std::nullopt;
     };
     JsonReport report(JsonReport::OnlyResults);
     const BatchSummary summary = Batch(next, *sideBySide, report).run();

@@ -1,5 +1,7 @@
 #include "host/queue/resultlog.h"
 
+#include "host/queue/resultlines.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonDocument>
@@ -26,12 +28,13 @@ Result<QSet<QString>> sourcesToRetry(const QString &logPath)
     while (!log.atEnd()) {
         const QJsonObject event = QJsonDocument::fromJson(log.readLine()).object();
         const QString source = event.value(QStringLiteral("source")).toString();
-        const QString status = event.value(QStringLiteral("status")).toString();
         if (source.isEmpty()) {
             continue;
         }
         hasEvents = true;
-        if (status == QLatin1String("converted") || status == QLatin1String("skipped")) {
+        const std::optional<JobResult> result = resultFromLine(event);
+        if (result &&
+            (result->status == JobResult::Converted || result->status == JobResult::Skipped)) {
             open.remove(source);
         } else {
             open.insert(source);

@@ -1,7 +1,7 @@
 #include "host/queue/engines/parallelengine.h"
 
 #include "host/app/interrupt.h"
-#include "host/queue/engines/resultlines.h"
+#include "host/queue/resultlines.h"
 
 #include <QDir>
 #include <QEventLoop>

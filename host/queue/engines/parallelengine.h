@@ -2,10 +2,10 @@
 #define QUEUE_ENGINES_PARALLELENGINE_H
 
 #include "host/queue/engines/engineprogram.h"
-#include "host/queue/engines/planjobs.h"
 #include "host/queue/engines/sshhosts.h"
 #include "host/queue/engines/submissionfolder.h"
 #include "host/queue/engines/workerjob.h"
+#include "host/queue/planjobs.h"
 
 #include <QJsonObject>
 

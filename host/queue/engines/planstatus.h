@@ -1,9 +1,9 @@
 #ifndef QUEUE_ENGINES_PLANSTATUS_H
 #define QUEUE_ENGINES_PLANSTATUS_H
 
-#include "host/queue/engines/planjobs.h"
-#include "host/queue/engines/resultlines.h"
 #include "host/queue/engines/submissionfolder.h"
+#include "host/queue/planjobs.h"
+#include "host/queue/resultlines.h"
 
 #include <algorithm>
 #include <functional>

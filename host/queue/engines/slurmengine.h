@@ -1,8 +1,8 @@
 #ifndef QUEUE_ENGINES_SLURMENGINE_H
 #define QUEUE_ENGINES_SLURMENGINE_H
 
-#include "host/queue/engines/planjobs.h"
 #include "host/queue/engines/submissionfolder.h"
+#include "host/queue/planjobs.h"
 
 #include <QCoreApplication>
 #include <QString>

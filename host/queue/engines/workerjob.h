@@ -2,7 +2,7 @@
 #define QUEUE_ENGINES_WORKERJOB_H
 
 #include "host/error.h"
-#include "host/queue/engines/planjobs.h"
+#include "host/queue/planjobs.h"
 
 #include <QCoreApplication>
 #include <QDir>

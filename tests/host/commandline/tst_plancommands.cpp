@@ -193,7 +193,7 @@ void TestPlanCommands::anInvalidLineDoesNotStopTheOthers()
     QVERIFY(writeFile(path(QStringLiteral("plan")), lines.left(100) + '\n' + lines));
     const CommandRun result = run("run plan");
     QCOMPARE(result.exitCode, 1);
-    QVERIFY2(result.err.startsWith(QStringLiteral("vexconvert: line 1 of plan is no whole job (")),
+    QVERIFY2(result.err.startsWith(QStringLiteral("vexconvert: plan: line 1 is no whole job (")),
              qPrintable(result.err));
     QCOMPARE(statuses(result),
              QStringList({QStringLiteral("2 converted"), QStringLiteral("3 converted")}));
@@ -210,7 +210,8 @@ void TestPlanCommands::aMissingJobIsAnError_data()
                             << QStringLiteral("--index takes the number of a line, from 1");
     QTest::newRow("file") << QStringLiteral("other") << 1
                           << QStringLiteral("can't read the plan other (No such file or "
-                                            "directory); check its name");
+                                            "directory); name one that \"vexconvert "
+                                            "plan\" wrote");
     QTest::newRow("none named") << QString() << 2
                                 << QStringLiteral("name one plan: vexconvert run PLAN");
 }

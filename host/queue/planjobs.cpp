@@ -1,4 +1,4 @@
-#include "host/queue/engines/planjobs.h"
+#include "host/queue/planjobs.h"
 
 #include "host/files/freename.h"
 
@@ -15,22 +15,27 @@ Result<> PlanJobs::open(const QString &path)
     return {};
 }
 
+std::optional<PlanLine> PlanJobs::next()
+{
+    while (!m_file.atEnd()) {
+        const JobPlace place{++m_linesRead, m_file.pos()};
+        const QByteArray line = m_file.readLine();
+        if (!line.trimmed().isEmpty()) {
+            return PlanLine{place, jobIn(line, place.index)};
+        }
+    }
+    return std::nullopt;
+}
+
 Result<> PlanJobs::each(const Visit &visit)
 {
-    JobPlace place;
     m_file.seek(0);
-    while (!m_file.atEnd()) {
-        ++place.index;
-        place.offset = m_file.pos();
-        const QByteArray line = m_file.readLine();
-        if (line.trimmed().isEmpty()) {
-            continue;
+    m_linesRead = 0;
+    while (const std::optional<PlanLine> line = next()) {
+        if (!line->job) {
+            return failed(line->job);
         }
-        const Result<PlannedJob> job = jobIn(line, place.index);
-        if (!job) {
-            return failed(job);
-        }
-        visit(place, *job);
+        visit(line->place, *line->job);
     }
     return {};
 }

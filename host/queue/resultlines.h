@@ -1,5 +1,5 @@
-#ifndef QUEUE_ENGINES_RESULTLINES_H
-#define QUEUE_ENGINES_RESULTLINES_H
+#ifndef QUEUE_RESULTLINES_H
+#define QUEUE_RESULTLINES_H
 
 #include <QDir>
 #include <QJsonObject>

@@ -1,4 +1,4 @@
-#include "host/queue/engines/resultlines.h"
+#include "host/queue/resultlines.h"
 
 #include <QFile>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "host/queue/engines/planjobs.h"
+#include "host/queue/planjobs.h"
 #include "tests/support/testfiles.h"
 
 #include <QTemporaryDir>
