@@ -1,0 +1,44 @@
+#ifndef FIND_PRESETQUERY_H
+#define FIND_PRESETQUERY_H
+
+#include "host/find/field.h"
+
+#include <QString>
+#include <QVector>
+
+/*! What a preset must have. Every word of every text must match; an empty text allows all. */
+struct PresetQuery
+{
+    QString text; //!< matches any field
+    // These match only the field that they are named after, and as whole words.
+    QString kind; //!< "video" or "audio"
+    QString codec;
+    QString size; //!< "1080", "4k", "1920x1080", ...
+};
+
+/*! A preset that was found. */
+struct PresetMatch
+{
+    /*! What a word of the query matched. */
+    struct Reason
+    {
+        QString typed; //!< folded
+        Field field;
+        QString text; //!< of the field
+    };
+
+    QString id;
+    QString title;
+    QString format; //!< its title
+    QString tag;
+    QVector<Reason> why; //!< one for each word
+};
+
+struct PresetMatches
+{
+    QVector<PresetMatch> best; //!< the best first
+    int count = 0;             //!< how many there are, including those not in \a best
+    QString unknown;           //!< the first word that no preset has, folded; empty: none
+};
+
+#endif
