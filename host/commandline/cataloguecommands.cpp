@@ -1,6 +1,7 @@
 #include "host/app/console.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/fitting.h"
+#include "host/commandline/formattable.h"
 #include "host/commandline/nearestword.h"
 #include "host/commandline/presettable.h"
 
@@ -20,26 +21,20 @@ const QLatin1String jsonFlag("json");
 
 void printFormats(const FormatListModel &formats, const QAbstractItemModel &shown, bool asJson)
 {
-    QVector<QStringList> table = {
-        {CommandLine::tr("Format"), CommandLine::tr("Tag"), CommandLine::tr("Presets")}};
+    if (!asJson) {
+        Console::printTable(formatTable(formats, shown));
+        return;
+    }
     QVariantList json;
     for (int row = 0; row < shown.rowCount(); ++row) {
         const QModelIndex index = shown.index(row, 0);
         const QString title = index.data(FormatListModel::TitleRole).toString();
-        const QString tag = index.data(FormatListModel::TagRole).toString();
-        const FormatDetailModel *presets = formats.formatDetailModel(title);
-        const int count = presets == nullptr ? 0 : presets->rowCount();
-        table.append({title, tag, QString::number(count)});
         json.append(QVariantMap{{QStringLiteral("title"), title},
-                                {QStringLiteral("tag"), tag},
+                                {QStringLiteral("tag"), index.data(FormatListModel::TagRole)},
                                 {QStringLiteral("icon"), index.data(FormatListModel::IconRole)},
-                                {QStringLiteral("presets"), count}});
+                                {QStringLiteral("presets"), presetCount(formats, title)}});
     }
-    if (asJson) {
-        Console::printJson(json);
-    } else {
-        Console::printTable(table);
-    }
+    Console::printJson(json);
 }
 
 /*! The exact title of a format, found case-insensitively; empty if there is none. */
@@ -91,25 +86,6 @@ Result<ExitCode> runFormats(const Call &call)
     }
     formats.setFormatTag(tag);
     printFormats(all, *formats.formatListModelProxy(), call.options.isSet(jsonFlag));
-    return Success;
-}
-
-Result<ExitCode> runSearch(const Call &call)
-{
-    if (call.arguments.size() != 1 || call.arguments.constFirst().isEmpty()) {
-        return wrongUsage(CommandLine::tr("give one text to search for: vexconvert search TEXT"));
-    }
-    PresetStore store = presetsOf(call);
-    openWhatCanBeRead(store);
-    FormatListModelProxy &proxy = *store.formats().formatListModelProxy();
-    proxy.setSearchKey(call.arguments.constFirst());
-    const bool asJson = call.options.isSet(jsonFlag);
-    if (proxy.count() == 0 && !asJson) {
-        Console::print(
-            CommandLine::tr("No format title contains \"%1\".").arg(call.arguments.constFirst()));
-        return Success;
-    }
-    printFormats(*store.formats().formatListModel(), proxy, asJson);
     return Success;
 }
 
@@ -233,12 +209,6 @@ QVector<Subcommand> catalogueCommands()
          {},
          {tag, jsonOption()},
          runFormats},
-        {QStringLiteral("search"),
-         CommandLine::tr("TEXT [--json]"),
-         CommandLine::tr("List the formats whose title contains a text."),
-         {},
-         {jsonOption()},
-         runSearch},
         {QStringLiteral("presets"),
          CommandLine::tr("FORMAT [--json]"),
          CommandLine::tr("List the presets of a format."),

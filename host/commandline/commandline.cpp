@@ -19,8 +19,10 @@ const QLatin1String languageOption("language");
 
 QVector<Subcommand> subcommands()
 {
-    QVector<Subcommand> all = catalogueCommands() + convertCommands() + watchCommands() +
-                              planCommands() + engineCommands() + presetCommands();
+    QVector<Subcommand> all = catalogueCommands();
+    all.append(searchCommand());
+    all += convertCommands() + watchCommands() + planCommands() + engineCommands() +
+           presetCommands();
 #ifdef VEX_CHECKS_CATALOGUE
     all += checkCommands();
 #endif

@@ -36,6 +36,7 @@ struct Subcommand
 };
 
 [[nodiscard]] QVector<Subcommand> catalogueCommands();
+[[nodiscard]] Subcommand searchCommand();
 [[nodiscard]] QVector<Subcommand> convertCommands();
 [[nodiscard]] QVector<Subcommand> engineCommands();
 [[nodiscard]] QVector<Subcommand> planCommands();

@@ -12,7 +12,6 @@ class TestCatalogueCommands : public CommandLineTest
 private Q_SLOTS:
     void formatsAreListedInColumns();
     void formatsAreListedByTag();
-    void formatsAreFoundByTheirTitle();
     void presetsAreListedInColumns_data();
     void presetsAreListedInColumns();
     void aPresetIsShownWithItsChoices();
@@ -41,16 +40,6 @@ void TestCatalogueCommands::formatsAreListedByTag()
     const CommandRun none = run("formats --tag device");
     QCOMPARE(none.exitCode, 0);
     QCOMPARE(none.out, QStringLiteral("Format  Tag  Presets\n"));
-}
-
-void TestCatalogueCommands::formatsAreFoundByTheirTitle()
-{
-    QCOMPARE(run("search mp").out, QStringLiteral("Format  Tag    Presets\n"
-                                                  "MP4     video  2\n"
-                                                  "MP3     audio  2\n"));
-    const CommandRun none = run("search bogus");
-    QCOMPARE(none.exitCode, 0);
-    QCOMPARE(none.out, QStringLiteral("No format title contains \"bogus\".\n"));
 }
 
 void TestCatalogueCommands::presetsAreListedInColumns_data()
@@ -108,7 +97,6 @@ void TestCatalogueCommands::listsCanBePrintedAsJson_data()
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("size");
     QTest::newRow("formats") << QStringLiteral("formats --json") << 3;
-    QTest::newRow("search") << QStringLiteral("search bogus --json") << 0;
     QTest::newRow("presets") << QStringLiteral("presets MP4 --json") << 2;
     QTest::newRow("recent") << QStringLiteral("recent --json") << 0;
     QTest::newRow("user") << QStringLiteral("user list --json") << 0;

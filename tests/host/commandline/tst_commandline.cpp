@@ -75,6 +75,7 @@ void TestCommandLine::wrongUsageIsExplained_data()
         "there is no tag \"bogus\"; choose one of video, audio, device, socialvideo");
     row("formats --tag recently", "there is no tag \"recently\"");
     row("search", "give one text to search for");
+    row("search mp --kind image", "--kind must be video or audio");
     row("presets", "give one format");
     row("presets MP4 MKV", "give one format");
     row("presets bogus", "there is no format \"bogus\"; \"vexconvert formats\" lists them, "
