@@ -42,7 +42,7 @@ QVariantMap preset(int format, int number)
     return {
         {QStringLiteral("id"), LargeCatalogue::presetId(format, number)},
         {QStringLiteral("extension"), QStringLiteral("mp4")},
-        {QStringLiteral("title"), QStringLiteral("Preset %1").arg(number)},
+        {QStringLiteral("title"), QStringLiteral("Preset %1x%2").arg(format).arg(number)},
         {QStringLiteral("videoParam"),
          QVariantMap{{QStringLiteral("encoder"), QStringLiteral("h264")},
                      {QStringLiteral("bitrateKbps"), 4000},

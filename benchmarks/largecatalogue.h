@@ -5,7 +5,8 @@
 
 /*!
  * A catalogue of any size: linking it replaces FormatCodecApi for the whole process. Every format
- * has presetsPerFormat presets, all with the same option lists.
+ * has presetsPerFormat presets, all with the same option lists and each with a title of its own,
+ * "Preset 12x34" of "FORMAT12".
  */
 namespace LargeCatalogue {
 
