@@ -3,7 +3,7 @@
 
 #include "benchmarks/largecatalogue.h"
 #include "formats/proxy/formatsproxy.h"
-#include "host/find/presetindex.h"
+#include "host/presets/find/presetindex.h"
 
 #include <QElapsedTimer>
 #include <QTextStream>

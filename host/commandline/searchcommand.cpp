@@ -2,7 +2,7 @@
 #include "host/commandline/commandline.h"
 #include "host/commandline/formattable.h"
 #include "host/commandline/nearestword.h"
-#include "host/find/presetindex.h"
+#include "host/presets/find/presetindex.h"
 
 #include "formats/proxy/formatsproxy.h"
 

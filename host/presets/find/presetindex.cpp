@@ -1,8 +1,8 @@
-#include "host/find/presetindex.h"
+#include "host/presets/find/presetindex.h"
 
-#include "host/find/foldedwords.h"
-#include "host/find/presetindexbuilder.h"
-#include "host/find/synonyms.h"
+#include "host/presets/find/foldedwords.h"
+#include "host/presets/find/presetindexbuilder.h"
+#include "host/presets/find/synonyms.h"
 
 #include <algorithm>
 #include <limits>

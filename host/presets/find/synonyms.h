@@ -1,7 +1,7 @@
-#ifndef FIND_SYNONYMS_H
-#define FIND_SYNONYMS_H
+#ifndef PRESETS_FIND_SYNONYMS_H
+#define PRESETS_FIND_SYNONYMS_H
 
-#include "host/find/field.h"
+#include "host/presets/find/field.h"
 
 #include <QHash>
 #include <QSet>

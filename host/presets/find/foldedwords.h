@@ -1,5 +1,5 @@
-#ifndef FIND_FOLDEDWORDS_H
-#define FIND_FOLDEDWORDS_H
+#ifndef PRESETS_FIND_FOLDEDWORDS_H
+#define PRESETS_FIND_FOLDEDWORDS_H
 
 #include <QString>
 #include <QStringList>

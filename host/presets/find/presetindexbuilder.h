@@ -1,9 +1,9 @@
-#ifndef FIND_PRESETINDEXBUILDER_H
-#define FIND_PRESETINDEXBUILDER_H
+#ifndef PRESETS_FIND_PRESETINDEXBUILDER_H
+#define PRESETS_FIND_PRESETINDEXBUILDER_H
 
-#include "host/find/facets.h"
-#include "host/find/presetindex.h"
-#include "host/find/synonyms.h"
+#include "host/presets/find/facets.h"
+#include "host/presets/find/presetindex.h"
+#include "host/presets/find/synonyms.h"
 
 #include <QHash>
 #include <QPair>

@@ -1,4 +1,4 @@
-#include "host/find/foldedwords.h"
+#include "host/presets/find/foldedwords.h"
 
 #include <QVector>
 

@@ -1,6 +1,6 @@
-#include "host/find/synonyms.h"
+#include "host/presets/find/synonyms.h"
 
-#include "host/find/foldedwords.h"
+#include "host/presets/find/foldedwords.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
-#include "host/find/facets.h"
+#include "host/presets/find/facets.h"
 
-#include "host/find/foldedwords.h"
+#include "host/presets/find/foldedwords.h"
 
 #include "formats/models/formatdetailmodeldata.h"
 #include "formats/models/formatlistmodeldata.h"

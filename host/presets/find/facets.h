@@ -1,7 +1,7 @@
-#ifndef FIND_FACETS_H
-#define FIND_FACETS_H
+#ifndef PRESETS_FIND_FACETS_H
+#define PRESETS_FIND_FACETS_H
 
-#include "host/find/field.h"
+#include "host/presets/find/field.h"
 
 #include <QString>
 #include <QStringList>

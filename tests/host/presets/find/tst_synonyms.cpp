@@ -1,7 +1,7 @@
 #include "host/app/languages.h"
-#include "host/find/facets.h"
-#include "host/find/foldedwords.h"
-#include "host/find/synonyms.h"
+#include "host/presets/find/facets.h"
+#include "host/presets/find/foldedwords.h"
+#include "host/presets/find/synonyms.h"
 
 #include "formats/models/formatdetailmodel.h"
 #include "formats/models/formatlistmodel.h"

@@ -1,8 +1,8 @@
-#ifndef FIND_PRESETINDEX_H
-#define FIND_PRESETINDEX_H
+#ifndef PRESETS_FIND_PRESETINDEX_H
+#define PRESETS_FIND_PRESETINDEX_H
 
-#include "host/find/presetquery.h"
-#include "host/find/wordindex.h"
+#include "host/presets/find/presetquery.h"
+#include "host/presets/find/wordindex.h"
 
 #include <QString>
 #include <QStringList>

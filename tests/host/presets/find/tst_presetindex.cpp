@@ -1,4 +1,4 @@
-#include "host/find/presetindex.h"
+#include "host/presets/find/presetindex.h"
 
 #include "formats/proxy/formatsproxy.h"
 

@@ -1,7 +1,7 @@
-#ifndef FIND_PRESETQUERY_H
-#define FIND_PRESETQUERY_H
+#ifndef PRESETS_FIND_PRESETQUERY_H
+#define PRESETS_FIND_PRESETQUERY_H
 
-#include "host/find/field.h"
+#include "host/presets/find/field.h"
 
 #include <QString>
 #include <QVector>

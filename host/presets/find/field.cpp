@@ -1,4 +1,4 @@
-#include "host/find/field.h"
+#include "host/presets/find/field.h"
 
 #include <array>
 

@@ -1,5 +1,5 @@
-#ifndef FIND_WORDINDEX_H
-#define FIND_WORDINDEX_H
+#ifndef PRESETS_FIND_WORDINDEX_H
+#define PRESETS_FIND_WORDINDEX_H
 
 #include <QPair>
 #include <QString>

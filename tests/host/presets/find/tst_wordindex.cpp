@@ -1,4 +1,4 @@
-#include "host/find/wordindex.h"
+#include "host/presets/find/wordindex.h"
 
 #include <QtTest>
 

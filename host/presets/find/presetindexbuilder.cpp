@@ -1,6 +1,6 @@
-#include "host/find/presetindexbuilder.h"
+#include "host/presets/find/presetindexbuilder.h"
 
-#include "host/find/foldedwords.h"
+#include "host/presets/find/foldedwords.h"
 
 #include "formats/models/formatdetailmodel.h"
 #include "formats/models/formatlistmodel.h"

@@ -1,5 +1,5 @@
-#ifndef FIND_FIELD_H
-#define FIND_FIELD_H
+#ifndef PRESETS_FIND_FIELD_H
+#define PRESETS_FIND_FIELD_H
 
 #include <QString>
 
