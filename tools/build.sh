@@ -48,7 +48,7 @@ test_packages=(
 )
 fuzz_packages=(clang libclang-rt-dev)
 lint_packages=(
-    clang-format clang-tidy shellcheck qtdeclarative5-dev-tools qt6-declarative-dev-tools
+    clang-format clang-tidy shellcheck reuse qtdeclarative5-dev-tools qt6-declarative-dev-tools
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-templates qml6-module-qtquick-window

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Checks all files with clang-format, shellcheck and qmllint, and with clang-tidy the C++ files that
-# differ from main or, on main, from the commit before. With --all clang-tidy checks all C++ files;
-# with --clazy clazy's level 1 checks the same files. Exits with 1 if there are complaints.
+# Checks all files with clang-format, shellcheck, qmllint and reuse, and with clang-tidy the C++ files
+# that differ from main or, on main, from the commit before. With --all clang-tidy checks all C++
+# files; with --clazy clazy's level 1 checks the same files. Exits with 1 if there are complaints.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=tools/build.sh
@@ -98,6 +98,7 @@ git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror || stat
 git ls-files -z '*.qml' | xargs -0 "$qt5/qmllint" || status=1
 lint_types || status=1
 shellcheck -x run test .ci/run tools/*.sh tests/host/queue/engines/*.sh || status=1
+reuse lint --quiet || status=1
 
 cmake --preset dev >/dev/null
 if $all; then
