@@ -46,6 +46,7 @@ QString ownCataloguePath()
 
 QString builtInCataloguePath()
 {
+    Q_INIT_RESOURCE(catalogue); // a static library's resources need this call
     return QStringLiteral(":/morrow/catalogue");
 }
 

@@ -35,6 +35,7 @@ FormatsProxy::FormatsProxy(QObject *parent)
     : QObject(parent)
     , d(new FormatsProxyPrivate(this))
 {
+    Q_INIT_RESOURCE(formats); // a static library's resources need this call
     qmlRegisterType<FormatListModel>("CVFormats", 1, 0, "FormatListModel");
     qmlRegisterType<FormatListModelProxy>("CVFormats", 1, 0, "FormatListModelProxy");
     qmlRegisterType<FormatDetailModel>("CVFormats", 1, 0, "FormatDetailModel");

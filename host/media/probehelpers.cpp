@@ -1,15 +1,16 @@
 #include "host/media/probehelpers.h"
 
-#include <QFileInfo>
+#include <QCoreApplication>
+#include <QDir>
 
 namespace {
 
-/*! Beside the program or where it was installed; never on the PATH. */
+/*! Beside the program or where it is installed; never on the PATH. */
 QString helperProgram()
 {
-    const QString name = QStringLiteral("/vexprobe");
-    const QString beside = QCoreApplication::applicationDirPath() + name;
-    return QFileInfo::exists(beside) ? beside : QStringLiteral(VEX_LIBEXEC_DIR) + name;
+    const QDir here(QCoreApplication::applicationDirPath());
+    const QString name = QStringLiteral("vexprobe");
+    return here.filePath(here.exists(name) ? name : QStringLiteral(VEX_LIBEXEC_DIR "/") + name);
 }
 
 ProbeHelpers *ofApplication = nullptr;

@@ -1,0 +1,73 @@
+# Installs the libraries: the component "runtime" is what programs need to run, "dev" what they need
+# to be built, with find_package() or pkg-config.
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+# INCLUDE_DIR is the root of the header names; PACKAGES are the CMake packages and REQUIRES the
+# pkg-config modules that users of the library need too.
+function(vex_install_library target)
+  cmake_parse_arguments(ARG "" "INCLUDE_DIR;DESCRIPTION;REQUIRES;REQUIRES_PRIVATE"
+    "HEADERS;PACKAGES" ${ARGN})
+  set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
+  set(include_dir ${CMAKE_INSTALL_INCLUDEDIR}/${target})
+
+  target_include_directories(${target} INTERFACE $<INSTALL_INTERFACE:${include_dir}>)
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  install(TARGETS ${target} EXPORT ${target}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev)
+  foreach(header ${ARG_HEADERS})
+    get_filename_component(folder ${header} DIRECTORY)
+    install(FILES ${ARG_INCLUDE_DIR}/${header} DESTINATION ${include_dir}/${folder} COMPONENT dev)
+  endforeach()
+
+  install(EXPORT ${target} NAMESPACE Vex:: FILE ${target}Targets.cmake
+    DESTINATION ${package_dir} COMPONENT dev)
+  set(dependencies "")
+  foreach(package ${ARG_PACKAGES})
+    string(APPEND dependencies "find_dependency(${package})\n")
+  endforeach()
+  configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/Config.cmake.in
+    ${PROJECT_BINARY_DIR}/package/${target}Config.cmake INSTALL_DESTINATION ${package_dir})
+  write_basic_package_version_file(${PROJECT_BINARY_DIR}/package/${target}ConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+
+  file(RELATIVE_PATH prefix_from_pc ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+  string(REGEX REPLACE "/$" "" prefix_from_pc ${prefix_from_pc})
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in
+    ${PROJECT_BINARY_DIR}/package/${target}.pc @ONLY)
+  install(FILES
+    ${PROJECT_BINARY_DIR}/package/${target}Config.cmake
+    ${PROJECT_BINARY_DIR}/package/${target}ConfigVersion.cmake
+    DESTINATION ${package_dir} COMPONENT dev)
+  install(FILES ${PROJECT_BINARY_DIR}/package/${target}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
+endfunction()
+
+if(TARGET VexMorrowUtility)
+  vex_install_library(VexMorrowUtility
+    DESCRIPTION "The export catalogue of a media converter"
+    INCLUDE_DIR ${PROJECT_SOURCE_DIR}/utility
+    HEADERS formatcodecapi.h utilityglobal.h
+    PACKAGES "Qt5 5.15 COMPONENTS Core"
+    REQUIRES "Qt5Core >= 5.15")
+endif()
+
+vex_install_library(VexConvertFormats
+  DESCRIPTION "The output formats and presets of a media converter, as models for QML"
+  INCLUDE_DIR ${PROJECT_SOURCE_DIR}
+  HEADERS
+    formats/formatsglobal.h
+    formats/models/formatdetailmodel.h
+    formats/models/formatdetailmodeldata.h
+    formats/models/formatlistmodel.h
+    formats/models/formatlistmodeldata.h
+    formats/models/formatlistmodelproxy.h
+    formats/parsers/iformatsparser.h
+    formats/parsers/noformatidparser.h
+    formats/parsers/widthformatidparser.h
+    formats/proxy/formatsproxy.h
+  PACKAGES "Qt5 5.15 COMPONENTS Core Qml" VexMorrowUtility
+  REQUIRES "Qt5Core >= 5.15, VexMorrowUtility"
+  REQUIRES_PRIVATE "Qt5Qml >= 5.15")

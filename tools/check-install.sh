@@ -1,0 +1,70 @@
+#!/usr/bin/env bash
+# Usage: tools/check-install.sh [BUILD_DIR]
+# Installs a finished build (build/dev by default) into a folder of its own, moves it, and uses
+# what is there as others do: find_package, pkg-config, the headers, the examples and vexconvert.
+# Also adds the source tree to another project, with static libraries.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+build=$(realpath "${1:-build/dev}")
+source=$PWD
+room=$(mktemp -d)
+trap 'rm -rf "$room"' EXIT
+export QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software LC_ALL=C.UTF-8
+export XDG_RUNTIME_DIR=$room HOME=$room
+prefix=$room/moved
+
+fail() {
+    echo "check-install: $*" >&2
+    exit 1
+}
+
+# Runs the examples in folder $1.
+run_examples() {
+    local output
+    [ "$("$1/lookup" video mp4 1280x720 2>/dev/null)" = "Video_MP4_005 HD 720P" ] ||
+        fail "lookup in $1 finds the wrong preset"
+    "$1/formatlist" "$room/list.png" 2>/dev/null || fail "formatlist in $1 failed"
+    output=$(timeout 60 "$1/screens" "$room/picker.png" "$room/dialog.png" 2>&1) ||
+        fail "screens in $1 failed: $output"
+    ! grep 'qrc:' <<<"$output" || fail "screens in $1 complained"
+    rm "$room"/{list,picker,dialog}.png
+}
+
+for component in runtime dev app; do
+    cmake --install "$build" --prefix "$room/first" --component "$component" >/dev/null
+done
+mv "$room/first" "$prefix"
+! grep -rIl "$source" "$prefix" || fail "these files name the source tree"
+! grep -rIl "$room/first" "$prefix" || fail "these files name the folder of the installation"
+
+export PKG_CONFIG_PATH=$prefix/lib/pkgconfig
+read -ra flags < <(pkg-config --cflags VexConvertFormats)
+(cd "$prefix/include" && find VexConvertFormats VexMorrowUtility -name '*.h') >"$room/headers"
+while read -r header; do
+    c++ -std=c++17 -fPIC -fsyntax-only "${flags[@]}" -x c++ - <<<"#include \"${header#*/}\"" ||
+        fail "$header doesn't compile alone"
+done <"$room/headers"
+! grep -q '_p\.h\|private' "$room/headers" || fail "a private header is installed"
+
+read -ra flags < <(pkg-config --cflags --libs VexConvertFormats)
+c++ -std=c++17 -fPIC examples/lookup.cpp -o "$room/lookup" "${flags[@]}" "-Wl,-rpath,$prefix/lib"
+"$room/lookup" audio mp3 192 2>/dev/null | grep -q '^Audio_MP3_' || fail "pkg-config's lookup failed"
+
+cmake -G Ninja -S examples -B "$room/examples" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build "$room/examples" -- --quiet
+run_examples "$room/examples"
+
+cmake -G Ninja -S tests/install -B "$room/consumer" -DCMAKE_CXX_FLAGS=-O0 >/dev/null
+cmake --build "$room/consumer" -- --quiet
+! find "$room/consumer" -name '*.so*' | grep . || fail "a static build makes shared libraries"
+run_examples "$room/consumer/examples"
+
+ffmpeg -v error -f lavfi -i sine=duration=1 "$room/clip.wav"
+"$prefix/bin/vexconvert" convert "$room/clip.wav" --type audio --format mp3 --target 192 \
+    --to "$room/result" >/dev/null
+[ -s "$room/result/clip.mp3" ] || fail "the installed vexconvert converts nothing"
+# Without ffprobe, only vexprobe can tell what the clip is.
+mkdir "$room/path"
+ln -s "$(command -v ffmpeg)" "$room/path/ffmpeg"
+PATH=$room/path "$prefix/bin/vexconvert" convert "$room/clip.wav" --preset Audio_MP3_002 \
+    --to "$room/result" >/dev/null || fail "the installed vexconvert doesn't find vexprobe"
