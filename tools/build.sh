@@ -34,7 +34,7 @@ build() {
 build_packages=(
     g++ cmake ninja-build
     qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev qttools5-dev qttools5-dev-tools libexpected-dev
-    pkgconf libavformat-dev libavcodec-dev libavutil-dev
+    pkgconf libavformat-dev libavcodec-dev libavutil-dev python3
 )
 run_packages=(
     ffmpeg libqt5svg5 fonts-dejavu-core
@@ -45,6 +45,7 @@ run_packages=(
 test_packages=(
     qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3 python3-jsonschema
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
+    desktop-file-utils appstream man-db zsh fish
 )
 fuzz_packages=(clang libclang-rt-dev)
 lint_packages=(

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Usage: tools/check-install.sh [BUILD_DIR]
 # Installs a finished build (build/dev by default) into a folder of its own, moves it, and uses
-# what is there as others do: find_package, pkg-config, the headers, the examples and vexconvert.
+# what is there as others do: find_package, pkg-config, the headers, the examples, vexconvert, its
+# manual pages and completions.
 # Also adds the source tree to another project, with static libraries.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -68,3 +69,29 @@ mkdir "$room/path"
 ln -s "$(command -v ffmpeg)" "$room/path/ffmpeg"
 PATH=$room/path "$prefix/bin/vexconvert" convert "$room/clip.wav" --preset Audio_MP3_002 \
     --to "$room/result" >/dev/null || fail "the installed vexconvert doesn't find vexprobe"
+
+desktop-file-validate "$prefix/share/applications/vexconvert.desktop"
+appstreamcli validate --no-net "$prefix"/share/metainfo/*.xml >&2 || fail "the metainfo is invalid"
+"$prefix/bin/vexconvert" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p' >"$room/subcommands"
+[ -s "$room/subcommands" ] || fail "no subcommands are listed"
+while read -r subcommand; do
+    page=$prefix/share/man/man1/vexconvert-$subcommand.1
+    [ -z "$(man --warnings -E UTF-8 -l -Tutf8 "$page" 2>&1 >/dev/null)" ] || fail "$page has mistakes"
+done <"$room/subcommands"
+
+# Each shell completes a preset's id, which it can only know from vexconvert.
+export PATH=$prefix/bin:$PATH
+share=$prefix/share
+# shellcheck disable=SC2016 # the shells' own variables
+completed=(
+    "$(bash -c 'source "$1"; COMP_WORDS=(vexconvert show Video_MP4_00); COMP_CWORD=2; _vexconvert
+        printf "%s\n" "${COMPREPLY[@]}"' - "$share/bash-completion/completions/vexconvert")"
+    "$(fish -c 'source $argv[1]; complete -C "vexconvert show Video_MP4_00"' \
+        "$share/fish/vendor_completions.d/vexconvert.fish")"
+    "$(zsh -fc '_arguments() { eval "${@[-1]#*:argument:}"; }
+        compadd() { print -l $found; }; words=(vexconvert show Video); CURRENT=3; source $1' - \
+        "$share/zsh/vendor-completions/_vexconvert")"
+)
+for found in "${completed[@]}"; do
+    [[ $found == *Video_MP4_005* ]] || fail "a shell completes no ids but \"$found\""
+done
