@@ -4,6 +4,7 @@
 #include "host/app/languages.h"
 #include "host/commandline/nearestword.h"
 #include "host/files/localpath.h"
+#include "host/tools/ffmpegversion.h"
 
 #include "formats/proxy/formatsproxy.h"
 
@@ -63,7 +64,8 @@ QList<QCommandLineOption> commonOptions()
                                     "the default one."),
                     CommandLine::tr("DIR")),
         {{QStringLiteral("h"), QStringLiteral("help")}, CommandLine::tr("Print this help.")},
-        {{QStringLiteral("v"), QStringLiteral("version")}, CommandLine::tr("Print the version.")},
+        {{QStringLiteral("v"), QStringLiteral("version")},
+         CommandLine::tr("Print the versions of vexconvert, Qt and ffmpeg.")},
     };
 }
 
@@ -104,6 +106,14 @@ QString optionsText(const QCommandLineParser &parser)
 {
     const QString text = parser.helpText();
     return text.mid(text.indexOf(QLatin1Char('\n')) + 1).trimmed();
+}
+
+QString versionText()
+{
+    const Result<QString> ffmpeg = ffmpegVersion();
+    return QStringLiteral("vexconvert %1\nQt %2\n%3")
+        .arg(QCoreApplication::applicationVersion(), QString::fromLatin1(qVersion()),
+             ffmpeg ? QStringLiteral("ffmpeg %1").arg(*ffmpeg) : ffmpeg.error().text);
 }
 
 QString overviewText(const QCommandLineParser &parser)
@@ -191,7 +201,7 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
     const bool isParsed = parseOverall(parser, arguments);
     const QStringList rest = parser.positionalArguments();
     if (parser.isSet(QStringLiteral("version"))) {
-        Console::print(QStringLiteral("vexconvert %1").arg(QCoreApplication::applicationVersion()));
+        Console::printLines(versionText());
         return Success;
     }
     if (parser.isSet(QStringLiteral("help"))) {

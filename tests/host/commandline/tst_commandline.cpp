@@ -11,7 +11,8 @@ class TestCommandLine : public CommandLineTest
 private Q_SLOTS:
     void helpIsPrinted_data();
     void helpIsPrinted();
-    void theVersionIsPrinted();
+    void theVersionsAreReported();
+    void theVersionIsReportedWithoutFfmpeg();
     void wrongUsageIsExplained_data();
     void wrongUsageIsExplained();
     void lostOutputIsReported();
@@ -52,11 +53,31 @@ void TestCommandLine::helpIsPrinted()
     QCOMPARE(result.err, QString());
 }
 
-void TestCommandLine::theVersionIsPrinted()
+void TestCommandLine::theVersionsAreReported()
 {
     const CommandRun result = run("--version");
     QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.out, QStringLiteral("vexconvert " VEX_VERSION "\n"));
+    const QStringList lines = result.out.split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines.at(0), QStringLiteral("vexconvert " VEX_VERSION));
+    QCOMPARE(lines.at(1), QStringLiteral("Qt ") + QString::fromLatin1(qVersion()));
+    QProcess ffmpeg;
+    ffmpeg.start(QStringLiteral("ffmpeg"), {QStringLiteral("-version")});
+    QVERIFY(ffmpeg.waitForFinished(patience));
+    const QStringList words = QString::fromUtf8(ffmpeg.readLine()).split(QLatin1Char(' '));
+    QCOMPARE(lines.at(2), QStringLiteral("ffmpeg ") + words.value(2));
+    QCOMPARE(lines.at(3), QString());
+}
+
+void TestCommandLine::theVersionIsReportedWithoutFfmpeg()
+{
+    m_environment.insert(QStringLiteral("PATH"), path(QStringLiteral("empty")));
+    const CommandRun result = run("--version");
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.out.startsWith(QStringLiteral("vexconvert " VEX_VERSION "\n")));
+    QVERIFY2(result.out.contains(QStringLiteral("\nffmpeg is not on the PATH")),
+             qPrintable(result.out));
+    QCOMPARE(result.err, QString());
 }
 
 void TestCommandLine::wrongUsageIsExplained_data()
