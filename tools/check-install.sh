@@ -75,7 +75,7 @@ appstreamcli validate --no-net "$prefix"/share/metainfo/*.xml >&2 || fail "the m
 "$prefix/bin/vexconvert" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p' >"$room/subcommands"
 [ -s "$room/subcommands" ] || fail "no subcommands are listed"
 while read -r subcommand; do
-    page=$prefix/share/man/man1/vexconvert-$subcommand.1
+    page=$prefix/share/man/man1/vexconvert-$subcommand.1.gz
     [ -z "$(man --warnings -E UTF-8 -l -Tutf8 "$page" 2>&1 >/dev/null)" ] || fail "$page has mistakes"
 done <"$room/subcommands"
 

@@ -10,6 +10,7 @@ is out of date.
 """
 
 import dataclasses
+import gzip
 import os
 import pathlib
 import re
@@ -110,16 +111,21 @@ def man_page(page, title, summary, version, others):
     return "\n".join(lines) + "\n"
 
 
+def write_man_page(folder, name, text):
+    # Without the time, so that the same text makes the same file.
+    (folder / f"{name}.1.gz").write_bytes(gzip.compress(text.encode(), mtime=0))
+
+
 def write_man_pages(program, folder):
     version = run(program, "--version").split()[1]
     whole, pages = read_all(program)
     names = [f"vexconvert-{page.name}" for page in pages]
-    (folder / "vexconvert.1").write_text(man_page(
+    write_man_page(folder, "vexconvert", man_page(
         whole, "vexconvert", "convert video and audio files with presets", version,
         [*names, "ffmpeg"]))
     for page, name in zip(pages, names):
         summary = page.summary[0].lower() + page.summary[1:].rstrip(".")
-        (folder / f"{name}.1").write_text(man_page(page, name, summary, version, ["vexconvert"]))
+        write_man_page(folder, name, man_page(page, name, summary, version, ["vexconvert"]))
 
 
 # docs/cli.md
