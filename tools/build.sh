@@ -43,7 +43,7 @@ run_packages=(
     qml-module-qtgraphicaleffects qttranslations5-l10n
 )
 test_packages=(
-    qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3 python3-jsonschema
+    qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3-jsonschema
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
     desktop-file-utils appstream man-db zsh fish
 )
