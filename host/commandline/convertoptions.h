@@ -1,9 +1,9 @@
 #ifndef COMMANDLINE_CONVERTOPTIONS_H
 #define COMMANDLINE_CONVERTOPTIONS_H
 
+#include "host/commandline/presetchoice.h"
 #include "host/queue/batch.h"
 #include "host/queue/sourcefiles.h"
-#include "host/commandline/presetchoice.h"
 
 /*! What the options of "convert" and "plan" ask for. */
 struct ConvertRequest

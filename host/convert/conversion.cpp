@@ -4,6 +4,7 @@
 #include "host/convert/failurewords.h"
 #include "host/convert/ffmpegarguments.h"
 #include "host/convert/losses.h"
+#include "host/convert/shortfall.h"
 #include "host/convert/videoplan.h"
 
 #include <QDateTime>
@@ -252,22 +253,9 @@ QString Conversion::losses() const
 
 QString Conversion::shortfall() const
 {
-    const double expected = expectedDuration();
-    double written = m_result.hasGuessedDuration() ? m_progress.progress().done : m_result.duration;
-    const VideoTrack *picture = m_result.video();
-    const VideoTrack *source = m_source.video();
-    if (picture != nullptr && source != nullptr && picture->duration > 0 &&
-        source->duration >= expected) {
-        written = std::min(written, picture->duration);
-    }
-    // The last video and audio packets needn't end together.
-    const double unnoticed = std::max(0.3, expected / 100);
-    if (m_source.hasGuessedDuration() || written <= 0 || written > expected - unnoticed) {
-        return {};
-    }
-    return tr("holds %1 of %2 s: the source ends early or is damaged")
-        .arg(written, 0, 'f', 1)
-        .arg(expected, 0, 'f', 1);
+    const bool isGuessed = m_result.hasGuessedDuration();
+    return shortfallIn(m_source, m_result, expectedDuration(),
+                       isGuessed ? m_progress.progress().done : m_result.duration);
 }
 
 double Conversion::expectedDuration() const
