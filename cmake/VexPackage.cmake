@@ -56,4 +56,6 @@ foreach(component runtime dev app)
 endforeach()
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
   ${PROJECT_SOURCE_DIR}/cmake/debian/shlibs ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
+install(FILES ${PROJECT_SOURCE_DIR}/cmake/debian/overrides COMPONENT runtime
+  DESTINATION share/lintian/overrides RENAME ${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME})
 include(CPack)

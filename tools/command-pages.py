@@ -117,6 +117,8 @@ def write_man_page(folder, name, text):
 
 
 def write_man_pages(program, folder):
+    for old in folder.glob("vexconvert*"):  # of a subcommand that is gone
+        old.unlink()
     version = run(program, "--version").split()[1]
     whole, pages = read_all(program)
     names = [f"vexconvert-{page.name}" for page in pages]

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds Debian packages of the last commit into build/packages. With --check, builds them a second
-# time elsewhere and compares, runs lintian, and installs, uses and removes them in a fresh Debian.
+# time elsewhere and compares, and runs lintian on them.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=tools/build.sh
@@ -33,26 +33,10 @@ cp "$room/first/packages/"*.deb build/packages
 ls build/packages
 [ "${1:-}" = --check ] || exit 0
 
-install_missing lintian mmdebstrap
+install_missing lintian
 make_packages "$room/second/elsewhere"
 for package in build/packages/*.deb; do
     cmp "$package" "$room/second/elsewhere/packages/${package##*/}"
 done
 lintian --allow-root --fail-on error,warning build/packages/*.deb
-# shellcheck disable=SC2016 # $1 is the root's folder
-mmdebstrap --variant=apt \
-    --customize-hook='copy-in build/packages /root' \
-    --customize-hook='chroot "$1" sh -ec "
-        apt-get install -y --no-install-recommends /root/packages/*.deb
-        cd /root
-        ffmpeg -v error -f lavfi -i sine=duration=1 clip.wav
-        vexconvert convert clip.wav --type audio --format mp3 --target 192
-        test -s clip.mp3
-        QT_QPA_PLATFORM=offscreen timeout 5 vexconvert || test \$? = 124
-        apt-get purge -y vexconvert libvexconvertformats-dev libvexconvertformats1
-        ! find / -xdev -path /proc -prune -o -path /root -prune -o -iname \"*vex*convert*\" -print | grep ."' \
-    "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$room/root.tar" >"$room/log" 2>&1 || {
-    tail -n 40 "$room/log" >&2
-    exit 1
-}
-echo "The packages are reproducible, clean for lintian, and work in a fresh Debian."
+echo "The packages are reproducible, and clean for lintian."
