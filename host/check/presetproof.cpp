@@ -16,14 +16,15 @@ ConversionJob jobOf(const OutputSettings &settings, const ProofClip &clip)
     return job;
 }
 
-/*! The audio is noise and lossless, so that encoders use up the bitrate. No preset can copy these
+/*! The audio is lossless noise, so that encoders use up the bitrate. No preset can copy these
  *  codecs. */
 QStringList clipArguments(const QSize &size, const QString &path)
 {
     return QStringLiteral("-y "
                           "-f lavfi -i testsrc2=size=%1x%2:rate=30000/1001:duration=1 "
                           "-f lavfi -i anoisesrc=color=pink:sample_rate=44100:seed=1:duration=1 "
-                          "-vf setfield=prog -pix_fmt yuv420p -c:v utvideo -ac 2 -c:a pcm_f64le")
+                          "-vf setfield=prog -pix_fmt yuv420p -c:v utvideo -ac 2 "
+                          "-c:a mlp -sample_fmt s16 -strict experimental")
                .arg(size.width())
                .arg(size.height())
                .split(QLatin1Char(' ')) +
