@@ -78,7 +78,7 @@ Result<> findSources(const Call &call, ConvertRequest &request)
     if (!request.files.folders().isEmpty() && folder.isEmpty()) {
         return wrongUsage(CommandLine::tr("say with --to where the results of a folder go"));
     }
-    if (request.isMirrored && folder.isEmpty()) {
+    if (call.options.isGiven(mirrorFlag) && folder.isEmpty()) {
         return wrongUsage(CommandLine::tr("--mirror needs a folder for the results: --to DIR"));
     }
     if (!folder.isEmpty()) {
@@ -138,11 +138,11 @@ ConversionJob ConvertRequest::jobFor(const SourceFile &file, int number) const
     ConversionJob job = prototype;
     job.source = file.path;
     job.target.name = name;
-    const QFileInfo info(file.path);
+    const QDate date = QFileInfo(file.path).lastModified().date();
     const int digits = QString::number(count).size();
-    job.target.name.fill(nameField, info.completeBaseName());
+    job.target.name.fill(nameField, baseNameOf(file.path));
     job.target.name.fill(presetField, preset.map.value(QStringLiteral("id")).toString());
-    job.target.name.fill(dateField, info.lastModified().date().toString(Qt::ISODate));
+    job.target.name.fill(dateField, date.toString(Qt::ISODate));
     job.target.name.fill(numberField,
                          QStringLiteral("%1").arg(number, digits, 10, QLatin1Char('0')));
     if (isMirrored && !file.subfolder.isEmpty()) {

@@ -13,14 +13,14 @@ namespace {
 const QLatin1String widthField("width");
 const QLatin1String heightField("height");
 
-NameTemplate nameOf(const QString &source)
+} // namespace
+
+QString baseNameOf(const QString &source)
 {
     const QFileInfo file(source);
     const QString base = file.completeBaseName();
-    return NameTemplate::literal(base.isEmpty() ? file.fileName() : base);
+    return base.isEmpty() ? file.fileName() : base;
 }
-
-} // namespace
 
 OutputTarget fixedOutput(const QString &path, OutputTarget::IfExists ifExists)
 {
@@ -42,7 +42,7 @@ OutputName::OutputName(const QString &source, const OutputTarget &target, const 
     : m_source(source)
     , m_target(target)
     , m_extension(extension)
-    , m_name(target.name.isEmpty() ? nameOf(source) : target.name)
+    , m_name(target.name.isEmpty() ? NameTemplate::literal(baseNameOf(source)) : target.name)
 {}
 
 void OutputName::setPicture(const QSize &size)

@@ -32,6 +32,9 @@ struct OutputTarget
         {}; //!< of the run; names that are given are added. May be null
 };
 
+/*! The source's name without its extension; all of it if there is nothing else. */
+[[nodiscard]] QString baseNameOf(const QString &source);
+
 /*! The target with this very \a path. */
 [[nodiscard]] OutputTarget fixedOutput(const QString &path, OutputTarget::IfExists ifExists);
 

@@ -2,6 +2,7 @@
 
 #include "host/files/workfolder.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 Batch::Batch(const NextJob &next, int sideBySide, BatchReport &report)
@@ -27,7 +28,7 @@ BatchSummary Batch::run()
 {
     startJobs();
     if (!m_queue.isEmpty()) {
-        m_loop.exec();
+        wait();
     }
     // Where all is there already, no conversion has swept what a killed run left.
     for (const QString &folder : qAsConst(m_foldersOfSkipped)) {
@@ -39,8 +40,15 @@ BatchSummary Batch::run()
 BatchSummary Batch::runUntilInterrupted()
 {
     m_waits = true;
-    m_loop.exec();
+    wait();
     return m_summary;
+}
+
+void Batch::wait()
+{
+    m_loop.exec();
+    // What ended last is still to be deleted, as at the end of an application's own loop.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Batch::wake()

@@ -74,6 +74,7 @@ public:
     void wake();
 
 private:
+    void wait();
     void startJobs();
     void finish(int number, const Result<ConversionOutcome> &outcome);
     void stop();

@@ -181,6 +181,9 @@ void TestConvertMany::namesFollowATemplate()
                  "{n}_{name}_{preset}_{date}")
                  .exitCode,
              0);
+    QVERIFY(QFile::copy(path(QStringLiteral("in/a.wav")), path(QStringLiteral("in/.wav"))));
+    QCOMPARE(run("convert in/.wav --preset A_MP3_1 --to only --name {name}").exitCode, 0);
+    QCOMPARE(below("only"), words(".wav.mp3"));
     QVERIFY(below("out").contains(QStringLiteral("2_a_A_MP3_1_2020-02-29.mp3")));
     QVERIFY(below("out").constFirst().startsWith(QStringLiteral("1_b_A_MP3_1_")));
 }

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void theEnvironmentComesBeforeTheFile();
     void theCommandLineComesFirst();
     void aDescribedPresetComesBeforeADefaultOne();
+    void aDefaultThatDoesNotApplyIsIgnored();
     void theEnvironmentNamesTheConfiguration();
     void anInvalidDefaultIsNamed_data();
     void anInvalidDefaultIsNamed();
@@ -68,6 +69,13 @@ void TestOptions::aDescribedPresetComesBeforeADefaultOne()
 {
     QVERIFY(writeDefaults("preset=V_MKV_1\n"));
     QCOMPARE(run("convert film.mp4 --type audio --format MP3 --target 320").exitCode, 0);
+    QVERIFY(isConvertedTo("film.mp3"));
+}
+
+void TestOptions::aDefaultThatDoesNotApplyIsIgnored()
+{
+    QVERIFY(writeDefaults("preset=A_MP3_1\nmirror=true\nrecursive=true\n"));
+    QCOMPARE(run("convert film.mp4").exitCode, 0);
     QVERIFY(isConvertedTo("film.mp3"));
 }
 
