@@ -73,15 +73,24 @@ bool isTold(const VideoCodec &codec, const Container &container)
 }
 
 /*! Brings the light of an HDR picture down to what BT.709 shows. */
-QStringList toneMapping(const Colour &source)
+QStringList toneMapping(const VideoTrack &track)
 {
-    // The light, in cd/m², that becomes the white of the result.
-    constexpr int white = 100;
+    const Colour source = shownColour(track);
+    // The light, in cd/m², that becomes the white of the result: more where much of the picture is
+    // brighter than half of it.
+    constexpr double usualWhite = 100;
+    const SeenLight light = track.seenLight.value_or(SeenLight{});
+    const double white =
+        std::clamp(2 * light.bright, usualWhite, std::max(usualWhite, light.brightest));
+    const QString peak =
+        track.seenLight
+            ? QStringLiteral(":peak=%1").arg(std::max(light.brightest / white, 1.0), 0, 'f', 3)
+            : QString();
     return {QStringLiteral("zscale=tin=%1:min=%2:pin=%3:rin=%4:t=linear:npl=%5")
                 .arg(source.transfer, source.matrix, source.primaries, source.range)
-                .arg(white),
+                .arg(white, 0, 'f', 0),
             QStringLiteral("format=gbrpf32le"), QStringLiteral("zscale=p=bt709"),
-            QStringLiteral("tonemap=mobius:desat=0"),
+            QStringLiteral("tonemap=mobius:desat=0") + peak,
             QStringLiteral("zscale=t=bt709:m=bt709:r=limited")};
 }
 
@@ -261,7 +270,7 @@ void ColourPlan::convert(const VideoTrack &track, const Colour &usual, const Col
     if (!isToneMapped) {
         scaling = conversion;
     } else {
-        filters = toneMapping(shownColour(track));
+        filters = toneMapping(track);
         if (!conversion.isEmpty()) {
             filters << QStringLiteral("scale=") + conversion;
         }

@@ -49,9 +49,9 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
     , m_job(job)
     , m_name(job.source, job.target, job.settings.extension)
 {
-    connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::lookAtSource);
-    connect(&m_look, &SourceLook::finished, this, &Conversion::listEncoders);
-    connect(&m_encoders, &EncoderList::finished, this, &Conversion::convertWith);
+    connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::listEncoders);
+    connect(&m_encoders, &EncoderList::finished, this, &Conversion::lookAtSource);
+    connect(&m_look, &SourceLook::finished, this, &Conversion::convert);
     connect(&m_ffmpeg, &Tool::outputReady, this, [this] {
         if (m_progress.feed(m_ffmpeg.readOutput())) {
             Q_EMIT progressed(m_progress.progress());
@@ -85,15 +85,6 @@ void Conversion::cancel()
     m_frameList.stop();
 }
 
-void Conversion::lookAtSource(const Result<MediaFacts> &source)
-{
-    if (source && m_job.settings.hasVideo) {
-        m_look.start(m_job.source, *source);
-    } else {
-        listEncoders(source);
-    }
-}
-
 void Conversion::listEncoders(const Result<MediaFacts> &source)
 {
     if (!source) {
@@ -104,13 +95,29 @@ void Conversion::listEncoders(const Result<MediaFacts> &source)
     m_encoders.start();
 }
 
-void Conversion::convertWith(const Result<QSet<QString>> &encoders)
+void Conversion::lookAtSource(const Result<QSet<QString>> &encoders)
 {
     if (!encoders) {
         fail(encoders.error());
         return;
     }
     m_encoderNames = *encoders;
+    const VideoTrack *track = m_job.settings.hasVideo ? m_source.video() : nullptr;
+    if (track == nullptr) {
+        convert(m_source);
+        return;
+    }
+    const Result<VideoPlan> plan = VideoPlan::make(*track, streamTarget());
+    m_look.start(m_job.source, m_source, plan && plan->isToneMapped);
+}
+
+void Conversion::convert(const Result<MediaFacts> &source)
+{
+    if (!source) {
+        fail(source.error());
+        return;
+    }
+    m_source = *source;
     if (!m_name.isComplete()) {
         const Result<> named = namePicture().and_then([this] { return m_name.choose(); });
         if (!named) {

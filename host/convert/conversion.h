@@ -68,9 +68,9 @@ Q_SIGNALS:
     void finished(const Result<ConversionOutcome> &outcome);
 
 private:
-    void lookAtSource(const Result<MediaFacts> &source);
     void listEncoders(const Result<MediaFacts> &source);
-    void convertWith(const Result<QSet<QString>> &encoders);
+    void lookAtSource(const Result<QSet<QString>> &encoders);
+    void convert(const Result<MediaFacts> &source);
     void runFfmpeg();
     void checkRun(const Result<ToolRun> &run);
     void checkResult(const Result<MediaFacts> &result);

@@ -122,7 +122,7 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     plan.hasPalette = codec.hasPalette;
     plan.pixelFormat = isFramed ? fit.frame.pixelFormat : colour.pixels.format;
     plan.decoder = colour.decoder;
-    plan.dropsSourceLight = colour.isToneMapped;
+    plan.isToneMapped = colour.isToneMapped;
     plan.options += fields.options + colour.pixels.options + colour.tags();
     if (colour.isHdrKept) {
         addLight(plan.options, plan.encoder, track);
@@ -180,7 +180,7 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
 
 bool VideoPlan::hasGraph() const
 {
-    return hasPalette || dropsSourceLight || isFilterGraph(filters.value(0));
+    return hasPalette || isToneMapped || isFilterGraph(filters.value(0));
 }
 
 QString VideoPlan::graph(int track) const
@@ -195,9 +195,10 @@ QString VideoPlan::graph(int track) const
         return QStringLiteral("%1,palettegen[palette];%2[picture];[picture][palette]paletteuse")
             .arg(chain(1), chain(0));
     }
-    // ffmpeg takes nothing over from the source where a graph has two inputs.
+    // Else ffmpeg would say of the result what the source's container says of its light: it takes
+    // nothing over where a graph has two inputs.
     const QString second = QStringLiteral("[0:%1]nullsink;").arg(track);
-    return dropsSourceLight ? second + chain(0) : chain(0);
+    return isToneMapped ? second + chain(0) : chain(0);
 }
 
 QStringList VideoPlan::arguments() const

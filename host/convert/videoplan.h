@@ -15,8 +15,7 @@ struct VideoPlan
     //! The colours are chosen first, from the source read once more: to keep its frames until then
     //! takes too much memory.
     bool hasPalette = false;
-    //! ffmpeg would say of the result what the source's container says of its light.
-    bool dropsSourceLight = false;
+    bool isToneMapped = false; //!< HDR becomes BT.709
     FrameTiming timing = {};
     QString pixelFormat = {};     //!< empty: the encoder's choice
     ToolOptions options = {};     //!< the encoder's

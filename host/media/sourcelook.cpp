@@ -1,5 +1,6 @@
 #include "host/media/sourcelook.h"
 
+#include "host/media/lightsample.h"
 #include "host/media/mediainput.h"
 #include "host/media/probetracks.h"
 
@@ -48,13 +49,15 @@ SourceLook::SourceLook(QObject *parent)
     : QObject(parent)
 {
     connect(&m_fields, &Tool::finished, this, &SourceLook::takeFields);
+    connect(&m_display, &Tool::finished, this, &SourceLook::takeDisplay);
     connect(&m_light, &Tool::finished, this, &SourceLook::takeLight);
 }
 
-void SourceLook::start(const QString &path, const MediaFacts &facts)
+void SourceLook::start(const QString &path, const MediaFacts &facts, bool needsLight)
 {
     m_path = path;
     m_facts = facts;
+    m_needsLight = needsLight;
     const VideoTrack *shown = facts.video();
     m_track = nullptr;
     for (VideoTrack &track : m_facts.videoTracks) {
@@ -65,13 +68,14 @@ void SourceLook::start(const QString &path, const MediaFacts &facts)
     if (m_track != nullptr && needsLookAtFields(*m_track)) {
         lookAtFields();
     } else {
-        lookAtLight();
+        lookAtDisplay();
     }
 }
 
 void SourceLook::stop()
 {
     m_fields.stop();
+    m_display.stop();
     m_light.stop();
 }
 
@@ -101,18 +105,18 @@ void SourceLook::takeFields(const Result<ToolRun> &run)
         m_track->fieldOrder = fieldOrderInSample(run->output);
         m_track->framesTellFields = false;
     }
-    lookAtLight();
+    lookAtDisplay();
 }
 
-void SourceLook::lookAtLight()
+void SourceLook::lookAtDisplay()
 {
     const bool isComplete = m_track == nullptr || !m_track->colour.isHdr() ||
                             (m_track->masteringDisplay && m_track->lightLevel);
     if (isComplete) {
-        Q_EMIT finished(m_facts);
+        lookAtLight();
         return;
     }
-    m_light.start(
+    m_display.start(
         ffprobeCall(QStringList{QStringLiteral("-print_format"), QStringLiteral("json"),
                                 QStringLiteral("-show_frames"), QStringLiteral("-select_streams"),
                                 QString::number(m_track->index), QStringLiteral("-read_intervals"),
@@ -121,7 +125,7 @@ void SourceLook::lookAtLight()
         lookLimits);
 }
 
-void SourceLook::takeLight(const Result<ToolRun> &run)
+void SourceLook::takeDisplay(const Result<ToolRun> &run)
 {
     if (wasCancelled(run)) {
         Q_EMIT finished(tl::make_unexpected(run.error()));
@@ -132,6 +136,27 @@ void SourceLook::takeLight(const Result<ToolRun> &run)
             QJsonDocument::fromJson(run->output).object().value(QLatin1String("frames")).toArray();
         readHdrSideData(frames.at(0).toObject().value(QLatin1String("side_data_list")).toArray(),
                         *m_track);
+    }
+    lookAtLight();
+}
+
+void SourceLook::lookAtLight()
+{
+    if (m_track == nullptr || !m_track->colour.isHdr() || !m_needsLight) {
+        Q_EMIT finished(m_facts);
+        return;
+    }
+    m_light.start(ffmpegCall(lightSampleArguments(m_facts, *m_track, m_path)), lookLimits);
+}
+
+void SourceLook::takeLight(const Result<ToolRun> &run)
+{
+    if (wasCancelled(run)) {
+        Q_EMIT finished(tl::make_unexpected(run.error()));
+        return;
+    }
+    if (run) {
+        m_track->seenLight = seenLightIn(run->output, m_track->colour);
     }
     Q_EMIT finished(m_facts);
 }

@@ -8,8 +8,8 @@
 
 /*!
  * Looks at the frames of a file for what its streams don't say of its video: whether it is
- * interlaced, and the display that an HDR10 picture was graded on. Most files say it all, and
- * aren't looked at.
+ * interlaced, the display that an HDR10 picture was graded on, and how bright an HDR picture is.
+ * Most files say it all, and aren't looked at.
  */
 class SourceLook : public QObject
 {
@@ -19,8 +19,9 @@ class SourceLook : public QObject
 public:
     explicit SourceLook(QObject *parent = nullptr);
 
-    /*! finished() follows once, at once where nothing is missing. */
-    void start(const QString &path, const MediaFacts &facts);
+    /*! finished() follows once, at once where nothing is missing. The brightness is only looked at
+     *  if it \a needsLight. */
+    void start(const QString &path, const MediaFacts &facts, bool needsLight);
     /*! Gives the look up; finished() follows with Error::Cancelled. */
     void stop();
 
@@ -31,13 +32,17 @@ Q_SIGNALS:
 private:
     void lookAtFields();
     void takeFields(const Result<ToolRun> &run);
+    void lookAtDisplay();
+    void takeDisplay(const Result<ToolRun> &run);
     void lookAtLight();
     void takeLight(const Result<ToolRun> &run);
 
     QString m_path;
     MediaFacts m_facts;
     VideoTrack *m_track = nullptr; // of m_facts
+    bool m_needsLight = false;
     Tool m_fields;
+    Tool m_display;
     Tool m_light;
 };
 

@@ -60,6 +60,13 @@ struct LightLevel
     int brightestFrame = 0; //!< average over its pixels
 };
 
+/*! How bright an HDR video is, in cd/m². */
+struct SeenLight
+{
+    double bright = 0;    //!< a tenth of the picture is brighter
+    double brightest = 0; //!< nothing that is larger than a point is brighter
+};
+
 struct VideoTrack : Track
 {
     enum FieldOrder { UnknownOrder, Progressive, TopFieldFirst, BottomFieldFirst };
@@ -77,7 +84,8 @@ struct VideoTrack : Track
     Colour colour;
     std::optional<MasteringDisplay> masteringDisplay;
     std::optional<LightLevel> lightLevel;
-    bool isCover = false; //!< an attached image, such as an album cover
+    std::optional<SeenLight> seenLight; //!< only known after a look at the pictures
+    bool isCover = false;               //!< an attached image, such as an album cover
 
     /*! Whether the intervals between frames differ. */
     [[nodiscard]] bool hasVariableRate() const;

@@ -10,6 +10,7 @@ class TestConversionColour : public ConversionTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void hdrBecomesTheOrdinaryPicture_data();
     void hdrBecomesTheOrdinaryPicture();
     void theSourcesLightStaysBehind();
     void hdrStaysWhereItCan_data();
@@ -40,18 +41,19 @@ private:
                 "-color_primaries bt709 -color_trc bt709 -colorspace bt709 "
                 "-color_range tv -c:v ffv1"));
     }
-    /*! The ordinary clip with the light of \a transfer. */
-    QString hdrClip(const QString &transfer) const
+    /*! The ordinary clip with the light of \a transfer, its white at so many cd/m². */
+    QString hdrClip(const QString &transfer, int white = 203) const
     {
         return clip(
             "hdr.mkv",
-            QStringLiteral("-i %2 -vf zscale=t=linear:npl=203,format=gbrpf32le,"
-                           "zscale=p=bt2020:t=%1:m=bt2020nc:r=limited:npl=203,format=yuv420p10le "
+            QStringLiteral("-i %2 -vf zscale=t=linear:npl=%3,format=gbrpf32le,"
+                           "zscale=p=bt2020:t=%1:m=bt2020nc:r=limited:npl=%3,format=yuv420p10le "
                            "-color_primaries bt2020 -color_trc %1 -colorspace bt2020nc "
                            "-color_range tv -c:v libx265 -x265-params log-level=error:hdr10=1:"
                            "master-display=G(13250,34500)B(7500,3000)R(34000,16000)WP(15635,16450)"
                            "L(10000000,50):max-cll=1000,400")
-                .arg(transfer, ordinaryClip()));
+                .arg(transfer, ordinaryClip())
+                .arg(white));
     }
     MediaFacts converted(const QString &source, const char *extension, const char *codec)
     {
@@ -98,9 +100,22 @@ private:
     QString m_result;
 };
 
+void TestConversionColour::hdrBecomesTheOrdinaryPicture_data()
+{
+    QTest::addColumn<QString>("transfer");
+    QTest::addColumn<int>("white");
+    QTest::newRow("HDR10, dim") << "smpte2084" << 100;
+    QTest::newRow("HDR10") << "smpte2084" << 203;
+    QTest::newRow("HDR10, as bright as it gets") << "smpte2084" << 1000;
+    QTest::newRow("HLG") << "arib-std-b67" << 203;
+    QTest::newRow("HLG, as bright as it gets") << "arib-std-b67" << 1000;
+}
+
 void TestConversionColour::hdrBecomesTheOrdinaryPicture()
 {
-    const MediaFacts facts = converted(hdrClip(QStringLiteral("smpte2084")), "mp4", "h264");
+    QFETCH(QString, transfer);
+    QFETCH(int, white);
+    const MediaFacts facts = converted(hdrClip(transfer, white), "mp4", "h264");
     QVERIFY2(facts.video() != nullptr, qPrintable(m_result));
     QCOMPARE(facts.video()->colour.transfer, QStringLiteral("bt709"));
     QCOMPARE(facts.video()->colour.matrix, QStringLiteral("bt709"));
