@@ -50,8 +50,8 @@ if(TARGET VexMorrowUtility)
     DESCRIPTION "The export catalogue of a media converter"
     INCLUDE_DIR ${PROJECT_SOURCE_DIR}/utility
     HEADERS formatcodecapi.h utilityglobal.h
-    PACKAGES "Qt5 5.15 COMPONENTS Core"
-    REQUIRES "Qt5Core >= 5.15")
+    PACKAGES "Qt${VEX_QT} 5.15 COMPONENTS Core"
+    REQUIRES "Qt${VEX_QT}Core >= 5.15")
 endif()
 
 vex_install_library(VexConvertFormats
@@ -68,6 +68,6 @@ vex_install_library(VexConvertFormats
     formats/parsers/noformatidparser.h
     formats/parsers/widthformatidparser.h
     formats/proxy/formatsproxy.h
-  PACKAGES "Qt5 5.15 COMPONENTS Core Qml" VexMorrowUtility
-  REQUIRES "Qt5Core >= 5.15, VexMorrowUtility"
-  REQUIRES_PRIVATE "Qt5Qml >= 5.15")
+  PACKAGES "Qt${VEX_QT} 5.15 COMPONENTS Core Qml" VexMorrowUtility
+  REQUIRES "Qt${VEX_QT}Core >= 5.15, VexMorrowUtility"
+  REQUIRES_PRIVATE "Qt${VEX_QT}Qml >= 5.15")

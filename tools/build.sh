@@ -47,6 +47,12 @@ test_packages=(
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
     desktop-file-utils appstream man-db zsh fish
 )
+qt6_packages=(
+    qt6-base-dev qt6-declarative-dev libqt6svg6 qml6-module-qttest
+    qml6-module-qt-labs-settings qml6-module-qtqml-workerscript qml6-module-qtquick
+    qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-templates
+    qml6-module-qtquick-window
+)
 fuzz_packages=(clang libclang-rt-dev)
 lint_packages=(
     clang-format clang-tidy shellcheck reuse qtdeclarative5-dev-tools qt6-declarative-dev-tools

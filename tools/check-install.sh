@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Usage: tools/check-install.sh [BUILD_DIR]
 # Installs a finished build (build/dev by default) into a folder of its own, moves it, and uses
-# what is there as others do: find_package, pkg-config, the headers, the examples, vexconvert, its
-# manual pages and completions.
-# Also adds the source tree to another project, with static libraries.
+# what is there as others do: find_package, pkg-config, the headers and the examples. With Qt 5, also
+# adds the source tree to another project, with static libraries, and tries vexconvert, its manual
+# pages and completions.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(realpath "${1:-build/dev}")
@@ -27,11 +27,14 @@ run_examples() {
     "$1/formatlist" "$room/list.png" 2>/dev/null || fail "formatlist in $1 failed"
     output=$(timeout 60 "$1/screens" "$room/picker.png" "$room/dialog.png" 2>&1) ||
         fail "screens in $1 failed: $output"
-    ! grep 'qrc:' <<<"$output" || fail "screens in $1 complained"
+    # Qt 6 warns of an argument too many.
+    ! grep -v '^newTitle@' <<<"$output" | grep 'qrc:' || fail "screens in $1 complained"
     rm "$room"/{list,picker,dialog}.png
 }
 
-for component in runtime dev app; do
+components=(runtime dev)
+[ ! -x "$build/host/vexconvert" ] || components+=(app)
+for component in "${components[@]}"; do
     cmake --install "$build" --prefix "$room/first" --component "$component" >/dev/null
 done
 mv "$room/first" "$prefix"
@@ -54,6 +57,7 @@ c++ -std=c++17 -fPIC examples/lookup.cpp -o "$room/lookup" "${flags[@]}" "-Wl,-r
 cmake -G Ninja -S examples -B "$room/examples" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$room/examples" -- --quiet
 run_examples "$room/examples"
+[ -x "$build/host/vexconvert" ] || exit 0
 
 cmake -G Ninja -S tests/install -B "$room/consumer" -DCMAKE_CXX_FLAGS=-O0 >/dev/null
 cmake --build "$room/consumer" -- --quiet

@@ -16,7 +16,7 @@ void assign(bool &member, const QVariant &value)
 }
 void assign(QVariantList &member, const QVariant &value)
 {
-    member = value.toList();
+    member = listOf(value);
 }
 void assign(QVariantMap &member, const QVariant &value)
 {
@@ -53,6 +53,14 @@ const QString &key(const Field &field)
 QVariant read(const Preset &preset, const Member &member)
 {
     return std::visit([&preset](auto field) { return QVariant(preset.*field); }, member);
+}
+
+QVariantList listOf(const QVariant &value)
+{
+    // Qt 6 would split a text into its characters.
+    const int type = value.userType();
+    return type == QMetaType::QString || type == QMetaType::QByteArray ? QVariantList()
+                                                                       : value.toList();
 }
 
 void write(Preset &preset, const Member &member, const QVariant &value)

@@ -111,6 +111,9 @@ static_assert(everyRoleHasOneField());
 
 [[nodiscard]] QVariant read(const Preset &preset, const Member &member);
 
+/*! The elements of a list; none for anything else, a text included. */
+[[nodiscard]] QVariantList listOf(const QVariant &value);
+
 /*! Stores \a value, converted by QVariant to the member's type. */
 void write(Preset &preset, const Member &member, const QVariant &value);
 

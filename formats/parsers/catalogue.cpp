@@ -30,7 +30,7 @@ void readSettings(FormatDetailModelData &preset, const QVariantMap &params,
 {
     for (const Setting &setting : settings) {
         preset.*setting.chosen = valueOf(params, setting.key).toString();
-        preset.*setting.offered = valueOf(options, setting.listKey).toList();
+        preset.*setting.offered = PresetFields::listOf(valueOf(options, setting.listKey));
     }
 }
 
@@ -116,7 +116,7 @@ void readVideo(FormatDetailModelData &preset, QVariantMap &entry)
     const QVariantMap options = findOrInsertNull(entry, QStringLiteral("videoOptions")).toMap();
     readSettings(preset, findOrInsertNull(entry, QStringLiteral("videoParam")).toMap(), options,
                  videoSettings);
-    readLevels(preset, valueOf(options, QStringLiteral("levelList")).toList());
+    readLevels(preset, PresetFields::listOf(valueOf(options, QStringLiteral("levelList"))));
 }
 
 } // namespace Catalogue

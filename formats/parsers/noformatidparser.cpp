@@ -42,7 +42,7 @@ void unpack(FormatDetailModelData &preset, const QVariantMap &block,
 void unpackVideoBitrates(FormatDetailModelData &preset, const QString &packed)
 {
     const QStringList parts = packed.split(QLatin1Char(':'));
-    const int levels = std::min(parts.size() - 1, 3);
+    const int levels = std::min(int(parts.size()) - 1, 3);
     if (levels < 1) {
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "formats/models/formatdetailmodel.h"
 
+#include <algorithm>
 #include <limits>
 
 using Preset = FormatDetailModelData;
@@ -28,8 +29,8 @@ class ClosestPreset
 public:
     void offer(qint64 distance, const Preset &preset)
     {
-        const auto rank = int(qBound<qint64>(std::numeric_limits<int>::min(), distance,
-                                             std::numeric_limits<int>::max()));
+        const auto rank = int(std::clamp<qint64>(distance, std::numeric_limits<int>::min(),
+                                                 std::numeric_limits<int>::max()));
         if (!m_preset || rank <= m_rank) {
             m_rank = rank;
             m_preset = preset;

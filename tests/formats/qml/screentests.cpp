@@ -12,6 +12,9 @@ public Q_SLOTS:
     void qmlEngineAvailable(QQmlEngine *engine)
     {
         engine->addImportPath(QStringLiteral(SCREEN_TEST_MODULES));
+#if QT_VERSION_MAJOR == 6
+        engine->addImportPath(QStringLiteral(SCREEN_TEST_QT6_MODULES));
+#endif
         engine->rootContext()->setContextProperty(QStringLiteral("bench"), new ScreenBench(engine));
     }
 };

@@ -1,0 +1,3 @@
+import QtQml 2.15
+
+QtObject {}
