@@ -55,16 +55,23 @@ QString visibleJson(const QString &json, Surrogates surrogates)
     return text;
 }
 
-int terminalWidth()
+struct TerminalSize
 {
-    constexpr int defaultWidth = 80;
+    int columns = 80;
+    int lines = 24;
+};
+
+TerminalSize terminalSize()
+{
+    TerminalSize size;
 #ifdef Q_OS_UNIX
-    winsize size = {};
-    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
-        return size.ws_col;
+    winsize told = {};
+    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &told) == 0) {
+        size.columns = told.ws_col > 0 ? told.ws_col : size.columns;
+        size.lines = told.ws_row > 0 ? told.ws_row : size.lines;
     }
 #endif
-    return defaultWidth;
+    return size;
 }
 
 } // namespace
@@ -136,13 +143,19 @@ bool Console::hasFailed()
 bool Console::isTerminal()
 {
 #ifdef Q_OS_UNIX
-    return isatty(STDOUT_FILENO) != 0;
+    const QByteArray kind = qgetenv("TERM");
+    return isatty(STDOUT_FILENO) != 0 && !kind.isEmpty() && kind != "dumb";
 #else
     return false;
 #endif
 }
 
+int Console::terminalHeight()
+{
+    return terminalSize().lines;
+}
+
 void Console::overwriteLine(const QString &line)
 {
-    write(QStringLiteral("\r\x1b[K") + visibleText(line.left(terminalWidth() - 1)));
+    write(QStringLiteral("\r\x1b[K") + visibleText(line.left(terminalSize().columns - 1)));
 }

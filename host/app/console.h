@@ -31,8 +31,10 @@ void printLog(const QString &lines);
  */
 [[nodiscard]] bool hasFailed();
 
-/*! Whether standard output is a terminal, so that a line can be overwritten. */
+/*! Whether standard output is a terminal on which a line can be overwritten: not TERM=dumb. */
 [[nodiscard]] bool isTerminal();
+/*! The terminal's lines; 24 if it doesn't tell. */
+[[nodiscard]] int terminalHeight();
 /*! Overwrites the current line of the terminal; an empty string clears it. */
 void overwriteLine(const QString &line);
 

@@ -2,6 +2,7 @@
 
 #include "host/app/console.h"
 #include "host/app/languages.h"
+#include "host/app/pager.h"
 #include "host/commandline/nearestword.h"
 #include "host/files/localpath.h"
 #include "host/tools/ffmpegversion.h"
@@ -17,6 +18,7 @@
 namespace {
 
 const QLatin1String languageOption("language");
+const QLatin1String helpWord("help");
 
 QVector<Subcommand> subcommands()
 {
@@ -136,7 +138,7 @@ QString overviewText(const QCommandLineParser &parser)
                            "\n"
                            "%2\n"
                            "\n"
-                           "\"vexconvert SUBCOMMAND --help\" explains a subcommand.\n"
+                           "\"vexconvert help SUBCOMMAND\" explains a subcommand.\n"
                            "\n"
                            "Exit codes: 0 success, 1 something couldn't be done, 2 wrong usage.")
         .arg(list, optionsText(parser));
@@ -176,7 +178,7 @@ Result<ExitCode> runSubcommand(const Subcommand &subcommand, const QStringList &
     // The parser takes the first argument for the program's name.
     const bool isParsed = parser.parse(arguments);
     if (parser.isSet(QStringLiteral("help"))) {
-        Console::printLines(helpText(subcommand, parser));
+        printPaged(helpText(subcommand, parser));
         return Success;
     }
     if (!isParsed) {
@@ -205,7 +207,7 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
         return Success;
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        Console::printLines(overviewText(parser));
+        printPaged(overviewText(parser));
         return Success;
     }
     if (!isParsed) {
@@ -214,6 +216,9 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
     if (!isLanguageSpoken(parser)) {
         return wrongUsage(CommandLine::tr("--language is one of: %1")
                               .arg(Languages::all().join(QStringLiteral(", "))));
+    }
+    if (rest.constFirst() == helpWord) {
+        return runCommandLine(rest.mid(1) + QStringList(QStringLiteral("--help")));
     }
     const QVector<Subcommand> all = subcommands();
     const Subcommand *named = findSubcommand(all, rest.constFirst());
@@ -261,7 +266,8 @@ std::optional<WindowOptions> CommandLine::windowOptions(const QStringList &argum
     const QStringList rest = parser.positionalArguments();
     const QStringList files = existingPaths(rest);
     const bool isSubcommand =
-        !rest.isEmpty() && findSubcommand(subcommands(), rest.constFirst()) != nullptr;
+        !rest.isEmpty() && (rest.constFirst() == helpWord ||
+                            findSubcommand(subcommands(), rest.constFirst()) != nullptr);
     if (isSubcommand || files.contains(QString()) || !isLanguageSpoken(parser)) {
         return std::nullopt;
     }

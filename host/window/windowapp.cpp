@@ -11,7 +11,9 @@
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QMessageBox>
+#include <QOpenGLContext>
 #include <QQuickStyle>
+#include <QQuickWindow>
 #include <QThread>
 
 #include <cstdio>
@@ -27,6 +29,15 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString
                    "or use a subcommand: \"vexconvert --help\" lists them\n",
                    stderr);
         std::_Exit(WrongUsage);
+    }
+}
+
+/*! Draws without OpenGL where there is none: Qt Quick would abort. */
+void drawWithWhatThereIs()
+{
+    QOpenGLContext context;
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") && !context.create()) {
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     }
 }
 
@@ -97,6 +108,7 @@ int runWindow(int &argc, char **argv, const WindowOptions &options)
     const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
     QApplication app(argc, argv);
     qInstallMessageHandler(usual);
+    drawWithWhatThereIs();
 
     Languages::install(options.language.isEmpty() ? Languages::ofSystem()
                                                   : Languages::suiting(options.language));

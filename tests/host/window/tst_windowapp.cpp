@@ -79,6 +79,7 @@ private Q_SLOTS:
     void withoutASubcommandTheWindowOpens_data();
     void withoutASubcommandTheWindowOpens();
     void aMissingDisplayIsReported();
+    void theWindowOpensWithoutOpenGl();
     void subcommandsNeedNoDisplay();
     void fileArgumentsArePassedToTheWindow_data();
     void fileArgumentsArePassedToTheWindow();
@@ -132,6 +133,23 @@ void TestWindowApp::aMissingDisplayIsReported()
     QCOMPARE(result.err, QStringLiteral("vexconvert: there is no display to show the window on; "
                                         "start it in a desktop, or use a subcommand: \"vexconvert "
                                         "--help\" lists them\n"));
+}
+
+void TestWindowApp::theWindowOpensWithoutOpenGl()
+{
+    const QTemporaryDir folder;
+    QProcess window;
+    prepare(window, {QStringLiteral("--config"), folder.path()}, QStringLiteral("offscreen"));
+    QProcessEnvironment environment = window.processEnvironment();
+    environment.remove(QStringLiteral("QT_QUICK_BACKEND"));
+    window.setProcessEnvironment(environment);
+    window.start();
+    QTRY_VERIFY_WITH_TIMEOUT(isWindowListening() || window.state() == QProcess::NotRunning,
+                             patience);
+    window.terminate();
+    QVERIFY(window.waitForFinished(patience));
+    QCOMPARE(window.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(window.exitCode(), 0);
 }
 
 void TestWindowApp::subcommandsNeedNoDisplay()
