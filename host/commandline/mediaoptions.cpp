@@ -120,7 +120,7 @@ QList<QCommandLineOption> mediaOptions()
 
 Result<> readMediaOptions(const Call &call, ConversionJob &job)
 {
-    job.settings.averagesBitrate = call.options.isSet(averageFlag);
+    job.settings.averagesBitrate |= call.options.isSet(averageFlag);
     job.keepDates = call.options.isSet(keepDatesFlag);
     return readTrackOptions(call, job.settings)
         .and_then([&] { return readTimes(call, job.settings); })

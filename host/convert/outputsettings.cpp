@@ -93,10 +93,19 @@ void readConverterSettings(OutputSettings &settings, const QVariantMap &preset)
     const auto ofCodec = [&param, &settings](const char *key) {
         return chosenText(param, settings.videoCodec + QLatin1String(key));
     };
-    const bool isBetter = chosenText(param, QStringLiteral("quality")) == QLatin1String("high");
-    settings.quality =
-        qualityAmong(options.value(QStringLiteral("levelList")).toList(), settings.videoKbps) +
-        (isBetter ? 1 : 0);
+    bool isStated = false;
+    const QString quality = param.value(QStringLiteral("quality")).toString();
+    const double stated = quality.toDouble(&isStated);
+    settings.quality = isStated ? stated
+                                : qualityAmong(options.value(QStringLiteral("levelList")).toList(),
+                                               settings.videoKbps) +
+                                      (quality == QLatin1String("high") ? 1 : 0);
+    settings.averagesBitrate =
+        chosenText(param, QStringLiteral("rateMode")) == QLatin1String("average");
+    // Who states how the picture is to be encoded doesn't want the source's.
+    settings.mustEncode = isStated;
+    settings.speed = ofCodec("Speed");
+    settings.tune = ofCodec("Tune");
     settings.peakKbps =
         numberFromText(chosenText(param, QStringLiteral("peakKbps")), unreadableKbps);
     settings.level = ofCodec("Level");
@@ -149,10 +158,11 @@ auto valuesOf(const OutputSettings &settings)
     return std::tie(settings.extension, settings.hasVideo, settings.videoCodec, settings.frameRate,
                     settings.frameRateMode, settings.box, settings.videoKbps, settings.quality,
                     settings.averagesBitrate, settings.targetBytes, settings.bufferSeconds,
-                    settings.peakKbps, settings.level, settings.profile, settings.videoTag,
-                    settings.hasEditLists, settings.audioCodec, settings.sampleRate,
-                    settings.channels, settings.audioKbps, settings.audioTracks, settings.subtitles,
-                    settings.burnedSubtitles, settings.stillSeconds, settings.start, settings.end);
+                    settings.peakKbps, settings.level, settings.profile, settings.speed,
+                    settings.tune, settings.mustEncode, settings.videoTag, settings.hasEditLists,
+                    settings.audioCodec, settings.sampleRate, settings.channels, settings.audioKbps,
+                    settings.audioTracks, settings.subtitles, settings.burnedSubtitles,
+                    settings.stillSeconds, settings.start, settings.end);
 }
 
 } // namespace
@@ -188,7 +198,7 @@ Result<> OutputSettings::validate() const
         return failed(tr("files of the kind \".%1\" can't be written; choose another preset")
                           .arg(shortened(extension)));
     }
-    for (const QString &codec : {videoCodec, audioCodec, level, profile, videoTag}) {
+    for (const QString &codec : {videoCodec, audioCodec, level, profile, speed, tune, videoTag}) {
         if (!isName(codec)) {
             return failed(tr("no encoder has a name like \"%1\"; choose another preset")
                               .arg(shortened(codec)));

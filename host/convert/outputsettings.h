@@ -38,6 +38,9 @@ public:
     double peakKbps = 0;          //!< maximum within any second; 0: limited by the buffer
     QString level;                //!< of the video codec, as a device requires
     QString profile;              //!< of the video codec, as a device requires
+    QString speed;                //!< the encoder's own word for it; empty: the usual one
+    QString tune;                 //!< the encoder's word for a kind of content; empty: any
+    bool mustEncode = false;      //!< a picture that fits is encoded, too
     QString videoTag;             //!< the codec's tag in the container; empty: the usual one
     bool hasEditLists = true;     //!< if the container supports them
     QString audioCodec;

@@ -136,6 +136,15 @@ ToolOptions rateOptions(const VideoCodec &codec, const VideoCodec::Encoder &enco
     if (!settings.level.isEmpty() && !encoder.level.name.isEmpty()) {
         set(options, encoder.level.name, encoder.level.value.arg(settings.level));
     }
+    const bool hasSpeeds =
+        std::any_of(encoder.options.begin(), encoder.options.end(),
+                    [](const ToolOption &each) { return each.name == QLatin1String("preset"); });
+    if (!settings.speed.isEmpty() && hasSpeeds) {
+        set(options, QStringLiteral("preset"), settings.speed);
+    }
+    if (!settings.tune.isEmpty()) {
+        set(options, QStringLiteral("tune"), settings.tune);
+    }
     if (!settings.profile.isEmpty()) {
         set(options, QStringLiteral("profile"), settings.profile);
     }

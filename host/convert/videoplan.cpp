@@ -29,8 +29,9 @@ bool canBeCopied(const VideoTrack &track, const StreamTarget &target)
     const bool isOwnCodec = settings.videoCodec.isEmpty()
                                 ? target.container.videoCodecs.contains(track.codec)
                                 : settings.videoCodec == track.codec;
-    return target.allowsVideoCopy() && isOwnCodec && target.burnFilter.isEmpty() &&
-           settings.videoKbps == 0 && resultRate(track.frameRate, settings) == track.frameRate &&
+    return target.allowsVideoCopy() && !settings.mustEncode && isOwnCodec &&
+           target.burnFilter.isEmpty() && settings.videoKbps == 0 &&
+           resultRate(track.frameRate, settings) == track.frameRate &&
            boxedSize(track, settings.box).isEmpty() && turnIsKept;
 }
 

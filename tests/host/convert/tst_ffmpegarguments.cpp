@@ -28,6 +28,11 @@ void TestFfmpegArguments::whatMayStayIsKept_data()
     addColumns();
     row("all kept", video("mp4"), film(),
         "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -movflags +faststart -f mp4");
+    OutputSettings stated = video("mp4");
+    stated.mustEncode = true;
+    row("not where the preset states how to encode", stated, film(),
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 "
+        "medium -crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
     row("kept hevc gets the tag of all players", video("mov"),
         facts(film(), [](MediaFacts &f) { f.videoTracks[0].codec = QStringLiteral("hevc"); }),
         "-map 0:0 -map 0:1 -c:v:0 copy -tag:v:0 hvc1 -c:a:0 copy -movflags +faststart -f mov");

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aMapWithoutVideoIsAudioOnly();
     void theVideoBitrateIsTheConvertersOwn_data();
     void theVideoBitrateIsTheConvertersOwn();
+    void aPresetCanStateHowItsVideoIsEncoded();
     void aTextThatIsNoSizeIsNoBox_data();
     void aTextThatIsNoSizeIsNoBox();
     void whatNoFileCanHaveIsNamed_data();
@@ -139,6 +140,28 @@ void TestOutputSettings::theVideoBitrateIsTheConvertersOwn()
     QVariantMap map = preset();
     map.insert(QStringLiteral("outPutNode"), node);
     QCOMPARE(OutputSettings::fromPreset(map).videoKbps, kbps);
+}
+
+void TestOutputSettings::aPresetCanStateHowItsVideoIsEncoded()
+{
+    const auto settings = [](const QVariantMap &param) {
+        QVariantMap map = preset();
+        map.insert(QStringLiteral("outPutNode"),
+                   QVariantMap{{QStringLiteral("videoParam"), param}});
+        return OutputSettings::fromPreset(map);
+    };
+    const OutputSettings stated = settings({{QStringLiteral("quality"), QStringLiteral("-0.5")},
+                                            {QStringLiteral("rateMode"), QStringLiteral("average")},
+                                            {QStringLiteral("h264Speed"), QStringLiteral("slow")},
+                                            {QStringLiteral("h264Tune"), QStringLiteral("film")},
+                                            {QStringLiteral("hevcSpeed"), QStringLiteral("fast")}});
+    QCOMPARE(stated.quality, -0.5);
+    QVERIFY(stated.mustEncode);
+    QVERIFY(stated.averagesBitrate);
+    QCOMPARE(stated.speed, QStringLiteral("slow"));
+    QCOMPARE(stated.tune, QStringLiteral("film"));
+    QVERIFY(settings({{QStringLiteral("quality"), QStringLiteral("0")}}).mustEncode);
+    QVERIFY(!settings({{QStringLiteral("quality"), QStringLiteral("high")}}).mustEncode);
 }
 
 void TestOutputSettings::aTextThatIsNoSizeIsNoBox_data()

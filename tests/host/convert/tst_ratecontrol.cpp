@@ -16,6 +16,7 @@ private Q_SLOTS:
     void whoeverAsksGetsTheAverage() { compareWithRow(); }
     void theDeviceLimitsTheStream_data();
     void theDeviceLimitsTheStream() { compareWithRow(); }
+    void aPresetChoosesTheSpeedAndTheContent();
     void aHigherBitrateIsABetterPicture_data();
     void aHigherBitrateIsABetterPicture();
     void theResultFitsTheAskedSize();
@@ -117,6 +118,22 @@ void TestRateControl::theDeviceLimitsTheStream_data()
     device.profile.clear();
     row("the level of hevc", "hevc", device,
         "-crf 23 -x265-params log-level=error:high-tier=0:level-idc=4.1");
+}
+
+void TestRateControl::aPresetChoosesTheSpeedAndTheContent()
+{
+    OutputSettings settings = atMost(0);
+    settings.speed = QStringLiteral("slow");
+    settings.tune = QStringLiteral("film");
+    const auto optionsOf = [&settings](const char *name) {
+        const VideoCodec codec = videoCodec(QLatin1String(name));
+        return toArguments(rateOptions(codec, codec.encoders.constFirst(), settings,
+                                       {QSize(640, 360), {25, 1}}))
+            .join(QLatin1Char(' '));
+    };
+    QCOMPARE(optionsOf("h264"), QStringLiteral("-preset slow -crf 21.5 -tune film"));
+    settings.tune.clear();
+    QVERIFY2(!optionsOf("vp9").contains(QStringLiteral("slow")), "vp9 has no such word");
 }
 
 void TestRateControl::aHigherBitrateIsABetterPicture_data()
