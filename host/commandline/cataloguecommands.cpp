@@ -123,10 +123,30 @@ Result<ExitCode> runPresets(const Call &call)
     return Success;
 }
 
-void printSettings(const FoundPreset &preset)
+/*! The rows that only a preset of the user's has. */
+QVector<QStringList> rowsOfOwn(PresetStore &store, const FoundPreset &preset)
+{
+    const QString id = preset.map.value(QStringLiteral("id")).toString();
+    const PresetNote note = store.notes().of(id);
+    const QVariantMap base = store.own().baseOf(preset.className, id);
+    QVector<QStringList> rows;
+    if (!note.base.isEmpty()) {
+        const QString form = base.isEmpty() ? CommandLine::tr("%1, which is gone")
+                             : valuesOf(base) != note.baseValues
+                                 ? CommandLine::tr("%1, which has changed since; see \"user diff\"")
+                                 : QStringLiteral("%1");
+        rows.append({CommandLine::tr("Base"), form.arg(note.base)});
+    }
+    if (!note.text.isEmpty()) {
+        rows.append({CommandLine::tr("Note"), note.text});
+    }
+    return rows;
+}
+
+void printSettings(PresetStore &store, const FoundPreset &preset)
 {
     const auto text = [&preset](const QString &key) { return preset.map.value(key).toString(); };
-    Console::printTable({
+    QVector<QStringList> facts = {
         {CommandLine::tr("Id"), text(QStringLiteral("id"))},
         {CommandLine::tr("Title"), text(QStringLiteral("title"))},
         {CommandLine::tr("Format"), preset.className.isEmpty()
@@ -136,7 +156,11 @@ void printSettings(const FoundPreset &preset)
         {CommandLine::tr("File"), text(QStringLiteral("extension"))},
         {CommandLine::tr("Made by"),
          preset.isUserDefined ? CommandLine::tr("you") : CommandLine::tr("the catalogue")},
-    });
+    };
+    if (preset.isUserDefined) {
+        facts += rowsOfOwn(store, preset);
+    }
+    Console::printTable(facts);
     QVector<QStringList> table = {
         {CommandLine::tr("Setting"), CommandLine::tr("Value"), CommandLine::tr("Choices")}};
     for (const PresetSetting &setting : presetSettings()) {
@@ -174,7 +198,7 @@ Result<ExitCode> runShow(const Call &call)
         map.insert(QStringLiteral("userDefine"), preset->isUserDefined);
         Console::printJson(map);
     } else {
-        printSettings(*preset);
+        printSettings(store, *preset);
     }
     return Success;
 }

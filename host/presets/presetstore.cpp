@@ -56,6 +56,8 @@ PresetStore::PresetStore(FormatsProxy &formats, const QString &folder, const Rep
     , m_report(report)
     , m_userPresets(filePath(QStringLiteral("formatCache.json")))
     , m_recently(filePath(QStringLiteral("recently.json")))
+    , m_notesFile(filePath(QStringLiteral("presetnotes.json")))
+    , m_historyFile(filePath(QStringLiteral("presethistory.json")))
 {}
 
 QString PresetStore::folderAt(const QString &folder)
@@ -76,7 +78,39 @@ Result<> PresetStore::open(Access access, UserFile::Unrecoverable unrecoverable)
     const bool isReadable = m_userPresets.content() && m_recently.content();
     const QString nothing = QProcess::nullDevice();
     m_formats.init(m_work ? m_work->path() : isReadable ? m_folder : nothing);
+    readLists();
     return m_opened;
+}
+
+/*! A list that can't be read is reported, and hurts nothing else. */
+void PresetStore::readLists()
+{
+    const auto entriesIn = [this](const ConfigList &file) {
+        const Result<QJsonArray> entries = file.read();
+        if (!entries && m_report) {
+            m_report(entries.error().text);
+        }
+        return entries.value_or(QJsonArray());
+    };
+    m_notes.read(entriesIn(m_notesFile));
+    m_history.read(entriesIn(m_historyFile));
+    matchNotes();
+    m_saved = own().all();
+}
+
+/*! Lets each of the user's presets have a note, and nothing else: an id may be given again. */
+void PresetStore::matchNotes()
+{
+    const QMap<QString, OwnPreset> all = own().all();
+    m_notes.keepOnly(all.keys());
+    for (auto preset = all.begin(); preset != all.end(); ++preset) {
+        const QString className = preset->format.value(QLatin1String("title")).toString();
+        const FormatDetailModel *list = m_formats.formatListModel()->formatDetailModel(className);
+        FormatDetailModelData record;
+        if (!m_notes.has(preset.key()) && list->getModelInfoById(preset.key(), record)) {
+            m_notes.set(preset.key(), PresetNote::about(likelyBase(record, *list)));
+        }
+    }
 }
 
 Result<> PresetStore::openToRead() const
@@ -154,6 +188,33 @@ Result<> PresetStore::save()
     if (!m_work) {
         return m_opened;
     }
+    // A step must not be gone before it is undone, nor a preset before its step is there.
+    return m_isUndone ? saveLibrary().and_then([this] { return saveLists(); })
+                      : saveLists().and_then([this] { return saveLibrary(); });
+}
+
+Result<> PresetStore::saveLists()
+{
+    matchNotes();
+    const QMap<QString, OwnPreset> now = own().all();
+    PresetHistory history = m_history;
+    history.note(m_saved, now, QDateTime::currentDateTimeUtc());
+    const bool isChanged = m_isUndone || history.steps().size() != m_history.steps().size() ||
+                           history.toJson() != m_history.toJson();
+    if (!isChanged) {
+        return {};
+    }
+    return m_notesFile.write(m_notes.toJson())
+        .and_then([&] { return m_historyFile.write(history.toJson()); })
+        .map([&] {
+            m_history = history;
+            m_saved = now;
+            m_isUndone = false;
+        });
+}
+
+Result<> PresetStore::saveLibrary()
+{
     struct Part
     {
         const UserFile &file;
@@ -179,6 +240,16 @@ Result<> PresetStore::save()
         }
     }
     return {};
+}
+
+Result<PresetHistory::Step> PresetStore::undo()
+{
+    OwnPresets presets = own();
+    return m_history.undo(presets).map([this, &presets](const PresetHistory::Step &step) {
+        m_saved = presets.all();
+        m_isUndone = true;
+        return step;
+    });
 }
 
 QStringList PresetStore::ids() const

@@ -4,7 +4,11 @@
 #include "host/convert/outputsettings.h"
 #include "host/error.h"
 #include "host/files/workfolder.h"
+#include "host/presets/configlist.h"
 #include "host/presets/folderlock.h"
+#include "host/presets/ownpresets.h"
+#include "host/presets/presethistory.h"
+#include "host/presets/presetnotes.h"
 #include "host/presets/userfile.h"
 
 #include <QCoreApplication>
@@ -65,8 +69,16 @@ public:
      */
     [[nodiscard]] Result<> open(Access access,
                                 UserFile::Unrecoverable unrecoverable = UserFile::LeaveInPlace);
-    /*! Writes the user's files. A file that an error names is unchanged. */
+    /*! Writes the user's files. A file that an error names is unchanged. What has changed since the
+     *  last time can be undone afterwards. */
     [[nodiscard]] Result<> save();
+
+    /*! The user's presets, to be changed. */
+    [[nodiscard]] OwnPresets own() { return {m_formats, m_notes}; }
+    [[nodiscard]] PresetNotes &notes() { return m_notes; }
+    [[nodiscard]] const PresetHistory &history() const { return m_history; }
+    /*! Undoes what was saved last, and returns it; see PresetHistory::undo(). To be saved. */
+    [[nodiscard]] Result<PresetHistory::Step> undo();
 
     /*! The path of a file in the configuration folder. */
     [[nodiscard]] QString filePath(const QString &name) const;
@@ -82,15 +94,25 @@ private:
     Result<> reportNote(const Result<QString> &note) const;
     Result<> repair(UserFile::Unrecoverable unrecoverable) const;
     Result<> copyIntoWorkFolder();
+    void readLists();
+    void matchNotes();
+    Result<> saveLists();
+    Result<> saveLibrary();
 
     FormatsProxy &m_formats;
     const QString m_folder;
     const Report m_report;
     const UserFile m_userPresets;
     const UserFile m_recently;
+    const ConfigList m_notesFile;
+    const ConfigList m_historyFile;
     FolderLock m_lock;
     std::optional<WorkFolder> m_work; //!< what the library works on; none if opened in place
     Result<> m_opened;                //!< if an error, nothing is saved
+    PresetNotes m_notes;
+    PresetHistory m_history;
+    QMap<QString, OwnPreset> m_saved; //!< the user's presets as they were saved last
+    bool m_isUndone = false;          //!< the history lacks a step that isn't saved as undone
 };
 
 #endif

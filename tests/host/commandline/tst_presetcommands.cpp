@@ -82,7 +82,8 @@ void TestPresetCommands::aUsersPresetIsCreatedChangedAndDeleted()
                  QStringLiteral("1001  New    mp4   mpeg4  160x90  29.97  at most 4,000  aac")),
              qPrintable(list));
 
-    QCOMPARE(run("user delete 1001").out, QStringLiteral("1001 deleted\n"));
+    QCOMPARE(run("user delete 1001").out,
+             QStringLiteral("1001 deleted; \"vexconvert user undo\" brings it back\n"));
     QCOMPARE(recentIds(), QStringList());
     QCOMPARE(run("show 1001").exitCode, 2);
 }

@@ -142,6 +142,7 @@ void TestPresetSafety::initTestCase()
     }
     QCOMPARE(QStringList(m_before.keys()),
              (QStringList{presetsName, presetsName + QStringLiteral(".bak"),
+                          QStringLiteral("presethistory.json"), QStringLiteral("presetnotes.json"),
                           QStringLiteral("recently.json"), QStringLiteral("recently.json.bak"),
                           QStringLiteral("vexconvert.lock")}));
 }
