@@ -45,7 +45,7 @@ run_packages=(
 test_packages=(
     qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3-jsonschema
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
-    desktop-file-utils appstream man-db zsh fish
+    desktop-file-utils appstream man-db zsh fish handbrake-cli
 )
 qt6_packages=(
     qt6-base-dev qt6-declarative-dev libqt6svg6 qml6-module-qttest

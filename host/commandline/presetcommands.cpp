@@ -66,7 +66,7 @@ Result<ExitCode> runUser(const Call &call)
 {
     const QString name = call.arguments.value(0, QStringLiteral("list"));
     const QStringList arguments = call.arguments.mid(1);
-    const QVector<UserAction> actions = ownPresetActions() + historyActions();
+    const QVector<UserAction> actions = ownPresetActions() + exchangeActions() + historyActions();
     const auto action = std::find_if(actions.begin(), actions.end(),
                                      [&name](const UserAction &each) { return each.name == name; });
     if (action == actions.end()) {
@@ -98,7 +98,7 @@ Result<ExitCode> runUser(const Call &call)
 QString userSyntax()
 {
     QStringList forms;
-    const QVector<UserAction> actions = ownPresetActions() + historyActions();
+    const QVector<UserAction> actions = ownPresetActions() + exchangeActions() + historyActions();
     for (const UserAction &action : actions) {
         forms << QStringLiteral("%1 %2").arg(action.name, action.syntax).trimmed();
     }
@@ -117,13 +117,18 @@ QVector<Subcommand> presetCommands()
          {jsonOption()},
          runRecent},
         {QStringLiteral("user"), userSyntax(),
-         CommandLine::tr("Make, change and undo presets of your own."),
+         CommandLine::tr("Make, change, exchange and undo presets of your own."),
          CommandLine::tr(
              "\nA new preset starts with the values of its base. A setting must be one of the "
              "choices that\n\"vexconvert show ID\" lists; 0 keeps the source's value.\n"
+             "\n\"export\" writes the presets with these IDs, or all of yours; \"-\" is standard "
+             "output. \"import\"\nreads such files, and those of HandBrake, Kdenlive and Shotcut: "
+             "it "
+             "lists what becomes of each\npreset and of its settings. Either all presets of a call "
+             "are imported or none.\n"
              "\n\"undo\" takes back what was done last, and can be repeated for the last 50 steps; "
              "\"history\"\nlists them. \"diff\" compares a preset to its base; \"reset\" gives it "
              "the base's values again,\nall or those of the SETTINGs that \"diff\" lists.\n"),
-         ownPresetOptions() + QList<QCommandLineOption>{jsonOption()}, runUser},
+         ownPresetOptions() + exchangeOptions() + QList<QCommandLineOption>{jsonOption()}, runUser},
     };
 }

@@ -17,9 +17,11 @@ struct UserAction
 };
 
 [[nodiscard]] QVector<UserAction> ownPresetActions();
+[[nodiscard]] QVector<UserAction> exchangeActions();
 [[nodiscard]] QVector<UserAction> historyActions();
 
 [[nodiscard]] QList<QCommandLineOption> ownPresetOptions();
+[[nodiscard]] QList<QCommandLineOption> exchangeOptions();
 
 /*! Opens the presets for saving. If another process is writing them, says so and waits. */
 [[nodiscard]] Result<> openToWrite(PresetStore &presets);
