@@ -71,3 +71,9 @@ vex_install_library(VexConvertFormats
   PACKAGES "Qt${VEX_QT} 5.15 COMPONENTS Core Qml" VexMorrowUtility
   REQUIRES "Qt${VEX_QT}Core >= 5.15, VexMorrowUtility"
   REQUIRES_PRIVATE "Qt${VEX_QT}Qml >= 5.15")
+
+# What editors and qmllint know about the types that the library registers with QML.
+install(FILES
+  ${PROJECT_SOURCE_DIR}/formats/qml/CVFormats/qmldir
+  ${PROJECT_SOURCE_DIR}/formats/qml/CVFormats/plugins.qmltypes
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt${VEX_QT}/qml/CVFormats COMPONENT dev)

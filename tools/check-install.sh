@@ -54,6 +54,30 @@ read -ra flags < <(pkg-config --cflags --libs VexConvertFormats)
 c++ -std=c++17 -fPIC examples/lookup.cpp -o "$room/lookup" "${flags[@]}" "-Wl,-rpath,$prefix/lib"
 "$room/lookup" audio mp3 192 2>/dev/null | grep -q '^Audio_MP3_' || fail "pkg-config's lookup failed"
 
+# The module's description must do no harm to programs that find it.
+modules=$(echo "$prefix"/lib/qt?/qml)
+export QML2_IMPORT_PATH=$modules
+cat >"$room/Good.qml" <<'END'
+import QtQml 2.15
+import CVFormats 1.0
+
+QtObject {
+    id: root
+
+    required property FormatListModel formats
+    readonly property int rows: root.formats.count
+    readonly property int tagRole: FormatListModel.TagRole
+    readonly property int presets: root.formats.formatDetailModel("MP4").count
+}
+END
+sed 's/formats\.count/formats.number/' "$room/Good.qml" >"$room/Bad.qml"
+qmllint() {
+    /usr/lib/qt6/bin/qmllint -I "$modules" "$room/$1" 2>&1
+}
+qmllint Good.qml || fail "qmllint doesn't know the models"
+[[ $(qmllint Bad.qml) == *'"number" not found on type "FormatListModel"'* ]] ||
+    fail "qmllint accepts a property that the model lacks"
+
 cmake -G Ninja -S examples -B "$room/examples" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$room/examples" -- --quiet
 run_examples "$room/examples"
