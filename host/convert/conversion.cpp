@@ -85,6 +85,18 @@ void Conversion::cancel()
     m_frameList.stop();
 }
 
+void Conversion::pause()
+{
+    m_isPaused = true;
+    m_ffmpeg.pause();
+}
+
+void Conversion::resume()
+{
+    m_isPaused = false;
+    m_ffmpeg.resume();
+}
+
 void Conversion::listEncoders(const Result<MediaFacts> &source)
 {
     if (!source) {
@@ -164,6 +176,9 @@ void Conversion::runFfmpeg()
         m_call.report = m_pending.logPath();
     }
     m_ffmpeg.start(m_call);
+    if (m_isPaused) {
+        m_ffmpeg.pause();
+    }
 }
 
 void Conversion::checkRun(const Result<ToolRun> &run)

@@ -57,6 +57,9 @@ public:
     void start();
     /*! finished() follows from the event loop, with Error::Cancelled. */
     void cancel();
+    /*! Halts the encoding, now or when it begins, until resume(). It can still be cancelled. */
+    void pause();
+    void resume();
 
 Q_SIGNALS:
     /*! About twice a second while ffmpeg runs. */
@@ -101,6 +104,7 @@ private:
     OutputName m_name;
     ToolCall m_call; // of the current attempt
     bool m_hadErrors = false;
+    bool m_isPaused = false;
     QByteArray m_sourceFrames; // the first ones, once known
     PendingFile m_pending;     // declared before m_ffmpeg, which must stop before its file goes
     ProgressReader m_progress;

@@ -24,8 +24,32 @@ void ConversionQueue::start()
     }
 }
 
+void ConversionQueue::pause()
+{
+    m_isPaused = true;
+    for (const auto &[id, job] : m_jobs) {
+        if (job.conversion != nullptr) {
+            job.conversion->pause();
+        }
+    }
+}
+
+void ConversionQueue::resume()
+{
+    m_isPaused = false;
+    for (const auto &[id, job] : m_jobs) {
+        if (job.conversion != nullptr) {
+            job.conversion->resume();
+        }
+    }
+    start();
+}
+
 bool ConversionQueue::hasRoom() const
 {
+    if (m_isPaused) {
+        return false;
+    }
     int running = 0;
     int busyCores = 0;
     for (const auto &[id, job] : m_jobs) {

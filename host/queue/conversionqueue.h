@@ -23,6 +23,10 @@ public:
 
     /*! How many jobs run at a time, whatever cores they keep busy. Running ones are not stopped. */
     void setMaxRunning(int count) { m_maxRunning = count; }
+    /*! Halts the running jobs, and starts none until resume(). */
+    void pause();
+    void resume();
+    [[nodiscard]] bool isPaused() const { return m_isPaused; }
     /*! Whether another job would run now. */
     [[nodiscard]] bool hasRoom() const;
 
@@ -63,6 +67,7 @@ private:
 
     std::map<int, Job> m_jobs;
     std::optional<int> m_maxRunning;
+    bool m_isPaused = false;
 };
 
 #endif

@@ -17,14 +17,30 @@ void ProcessGroup::watch(qint64 leader)
     m_guard.join(leader);
 }
 
+void ProcessGroup::pause()
+{
+    send(SIGSTOP);
+    m_guard.stayAwake();
+}
+
+void ProcessGroup::resume()
+{
+    send(SIGCONT);
+}
+
 void ProcessGroup::end()
+{
+    send(SIGKILL);
+    m_guard.kill();
+    m_guard.waitForFinished();
+}
+
+void ProcessGroup::send(int signalNumber)
 {
     // Without its guard, the id could have been reused for another group by now.
     if (m_guard.isIn(m_leader)) {
-        ::kill(-pid_t(m_leader), SIGKILL);
+        ::kill(-pid_t(m_leader), signalNumber);
     }
-    m_guard.kill();
-    m_guard.waitForFinished();
 }
 
 void ProcessGroup::Guard::join(qint64 leader)
@@ -42,6 +58,13 @@ void ProcessGroup::Guard::join(qint64 leader)
 bool ProcessGroup::Guard::isIn(qint64 leader) const
 {
     return processId() != 0 && getpgid(pid_t(processId())) == pid_t(leader);
+}
+
+void ProcessGroup::Guard::stayAwake() const
+{
+    if (processId() != 0) {
+        ::kill(pid_t(processId()), SIGCONT);
+    }
 }
 
 void ProcessGroup::Guard::setupChildProcess()

@@ -19,6 +19,9 @@ public:
     static void lead();
     /*! Takes over the group of \a leader, a child process that calls lead(). Call it only once. */
     void watch(qint64 leader);
+    /*! Stops every process in the group, until resume(). */
+    void pause();
+    void resume();
     /*! Kills every process in the group. */
     void end();
 
@@ -32,6 +35,8 @@ private:
     public:
         void join(qint64 leader);
         [[nodiscard]] bool isIn(qint64 leader) const;
+        /*! While the others in the group are stopped, it must notice the host's end. */
+        void stayAwake() const;
 
     protected:
         void setupChildProcess() override;
@@ -39,6 +44,9 @@ private:
     private:
         qint64 m_leader = 0;
     };
+
+    /*! Sends the signal to every process in the group. */
+    void send(int signalNumber);
 
     qint64 m_leader = 0;
     Guard m_guard;

@@ -123,6 +123,20 @@ void Tool::abandon()
     m_process.waitForFinished();
 }
 
+void Tool::pause()
+{
+    if (m_group) {
+        m_group->pause();
+    }
+}
+
+void Tool::resume()
+{
+    if (m_group) {
+        m_group->resume();
+    }
+}
+
 void Tool::write(const QByteArray &input)
 {
     if (m_process.isWritable()) {

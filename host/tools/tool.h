@@ -62,6 +62,10 @@ public:
     /*! Kills the program and everything it started; finished() does not follow. */
     void abandon();
 
+    /*! Halts the program and everything it started until resume(), or until it is stopped. */
+    void pause();
+    void resume();
+
     /*! Whether a run has begun and not finished. */
     [[nodiscard]] bool isRunning() const { return m_group.has_value(); }
     /*! Sends \a input to a program that takes input. Does nothing if it couldn't start. */

@@ -9,7 +9,26 @@
 #include <QThread>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
+#include <unistd.h>
+
+namespace {
+
+/*! Whether a child of this process has been sent SIGSTOP. */
+bool hasStoppedChild()
+{
+    const QStringList processes =
+        QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[1-9]*")}, QDir::Dirs);
+    return std::any_of(processes.begin(), processes.end(), [](const QString &id) {
+        // "id (name) state parent ..."
+        const QByteArray stat = contentOf(QStringLiteral("/proc/%1/stat").arg(id));
+        const QList<QByteArray> fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
+        return fields.value(0) == "T" && fields.value(1).toInt() == ::getpid();
+    });
+}
+
+} // namespace
 
 /*! Converts real audio files; the conversion of one named "hanging" runs until it is stopped. */
 class TestConversionQueue : public QObject
@@ -35,6 +54,8 @@ private Q_SLOTS:
     void aRemovedJobEmitsNothing();
     void aJobRemovedBeforeItFailsEmitsNothing();
     void stoppingCancelsRunningJobsAndRemovesWaitingOnes();
+    void aPausedQueueStartsNothing();
+    void aJobIsHaltedAsSoonAsItEncodes();
     void noMoreJobsRunThanAllowed();
     void jobsStartWhileCoresAreIdle_data();
     void jobsStartWhileCoresAreIdle();
@@ -258,6 +279,31 @@ void TestConversionQueue::stoppingCancelsRunningJobsAndRemovesWaitingOnes()
     m_queue->stop();
     QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
     QCOMPARE(m_events, events("started 1, cancelled 1"));
+}
+
+void TestConversionQueue::aPausedQueueStartsNothing()
+{
+    m_queue->pause();
+    add(1, "song.wav");
+    m_queue->start();
+    QVERIFY(m_queue->isPaused());
+    QVERIFY(!m_queue->hasRoom());
+    QCOMPARE(m_events, QStringList());
+    m_queue->resume();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, finished 1"));
+}
+
+void TestConversionQueue::aJobIsHaltedAsSoonAsItEncodes()
+{
+    add(1, "song.wav");
+    m_queue->start();
+    m_queue->pause(); // while the source is still being read
+    QTRY_VERIFY_WITH_TIMEOUT(hasStoppedChild(), patience);
+    QCOMPARE(m_events, events("started 1"));
+    m_queue->resume();
+    QTRY_VERIFY_WITH_TIMEOUT(m_queue->isEmpty(), patience);
+    QCOMPARE(m_events, events("started 1, finished 1"));
 }
 
 void TestConversionQueue::noMoreJobsRunThanAllowed()
