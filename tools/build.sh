@@ -45,7 +45,7 @@ run_packages=(
 test_packages=(
     qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3-jsonschema
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
-    desktop-file-utils appstream man-db zsh fish handbrake-cli
+    dbus-daemon desktop-file-utils appstream man-db zsh fish handbrake-cli
     qtdeclarative5-dev-tools qt6-declarative-dev-tools qml6-module-qtqml
 )
 qt6_packages=(

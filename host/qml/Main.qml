@@ -14,6 +14,8 @@ ApplicationWindow {
     readonly property TaskPage shownPage: tabs.current === 0 ? converterPage : editorPage
     property alias currentPage: tabs.current
     property alias picker: picker
+    readonly property PageProxy busyPage: ConverterProxy.isBusy ? ConverterProxy : EditorProxy
+    property bool isClosing: false
 
     /*! Opens the picker at \a button, above it where there is room. */
     function openPicker(button, taskId, formatId) {
@@ -43,7 +45,14 @@ ApplicationWindow {
     minimumWidth: 900
     minimumHeight: 480
     visible: true
-    title: "VexConvert"
+    title: root.busyPage.overall === "" ? "VexConvert"
+                                        : root.busyPage.overall + " – VexConvert"
+    onClosing: function (close) {
+        close.accepted = root.isClosing || !root.busyPage.isBusy
+        if (!close.accepted) {
+            closeQuestion.open()
+        }
+    }
     color: Theme.basics_gradeTone2
 
     Shortcut {
@@ -129,6 +138,15 @@ ApplicationWindow {
             onPickerAsked: function (button, taskId, formatId) {
                 root.openPicker(button, taskId, formatId)
             }
+        }
+    }
+
+    CloseQuestion {
+        id: closeQuestion
+
+        onConfirmed: {
+            root.isClosing = true
+            root.close()
         }
     }
 

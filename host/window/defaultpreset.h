@@ -9,4 +9,10 @@ inline QString defaultPresetId()
     return QStringLiteral("Video_MP4_001");
 }
 
+/*! The id of the preset that songs start with. */
+inline QString defaultAudioPresetId()
+{
+    return QStringLiteral("Audio_MP3_002");
+}
+
 #endif

@@ -1,7 +1,9 @@
 #include "host/window/mainwindow.h"
 
+#include "host/window/desktopfeedback.h"
 #include "host/window/presets.h"
 #include "host/window/qmltypes.h"
+#include "host/window/queuekeeper.h"
 #include "host/window/singleinstance.h"
 #include "host/window/windowsettings.h"
 
@@ -30,8 +32,10 @@ MainWindow::MainWindow(const QString &configFolder, QObject *parent)
 
 MainWindow::~MainWindow()
 {
+    m_feedback.reset();
     m_engine.reset();
-    if (m_presets != nullptr) {
+    if (m_queue != nullptr) {
+        m_queue->flush();
         m_presets->flush();
     }
 }
@@ -51,6 +55,11 @@ Result<> MainWindow::open()
     m_presets = std::make_unique<Presets>(m_store);
     m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets, this);
     m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets, this);
+    m_queue = std::make_unique<QueueKeeper>(
+        m_store.filePath(QStringLiteral("queue.json")),
+        QMap<QString, Page *>{{QStringLiteral("converter"), m_converter.get()},
+                              {QStringLiteral("editor"), m_editor.get()}});
+    connect(m_queue.get(), &QueueKeeper::noticed, &m_notices, &Notices::add);
     connect(m_presets.get(), &Presets::saveFailed, &m_notices, &Notices::add);
     connect(m_converter.get(), &Page::noticed, &m_notices, &Notices::add);
     connect(m_editor.get(), &Page::noticed, &m_notices, &Notices::add);
@@ -59,16 +68,20 @@ Result<> MainWindow::open()
             [this](const QVariantMap &info) {
                 openDialog(QUrl(QStringLiteral("qrc:/modules/MessageBox/VEXMessage.qml")), info);
             });
+    m_queue->restore();
     publish();
     m_engine->load(QUrl(QStringLiteral("qrc:/window/Main.qml")));
     if (window() == nullptr) {
         return failed(ToolFun::text(QStringLiteral("The window can't be made")));
     }
     m_files.setWindow(window());
+    m_feedback = std::make_unique<DesktopFeedback>(
+        QVector<Page *>{m_converter.get(), m_editor.get()}, *window());
     // Another program may cancel the logout, so the window only saves and stays open.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
         m_presets->flush();
+        m_queue->flush();
         session.setRestartHint(QSessionManager::RestartNever);
     });
     m_instance = std::make_unique<SingleInstance>(configFolder());
@@ -86,7 +99,10 @@ bool MainWindow::handOver(const QStringList &paths, int patience) const
 void MainWindow::stopWork()
 {
     m_instance.reset();
+    m_feedback.reset();
     m_presets->flush();
+    m_queue->flush();
+    m_queue.reset();
     m_converter.reset();
     m_editor.reset();
 }

@@ -14,8 +14,10 @@
 #include <memory>
 
 class ConverterProxy;
+class DesktopFeedback;
 class EditorProxy;
 class Presets;
+class QueueKeeper;
 class QQuickWindow;
 class WindowSettings;
 class SingleInstance;
@@ -64,7 +66,9 @@ private:
     std::unique_ptr<Presets> m_presets;
     std::unique_ptr<ConverterProxy> m_converter;
     std::unique_ptr<EditorProxy> m_editor;
+    std::unique_ptr<QueueKeeper> m_queue; // of both pages
     std::unique_ptr<SingleInstance> m_instance;
+    std::unique_ptr<DesktopFeedback> m_feedback;
     QPointer<DialogFrame> m_dialog;
     // Destroyed first, as it uses all of the above.
     std::unique_ptr<QQmlApplicationEngine> m_engine;

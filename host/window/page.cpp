@@ -2,20 +2,24 @@
 
 #include "host/files/localpath.h"
 #include "host/files/visibletext.h"
-#include "host/media/mediafiles.h"
+#include "host/window/addedfiles.h"
+#include "host/window/openfile.h"
+#include "host/window/restoredtask.h"
 #include "host/window/toolfun.h"
 
-#include <QDesktopServices>
-#include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
-bool isConvertible(const Task &task)
+/*! "song.wav" for one file, else how many they are. */
+QString namesOf(const QStringList &paths)
 {
-    return !task.isQueued() && task.state != Task::Converted;
+    return paths.size() == 1 ? visibleText(QFileInfo(paths.constFirst()).fileName())
+                             : ToolFun::text(QStringLiteral("%1 files")).arg(paths.size());
 }
 
 } // namespace
@@ -25,20 +29,21 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     , m_kind(kind)
     , m_settings(settings)
     , m_formats(kind, settings, presets, m_tasks)
+    , m_outlooks(presets, [this](const Task &task) { return jobOf(task); })
+    , m_runner(m_tasks, [this](const Task &task) { return jobOf(task); })
+    , m_removals(m_tasks, m_inspector, m_runner)
 {
     connect(&m_tasks, &TaskList::countChanged, this, &Page::queueChanged);
     connect(&m_tasks, &TaskList::stateChanged, this, &Page::queueChanged);
     connect(&m_formats, &TaskFormats::globalChanged, this, &Page::globalFormatChanged);
     connect(&m_inspector, &Inspector::read, this, &Page::takeFacts);
-    connect(&m_inspector, &Inspector::thumbnailReady, this, [this](int id, const QString &url) {
-        m_tasks.update(id, [&url](Task &task) { task.thumbnail = url; });
-    });
-    connect(&m_queue, &ConversionQueue::started, this,
-            [this](int id) { m_tasks.setState(id, Task::Running); });
-    connect(&m_queue, &ConversionQueue::progressed, this, [this](int id, const Progress &progress) {
-        m_tasks.update(id, [&progress](Task &task) { task.progress = progress; });
-    });
-    connect(&m_queue, &ConversionQueue::finished, this, &Page::takeOutcome);
+    connect(&m_inspector, &Inspector::thumbnailReady, &m_tasks, &TaskList::setThumbnail);
+    connect(&m_outlooks, &TaskOutlooks::known, this, &Page::renewOutlooks);
+    connect(this, &Page::folderChanged, this, &Page::renewOutlooks);
+    connect(&m_runner, &TaskRunner::progressed, this, &Page::overallChanged);
+    connect(&m_runner, &TaskRunner::pauseChanged, this, &Page::pauseChanged);
+    connect(&m_runner, &TaskRunner::started, this, &Page::started);
+    connect(&m_runner, &TaskRunner::ended, this, &Page::ended);
     if (!folder().isEmpty()) {
         WorkFolder::sweep(folder());
     }
@@ -55,56 +60,98 @@ void Page::setFolder(const QString &folder)
     Q_EMIT folderChanged();
 }
 
-bool Page::isBusy() const
+Outlook Page::outlook(int taskId, const QString & /*format*/, double /*start*/, double /*end*/,
+                      int /*version*/) const
 {
-    return std::any_of(m_tasks.tasks().begin(), m_tasks.tasks().end(),
-                       [](const Task &task) { return task.isQueued(); });
+    const Task *task = m_tasks.find(taskId);
+    return task == nullptr ? Outlook() : m_outlooks.of(*task);
+}
+
+void Page::renewOutlooks()
+{
+    ++m_outlookVersion;
+    Q_EMIT outlookChanged();
 }
 
 bool Page::canConvert() const
 {
-    return std::any_of(m_tasks.tasks().begin(), m_tasks.tasks().end(), isConvertible);
+    return m_tasks.count() > m_tasks.countOf(Task::Converted) + m_tasks.countOf(Task::Waiting) +
+                                 m_tasks.countOf(Task::Running);
 }
 
 void Page::addFiles(const QList<QUrl> &urls)
 {
+    const QStringList remote = noticesOfRemote(urls);
+    for (const QString &line : remote) {
+        Q_EMIT noticed(line);
+    }
     addPaths(localPaths(urls));
 }
 
 void Page::addPaths(const QStringList &paths)
 {
-    for (const QString &path : paths) {
-        const bool isFolder = QFileInfo(path).isDir();
-        const QStringList files = isFolder ? mediaFilesIn(path) : QStringList{path};
-        if (files.isEmpty()) {
-            Q_EMIT noticed(ToolFun::text(QStringLiteral("There are no video or audio files in the "
-                                                        "folder %1; add the files themselves"))
-                               .arg(QDir::toNativeSeparators(path)));
-        }
-        for (const QString &file : files) {
-            addFile(file);
-        }
+    QSet<QString> present;
+    for (const Task &task : m_tasks.tasks()) {
+        present.insert(task.source);
+    }
+    const AddedFiles added = AddedFiles::of(paths, present);
+    for (const QString &line : added.notices) {
+        Q_EMIT noticed(line);
+    }
+    addAll(added.files);
+    if (!added.known.isEmpty()) {
+        m_offer.make(
+            ToolFun::text(QStringLiteral("Already in the list: %1")).arg(namesOf(added.known)),
+            ToolFun::text(QStringLiteral("Add again")),
+            [this, known = added.known] { addAll(known); });
     }
 }
 
-void Page::addFile(const QString &path)
+void Page::addAll(const QStringList &paths)
 {
-    Task task;
-    task.source = path;
+    for (const QString &path : paths) {
+        Task task;
+        task.source = path;
+        addTask(task);
+    }
+}
+
+int Page::addTask(const Task &task)
+{
     const int id = m_tasks.add(task);
-    m_formats.assignGlobal(id);
-    m_inspector.inspect(id, path);
+    m_formats.assign(id);
+    m_inspector.inspect(id, task.source);
+    return id;
+}
+
+QVector<KeptTask> Page::kept() const
+{
+    QVector<KeptTask> kept;
+    const QVector<Task> &all = m_tasks.tasks();
+    std::transform(all.cbegin(), all.cend(), std::back_inserter(kept), keptTask);
+    return kept;
+}
+
+void Page::restore(const QVector<KeptTask> &tasks)
+{
+    for (const KeptTask &task : tasks) {
+        addTask(restoredTask(task));
+    }
 }
 
 void Page::takeFacts(int taskId, const Result<MediaFacts> &facts)
 {
-    m_tasks.update(taskId, [&facts](Task &task) {
-        task.facts = facts.value_or(MediaFacts());
-        if (task.state == Task::Reading) {
-            task.state = facts ? Task::Ready : Task::Failed;
-            task.error = facts ? QString() : facts.error().text;
-        }
-    });
+    const Task *task = m_tasks.find(taskId);
+    if (task == nullptr) {
+        return;
+    }
+    m_tasks.update(taskId, [&facts](Task &read) { read.facts = facts.value_or(MediaFacts()); });
+    if (task->state == Task::Reading) {
+        m_tasks.setState(taskId, facts ? Task::Ready : Task::Failed);
+        m_tasks.update(
+            taskId, [&facts](Task &read) { read.error = facts ? QString() : facts.error().text; });
+    }
+    m_formats.assign(taskId);
 }
 
 void Page::requestThumbnail(int taskId)
@@ -114,43 +161,61 @@ void Page::requestThumbnail(int taskId)
     }
 }
 
-void Page::remove(int taskId)
+void Page::removeTasks(const QVector<int> &ids)
 {
-    m_inspector.forget(taskId);
-    m_tasks.remove(taskId);
-    m_queue.remove(taskId);
+    const QStringList sources = m_removals.remove(ids);
+    if (!sources.isEmpty()) {
+        m_offer.make(ToolFun::text(QStringLiteral("Removed: %1")).arg(namesOf(sources)),
+                     ToolFun::text(QStringLiteral("Undo")), [this] { undoRemoval(); });
+    }
 }
 
-void Page::convert(int taskId)
+void Page::clearConverted()
 {
-    const Task *task = m_tasks.find(taskId);
-    if (task == nullptr || task->isQueued()) {
-        return;
+    QVector<int> ids;
+    for (const Task &task : m_tasks.tasks()) {
+        if (task.state == Task::Converted) {
+            ids << task.id;
+        }
     }
-    enqueue(taskId);
-    m_queue.start();
+    removeTasks(ids);
+}
+
+void Page::undoRemoval()
+{
+    const QVector<int> ids = m_removals.undo();
+    for (const int id : ids) {
+        m_formats.assign(id);
+    }
+    if (!ids.isEmpty()) {
+        m_offer.dismiss();
+    }
+}
+
+void Page::moveChosen(int taskId, int before)
+{
+    const QVector<int> ids = m_selection.with(taskId);
+    m_tasks.move(QSet<int>(ids.cbegin(), ids.cend()), before);
+}
+
+void Page::sortBy(Task::SortKey key)
+{
+    m_tasks.sort([key](const Task &one, const Task &other) { return one.isBefore(other, key); });
 }
 
 void Page::convertAll()
 {
-    const QVector<Task> all = m_tasks.tasks();
-    for (const Task &task : all) {
-        if (isConvertible(task)) {
-            enqueue(task.id);
+    QVector<int> ids;
+    for (const Task &task : m_tasks.tasks()) {
+        if (task.state != Task::Converted) {
+            ids << task.id;
         }
     }
-    m_queue.start();
+    m_runner.convert(ids);
 }
 
-void Page::enqueue(int taskId)
+ConversionJob Page::jobOf(const Task &task) const
 {
-    m_tasks.setState(taskId, Task::Waiting);
-    m_queue.add(taskId, [this, taskId] { return jobOf(taskId); });
-}
-
-ConversionJob Page::jobOf(int taskId) const
-{
-    const Task &task = *m_tasks.find(taskId);
     ConversionJob job;
     job.source = task.source;
     job.settings = m_formats.outputSettings(task);
@@ -160,40 +225,39 @@ ConversionJob Page::jobOf(int taskId) const
     return job;
 }
 
-void Page::takeOutcome(int taskId, const Result<ConversionOutcome> &outcome)
+void Page::cancelChosen(int taskId)
 {
-    const bool isCancelled = !outcome && outcome.error().kind == Error::Cancelled;
-    m_tasks.setState(taskId, outcome       ? Task::Converted
-                             : isCancelled ? Task::Cancelled
-                                           : Task::Failed);
-    m_tasks.update(taskId, [&outcome](Task &task) {
-        task.error = outcome ? QString() : outcome.error().text;
-        task.target = outcome ? outcome->target : QString();
-        task.note = outcome ? outcome->notes().join(QStringLiteral("; ")) : QString();
-    });
+    const QVector<int> ids = m_selection.with(taskId);
+    // From the end, as a running task that stops makes room for one that waits.
+    std::for_each(ids.crbegin(), ids.crend(), [this](int id) { m_runner.cancel(id); });
 }
 
-void Page::cancel(int taskId)
+void Page::followChosen(int taskId)
 {
-    m_queue.cancel(taskId);
-}
-
-void Page::cancelAll()
-{
-    const QVector<Task> all = m_tasks.tasks();
-    for (const Task &task : all) {
-        cancel(task.id);
+    const QVector<int> ids = m_selection.with(taskId);
+    for (const int id : ids) {
+        m_formats.follow(id);
     }
 }
 
 void Page::showInFolder(int taskId)
 {
     if (const Task *task = m_tasks.find(taskId)) {
-        const QFileInfo file(task->target.isEmpty() ? task->source : task->target);
-        if (!QDesktopServices::openUrl(localUrl(file.absolutePath()))) {
-            Q_EMIT noticed(ToolFun::text(QStringLiteral("No file manager could be started to show "
-                                                        "the folder %1; open it by hand"))
-                               .arg(QDir::toNativeSeparators(file.absolutePath())));
+        showFile(task->target.isEmpty() ? task->source : task->target,
+                 [page = QPointer<Page>(this)](const QString &line) {
+                     if (page != nullptr) {
+                         Q_EMIT page->noticed(line);
+                     }
+                 });
+    }
+}
+
+void Page::play(int taskId)
+{
+    if (const Task *task = m_tasks.find(taskId)) {
+        const Result<> played = playFile(task->target);
+        if (!played) {
+            Q_EMIT noticed(played.error().text);
         }
     }
 }
@@ -204,10 +268,45 @@ bool Page::checkFormatUsed(const QString &id) const
                        [&id](const Task &task) { return task.isQueued() && task.format == id; });
 }
 
+void Page::setGlobalFormat(const QString &id)
+{
+    m_formats.chooseGlobal(id);
+    offerAgain();
+}
+
+/*! A new format leaves results alone; who wants these files in it, too, finds the way here. */
+void Page::offerAgain()
+{
+    QVector<int> again;
+    QStringList sources;
+    for (const Task &task : m_tasks.tasks()) {
+        const bool isOther = task.format != m_settings.globalId(m_kind);
+        if (task.state == Task::Converted && task.ownFormats.isEmpty() && isOther) {
+            again << task.id;
+            sources << task.source;
+        }
+    }
+    if (again.isEmpty()) {
+        return;
+    }
+    m_offer.make(ToolFun::text(QStringLiteral("Converted already: %1")).arg(namesOf(sources)),
+                 ToolFun::text(QStringLiteral("Convert again")), [this, again] {
+                     for (const int id : again) {
+                         m_formats.follow(id);
+                     }
+                     m_runner.convert(again);
+                 });
+}
+
+void Page::setTaskFormat(int taskId, const QString &id)
+{
+    m_formats.choose(m_selection.with(taskId), id);
+}
+
 void Page::setCut(int taskId, double start, double end)
 {
     const Task *task = m_tasks.find(taskId);
-    if (task == nullptr || task->isQueued()) {
+    if (task == nullptr || task->state == Task::Running) {
         return;
     }
     m_tasks.update(taskId, [start, end](Task &cut) {

@@ -21,6 +21,8 @@ public:
     {
         return m_store.find(id);
     }
+    /*! The ids of all presets of the catalogue and of the user. */
+    [[nodiscard]] QStringList ids() const { return m_store.ids(); }
     /*! The first preset that exists of \a id, \a standIn, the default preset and the catalogue's
      *  first one; empty if there is none. */
     [[nodiscard]] QString usable(const QString &id, const QString &standIn) const;

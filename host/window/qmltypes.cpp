@@ -28,12 +28,14 @@ void registerSingleton()
 
 int registerTypes()
 {
+    qRegisterMetaType<Outlook>();
     registerSingleton<ExposedToolFun>();
     registerSingleton<ExposedFileChooser>();
     registerSingleton<ExposedNotices>();
     registerSingleton<ExposedConverterProxy>();
     registerSingleton<ExposedEditorProxy>();
-    qmlRegisterTypesAndRevisions<ExposedPage, ExposedTaskList, ExposedDialogFrame>(module, 1);
+    qmlRegisterTypesAndRevisions<ExposedPage, ExposedTaskList, ExposedTaskSelection, ExposedOffer,
+                                 ExposedDialogFrame>(module, 1);
     return qmlRegisterUncreatableMetaObject(Task::staticMetaObject, module, 1, 0,
                                             nameOf<ExposedTask>(),
                                             QStringLiteral("holds the states of a task"));

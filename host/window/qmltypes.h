@@ -78,6 +78,20 @@ struct ExposedTask
     QML_UNCREATABLE("holds the states of a task")
 };
 
+struct ExposedTaskSelection
+{
+    Q_GADGET
+    QML_FOREIGN(TaskSelection)
+    QML_ANONYMOUS
+};
+
+struct ExposedOffer
+{
+    Q_GADGET
+    QML_FOREIGN(Offer)
+    QML_ANONYMOUS
+};
+
 struct ExposedDialogFrame
 {
     Q_GADGET

@@ -1,6 +1,9 @@
 #include "host/window/taskformats.h"
 
+#include "host/window/defaultpreset.h"
 #include "host/window/presets.h"
+
+#include <algorithm>
 
 TaskFormats::TaskFormats(PageKind page, WindowSettings &settings, Presets &presets, TaskList &tasks)
     : m_page(page)
@@ -21,28 +24,47 @@ QString TaskFormats::globalIcon() const
     return m_presets.icon(m_presets.usable(globalId(), {}));
 }
 
-void TaskFormats::assignGlobal(int taskId)
-{
-    assign(taskId, globalId());
-}
-
 void TaskFormats::chooseGlobal(const QString &id)
 {
     m_settings.setGlobalId(m_page, id);
-    m_presets.noteUse(id);
+    noteUse(id);
+    const Followed wanted = followed();
     const QVector<Task> all = m_tasks.tasks();
     for (const Task &task : all) {
-        assign(task.id, id);
-        m_tasks.reopen(task.id);
+        if (task.ownFormats.isEmpty() && !task.isSettled()) {
+            assign(task.id, wanted);
+            m_tasks.reopen(task.id);
+        }
     }
     Q_EMIT globalChanged();
 }
 
-void TaskFormats::choose(int taskId, const QString &id)
+void TaskFormats::choose(const QVector<int> &taskIds, const QString &id)
 {
-    m_presets.noteUse(id);
-    assign(taskId, id);
+    noteUse(id);
+    for (const int taskId : taskIds) {
+        if (const Task *task = m_tasks.find(taskId)) {
+            QStringList own = task->ownFormats;
+            own.removeAll(id);
+            setOwn(taskId, own << id);
+        }
+    }
+}
+
+void TaskFormats::follow(int taskId)
+{
+    setOwn(taskId, {});
+}
+
+void TaskFormats::setOwn(int taskId, const QStringList &ids)
+{
+    const Task *task = m_tasks.find(taskId);
+    if (task == nullptr || task->state == Task::Running) {
+        return;
+    }
+    m_tasks.update(taskId, [&ids](Task &changed) { changed.ownFormats = ids; });
     m_tasks.reopen(taskId);
+    assign(taskId);
 }
 
 OutputSettings TaskFormats::outputSettings(const Task &task) const
@@ -52,23 +74,71 @@ OutputSettings TaskFormats::outputSettings(const Task &task) const
     return preset ? preset->outputSettings() : OutputSettings();
 }
 
-void TaskFormats::assign(int taskId, const QString &id)
+bool TaskFormats::hasVideo(const QString &id) const
 {
-    const QString usable = m_presets.usable(id, globalId());
-    m_tasks.update(taskId, [this, &usable](Task &task) {
-        if (!task.isQueued()) {
-            task.format = usable;
-            task.formatCaption = m_presets.caption(usable);
-            task.formatIcon = m_presets.icon(usable);
-        }
-    });
+    const std::optional<FoundPreset> preset = m_presets.find(id);
+    return preset && preset->outputSettings().hasVideo;
+}
+
+TaskFormats::Followed TaskFormats::followed() const
+{
+    Followed followed;
+    followed.usual = m_presets.usable(globalId(), {});
+    followed.ofSongs = followed.ofSilentFilms = followed.usual;
+    if (hasVideo(followed.usual)) {
+        followed.ofSongs = m_presets.usable(m_settings.lastId(false), defaultAudioPresetId());
+    } else {
+        followed.ofSilentFilms = m_presets.usable(m_settings.lastId(true), {});
+    }
+    return followed;
+}
+
+QString TaskFormats::formatOf(const Task &task, const Followed &followed) const
+{
+    const auto own = std::find_if(task.ownFormats.crbegin(), task.ownFormats.crend(),
+                                  [this](const QString &id) { return m_presets.find(id); });
+    if (own != task.ownFormats.crend()) {
+        return *own;
+    }
+    if (task.facts.isEmpty()) {
+        return followed.usual;
+    }
+    return task.facts.video() == nullptr   ? followed.ofSongs
+           : task.facts.audio() == nullptr ? followed.ofSilentFilms
+                                           : followed.usual;
+}
+
+void TaskFormats::assign(int taskId, const Followed &followed)
+{
+    const Task *task = m_tasks.find(taskId);
+    if (task == nullptr || task->isSettled()) {
+        return;
+    }
+    const QString format = formatOf(*task, followed);
+    const QString caption = m_presets.caption(format);
+    if (format != task->format || caption != task->formatCaption) {
+        m_tasks.update(taskId, [this, &format, &caption](Task &changed) {
+            changed.format = format;
+            changed.formatCaption = caption;
+            changed.formatIcon = m_presets.icon(format);
+        });
+    }
+}
+
+void TaskFormats::noteUse(const QString &id)
+{
+    m_presets.noteUse(id);
+    if (m_presets.find(id)) {
+        m_settings.setLastId(hasVideo(id), id);
+    }
 }
 
 void TaskFormats::followPresets()
 {
+    const Followed wanted = followed();
     const QVector<Task> all = m_tasks.tasks();
     for (const Task &task : all) {
-        assign(task.id, task.format);
+        assign(task.id, wanted);
     }
     Q_EMIT globalChanged();
 }

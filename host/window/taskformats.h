@@ -7,7 +7,10 @@
 
 class Presets;
 
-/*! The presets of a page: its default one and those of its tasks. */
+/*!
+ * The presets of a page: its own one, which its tasks follow, and those chosen for single tasks.
+ * The format of a running or converted task stays as it is, whatever happens to the presets.
+ */
 class TaskFormats : public QObject
 {
     Q_OBJECT
@@ -18,12 +21,14 @@ public:
     [[nodiscard]] QString globalCaption() const;
     [[nodiscard]] QString globalIcon() const;
 
-    /*! Sets a new task to the page's preset. */
-    void assignGlobal(int taskId);
-    /*! Sets the preset of the page and of all tasks that aren't queued. */
+    /*! Gives the task its format, or another one that suits what is now known of its file. */
+    void assign(int taskId) { assign(taskId, followed()); }
+    /*! Sets the preset of the page and of all tasks that follow it. */
     void chooseGlobal(const QString &id);
-    /*! Sets the preset of one task, unless it is queued. */
-    void choose(int taskId, const QString &id);
+    /*! Sets the preset of these tasks, except running ones. Converted ones become ready. */
+    void choose(const QVector<int> &taskIds, const QString &id);
+    /*! Lets the task follow the page again, unless it is running. */
+    void follow(int taskId);
 
     /*! The settings of the task's conversion. */
     [[nodiscard]] OutputSettings outputSettings(const Task &task) const;
@@ -32,8 +37,22 @@ Q_SIGNALS:
     void globalChanged();
 
 private:
-    QString globalId() const { return m_settings.globalId(m_page); }
-    void assign(int taskId, const QString &id);
+    /*! What tasks get that follow the page: a song can't become a video, nor a silent film a
+     *  song. */
+    struct Followed
+    {
+        QString usual;
+        QString ofSongs;
+        QString ofSilentFilms;
+    };
+
+    [[nodiscard]] QString globalId() const { return m_settings.globalId(m_page); }
+    [[nodiscard]] bool hasVideo(const QString &id) const;
+    [[nodiscard]] Followed followed() const;
+    [[nodiscard]] QString formatOf(const Task &task, const Followed &followed) const;
+    void assign(int taskId, const Followed &followed);
+    void setOwn(int taskId, const QStringList &ids);
+    void noteUse(const QString &id);
     void followPresets();
 
     const PageKind m_page;

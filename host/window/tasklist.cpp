@@ -2,47 +2,23 @@
 
 #include "host/files/visibletext.h"
 #include "host/media/clocktext.h"
+#include "host/window/tasktexts.h"
 
 #include <QFileInfo>
-#include <QLocale>
 
 #include <algorithm>
 
 namespace {
+
+/*! Rows that are changed one by one, so that the view stays where it is; more than these would
+ *  take too long, each moving all rows below. */
+constexpr int mostSteps = 50;
 
 int nextId()
 {
     // Both pages number their tasks in one sequence: an id names one task of the whole window.
     static int last = 0;
     return ++last;
-}
-
-QString detailsOf(const MediaFacts &facts)
-{
-    QStringList parts;
-    if (const VideoTrack *video = facts.video()) {
-        const QSize size = video->displaySize();
-        parts << QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
-    }
-    if (facts.duration > 0) {
-        parts << clockText(facts.duration);
-    }
-    if (facts.bytes > 0) {
-        parts << QLocale().formattedDataSize(facts.bytes, 1, QLocale::DataSizeTraditionalFormat);
-    }
-    return parts.join(QStringLiteral("  ·  "));
-}
-
-QString codecsOf(const MediaFacts &facts)
-{
-    QStringList codecs;
-    if (const VideoTrack *video = facts.video()) {
-        codecs << video->codec;
-    }
-    if (const AudioTrack *audio = facts.audio()) {
-        codecs << audio->codec;
-    }
-    return codecs.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -84,6 +60,8 @@ QVariant TaskList::data(const QModelIndex &index, int role) const
         return task.formatCaption;
     case FormatIconRole:
         return task.formatIcon;
+    case OwnFormatRole:
+        return !task.ownFormats.isEmpty();
     case StateRole:
         return int(task.state);
     case PercentRole:
@@ -96,12 +74,16 @@ QVariant TaskList::data(const QModelIndex &index, int role) const
         return visibleText(task.error);
     case TargetRole:
         return visibleText(task.target);
+    case ResultRole:
+        return resultOf(task);
     case NoteRole:
         return visibleText(task.note);
     case StartRole:
         return task.start;
     case EndRole:
         return task.end;
+    case SelectedRole:
+        return task.isSelected;
     }
     return {};
 }
@@ -119,15 +101,18 @@ QHash<int, QByteArray> TaskList::roleNames() const
         {FormatRole, "format"},
         {FormatCaptionRole, "formatCaption"},
         {FormatIconRole, "formatIcon"},
+        {OwnFormatRole, "hasOwnFormat"},
         {StateRole, "taskState"},
         {PercentRole, "percent"},
         {SpeedRole, "speed"},
         {TimeLeftRole, "timeLeft"},
         {ErrorRole, "error"},
         {TargetRole, "target"},
+        {ResultRole, "result"},
         {NoteRole, "note"},
         {StartRole, "start"},
         {EndRole, "end"},
+        {SelectedRole, "isSelected"},
     };
 }
 
@@ -142,31 +127,114 @@ int TaskList::add(Task task)
     task.id = nextId();
     beginInsertRows({}, m_tasks.size(), m_tasks.size());
     m_tasks.append(task);
+    indexFrom(m_tasks.size() - 1);
+    ++m_counts.at(task.state);
     endInsertRows();
     Q_EMIT countChanged();
+    Q_EMIT edited();
     return task.id;
 }
 
-void TaskList::remove(int id)
+void TaskList::putBack(const QVector<QPair<int, Task>> &removed)
 {
-    const int row = rowOf(id);
-    if (row < 0) {
+    if (removed.size() > mostSteps) {
+        QVector<Task> all;
+        auto next = m_tasks.cbegin();
+        for (const auto &[row, task] : removed) {
+            for (; all.size() < row && next != m_tasks.cend(); ++next) {
+                all << *next;
+            }
+            all << task;
+        }
+        std::copy(next, m_tasks.cend(), std::back_inserter(all));
+        replaceAll(all);
         return;
     }
-    beginRemoveRows({}, row, row);
-    m_tasks.removeAt(row);
-    endRemoveRows();
+    for (const auto &[row, task] : removed) {
+        const int place = std::min(row, count());
+        beginInsertRows({}, place, place);
+        m_tasks.insert(place, task);
+        ++m_counts.at(task.state);
+        indexFrom(place);
+        endInsertRows();
+    }
     Q_EMIT countChanged();
+    Q_EMIT edited();
+}
+
+void TaskList::remove(const QSet<int> &ids)
+{
+    if (ids.size() > mostSteps) {
+        QVector<Task> left;
+        std::copy_if(m_tasks.cbegin(), m_tasks.cend(), std::back_inserter(left),
+                     [&ids](const Task &task) { return !ids.contains(task.id); });
+        replaceAll(left);
+        return;
+    }
+    const int before = count();
+    for (const int id : ids) {
+        const int row = rowOf(id);
+        if (row >= 0) {
+            beginRemoveRows({}, row, row);
+            --m_counts.at(m_tasks.at(row).state);
+            m_tasks.removeAt(row);
+            m_rows.remove(id);
+            indexFrom(row);
+            endRemoveRows();
+        }
+    }
+    if (count() != before) {
+        Q_EMIT countChanged();
+        Q_EMIT edited();
+    }
+}
+
+void TaskList::move(const QSet<int> &ids, int before)
+{
+    // The place is a task that stays: the one asked for, or the next one below it.
+    int place = rowOf(before) < 0 ? count() : rowOf(before);
+    while (place < count() && ids.contains(m_tasks.at(place).id)) {
+        ++place;
+    }
+    const int anchor = place < count() ? m_tasks.at(place).id : 0;
+    sort([this, &ids, anchor, place](const Task &one, const Task &other) {
+        const auto key = [this, &ids, anchor, place](const Task &task) {
+            const int row = rowOf(task.id);
+            const bool isMoved = ids.contains(task.id);
+            const bool isBelow = anchor != 0 && row >= place;
+            return isMoved ? 1 : isBelow ? 2 : 0;
+        };
+        return key(one) < key(other);
+    });
+}
+
+void TaskList::sort(const std::function<bool(const Task &, const Task &)> &isLess)
+{
+    QVector<Task> sorted = m_tasks;
+    std::stable_sort(sorted.begin(), sorted.end(), isLess);
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    QVector<int> ids;
+    for (const QModelIndex &index : before) {
+        ids << m_tasks.at(index.row()).id;
+    }
+    m_tasks = sorted;
+    indexFrom(0);
+    QModelIndexList after;
+    for (const int id : qAsConst(ids)) {
+        after << index(rowOf(id));
+    }
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+    Q_EMIT edited();
 }
 
 void TaskList::update(int id, const std::function<void(Task &)> &change)
 {
-    const int row = rowOf(id);
-    if (row < 0) {
-        return;
+    if (rowOf(id) >= 0) {
+        this->change(id, change, {});
+        Q_EMIT edited();
     }
-    change(m_tasks[row]);
-    Q_EMIT dataChanged(index(row), index(row));
 }
 
 void TaskList::setState(int id, Task::State state)
@@ -176,9 +244,29 @@ void TaskList::setState(int id, Task::State state)
         task.progress = {};
         task.error.clear();
         task.target.clear();
+        task.targetBytes = 0;
         task.note.clear();
     });
     Q_EMIT stateChanged();
+}
+
+void TaskList::setProgress(int id, const Progress &progress)
+{
+    change(id, [&progress](Task &task) { task.progress = progress; },
+           {PercentRole, SpeedRole, TimeLeftRole});
+}
+
+void TaskList::setThumbnail(int id, const QString &url)
+{
+    change(id, [&url](Task &task) { task.thumbnail = url; }, {ThumbnailRole});
+}
+
+void TaskList::setSelected(int id, bool isSelected)
+{
+    const Task *task = find(id);
+    if (task != nullptr && task->isSelected != isSelected) {
+        change(id, [isSelected](Task &chosen) { chosen.isSelected = isSelected; }, {SelectedRole});
+    }
 }
 
 void TaskList::reopen(int id)
@@ -189,9 +277,37 @@ void TaskList::reopen(int id)
     }
 }
 
-int TaskList::rowOf(int id) const
+void TaskList::change(int id, const std::function<void(Task &)> &change, const QVector<int> &roles)
 {
-    const auto found = std::find_if(m_tasks.begin(), m_tasks.end(),
-                                    [id](const Task &task) { return task.id == id; });
-    return found == m_tasks.end() ? -1 : int(found - m_tasks.begin());
+    const int row = rowOf(id);
+    if (row < 0) {
+        return;
+    }
+    Task &task = m_tasks[row];
+    --m_counts.at(task.state);
+    change(task);
+    ++m_counts.at(task.state);
+    Q_EMIT dataChanged(index(row), index(row), roles);
+}
+
+void TaskList::replaceAll(const QVector<Task> &tasks)
+{
+    beginResetModel();
+    m_tasks = tasks;
+    m_rows.clear();
+    m_counts = {};
+    for (const Task &task : m_tasks) {
+        ++m_counts.at(task.state);
+    }
+    indexFrom(0);
+    endResetModel();
+    Q_EMIT countChanged();
+    Q_EMIT edited();
+}
+
+void TaskList::indexFrom(int row)
+{
+    for (; row < m_tasks.size(); ++row) {
+        m_rows.insert(m_tasks.at(row).id, row);
+    }
 }

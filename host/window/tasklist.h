@@ -1,43 +1,17 @@
 #ifndef WINDOW_TASKLIST_H
 #define WINDOW_TASKLIST_H
 
-#include "host/convert/progress.h"
-#include "host/media/mediafacts.h"
+#include "host/window/task.h"
 
 #include <QAbstractListModel>
+#include <QHash>
+#include <QSet>
 #include <QVector>
 
+#include <array>
 #include <functional>
 
-/*! One file of a page's list. */
-struct Task
-{
-    Q_GADGET
-
-public:
-    enum State { Reading, Ready, Waiting, Running, Converted, Failed, Cancelled };
-    Q_ENUM(State)
-
-    int id = 0; //!< assigned by TaskList::add(), unique in the process
-    QString source;
-    MediaFacts facts;
-    QString thumbnail; //!< URL; empty until there is one
-    QString format;    //!< id of the preset
-    QString formatCaption;
-    QString formatIcon; //!< URL
-    State state = Reading;
-    Progress progress;
-    QString error;  //!< Failed: one line that says why
-    QString target; //!< Converted: the new file
-    QString note;   //!< Converted: what the new file lacks; empty if nothing
-    double start = 0;
-    double end = 0; //!< seconds; 0: the source's end
-
-    [[nodiscard]] bool isQueued() const { return state == Waiting || state == Running; }
-    [[nodiscard]] bool hasEnded() const { return state >= Converted; }
-};
-
-/*! The files of a page, in the order in which they were added. */
+/*! The files of a page, in the order in which they are converted. */
 class TaskList : public QAbstractListModel
 {
     Q_OBJECT
@@ -56,15 +30,18 @@ public:
         FormatRole,
         FormatCaptionRole,
         FormatIconRole,
-        StateRole,    //!< a State
-        PercentRole,  //!< 0 to 100; -1 when unknown
-        SpeedRole,    //!< times real time; 0 when unknown
-        TimeLeftRole, //!< clock text; empty when unknown
+        OwnFormatRole, //!< whether the format was chosen for this file
+        StateRole,     //!< a Task::State
+        PercentRole,   //!< 0 to 100; -1 when unknown
+        SpeedRole,     //!< times real time; 0 when unknown
+        TimeLeftRole,  //!< clock text; empty when unknown
         ErrorRole,
         TargetRole,
+        ResultRole, //!< name and size of the new file; empty if there is none
         NoteRole,
         StartRole,
         EndRole,
+        SelectedRole,
     };
     explicit TaskList(QObject *parent = nullptr);
 
@@ -76,14 +53,27 @@ public:
     [[nodiscard]] const QVector<Task> &tasks() const { return m_tasks; }
     /*! Null if there is no such task. */
     [[nodiscard]] const Task *find(int id) const;
+    /*! -1 if there is no such task. */
+    [[nodiscard]] int rowOf(int id) const { return m_rows.value(id, -1); }
+    /*! How many tasks are in this state. */
+    [[nodiscard]] int countOf(Task::State state) const { return m_counts.at(size_t(state)); }
 
     /*! Appends the task and returns its new id. */
     int add(Task task);
-    void remove(int id);
+    /*! Puts tasks that were removed back, each at its row of then; the rows ascend. */
+    void putBack(const QVector<QPair<int, Task>> &removed);
+    void remove(const QSet<int> &ids);
+    /*! Moves the tasks, in their order, to where the task \a before is; 0: to the end. */
+    void move(const QSet<int> &ids, int before);
+    void sort(const std::function<bool(const Task &, const Task &)> &isLess);
+
     /*! Calls \a change, which may change anything but the task's id. */
     void update(int id, const std::function<void(Task &)> &change);
     /*! Also clears the progress, error and target of the previous state. */
     void setState(int id, Task::State state);
+    void setProgress(int id, const Progress &progress);
+    void setThumbnail(int id, const QString &url);
+    void setSelected(int id, bool isSelected);
     /*! Makes an ended task ready again, unless its file can't be read. */
     void reopen(int id);
 
@@ -91,11 +81,17 @@ Q_SIGNALS:
     void countChanged();
     /*! setState() has changed a task. */
     void stateChanged();
+    /*! Anything but progress, thumbnails and the selection has changed. */
+    void edited();
 
 private:
-    int rowOf(int id) const;
+    void change(int id, const std::function<void(Task &)> &change, const QVector<int> &roles);
+    void replaceAll(const QVector<Task> &tasks);
+    void indexFrom(int row);
 
     QVector<Task> m_tasks;
+    QHash<int, int> m_rows; // of the ids
+    std::array<int, Task::stateCount> m_counts = {};
 };
 
 #endif

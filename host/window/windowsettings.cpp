@@ -10,6 +10,11 @@ QString key(PageKind page, const char *name)
            QLatin1String(name);
 }
 
+QString lastKey(bool hasVideo)
+{
+    return hasVideo ? QStringLiteral("lastVideoId") : QStringLiteral("lastAudioId");
+}
+
 } // namespace
 
 WindowSettings::WindowSettings(const QString &path, QObject *parent)
@@ -33,6 +38,20 @@ void WindowSettings::setGlobalId(PageKind page, const QString &id)
         Q_EMIT converterGlobalIdChanged();
     } else {
         Q_EMIT editorGlobalIdChanged();
+    }
+}
+
+QString WindowSettings::lastId(bool hasVideo) const
+{
+    return m_file.value(lastKey(hasVideo), hasVideo ? defaultPresetId() : defaultAudioPresetId())
+        .toString();
+}
+
+void WindowSettings::setLastId(bool hasVideo, const QString &id)
+{
+    if (id != lastId(hasVideo)) {
+        m_file.setValue(lastKey(hasVideo), id);
+        m_file.sync();
     }
 }
 

@@ -27,6 +27,10 @@ public:
     QString folder(PageKind page) const;
     void setFolder(PageKind page, const QString &folder);
 
+    /*! The preset chosen last of those for video, or of those for audio alone. */
+    QString lastId(bool hasVideo) const;
+    void setLastId(bool hasVideo, const QString &id);
+
     QString converterGlobalId() const { return globalId(PageKind::Converter); }
     void setConverterGlobalId(const QString &id) { setGlobalId(PageKind::Converter, id); }
     QString editorGlobalId() const { return globalId(PageKind::Editor); }

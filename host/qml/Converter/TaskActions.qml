@@ -15,6 +15,7 @@ Row {
                                      || root.taskState === Task.Running
     readonly property bool canRetry: root.taskState === Task.Failed
                                      || root.taskState === Task.Cancelled
+                                     || root.taskState === Task.Interrupted
 
     component Action: VEXImageButton {
         required property bool inTabOrder
@@ -26,6 +27,14 @@ Row {
     }
 
     spacing: 4
+
+    Action {
+        visible: root.taskState === Task.Converted
+        inTabOrder: root.inTabOrder
+        iconSource: "qrc:/window/images/media.svg"
+        Accessible.name: ToolFun.tr("Play")
+        onClicked: root.page.play(root.taskId)
+    }
 
     Action {
         visible: root.taskState === Task.Converted

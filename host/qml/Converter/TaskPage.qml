@@ -1,6 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.5
-import Public 1.0
 import VexTheme 1.0
 import VexWindow 1.0
 
@@ -29,40 +27,49 @@ Item {
         onAddClicked: FileChooser.chooseFiles(root.page)
     }
 
-    ListView {
+    ListBar {
+        id: bar
+
+        width: parent.width
+        visible: list.count > 0
+        page: root.page
+    }
+
+    TaskListView {
         id: list
 
         anchors {
             fill: parent
+            topMargin: bar.height
             bottomMargin: bottom.height
         }
-        topMargin: Theme.margin
-        bottomMargin: Theme.margin
-        spacing: Theme.spacing
-        clip: true
         visible: list.count > 0
-        model: root.page.tasks
-        keyNavigationEnabled: true
-        boundsBehavior: Flickable.StopAtBounds
-        flickDeceleration: 3000
-        highlightMoveDuration: 120
-        Accessible.role: Accessible.List
-        Accessible.name: ToolFun.tr("Files")
-
-        ScrollBar.vertical: VEXScrollBar {}
-
-        delegate: TaskRow {
-            id: row
-
-            x: Theme.wideMargin
-            width: list.width - 2 * Theme.wideMargin
-            page: root.page
-            canCut: root.canCut
-            onFormatClicked: function (button) {
-                root.pickerAsked(button, row.taskId, row.format)
-            }
-            onPressed: list.currentIndex = row.index
+        page: root.page
+        canCut: root.canCut
+        onPickerAsked: function (button, taskId, formatId) {
+            root.pickerAsked(button, taskId, formatId)
         }
+    }
+
+    OfferBar {
+        anchors {
+            horizontalCenter: parent.horizontalCenter
+            bottom: bottom.top
+            bottomMargin: Theme.spacing
+        }
+        page: root.page
+    }
+
+    Shortcut {
+        enabled: root.visible
+        sequence: "Ctrl+A"
+        onActivated: root.page.selection.selectAll()
+    }
+
+    Shortcut {
+        enabled: root.visible
+        sequence: "Ctrl+Z"
+        onActivated: root.page.undoRemoval()
     }
 
     Rectangle {

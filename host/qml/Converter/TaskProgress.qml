@@ -14,25 +14,45 @@ Item {
     required property string timeLeft
     required property string error
     required property string note
+    required property string result
+    /*! What the conversion will give; null where that isn't known or no longer of interest. */
+    required property var outlook
 
+    readonly property string problem: root.outlook === null ? "" : root.outlook.problem
+    readonly property bool isBad: root.taskState === Task.Failed || root.problem !== ""
     readonly property bool isRunning: root.taskState === Task.Running
     readonly property string words: {
         switch (root.taskState) {
         case Task.Reading:
             return ToolFun.tr("Reading …")
+        case Task.Ready:
+            return root.problem || root.expected()
         case Task.Waiting:
-            return ToolFun.tr("Waiting")
+            return root.joined([ToolFun.tr("Waiting"), root.problem || root.expected()])
         case Task.Converted:
-            return root.note ? ToolFun.tr("Converted") + "  ·  " + root.note
-                             : ToolFun.tr("Converted")
+            return root.joined([root.result || ToolFun.tr("Converted"), root.note])
         case Task.Failed:
             return root.error
         case Task.Cancelled:
-            return ToolFun.tr("Stopped")
+            return root.joined([ToolFun.tr("Stopped"), root.problem])
+        case Task.Interrupted:
+            return root.joined([ToolFun.tr("Interrupted"), root.problem])
         case Task.Running:
             return root.runningWords()
         }
         return ""
+    }
+
+    function joined(texts) {
+        return texts.filter(Boolean).join("  ·  ")
+    }
+
+    function expected() {
+        if (root.outlook === null) {
+            return ""
+        }
+        const name = root.outlook.name === "" ? "" : "→ " + root.outlook.name
+        return root.joined([name, root.outlook.size, root.outlook.losses])
     }
 
     function runningWords() {
@@ -63,7 +83,7 @@ Item {
         id: sign
 
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.taskState === Task.Converted || root.taskState === Task.Failed
+        visible: root.taskState === Task.Converted || root.isBad
         size: Theme.smallIcon
         source: root.taskState === Task.Converted ? "qrc:/window/images/done.svg"
                                                   : "qrc:/window/images/failed.svg"
@@ -79,13 +99,13 @@ Item {
             verticalCenter: parent.verticalCenter
         }
         wrapMode: Text.Wrap
-        maximumLineCount: root.taskState === Task.Failed || root.note !== "" ? 2 : 1
+        maximumLineCount: root.isBad || root.note !== ""
+                          || (root.outlook !== null && root.outlook.losses !== "") ? 2 : 1
         text: root.words
         font.pixelSize: Theme.smallText
-        color: root.taskState === Task.Failed ? Theme.danger
-                                              : root.taskState === Task.Converted
-                                                ? Theme.success
-                                                : Theme.font_color_grade4
+        color: root.isBad ? Theme.danger
+                          : root.taskState === Task.Converted ? Theme.success
+                                                              : Theme.font_color_grade4
 
         HoverHandler {
             id: hover

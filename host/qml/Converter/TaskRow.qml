@@ -22,19 +22,26 @@ Rectangle {
     required property string format
     required property string formatCaption
     required property string formatIcon
+    required property bool hasOwnFormat
     required property int taskState
     required property int percent
     required property real speed
     required property string timeLeft
     required property string error
+    required property string result
     required property string note
     required property real start
     required property real end
+    required property bool isSelected
 
     // One row of the list is a stop of the Tab key, with the controls in it.
     readonly property bool isCurrent: ListView.isCurrentItem
-    readonly property bool isQueued: root.taskState === Task.Waiting
-                                     || root.taskState === Task.Running
+    readonly property bool isRunning: root.taskState === Task.Running
+    // Its arguments are all that it depends on.
+    readonly property var outlook:
+        root.taskState === Task.Reading || root.isRunning || root.taskState === Task.Converted
+        ? null : root.page.outlook(root.taskId, root.format, root.start, root.end,
+                                   root.page.outlookVersion)
 
     property bool isComplete: false
     // The details are there once the file has been read.
@@ -42,10 +49,14 @@ Rectangle {
                                            && root.thumbnail === ""
 
     signal formatClicked(Item button)
-    signal pressed()
+    signal pressed(int modifiers)
+    signal released(int modifiers)
+    signal menuWanted()
+    signal dragged(real y)
+    signal dropped()
 
     function activate() {
-        if (!root.isQueued) {
+        if (!root.isRunning) {
             root.formatClicked(formatButton)
         }
     }
@@ -57,13 +68,16 @@ Rectangle {
     implicitHeight: root.canCut ? 128 : 96
     activeFocusOnTab: root.isCurrent || root.activeFocus
     radius: Theme.radius_2
-    color: hover.hovered ? Theme.hover : Theme.basics_gradeTone1
+    color: root.isSelected ? Theme.accentPale
+                           : hover.hovered ? Theme.hover : Theme.basics_gradeTone1
     border.width: 1
     border.color: Theme.rule
     Accessible.role: Accessible.ListItem
     Accessible.name: root.joined([root.name, root.details, root.formatCaption, progress.words],
                                  ", ")
     Accessible.focusable: true
+    Accessible.selectable: true
+    Accessible.selected: root.isSelected
     Accessible.onPressAction: root.activate()
 
     // What a control in the row leaves over is not meant for the row.
@@ -71,7 +85,8 @@ Rectangle {
     Keys.onReturnPressed: root.activate()
     Keys.onEnterPressed: root.activate()
     Keys.onSpacePressed: root.activate()
-    Keys.onDeletePressed: root.page.remove(root.taskId)
+    Keys.onDeletePressed: root.page.removeChosen(root.taskId)
+    Keys.onMenuPressed: root.menuWanted()
 
     Component.onCompleted: root.isComplete = true
     onLacksThumbnailChanged: {
@@ -90,15 +105,32 @@ Rectangle {
         gesturePolicy: TapHandler.DragThreshold
         onPressedChanged: {
             if (tap.pressed) {
-                root.pressed()
+                root.pressed(tap.point.modifiers)
                 root.forceActiveFocus(Qt.MouseFocusReason)
             }
+        }
+        onTapped: root.released(tap.point.modifiers)
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.DragThreshold
+        onTapped: {
+            root.forceActiveFocus(Qt.MouseFocusReason)
+            root.menuWanted()
         }
     }
 
     VEXFocusFrame {
         controlRadius: root.radius
         visible: root.activeFocus
+    }
+
+    TaskGrip {
+        height: parent.height
+        opacity: hover.hovered ? 1 : 0
+        onDragged: function (place) { root.dragged(root.y + place.y) }
+        onDropped: root.dropped()
     }
 
     Thumbnail {
@@ -146,7 +178,9 @@ Rectangle {
             speed: root.speed
             timeLeft: root.timeLeft
             error: root.error
+            result: root.result
             note: root.note
+            outlook: root.outlook
         }
     }
 
@@ -157,14 +191,28 @@ Rectangle {
             right: actions.left
             rightMargin: Theme.margin
             verticalCenter: thumbnail.verticalCenter
+            verticalCenterOffset: root.outlook !== null && root.outlook.nearest !== "" ? -14 : 0
         }
         width: 208
         focusPolicy: root.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
-        enabled: !root.isQueued
+        enabled: !root.isRunning
         purpose: ToolFun.tr("Format")
         text: root.formatCaption
         iconSource: root.formatIcon
         onClicked: root.activate()
+    }
+
+    NearestFormat {
+        anchors {
+            left: formatButton.left
+            right: formatButton.right
+            top: formatButton.bottom
+            topMargin: 2
+        }
+        page: root.page
+        taskId: root.taskId
+        outlook: root.outlook
+        inTabOrder: root.isCurrent
     }
 
     Item {
@@ -175,7 +223,7 @@ Rectangle {
             rightMargin: Theme.margin
             verticalCenter: thumbnail.verticalCenter
         }
-        width: 60
+        width: 92
         height: 28
 
         TaskActions {
@@ -203,7 +251,7 @@ Rectangle {
             start: root.start
             end: root.end
             inTabOrder: root.isCurrent
-            enabled: !root.isQueued && root.seconds > 0
+            enabled: !root.isRunning && root.seconds > 0
         }
     }
 }

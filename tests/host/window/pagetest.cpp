@@ -39,6 +39,15 @@ QUrl PageTest::song(const QString &name)
     return MediaClips::makeSong(path) ? QUrl::fromLocalFile(path) : QUrl();
 }
 
+QStringList PageTest::names(Page &page) const
+{
+    QStringList names;
+    for (const Task &task : page.tasks()->tasks()) {
+        names << QFileInfo(task.source).fileName();
+    }
+    return names;
+}
+
 QUrl PageTest::noMedia()
 {
     QFile broken(m_files->filePath(QStringLiteral("broken.mp4")));

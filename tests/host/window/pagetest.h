@@ -25,11 +25,13 @@ private Q_SLOTS:
 
 protected:
     const QString mp3 = QStringLiteral("Audio_MP3_003");
+    const QString aac = QStringLiteral("Audio_AAC_001");
     const QString flac = QStringLiteral("Audio_FLAC_001");
     const QString mkv = QStringLiteral("Video_MKV_001");
     const QString mp4 = QStringLiteral("Video_MP4_001");
 
     QUrl song(const QString &name = QStringLiteral("song.wav"));
+    QStringList names(Page &page) const;
     /*! A file that is called like a film and is none. */
     QUrl noMedia();
     int addReady(Page &page, const QUrl &url);

@@ -99,6 +99,7 @@ private Q_SLOTS:
 
     void aSignalClosesTheWindow_data();
     void aSignalClosesTheWindow();
+    void aKilledWindowKeepsItsList();
     void losingTheDisplayLeavesNothingBehind();
     void anIgnoredHangupEndsNothing();
     void aFolderInUseIsReportedInADialog();
@@ -214,6 +215,31 @@ void TestDesktop::aSignalClosesTheWindow()
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
     QVERIFY(::kill(converter, 0) != 0);
+    QCOMPARE(leftBehind(), QStringList());
+}
+
+void TestDesktop::aKilledWindowKeepsItsList()
+{
+    GroupProcess program;
+    prepare(program, {path("films/film.mp4")});
+    program.start();
+    pid_t converter = convertIn(windowOf(program));
+    QVERIFY(converter > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(contentOf(path("config/queue.json")).contains("\"interrupted\""),
+                             patience);
+    program.kill();
+    QVERIFY(program.waitForFinished(patience));
+    QTRY_VERIFY_WITH_TIMEOUT(::kill(converter, 0) != 0, patience);
+    QVERIFY(QFile::remove(path("converter")));
+
+    // The list is there again, and goes on.
+    GroupProcess next;
+    prepare(next, {});
+    next.start();
+    converter = convertIn(windowOf(next));
+    QVERIFY(converter > 0);
+    next.terminate();
+    QVERIFY(next.waitForFinished(patience));
     QCOMPARE(leftBehind(), QStringList());
 }
 

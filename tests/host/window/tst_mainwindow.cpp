@@ -45,6 +45,7 @@ private Q_SLOTS:
     void theFilesInSightGetThumbnails();
     void aResultIsShownInTheFileManager();
     void aPresetInUseIsNotDeleted();
+    void closingWhileConvertingAsks();
     void closingTheWindowStopsItsConversion();
 
 private:
@@ -86,6 +87,7 @@ void TestMainWindow::init()
     m_files = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/slow-XXXXXX"));
     qputenv("VEX_OPENED", path("opened").toLocal8Bit());
     qputenv("VEX_CONVERTER", path("converter").toLocal8Bit());
+    QFile::remove(m_work.filePath(QStringLiteral("config/queue.json")));
     m_main = std::make_unique<MainWindow>(m_work.filePath(QStringLiteral("config")));
     QVERIFY(m_main->open());
     m_window = m_main->window();
@@ -172,10 +174,9 @@ void TestMainWindow::aFolderWithoutMediaIsReported()
 void TestMainWindow::theFilesInSightGetThumbnails()
 {
     QVERIFY(MediaClips::makeFilm(path("film.mp4")));
-    constexpr int films = 60;
-    for (int i = 0; i < films; ++i) {
-        m_main->converter().addPaths({path("film.mp4")});
-    }
+    KeptTask film;
+    film.source = path("film.mp4");
+    m_main->converter().restore(QVector<KeptTask>(60, film));
     QTRY_VERIFY_WITH_TIMEOUT(!tasks().constFirst().thumbnail.isEmpty(), patience);
     QVERIFY(tasks().constLast().thumbnail.isEmpty());
     const int last = tasks().constLast().id;
@@ -241,6 +242,19 @@ void TestMainWindow::aPresetInUseIsNotDeleted()
     QCOMPARE(tasks().at(0).state, Task::Running);
 }
 
+void TestMainWindow::closingWhileConvertingAsks()
+{
+    convertSlowly();
+    m_window->close();
+    QVERIFY(click(m_window, QStringLiteral("Keep converting")));
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(tasks().at(0).state, Task::Running);
+    m_main->converter().cancelAll();
+    QTRY_VERIFY_WITH_TIMEOUT(!m_main->converter().isBusy(), patience);
+    m_window->close();
+    QVERIFY(!m_window->isVisible());
+}
+
 void TestMainWindow::closingTheWindowStopsItsConversion()
 {
     convertSlowly();
@@ -249,7 +263,9 @@ void TestMainWindow::closingTheWindowStopsItsConversion()
     const QDir folder(m_files->path());
     QCOMPARE(::kill(converter, 0), 0);
     QCOMPARE(folder.entryList(piece, QDir::Dirs | QDir::Hidden).size(), 1);
-    QTimer::singleShot(0, m_window, &QWindow::close);
+    m_window->close();
+    QTimer::singleShot(0, m_window,
+                       [this] { QVERIFY(click(m_window, QStringLiteral("Stop and close"))); });
     QCOMPARE(QCoreApplication::exec(), 0);
     m_main.reset();
     QVERIFY(::kill(converter, 0) != 0);

@@ -1,9 +1,11 @@
 #include "tests/host/window/pagetest.h"
+#include "tests/support/testfiles.h"
 
 #include <QThread>
 
 #include <algorithm>
 #include <cmath>
+#include <csignal>
 
 /*! How a page converts its files. */
 class TestPageConversions : public PageTest
@@ -15,11 +17,102 @@ private Q_SLOTS:
     void tasksRunInTheOrderOfTheList();
     void aRunningTaskIsNotRestarted();
     void allTracksAreKeptIfThePresetKeepsThem();
+    void aPausedPageGoesOnWhereItWas();
+    void aPausedTaskCanBeStopped();
+    void theProgressOfAllIsTold();
     void aStoppedTaskCanBeRetried();
     void removingTheRunningTaskLetsTheNextOneRun();
     void resultsAreWrittenToTheChosenFolder();
     void theEditorCutsItsFiles();
+
+private:
+    /*! Converts a film at the pace of a player; the converter's process id, 0 on failure. */
+    pid_t convertSlowly(int seconds);
 };
+
+namespace {
+
+/*! As the kernel tells it: 'T' for a stopped process, 0 for none. */
+char stateOf(pid_t process)
+{
+    const QByteArray stat = contentOf(QStringLiteral("/proc/%1/stat").arg(process));
+    return stat.startsWith("missing") ? '\0' : stat.at(stat.lastIndexOf(')') + 2);
+}
+
+} // namespace
+
+pid_t TestPageConversions::convertSlowly(int seconds)
+{
+    const QString film = m_files->filePath(QStringLiteral("film.mp4"));
+    const QString noted = m_files->filePath(QStringLiteral("converter"));
+    const bool isMade = MediaClips::makeFilm(film, seconds) &&
+                        MediaClips::makeStandIn(
+                            m_files->path(), QStringLiteral("case \"$*\" in */part) echo $$ >'%1'; "
+                                                            "exec $REAL -re \"$@\";; esac\n"
+                                                            "exec $REAL \"$@\"")
+                                                 .arg(noted));
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", MediaClips::pathWith(m_files->path()));
+    m_converter->setConverterGlobalFormat(mp3);
+    m_converter->convert(addReady(*m_converter, QUrl::fromLocalFile(film)));
+    const bool isRunning =
+        isMade && QTest::qWaitFor([&noted] { return contentOf(noted).endsWith('\n'); }, patience);
+    qputenv("PATH", path);
+    return isRunning ? contentOf(noted).trimmed().toInt() : 0;
+}
+
+void TestPageConversions::aPausedPageGoesOnWhereItWas()
+{
+    const pid_t converter = convertSlowly(2);
+    QVERIFY(converter > 0);
+    const int other = addReady(*m_converter, song());
+    QSignalSpy changes(m_converter.get(), &Page::pauseChanged);
+    m_converter->pause();
+    QVERIFY(m_converter->isPaused());
+    QTRY_COMPARE_WITH_TIMEOUT(stateOf(converter), 'T', patience);
+    // Nothing new begins.
+    m_converter->convert(other);
+    QCOMPARE(task(*m_converter, other).state, Task::Waiting);
+    QVERIFY(m_converter->overall().contains(QStringLiteral("Paused")));
+    m_converter->resume();
+    QCOMPARE(task(*m_converter, other).state, Task::Running);
+    QVERIFY(stateOf(converter) != 'T');
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
+    QCOMPARE(m_converter->tasks()->countOf(Task::Converted), 2);
+    QCOMPARE(changes.count(), 2);
+}
+
+void TestPageConversions::aPausedTaskCanBeStopped()
+{
+    const pid_t converter = convertSlowly(30);
+    QVERIFY(converter > 0);
+    m_converter->pause();
+    QTRY_COMPARE_WITH_TIMEOUT(stateOf(converter), 'T', patience);
+    m_converter->cancelAll();
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(::kill(converter, 0) != 0, patience);
+    // The pause ends with what was paused.
+    QVERIFY(!m_converter->isPaused());
+}
+
+void TestPageConversions::theProgressOfAllIsTold()
+{
+    QSignalSpy ended(m_converter.get(), &Page::ended);
+    addReady(*m_converter, song(QStringLiteral("a.wav")));
+    m_converter->addFiles({noMedia()});
+    QTRY_COMPARE_WITH_TIMEOUT(m_converter->tasks()->countOf(Task::Failed), 1, patience);
+    QCOMPARE(m_converter->overall(), QString());
+    QStringList texts;
+    connect(m_converter.get(), &Page::overallChanged, this,
+            [this, &texts] { texts << m_converter->overall(); });
+    m_converter->convertAll();
+    QCOMPARE(m_converter->overall(), QStringLiteral("0 of 2"));
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
+    QVERIFY(texts.contains(QStringLiteral("1 of 2")));
+    QCOMPARE(m_converter->overall(), QString());
+    QCOMPARE(ended.count(), 1);
+    QCOMPARE(ended.at(0), (QVariantList{1, 1}));
+}
 
 void TestPageConversions::tasksRunWhileCoresAreIdle()
 {

@@ -1,21 +1,27 @@
 #include "tests/host/window/pagetest.h"
 
+#include <QThread>
+
 /*! Which presets a page and its tasks have. */
 class TestPageFormats : public PageTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theGlobalFormatAppliesToAllTasksThatAreNotQueued();
+    void theGlobalFormatAppliesToAllTasksThatFollowIt();
+    void aWaitingTaskTakesTheNewGlobalFormat();
+    void aTaskWithAFormatOfItsOwnKeepsItUntilItFollowsAgain();
+    void aSongIsNotGivenAVideoFormatNorASilentFilmAnAudioFormat();
     void aTaskHasAFormatOfItsOwn();
     void choosingAPresetMovesItToTheTopOfTheRecentlyUsed();
     void aPresetIsUsedWhileItsTaskIsQueued();
-    void aTaskWhosePresetIsDeletedTakesTheGlobalOne();
+    void aTaskWhosePresetIsDeletedReturnsToItsFormerChoice();
+    void noPresetChangesAConvertedTask();
     void aNewFormatMakesAConvertedTaskReady();
     void aNewFormatDoesNotMakeAnUnreadableFileReady();
 };
 
-void TestPageFormats::theGlobalFormatAppliesToAllTasksThatAreNotQueued()
+void TestPageFormats::theGlobalFormatAppliesToAllTasksThatFollowIt()
 {
     const int first = addReady(*m_converter, song(QStringLiteral("a.wav")));
     const int second = addReady(*m_converter, song(QStringLiteral("b.wav")));
@@ -29,6 +35,53 @@ void TestPageFormats::theGlobalFormatAppliesToAllTasksThatAreNotQueued()
     QCOMPARE(task(*m_converter, first).format, mp3);
     QCOMPARE(task(*m_converter, second).format, flac);
     QCOMPARE(task(*m_converter, addReady(*m_converter, song())).format, flac);
+}
+
+void TestPageFormats::aWaitingTaskTakesTheNewGlobalFormat()
+{
+    const int first = addReady(*m_converter, song(QStringLiteral("a.wav")));
+    for (int i = 0; i < QThread::idealThreadCount(); ++i) {
+        addReady(*m_converter, song(QStringLiteral("%1.wav").arg(i)));
+    }
+    const int last = m_converter->tasks()->tasks().constLast().id;
+    m_converter->convertAll();
+    QCOMPARE(task(*m_converter, first).state, Task::Running);
+    QCOMPARE(task(*m_converter, last).state, Task::Waiting);
+    m_converter->setConverterGlobalFormat(flac);
+    QCOMPARE(task(*m_converter, first).format, mp3);
+    QCOMPARE(task(*m_converter, last).state, Task::Waiting);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
+    QVERIFY(task(*m_converter, first).target.endsWith(QStringLiteral(".mp3")));
+    QVERIFY(task(*m_converter, last).target.endsWith(QStringLiteral(".flac")));
+}
+
+void TestPageFormats::aTaskWithAFormatOfItsOwnKeepsItUntilItFollowsAgain()
+{
+    const int own = addReady(*m_converter, song(QStringLiteral("a.wav")));
+    const int other = addReady(*m_converter, song(QStringLiteral("b.wav")));
+    m_converter->setConvertingListTaskFormat(own, flac);
+    m_converter->setConverterGlobalFormat(aac);
+    QCOMPARE(task(*m_converter, own).format, flac);
+    QCOMPARE(task(*m_converter, other).format, aac);
+    m_converter->followChosen(own);
+    QCOMPARE(task(*m_converter, own).format, aac);
+    m_converter->setConverterGlobalFormat(mp3);
+    QCOMPARE(task(*m_converter, own).format, mp3);
+}
+
+void TestPageFormats::aSongIsNotGivenAVideoFormatNorASilentFilmAnAudioFormat()
+{
+    const QString film = m_files->filePath(QStringLiteral("silent.mkv"));
+    QVERIFY(MediaClips::make(film, QStringLiteral("-f lavfi -i testsrc2=size=320x240:duration=1")));
+    m_converter->setConverterGlobalFormat(flac);
+    m_converter->setConverterGlobalFormat(mkv);
+    const int sung = addReady(*m_converter, song());
+    const int silent = addReady(*m_converter, QUrl::fromLocalFile(film));
+    QCOMPARE(task(*m_converter, sung).format, flac);
+    QCOMPARE(task(*m_converter, silent).format, mkv);
+    m_converter->setConverterGlobalFormat(mp3);
+    QCOMPARE(task(*m_converter, sung).format, mp3);
+    QCOMPARE(task(*m_converter, silent).format, mkv);
 }
 
 void TestPageFormats::aTaskHasAFormatOfItsOwn()
@@ -74,21 +127,54 @@ void TestPageFormats::aPresetIsUsedWhileItsTaskIsQueued()
     QVERIFY(!m_converter->checkFormatUsed(flac));
 }
 
-void TestPageFormats::aTaskWhosePresetIsDeletedTakesTheGlobalOne()
+void TestPageFormats::aTaskWhosePresetIsDeletedReturnsToItsFormerChoice()
 {
     const QString own =
         m_store->formats().addUserDefineFormat(QStringLiteral("audio"), QStringLiteral("MP3"), mp3,
                                                {{QStringLiteral("title"), QStringLiteral("Mine")}});
     const int id = addReady(*m_converter, song());
+    const int chosen = addReady(*m_converter, song(QStringLiteral("chosen.wav")));
     m_converter->setConvertingListTaskFormat(id, own);
+    m_converter->setConvertingListTaskFormat(chosen, flac);
+    m_converter->setConvertingListTaskFormat(chosen, own);
     QCOMPARE(task(*m_converter, id).formatCaption, QStringLiteral("MP3 - Mine"));
     m_settings->setEditorGlobalId(own);
 
     m_store->formats().delUserDefineFormat(QStringLiteral("audio"), QStringLiteral("MP3"), own);
     QTRY_COMPARE_WITH_TIMEOUT(task(*m_converter, id).format, mp3, patience);
     QCOMPARE(task(*m_converter, id).formatCaption, QStringLiteral("MP3 - Middle Quality"));
+    QCOMPARE(task(*m_converter, chosen).format, flac);
     QCOMPARE(m_editor->globalCaption(), QStringLiteral("MP4 - Keep Orignal"));
-    QCOMPARE(task(*m_editor, addReady(*m_editor, song())).format, QStringLiteral("Video_MP4_001"));
+}
+
+void TestPageFormats::noPresetChangesAConvertedTask()
+{
+    FormatsProxy &formats = m_store->formats();
+    const QString own =
+        formats.addUserDefineFormat(QStringLiteral("audio"), QStringLiteral("MP3"), mp3,
+                                    {{QStringLiteral("title"), QStringLiteral("Mine")}});
+    const int id = addReady(*m_converter, song());
+    const int following = addReady(*m_converter, song(QStringLiteral("b.wav")));
+    m_converter->setConvertingListTaskFormat(id, own);
+    m_converter->convertAll();
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
+    const QString target = task(*m_converter, id).target;
+    QSignalSpy changes(m_presets.get(), &Presets::changed);
+    formats.delUserDefineFormat(QStringLiteral("audio"), QStringLiteral("MP3"), own);
+    QTRY_VERIFY_WITH_TIMEOUT(changes.count() > 0, patience);
+    m_converter->setConverterGlobalFormat(flac);
+    QCOMPARE(task(*m_converter, id).state, Task::Converted);
+    QCOMPARE(task(*m_converter, id).formatCaption, QStringLiteral("MP3 - Mine"));
+    QCOMPARE(task(*m_converter, id).target, target);
+    QCOMPARE(task(*m_converter, following).state, Task::Converted);
+    QCOMPARE(task(*m_converter, following).format, mp3);
+
+    // Those that follow can be converted again.
+    QCOMPARE(m_converter->offer()->text(), QStringLiteral("Converted already: b.wav"));
+    m_converter->offer()->take();
+    QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
+    QVERIFY(task(*m_converter, following).target.endsWith(QStringLiteral(".flac")));
+    QCOMPARE(task(*m_converter, id).target, target);
 }
 
 void TestPageFormats::aNewFormatMakesAConvertedTaskReady()

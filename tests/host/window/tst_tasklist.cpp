@@ -12,6 +12,15 @@ Task task(const char *source)
     return made;
 }
 
+QString sources(const TaskList &list)
+{
+    QString sources;
+    for (const Task &task : list.tasks()) {
+        sources += task.source;
+    }
+    return sources;
+}
+
 } // namespace
 
 class TestTaskList : public QObject
@@ -23,6 +32,11 @@ private Q_SLOTS:
     void idsAreNeverReused();
     void aChangeIsAnnouncedForItsRowOnly();
     void unknownIdsChangeNothing();
+    void movedTasksKeepTheirOrder();
+    void aMoveKeepsThePersistentIndexes();
+    void removedTasksGoBackToTheirRows();
+    void theStatesAreCounted();
+    void onlyChangesThatAreKeptCountAsEdits();
     void rolesReadTheTask();
     void queuedAndEndedStatesAreKnown_data();
     void queuedAndEndedStatesAreKnown();
@@ -36,7 +50,7 @@ void TestTaskList::tasksKeepTheOrderInWhichTheyWereAdded()
     list.add(task("/a"));
     const int second = list.add(task("/b"));
     list.add(task("/c"));
-    list.remove(second);
+    list.remove({second});
     QCOMPARE(list.count(), 2);
     QCOMPARE(list.data(list.index(0), TaskList::SourceRole).toString(), QStringLiteral("/a"));
     QCOMPARE(list.data(list.index(1), TaskList::SourceRole).toString(), QStringLiteral("/c"));
@@ -48,7 +62,7 @@ void TestTaskList::idsAreNeverReused()
     TaskList one;
     TaskList other;
     const int first = one.add(task("/a"));
-    one.remove(first);
+    one.remove({first});
     const int second = one.add(task("/a"));
     const int third = other.add(task("/a"));
     QCOMPARE((QSet<int>{first, second, third}.size()), 3);
@@ -74,11 +88,85 @@ void TestTaskList::unknownIdsChangeNothing()
     const int id = list.add(task("/a"));
     QSignalSpy changes(&list, &TaskList::dataChanged);
     QSignalSpy counts(&list, &TaskList::countChanged);
-    list.remove(id + 1);
+    list.remove({id + 1});
     list.update(id + 1, [](Task &changed) { changed.state = Task::Running; });
     QVERIFY(list.find(id + 1) == nullptr);
     QCOMPARE(changes.count(), 0);
     QCOMPARE(counts.count(), 0);
+}
+
+void TestTaskList::movedTasksKeepTheirOrder()
+{
+    TaskList list;
+    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const int a = list.add(task("/a"));
+    const int b = list.add(task("/b"));
+    const int c = list.add(task("/c"));
+    const int d = list.add(task("/d"));
+    list.move({a, c}, 0);
+    QCOMPARE(sources(list), QStringLiteral("/b/d/a/c"));
+    list.move({c, d}, b);
+    QCOMPARE(sources(list), QStringLiteral("/d/c/b/a"));
+    // To the place of one of them: it stays before the next one that isn't moved.
+    list.move({d, c}, d);
+    QCOMPARE(sources(list), QStringLiteral("/d/c/b/a"));
+    list.move({b}, 0);
+    QCOMPARE(list.rowOf(b), 3);
+    QCOMPARE(list.rowOf(a), 2);
+}
+
+void TestTaskList::aMoveKeepsThePersistentIndexes()
+{
+    TaskList list;
+    const int a = list.add(task("/a"));
+    list.add(task("/b"));
+    const QPersistentModelIndex kept = list.index(0);
+    list.move({a}, 0);
+    QCOMPARE(kept.row(), 1);
+}
+
+void TestTaskList::removedTasksGoBackToTheirRows()
+{
+    TaskList list;
+    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const int a = list.add(task("/a"));
+    list.add(task("/b"));
+    const int c = list.add(task("/c"));
+    const QVector<QPair<int, Task>> removed = {{0, *list.find(a)}, {2, *list.find(c)}};
+    list.remove({a, c});
+    QCOMPARE(sources(list), QStringLiteral("/b"));
+    list.putBack(removed);
+    QCOMPARE(sources(list), QStringLiteral("/a/b/c"));
+    QCOMPARE(list.rowOf(c), 2);
+}
+
+void TestTaskList::theStatesAreCounted()
+{
+    TaskList list;
+    const int a = list.add(task("/a"));
+    const int b = list.add(task("/b"));
+    QCOMPARE(list.countOf(Task::Reading), 2);
+    list.setState(a, Task::Waiting);
+    list.update(b, [](Task &changed) { changed.state = Task::Waiting; });
+    QCOMPARE(list.countOf(Task::Reading), 0);
+    QCOMPARE(list.countOf(Task::Waiting), 2);
+    list.remove({a});
+    QCOMPARE(list.countOf(Task::Waiting), 1);
+}
+
+void TestTaskList::onlyChangesThatAreKeptCountAsEdits()
+{
+    TaskList list;
+    QSignalSpy edits(&list, &TaskList::edited);
+    const int id = list.add(task("/a"));
+    list.setState(id, Task::Running);
+    QCOMPARE(edits.count(), 2);
+    list.setProgress(id, {1, 2, 3});
+    list.setThumbnail(id, QStringLiteral("file:///a.png"));
+    list.setSelected(id, true);
+    QCOMPARE(edits.count(), 2);
+    list.remove({id});
+    QCOMPARE(edits.count(), 3);
 }
 
 void TestTaskList::rolesReadTheTask()
@@ -124,6 +212,7 @@ void TestTaskList::queuedAndEndedStatesAreKnown_data()
     QTest::newRow("running") << Task::Running << true << false;
     QTest::newRow("converted") << Task::Converted << false << true;
     QTest::newRow("failed") << Task::Failed << false << true;
+    QTest::newRow("interrupted") << Task::Interrupted << false << true;
     QTest::newRow("cancelled") << Task::Cancelled << false << true;
 }
 

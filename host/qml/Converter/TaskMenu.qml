@@ -1,0 +1,72 @@
+import QtQuick 2.15
+import VexWindow 1.0
+
+/*! What can be done with a task, or with all selected ones if it is one of them. */
+StyledMenu {
+    id: root
+
+    required property PageProxy page
+    property int taskId
+    property int taskState
+    property bool hasOwnFormat
+    property bool hasResult
+    readonly property bool isQueued: root.taskState === Task.Waiting
+                                     || root.taskState === Task.Running
+
+    signal formatWanted()
+
+    MenuEntry {
+        visible: !root.isQueued
+        enabled: root.taskState !== Task.Reading
+        text: root.taskState === Task.Converted ? ToolFun.tr("Convert again")
+                                                : ToolFun.tr("Convert")
+        onTriggered: root.page.convertChosen(root.taskId)
+    }
+
+    MenuEntry {
+        visible: root.isQueued
+        text: ToolFun.tr("Stop")
+        onTriggered: root.page.cancelChosen(root.taskId)
+    }
+
+    MenuEntry {
+        visible: root.hasResult
+        text: ToolFun.tr("Play")
+        onTriggered: root.page.play(root.taskId)
+    }
+
+    MenuEntry {
+        text: ToolFun.tr("Show in folder")
+        onTriggered: root.page.showInFolder(root.taskId)
+    }
+
+    MenuEntry {
+        enabled: root.taskState !== Task.Running
+        text: ToolFun.tr("Choose a format …")
+        shortcutText: ToolFun.tr("Enter")
+        onTriggered: root.formatWanted()
+    }
+
+    MenuEntry {
+        visible: root.hasOwnFormat
+        enabled: root.taskState !== Task.Running
+        text: ToolFun.tr("Use the format for all")
+        onTriggered: root.page.followChosen(root.taskId)
+    }
+
+    MenuEntry {
+        text: ToolFun.tr("Select all")
+        shortcutText: ToolFun.tr("Ctrl+A")
+        onTriggered: root.page.selection.selectAll()
+    }
+
+    SortMenu {
+        page: root.page
+    }
+
+    MenuEntry {
+        text: ToolFun.tr("Remove from the list")
+        shortcutText: ToolFun.tr("Del")
+        onTriggered: root.page.removeChosen(root.taskId)
+    }
+}

@@ -1,0 +1,80 @@
+#include "host/window/tasktexts.h"
+
+#include "host/files/visibletext.h"
+#include "host/media/clocktext.h"
+#include "host/window/toolfun.h"
+
+#include <QFileInfo>
+#include <QLocale>
+
+#include <cmath>
+
+namespace {
+
+const QString separator = QStringLiteral("  ·  ");
+
+/*! How the new size compares to the old one; empty where nobody would see a difference. */
+QString comparison(double bytes, double before)
+{
+    const int percent = before > 0 ? int(std::lround(100 * (bytes - before) / before)) : 0;
+    if (percent == 0) {
+        return {};
+    }
+    return (percent < 0 ? ToolFun::text(QStringLiteral("%1 % smaller"))
+                        : ToolFun::text(QStringLiteral("%1 % larger")))
+        .arg(std::abs(percent));
+}
+
+} // namespace
+
+QString sizeText(double bytes)
+{
+    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeTraditionalFormat);
+}
+
+QString detailsOf(const MediaFacts &facts)
+{
+    QStringList parts;
+    if (const VideoTrack *video = facts.video()) {
+        const QSize size = video->displaySize();
+        parts << QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
+    }
+    if (facts.duration > 0) {
+        parts << clockText(facts.duration);
+    }
+    if (facts.bytes > 0) {
+        parts << sizeText(double(facts.bytes));
+    }
+    return parts.join(separator);
+}
+
+QString codecsOf(const MediaFacts &facts)
+{
+    QStringList codecs;
+    if (const VideoTrack *video = facts.video()) {
+        codecs << video->codec;
+    }
+    if (const AudioTrack *audio = facts.audio()) {
+        codecs << audio->codec;
+    }
+    return codecs.join(QStringLiteral(", "));
+}
+
+QString resultOf(const Task &task)
+{
+    if (task.target.isEmpty()) {
+        return {};
+    }
+    QString result = visibleText(QFileInfo(task.target).fileName());
+    if (task.targetBytes > 0) {
+        result += separator + sizeText(double(task.targetBytes));
+        // A part of the source can't be compared to all of it.
+        const bool isWhole = task.start <= 0 && task.end <= 0;
+        const QString compared =
+            isWhole ? comparison(double(task.targetBytes), double(task.facts.bytes)) : QString();
+        if (!compared.isEmpty()) {
+            result += QStringLiteral(", ") + compared;
+        }
+    }
+    return result;
+}

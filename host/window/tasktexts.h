@@ -1,0 +1,17 @@
+#ifndef WINDOW_TASKTEXTS_H
+#define WINDOW_TASKTEXTS_H
+
+#include "host/window/task.h"
+
+// What the list says of a task.
+
+/*! "1280 × 720  ·  1:05  ·  2.0 MB"; what is unknown is left out. */
+[[nodiscard]] QString detailsOf(const MediaFacts &facts);
+/*! "h264, aac" */
+[[nodiscard]] QString codecsOf(const MediaFacts &facts);
+/*! "song.mp3  ·  2.0 MB, 40 % smaller"; empty if there is no new file. */
+[[nodiscard]] QString resultOf(const Task &task);
+/*! "2.0 MB" */
+[[nodiscard]] QString sizeText(double bytes);
+
+#endif
