@@ -41,6 +41,7 @@ private:
     void openPicker();
     void showTag(const QString &tag);
     void type(const QString &text);
+    void press(int key, const QString &text = {});
     void showPage(int page);
     /*! A clip of this kind, made with ffmpeg from its own test sources. */
     QUrl clip(const QString &name, const QString &arguments);
@@ -155,7 +156,16 @@ void Screenshots::takeTasks()
     take(QStringLiteral("editor-ready"));
     showPage(0);
 
-    TaskList &tasks = *m_window.converter().tasks();
+    Page &page = m_window.converter();
+    TaskList &tasks = *page.tasks();
+    page.selection()->set(tasks.tasks().at(0).id);
+    page.selection()->extendTo(tasks.tasks().at(1).id);
+    m_window.converter().setConvertingListTaskFormat(tasks.tasks().at(2).id,
+                                                     QStringLiteral("Video_MP4_004"));
+    page.remove(tasks.tasks().at(3).id);
+    take(QStringLiteral("converter-problem"));
+    page.undoRemoval();
+    page.selection()->clear();
     const QString results = m_work.filePath(QStringLiteral("Converted"));
     QDir().mkpath(results);
     m_window.converter().setFolder(results);
@@ -164,6 +174,11 @@ void Screenshots::takeTasks()
     m_window.converter().convertAll();
     waitUntil([&tasks] { return tasks.tasks().at(1).progress.percent() > 20; });
     take(QStringLiteral("converter-running"));
+    page.pause();
+    m_window.window()->close();
+    take(QStringLiteral("converter-closing"));
+    press(Qt::Key_Escape);
+    page.resume();
     waitUntil([this] { return !m_window.converter().isBusy(); });
     take(QStringLiteral("converter-done"));
 }
@@ -188,12 +203,17 @@ void Screenshots::showTag(const QString &tag)
 void Screenshots::type(const QString &text)
 {
     for (const QChar letter : text) {
-        for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(kind, 0, Qt::NoModifier, QString(letter));
-            QCoreApplication::sendEvent(m_window.window(), &event);
-        }
+        press(0, QString(letter));
     }
     settle();
+}
+
+void Screenshots::press(int key, const QString &text)
+{
+    for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(kind, key, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(m_window.window(), &event);
+    }
 }
 
 void Screenshots::showPage(int page)
