@@ -30,7 +30,7 @@ public:
     /*! \a folder is made where it is missing; \a work takes the clips and the settings. */
     Screenshots(const QString &folder, const WorkFolder &work);
 
-    [[nodiscard]] Result<> takeAll();
+    [[nodiscard]] Result<> takeAll(WindowSettings::ThemeChoice theme);
 
 private:
     void takePickers();
@@ -64,7 +64,7 @@ Screenshots::Screenshots(const QString &folder, const WorkFolder &work)
     , m_window(m_work.filePath(QStringLiteral("config")))
 {}
 
-Result<> Screenshots::takeAll()
+Result<> Screenshots::takeAll(WindowSettings::ThemeChoice theme)
 {
     if (!QDir().mkpath(m_folder.path())) {
         return failed(
@@ -74,6 +74,7 @@ Result<> Screenshots::takeAll()
     if (!m_result) {
         return m_result;
     }
+    m_window.settings().setTheme(theme);
     // The screen that isn't there has a size, which the window mustn't have.
     m_window.window()->resize(1040, 700);
     take(QStringLiteral("converter-empty"));
@@ -151,6 +152,10 @@ void Screenshots::takeTasks()
         });
     }
     take(QStringLiteral("converter-ready"));
+    QObject *panel = m_window.window()->findChild<QObject *>(QStringLiteral("outputPanel"));
+    QMetaObject::invokeMethod(panel, "open");
+    take(QStringLiteral("output-panel"));
+    QMetaObject::invokeMethod(panel, "close");
     showPage(1);
     m_window.editor().cut(m_window.editor().tasks()->tasks().at(1).id, 1.5, 8);
     take(QStringLiteral("editor-ready"));
@@ -284,7 +289,7 @@ void Screenshots::take(const QString &name, QQuickWindow *window)
                      [&isDrawn] { isDrawn = true; });
     waitUntil([&isDrawn] { return isDrawn; });
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(shown->color());
+    image.fill(shown->property("color").value<QColor>());
     QPainter(&image).drawImage(0, 0, content->image());
 
     const QString path = m_folder.absoluteFilePath(name + QStringLiteral(".png"));
@@ -296,8 +301,8 @@ void Screenshots::take(const QString &name, QQuickWindow *window)
 } // namespace
 
 /*!
- * screenshots DIR [LANGUAGE]: writes pictures of all of the window's screens into DIR. They have
- * the scale of QT_SCALE_FACTOR, as there is no screen to follow.
+ * screenshots DIR [LANGUAGE] [light|dark]: writes pictures of all of the window's screens into DIR.
+ * They have the scale of QT_SCALE_FACTOR, as there is no screen to follow.
  */
 int main(int argc, char **argv)
 {
@@ -309,8 +314,11 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     const QStringList arguments = QApplication::arguments();
     const QString language = Languages::suiting(arguments.value(2, QStringLiteral("en")));
-    if (arguments.size() < 2 || arguments.size() > 3 || language.isEmpty()) {
-        return report({QStringLiteral("usage: screenshots DIR [LANGUAGE]; the languages are %1")
+    const QString theme = arguments.value(3, QStringLiteral("light"));
+    const bool isTheme = theme == QLatin1String("light") || theme == QLatin1String("dark");
+    if (arguments.size() < 2 || arguments.size() > 4 || language.isEmpty() || !isTheme) {
+        return report({QStringLiteral("usage: screenshots DIR [LANGUAGE] [light|dark]; the "
+                                      "languages are %1")
                            .arg(Languages::all().join(QStringLiteral(", "))),
                        Error::WrongUsage});
     }
@@ -319,6 +327,9 @@ int main(int argc, char **argv)
     if (!work) {
         return report({QStringLiteral("no temporary folder: %1").arg(work.error().text)});
     }
-    const Result<> taken = Screenshots(arguments.at(1), *work).takeAll();
+    const Result<> taken =
+        Screenshots(arguments.at(1), *work)
+            .takeAll(theme == QLatin1String("dark") ? WindowSettings::DarkTheme
+                                                    : WindowSettings::LightTheme);
     return taken ? Success : report(taken.error());
 }

@@ -1,8 +1,8 @@
 #include "host/commandline/convertoptions.h"
 
 #include "host/commandline/mediaoptions.h"
+#include "host/convert/namefields.h"
 
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,11 +18,6 @@ const QLatin1String mirrorFlag("mirror");
 const QLatin1String ifExists("if-exists");
 const QLatin1String overwriteFlag("overwrite");
 const QLatin1String jobs("jobs");
-
-const QLatin1String nameField("name");
-const QLatin1String presetField("preset");
-const QLatin1String dateField("date");
-const QLatin1String numberField("n");
 
 struct IfExistsWord
 {
@@ -121,9 +116,8 @@ Result<> readName(const Call &call, ConvertRequest &request)
     if (!call.options.isSet(nameOption)) {
         return {};
     }
-    const Result<NameTemplate> read = NameTemplate::fromText(
-        call.options.value(nameOption),
-        QStringList{nameField, presetField, dateField, numberField} + OutputName::pictureFields());
+    const Result<NameTemplate> read =
+        NameTemplate::fromText(call.options.value(nameOption), nameFields());
     if (!read) {
         return wrongUsage(QStringLiteral("--name: ") + read.error().text);
     }
@@ -138,13 +132,8 @@ ConversionJob ConvertRequest::jobFor(const SourceFile &file, int number) const
     ConversionJob job = prototype;
     job.source = file.path;
     job.target.name = name;
-    const QDate date = QFileInfo(file.path).lastModified().date();
-    const int digits = QString::number(count).size();
-    job.target.name.fill(nameField, baseNameOf(file.path));
-    job.target.name.fill(presetField, preset.map.value(QStringLiteral("id")).toString());
-    job.target.name.fill(dateField, date.toString(Qt::ISODate));
-    job.target.name.fill(numberField,
-                         QStringLiteral("%1").arg(number, digits, 10, QLatin1Char('0')));
+    fillName(job.target.name,
+             {file.path, preset.map.value(QStringLiteral("id")).toString(), number, count});
     if (isMirrored && !file.subfolder.isEmpty()) {
         job.target.folder += QLatin1Char('/') + file.subfolder;
     }

@@ -1,7 +1,7 @@
 #include "host/app/console.h"
 #include "host/commandline/batchreports.h"
 #include "host/commandline/convertoptions.h"
-#include "host/commandline/shelltext.h"
+#include "host/tools/shelltext.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>

@@ -2,7 +2,7 @@
 #include "host/commandline/batchreports.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/progresstext.h"
-#include "host/commandline/shelltext.h"
+#include "host/tools/shelltext.h"
 
 #include <QFileInfo>
 

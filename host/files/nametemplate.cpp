@@ -5,27 +5,48 @@
 
 #include <algorithm>
 
+namespace {
+
+QRegularExpressionMatchIterator fieldsIn(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\{([^{}]*)\\}"));
+    return pattern.globalMatch(text);
+}
+
+} // namespace
+
 Result<NameTemplate> NameTemplate::fromText(const QString &text, const QStringList &fields)
 {
     if (text.isEmpty() || text.contains(QLatin1Char('/'))) {
         return failed(tr("a name has at least one character and no \"/\"; choose the folder with "
                          "--to"));
     }
-    static const QRegularExpression pattern(QStringLiteral("\\{([^{}]*)\\}"));
+    const QString unknown = unknownField(text, fields);
+    if (!unknown.isNull()) {
+        return failed(tr("there is no field {%1}; the fields are: {%2}")
+                          .arg(unknown, fields.join(QStringLiteral("}, {"))));
+    }
     NameTemplate made;
     int read = 0;
-    for (auto match = pattern.globalMatch(text); match.hasNext();) {
+    for (auto match = fieldsIn(text); match.hasNext();) {
         const QRegularExpressionMatch field = match.next();
-        if (!fields.contains(field.captured(1))) {
-            return failed(tr("there is no field {%1}; the fields are: {%2}")
-                              .arg(field.captured(1), fields.join(QStringLiteral("}, {"))));
-        }
         made.m_pieces.append({text.mid(read, field.capturedStart() - read)});
         made.m_pieces.append({field.captured(1), true});
         read = field.capturedEnd();
     }
     made.m_pieces.append({text.mid(read)});
     return made;
+}
+
+QString NameTemplate::unknownField(const QString &text, const QStringList &fields)
+{
+    for (auto match = fieldsIn(text); match.hasNext();) {
+        const QString field = match.next().captured(1);
+        if (!fields.contains(field)) {
+            return field;
+        }
+    }
+    return {};
 }
 
 NameTemplate NameTemplate::literal(const QString &name)

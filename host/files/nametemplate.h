@@ -20,6 +20,8 @@ public:
      *  a character that no name can have. */
     [[nodiscard]] static Result<NameTemplate> fromText(const QString &text,
                                                        const QStringList &fields);
+    /*! The first field of \a text that isn't among \a fields; null if there is none. */
+    [[nodiscard]] static QString unknownField(const QString &text, const QStringList &fields);
     /*! This very name, whatever characters it has. */
     [[nodiscard]] static NameTemplate literal(const QString &name);
 

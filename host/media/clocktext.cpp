@@ -26,14 +26,17 @@ QString clockText(double seconds)
 
 QString exactClockText(double seconds)
 {
-    const qint64 hundredths = std::llround(plausibleSeconds(seconds) * 100);
-    QString text = wholeText(hundredths / 100);
-    const qint64 rest = hundredths % 100;
+    const qint64 thousandths = std::llround(plausibleSeconds(seconds) * 1000);
+    const QString text = wholeText(thousandths / 1000);
+    const qint64 rest = thousandths % 1000;
     if (rest == 0) {
         return text;
     }
-    return rest % 10 == 0 ? QStringLiteral("%1.%2").arg(text).arg(rest / 10)
-                          : QStringLiteral("%1.%2").arg(text).arg(rest, 2, 10, QLatin1Char('0'));
+    QString fraction = QStringLiteral("%1").arg(rest, 3, 10, QLatin1Char('0'));
+    while (fraction.endsWith(QLatin1Char('0'))) {
+        fraction.chop(1);
+    }
+    return text + QLatin1Char('.') + fraction;
 }
 
 double secondsFromClockText(const QString &text)

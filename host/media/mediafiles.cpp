@@ -1,6 +1,5 @@
 #include "host/media/mediafiles.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 const QStringList &mediaExtensions()
@@ -18,16 +17,4 @@ const QStringList &mediaExtensions()
 bool isMediaName(const QString &name)
 {
     return mediaExtensions().contains(QFileInfo(name).suffix().toLower());
-}
-
-QStringList mediaFilesIn(const QString &folder)
-{
-    QStringList paths;
-    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
-    for (const QFileInfo &file : files) {
-        if (isMediaName(file.fileName())) {
-            paths << file.absoluteFilePath();
-        }
-    }
-    return paths;
 }

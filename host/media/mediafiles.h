@@ -7,7 +7,5 @@
 [[nodiscard]] const QStringList &mediaExtensions();
 /*! Whether a file name has one of them. */
 [[nodiscard]] bool isMediaName(const QString &name);
-/*! The sorted paths of the files in the folder itself that isMediaName() accepts. */
-[[nodiscard]] QStringList mediaFilesIn(const QString &folder);
 
 #endif

@@ -42,7 +42,7 @@ ApplicationWindow {
 
     width: 1040
     height: 700
-    minimumWidth: 900
+    minimumWidth: 760
     minimumHeight: 480
     visible: true
     title: root.busyPage.overall === "" ? "VexConvert"
@@ -54,6 +54,16 @@ ApplicationWindow {
         }
     }
     color: Theme.basics_gradeTone2
+
+    Shortcut {
+        sequence: "Ctrl+Q"
+        onActivated: root.close()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        onActivated: Dialogs.showPreferences()
+    }
 
     Shortcut {
         sequence: "Ctrl+O"
@@ -78,14 +88,33 @@ ApplicationWindow {
             captions: [ToolFun.tr("Converter"), ToolFun.tr("Editor")]
         }
 
-        VEXButton {
+        Row {
             anchors {
                 right: parent.right
                 rightMargin: Theme.wideMargin
                 verticalCenter: parent.verticalCenter
             }
-            text: ToolFun.tr("Add files")
-            onClicked: FileChooser.chooseFiles(root.shownPage.page)
+            spacing: Theme.spacing
+
+            VEXButton {
+                text: ToolFun.tr("Add folder")
+                onClicked: FileChooser.chooseMediaFolder(root.shownPage.page)
+            }
+
+            VEXButton {
+                text: ToolFun.tr("Add files")
+                onClicked: FileChooser.chooseFiles(root.shownPage.page)
+            }
+
+            VEXImageButton {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 32
+                height: 32
+                iconSize: 20
+                iconSource: "qrc:/window/images/preferences.svg"
+                Accessible.name: ToolFun.tr("Preferences")
+                onClicked: Dialogs.showPreferences()
+            }
         }
 
         Rectangle {
@@ -152,5 +181,19 @@ ApplicationWindow {
 
     ParameterconversionPage {
         id: picker
+
+        Component.onCompleted: Theme.lightScreen = picker.contentItem
+    }
+
+    Binding {
+        target: Theme
+        property: "isDark"
+        value: Appearance.isDark
+    }
+
+    Binding {
+        target: Theme
+        property: "isMoving"
+        value: Appearance.isMoving
     }
 }

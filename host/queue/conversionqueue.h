@@ -21,8 +21,12 @@ public:
 
     using QObject::QObject;
 
-    /*! How many jobs run at a time, whatever cores they keep busy. Running ones are not stopped. */
-    void setMaxRunning(int count) { m_maxRunning = count; }
+    /*! How many jobs run at a time, whatever cores they keep busy; 0: as many as leave cores idle.
+     *  Running ones are not stopped. */
+    void setMaxRunning(int count)
+    {
+        m_maxRunning = count > 0 ? std::make_optional(count) : std::nullopt;
+    }
     /*! Halts the running jobs, and starts none until resume(). */
     void pause();
     void resume();

@@ -16,6 +16,7 @@ constexpr int queueVersion = 1;
 const QLatin1String versionKey("version");
 const QLatin1String pagesKey("pages");
 const QLatin1String sourceKey("source");
+const QLatin1String subfolderKey("subfolder");
 const QLatin1String targetKey("target");
 const QLatin1String statusKey("status");
 const QLatin1String ownFormatsKey("ownFormats");
@@ -73,6 +74,7 @@ KeptTask taskFrom(const QJsonObject &entry)
 {
     KeptTask task;
     task.source = decoded(entry.value(sourceKey));
+    task.subfolder = decoded(entry.value(subfolderKey));
     task.target = decoded(entry.value(targetKey));
     task.ownFormats = entry.value(ownFormatsKey).toVariant().toStringList();
     task.status = statusNamed(entry.value(statusKey).toString());
@@ -88,6 +90,9 @@ KeptTask taskFrom(const QJsonObject &entry)
 QJsonObject toObject(const KeptTask &task)
 {
     QJsonObject entry{{sourceKey, encoded(task.source)}, {statusKey, statuses[task.status].name}};
+    if (!task.subfolder.isEmpty()) {
+        entry.insert(subfolderKey, encoded(task.subfolder));
+    }
     if (!task.target.isEmpty()) {
         entry.insert(targetKey, encoded(task.target));
         entry.insert(bytesKey, double(task.targetBytes));

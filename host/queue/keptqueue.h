@@ -14,9 +14,10 @@ struct KeptTask
 {
     enum Status { Unconverted, Interrupted, Converted, Failed, Stopped };
 
-    QString source;         //!< absolute
-    QStringList ownFormats; //!< ids of the presets chosen for it, the last choice last
-    QString format = {};    //!< id of the preset that it has or was converted with
+    QString source;              //!< absolute
+    QString subfolder = {};      //!< of the source, below the folder that was added
+    QStringList ownFormats = {}; //!< ids of the presets chosen for it, the last choice last
+    QString format = {};         //!< id of the preset that it has or was converted with
     QString formatCaption = {};
     double start = 0; //!< seconds
     double end = 0;   //!< seconds; 0: the source's end

@@ -1,7 +1,6 @@
 #include "host/window/addedfiles.h"
 
 #include "host/files/localpath.h"
-#include "host/media/mediafiles.h"
 #include "host/window/toolfun.h"
 
 #include <QDir>
@@ -31,30 +30,32 @@ QString refusalOf(const QString &path)
 
 } // namespace
 
-AddedFiles AddedFiles::of(const QStringList &paths, const QSet<QString> &present)
+AddedFiles AddedFiles::of(const QStringList &paths, const QSet<QString> &present,
+                          const QString &results)
 {
     AddedFiles added;
     QSet<QString> seen = present;
     for (const QString &path : paths) {
-        const QFileInfo info(path);
-        const QStringList files =
-            info.isDir() ? mediaFilesIn(path) : QStringList{info.absoluteFilePath()};
-        if (files.isEmpty()) {
+        bool isEmpty = true;
+        SourceFiles files({QFileInfo(path).absoluteFilePath()}, true);
+        static_cast<void>(results.isEmpty() ? Result<>() : files.leaveOut(results));
+        files.each([&](const SourceFile &file) {
+            isEmpty = false;
+            const QString refusal = refusalOf(file.path);
+            if (!refusal.isEmpty()) {
+                added.notices << refusal.arg(QFileInfo(file.path).fileName());
+            } else if (seen.contains(file.path)) {
+                added.known << file;
+            } else {
+                seen.insert(file.path);
+                added.files << file;
+            }
+        });
+        if (isEmpty) {
             added.notices << ToolFun::text(
                                  QStringLiteral("There are no video or audio files in the "
                                                 "folder %1; add the files themselves"))
                                  .arg(QDir::toNativeSeparators(path));
-        }
-        for (const QString &file : files) {
-            const QString refusal = refusalOf(file);
-            if (!refusal.isEmpty()) {
-                added.notices << refusal.arg(info.fileName());
-            } else if (seen.contains(file)) {
-                added.known << file;
-            } else {
-                seen.insert(file);
-                added.files << file;
-            }
         }
     }
     return added;

@@ -1,13 +1,21 @@
 #include "host/window/dialogframe.h"
 
+#include <QPainterPath>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
+
+namespace {
+
+constexpr int cornerRadius = 10; // of the dialogs' grounds, and what they blend at their corners
+
+} // namespace
 
 DialogFrame::DialogFrame(QQmlEngine &engine, const QUrl &content, const QVariantMap &info,
                          QWindow *transientParent)
     : QObject(transientParent)
     , m_info(info)
+    , m_isLight(content.path().startsWith(QLatin1String("/formats/")))
 {
     m_window.setFlags(Qt::Dialog | Qt::FramelessWindowHint);
     m_window.setModality(Qt::ApplicationModal);
@@ -49,6 +57,10 @@ void DialogFrame::resizeWinSize(int width, int height)
     m_window.setMinimumSize(size);
     m_window.setMaximumSize(size);
     m_window.resize(size);
+    // Without a compositor, what is transparent would be black.
+    QPainterPath rounded;
+    rounded.addRoundedRect(QRectF(QPointF(), size), cornerRadius, cornerRadius);
+    m_window.setMask(QRegion(rounded.toFillPolygon().toPolygon()));
 }
 
 void DialogFrame::cancelClicked(const QString &id)

@@ -18,6 +18,7 @@ class DialogFrame : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QVariantMap info READ info CONSTANT)
+    Q_PROPERTY(bool isLight READ isLight CONSTANT)
 
 public:
     /*! \a info is the dialog's input. The dialog deletes itself when it is closed. */
@@ -26,6 +27,8 @@ public:
     ~DialogFrame() override;
 
     QVariantMap info() const { return m_info; }
+    /*! Whether the dialog is light in every theme, as those of the library are. */
+    bool isLight() const { return m_isLight; }
     QQuickWindow *window() { return &m_window; }
 
     Q_INVOKABLE void resizeWinSize(int width, int height);
@@ -39,6 +42,7 @@ Q_SIGNALS:
 
 private:
     const QVariantMap m_info;
+    const bool m_isLight;
     QQuickWindow m_window;
     std::unique_ptr<QQuickItem> m_content;
 };

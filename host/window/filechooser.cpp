@@ -129,26 +129,49 @@ void showMediaFirst(QFileDialog *dialog)
 
 } // namespace
 
+void FileChooser::setUp(QWindow *window, WindowSettings *settings)
+{
+    m_window = window;
+    m_settings = settings;
+}
+
 void FileChooser::chooseFiles(Page *page)
 {
-    auto *dialog = new FilesDialog(nullptr, ToolFun::text(QStringLiteral("Add files")),
-                                   firstFolderOf(QStringList{m_lastFolder} + usualFolders()));
+    auto *dialog =
+        new FilesDialog(nullptr, ToolFun::text(QStringLiteral("Add files")),
+                        firstFolderOf(QStringList{m_settings->lastFolder()} + usualFolders()));
     dialog->setFileMode(QFileDialog::ExistingFiles);
     showMediaFirst(dialog);
     open(dialog, page, [this, page](const QStringList &paths) {
-        m_lastFolder = QFileInfo(paths.constFirst()).absolutePath();
+        m_settings->setLastFolder(QFileInfo(paths.constFirst()).absolutePath());
         page->addPaths(paths);
     });
 }
 
+void FileChooser::chooseMediaFolder(Page *page)
+{
+    openForFolder(QStringLiteral("Add folder"), m_settings->lastFolder(), page,
+                  [this, page](const QString &folder) {
+                      m_settings->setLastFolder(folder);
+                      page->addPaths({folder});
+                  });
+}
+
 void FileChooser::chooseFolder(Page *page)
 {
-    auto *dialog =
-        new QFileDialog(nullptr, ToolFun::text(QStringLiteral("Choose folder")),
-                        firstFolderOf(QStringList{page->folder(), m_lastFolder} + usualFolders()));
+    openForFolder(QStringLiteral("Choose folder"), page->folder(), page,
+                  [page](const QString &folder) { page->setFolder(folder); });
+}
+
+void FileChooser::openForFolder(const QString &title, const QString &start, Page *page,
+                                const std::function<void(const QString &)> &take)
+{
+    auto *dialog = new QFileDialog(
+        nullptr, ToolFun::text(title),
+        firstFolderOf(QStringList{start, m_settings->lastFolder()} + usualFolders()));
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    open(dialog, page, [page](const QStringList &paths) { page->setFolder(paths.constFirst()); });
+    open(dialog, page, [take](const QStringList &paths) { take(paths.constFirst()); });
 }
 
 void FileChooser::open(QFileDialog *dialog, Page *page,

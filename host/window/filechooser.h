@@ -19,22 +19,28 @@ class FileChooser : public QObject
 public:
     using QObject::QObject;
 
-    /*! Sets the window that the dialogs open in front of. */
-    void setWindow(QWindow *window) { m_window = window; }
+    /*! The dialogs open in front of \a window; \a settings keep the folder of the last files. Both
+     *  must outlive this object's dialogs. */
+    void setUp(QWindow *window, WindowSettings *settings);
 
     /*! Lets the user add files to the page's list. Returns at once. */
     Q_INVOKABLE void chooseFiles(Page *page);
+    /*! Lets the user add a folder's media files to the page's list. Returns at once. */
+    Q_INVOKABLE void chooseMediaFolder(Page *page);
     /*! Lets the user choose the page's output folder. Returns at once. */
     Q_INVOKABLE void chooseFolder(Page *page);
 
 private:
+    /*! \a take gets the chosen folder, as open() says. */
+    void openForFolder(const QString &title, const QString &start, Page *page,
+                       const std::function<void(const QString &)> &take);
     /*! \a take gets the paths, unless the user cancels or \a page is destroyed. */
     void open(QFileDialog *dialog, Page *page,
               const std::function<void(const QStringList &)> &take);
     void placeOverWindow(QFileDialog *dialog) const;
 
     QPointer<QWindow> m_window;
-    QString m_lastFolder;
+    WindowSettings *m_settings = nullptr;
 };
 
 #endif

@@ -1,10 +1,12 @@
 #include "host/window/mainwindow.h"
 
+#include "host/window/appearance.h"
 #include "host/window/desktopfeedback.h"
 #include "host/window/presets.h"
 #include "host/window/qmltypes.h"
 #include "host/window/queuekeeper.h"
 #include "host/window/singleinstance.h"
+#include "host/window/windowplace.h"
 #include "host/window/windowsettings.h"
 
 #include "formats/proxy/formatsproxy.h"
@@ -22,6 +24,21 @@ static void initResources()
     Q_INIT_RESOURCE(translations);
 }
 
+namespace {
+
+QtMessageHandler usualHandler = nullptr;
+
+/*! Leaves out what Qt says of rows that a list gave up while it was making them ahead: it goes on
+ *  counting them. */
+void leaveOutMiscount(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.contains(QLatin1String("in the process of being created"))) {
+        usualHandler(type, context, text);
+    }
+}
+
+} // namespace
+
 MainWindow::MainWindow(const QString &configFolder, QObject *parent)
     : QObject(parent)
     , m_store(*FormatsProxy::getInstance(), configFolder,
@@ -33,11 +50,19 @@ MainWindow::MainWindow(const QString &configFolder, QObject *parent)
 MainWindow::~MainWindow()
 {
     m_feedback.reset();
-    m_engine.reset();
+    m_place.reset();
+    endEngine();
     if (m_queue != nullptr) {
         m_queue->flush();
         m_presets->flush();
     }
+}
+
+void MainWindow::endEngine()
+{
+    usualHandler = qInstallMessageHandler(leaveOutMiscount);
+    m_engine.reset();
+    qInstallMessageHandler(usualHandler);
 }
 
 Result<> MainWindow::open()
@@ -51,8 +76,16 @@ Result<> MainWindow::open()
         m_notices.add(opened.error().text);
     }
     m_settings =
-        std::make_unique<WindowSettings>(m_store.filePath(QStringLiteral("vexconvert.ini")));
+        std::make_unique<WindowSettings>(m_store.filePath(QStringLiteral("vexconvert.ini")), this);
+    m_appearance = std::make_unique<Appearance>(*m_settings, this);
     m_presets = std::make_unique<Presets>(m_store);
+    for (const PageKind page : {PageKind::Converter, PageKind::Editor}) {
+        const QString wanted = m_settings->globalId(page);
+        const QString usable = m_presets->usable(wanted, {});
+        if (usable != wanted) {
+            m_settings->standIn(page, usable);
+        }
+    }
     m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets, this);
     m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets, this);
     m_queue = std::make_unique<QueueKeeper>(
@@ -61,20 +94,16 @@ Result<> MainWindow::open()
                               {QStringLiteral("editor"), m_editor.get()}});
     connect(m_queue.get(), &QueueKeeper::noticed, &m_notices, &Notices::add);
     connect(m_presets.get(), &Presets::saveFailed, &m_notices, &Notices::add);
-    connect(m_converter.get(), &Page::noticed, &m_notices, &Notices::add);
-    connect(m_editor.get(), &Page::noticed, &m_notices, &Notices::add);
-    connect(m_converter.get(), &ConverterProxy::editingAsked, this, &MainWindow::editPreset);
-    connect(m_converter.get(), &ConverterProxy::messageAsked, this,
-            [this](const QVariantMap &info) {
-                openDialog(QUrl(QStringLiteral("qrc:/modules/MessageBox/VEXMessage.qml")), info);
-            });
+    connectPages();
     m_queue->restore();
     publish();
     m_engine->load(QUrl(QStringLiteral("qrc:/window/Main.qml")));
     if (window() == nullptr) {
         return failed(ToolFun::text(QStringLiteral("The window can't be made")));
     }
-    m_files.setWindow(window());
+    m_place = std::make_unique<WindowPlace>(*m_settings, *window());
+    m_files.setUp(window(), m_settings.get());
+    m_dialogs.setUp(m_engine.get(), window());
     m_feedback = std::make_unique<DesktopFeedback>(
         QVector<Page *>{m_converter.get(), m_editor.get()}, *window());
     // Another program may cancel the logout, so the window only saves and stays open.
@@ -130,6 +159,26 @@ QQuickWindow *MainWindow::window() const
                : qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
 }
 
+void MainWindow::connectPages()
+{
+    for (Page *page :
+         {static_cast<Page *>(m_converter.get()), static_cast<Page *>(m_editor.get())}) {
+        connect(page, &Page::noticed, &m_notices, &Notices::add);
+        connect(page->logs(), &TaskLogs::shown, &m_dialogs, &Dialogs::showLog);
+        connect(page->output(), &PageOutput::asked, &m_dialogs,
+                [this, page](const QStringList &names) {
+                    m_dialogs.askAboutNames(page->output(), names);
+                });
+    }
+    connect(m_converter.get(), &ConverterProxy::editingAsked, this, &MainWindow::editPreset);
+    connect(m_converter.get(), &ConverterProxy::messageAsked, &m_dialogs, &Dialogs::showMessage);
+    connect(m_converter.get(), &ConverterProxy::editorAsked, this,
+            [this](const QString &source, const QString &format) {
+                m_editor->addWithFormat(source, format);
+                window()->setProperty("currentPage", 1);
+            });
+}
+
 void MainWindow::publish()
 {
     m_engine = std::make_unique<QQmlApplicationEngine>(this);
@@ -158,10 +207,11 @@ void MainWindow::publish()
 
 void MainWindow::editPreset(const QVariantMap &info)
 {
-    openDialog(QUrl(QStringLiteral("qrc:/formats/DetailedParameterEditingMsgBox.qml")), info);
+    const DialogFrame *dialog =
+        m_dialogs.open(QStringLiteral("qrc:/formats/DetailedParameterEditingMsgBox.qml"), info);
     const QPointer<QObject> row = info.value(QStringLiteral("closeItem")).value<QObject *>();
     const bool isUserDefined = info.value(QStringLiteral("userDefine")).toBool();
-    connect(m_dialog, &DialogFrame::closed, this, [this, row, isUserDefined](const QString &id) {
+    connect(dialog, &DialogFrame::closed, this, [this, row, isUserDefined](const QString &id) {
         if (id.isEmpty()) {
             return;
         }
@@ -172,10 +222,4 @@ void MainWindow::editPreset(const QVariantMap &info)
             QMetaObject::invokeMethod(row, "colseItem");
         }
     });
-}
-
-void MainWindow::openDialog(const QUrl &content, const QVariantMap &info)
-{
-    delete m_dialog;
-    m_dialog = new DialogFrame(*m_engine, content, info, window());
 }

@@ -2,23 +2,24 @@
 #define WINDOW_MAINWINDOW_H
 
 #include "host/presets/presetstore.h"
-#include "host/window/dialogframe.h"
+#include "host/window/dialogs.h"
 #include "host/window/filechooser.h"
 #include "host/window/notices.h"
 #include "host/window/toolfun.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QQmlApplicationEngine>
 
 #include <memory>
 
+class Appearance;
 class ConverterProxy;
 class DesktopFeedback;
 class EditorProxy;
 class Presets;
 class QueueKeeper;
 class QQuickWindow;
+class WindowPlace;
 class WindowSettings;
 class SingleInstance;
 
@@ -45,7 +46,7 @@ public:
     /*! Null before open(). */
     QQuickWindow *window() const;
     /*! The open dialog; null if there is none. */
-    DialogFrame *dialog() const { return m_dialog; }
+    DialogFrame *dialog() const { return m_dialogs.current(); }
     ConverterProxy &converter() const { return *m_converter; }
     EditorProxy &editor() const { return *m_editor; }
     WindowSettings &settings() const { return *m_settings; }
@@ -54,24 +55,27 @@ private:
     /*! Adds the files to the converter page and raises the window. */
     void present(const QStringList &paths);
     QString configFolder() const;
+    void endEngine();
+    void connectPages();
     void publish();
     void editPreset(const QVariantMap &info);
-    void openDialog(const QUrl &content, const QVariantMap &info);
 
     Notices m_notices{this};
     PresetStore m_store;
     ToolFun m_toolFun{this};
     FileChooser m_files{this};
+    Dialogs m_dialogs{this};
     std::unique_ptr<WindowSettings> m_settings;
+    std::unique_ptr<Appearance> m_appearance;
     std::unique_ptr<Presets> m_presets;
     std::unique_ptr<ConverterProxy> m_converter;
     std::unique_ptr<EditorProxy> m_editor;
     std::unique_ptr<QueueKeeper> m_queue; // of both pages
     std::unique_ptr<SingleInstance> m_instance;
     std::unique_ptr<DesktopFeedback> m_feedback;
-    QPointer<DialogFrame> m_dialog;
-    // Destroyed first, as it uses all of the above.
+    // Destroyed before all of the above, which it uses.
     std::unique_ptr<QQmlApplicationEngine> m_engine;
+    std::unique_ptr<WindowPlace> m_place; // of the engine's window
 };
 
 #endif

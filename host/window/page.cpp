@@ -22,6 +22,14 @@ QString namesOf(const QStringList &paths)
                              : ToolFun::text(QStringLiteral("%1 files")).arg(paths.size());
 }
 
+QStringList pathsOf(const QVector<SourceFile> &files)
+{
+    QStringList paths;
+    std::transform(files.begin(), files.end(), std::back_inserter(paths),
+                   [](const SourceFile &file) { return file.path; });
+    return paths;
+}
+
 } // namespace
 
 Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *parent)
@@ -29,6 +37,7 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     , m_kind(kind)
     , m_settings(settings)
     , m_formats(kind, settings, presets, m_tasks)
+    , m_output(kind, settings, m_tasks, m_formats)
     , m_outlooks(presets, [this](const Task &task) { return jobOf(task); })
     , m_runner(m_tasks, [this](const Task &task) { return jobOf(task); })
     , m_removals(m_tasks, m_inspector, m_runner)
@@ -40,6 +49,13 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     connect(&m_inspector, &Inspector::thumbnailReady, &m_tasks, &TaskList::setThumbnail);
     connect(&m_outlooks, &TaskOutlooks::known, this, &Page::renewOutlooks);
     connect(this, &Page::folderChanged, this, &Page::renewOutlooks);
+    connect(&m_output, &PageOutput::changed, this, &Page::renewOutlooks);
+    connect(&m_output, &PageOutput::answered, &m_runner, &TaskRunner::convert);
+    connect(&m_runner, &TaskRunner::started, &m_logs, &TaskLogs::begin);
+    connect(&m_runner, &TaskRunner::logged, &m_logs, &TaskLogs::add);
+    const auto limitJobs = [this] { m_runner.setMaxRunning(m_settings.jobs()); };
+    connect(&settings, &WindowSettings::jobsChanged, this, limitJobs);
+    limitJobs();
     connect(&m_runner, &TaskRunner::progressed, this, &Page::overallChanged);
     connect(&m_runner, &TaskRunner::pauseChanged, this, &Page::pauseChanged);
     connect(&m_runner, &TaskRunner::started, this, &Page::started);
@@ -94,24 +110,25 @@ void Page::addPaths(const QStringList &paths)
     for (const Task &task : m_tasks.tasks()) {
         present.insert(task.source);
     }
-    const AddedFiles added = AddedFiles::of(paths, present);
+    const AddedFiles added = AddedFiles::of(paths, present, folder());
     for (const QString &line : added.notices) {
         Q_EMIT noticed(line);
     }
     addAll(added.files);
     if (!added.known.isEmpty()) {
-        m_offer.make(
-            ToolFun::text(QStringLiteral("Already in the list: %1")).arg(namesOf(added.known)),
-            ToolFun::text(QStringLiteral("Add again")),
-            [this, known = added.known] { addAll(known); });
+        m_offer.make(ToolFun::text(QStringLiteral("Already in the list: %1"))
+                         .arg(namesOf(pathsOf(added.known))),
+                     ToolFun::text(QStringLiteral("Add again")),
+                     [this, known = added.known] { addAll(known); });
     }
 }
 
-void Page::addAll(const QStringList &paths)
+void Page::addAll(const QVector<SourceFile> &files)
 {
-    for (const QString &path : paths) {
+    for (const SourceFile &file : files) {
         Task task;
-        task.source = path;
+        task.source = file.path;
+        task.subfolder = file.subfolder;
         addTask(task);
     }
 }
@@ -211,17 +228,25 @@ void Page::convertAll()
             ids << task.id;
         }
     }
-    m_runner.convert(ids);
+    start(ids);
+}
+
+void Page::start(const QVector<int> &ids)
+{
+    if (m_output.prepare(ids)) {
+        m_runner.convert(ids);
+    }
 }
 
 ConversionJob Page::jobOf(const Task &task) const
 {
     ConversionJob job;
     job.source = task.source;
+    job.isLogged = true;
     job.settings = m_formats.outputSettings(task);
     job.settings.start = task.start;
     job.settings.end = task.end;
-    job.target.folder = folder();
+    job.target = m_output.targetFor(task);
     return job;
 }
 
@@ -294,7 +319,7 @@ void Page::offerAgain()
                      for (const int id : again) {
                          m_formats.follow(id);
                      }
-                     m_runner.convert(again);
+                     start(again);
                  });
 }
 

@@ -2,9 +2,12 @@
 #define WINDOW_PAGE_H
 
 #include "host/queue/keptqueue.h"
+#include "host/queue/sourcefiles.h"
 #include "host/window/inspector.h"
 #include "host/window/offer.h"
+#include "host/window/pageoutput.h"
 #include "host/window/taskformats.h"
+#include "host/window/tasklogs.h"
 #include "host/window/taskoutlooks.h"
 #include "host/window/taskremovals.h"
 #include "host/window/taskselection.h"
@@ -25,6 +28,8 @@ class Page : public QObject
     Q_PROPERTY(QString globalCaption READ globalCaption NOTIFY globalFormatChanged)
     Q_PROPERTY(QString globalIcon READ globalIcon NOTIFY globalFormatChanged)
     Q_PROPERTY(QString folder READ folderText WRITE setFolder NOTIFY folderChanged)
+    Q_PROPERTY(PageOutput *output READ output CONSTANT)
+    Q_PROPERTY(TaskLogs *logs READ logs CONSTANT)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY queueChanged)
     Q_PROPERTY(bool isPaused READ isPaused NOTIFY pauseChanged)
     Q_PROPERTY(bool canConvert READ canConvert NOTIFY queueChanged)
@@ -37,8 +42,11 @@ public:
     Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *parent = nullptr);
 
     TaskList *tasks() { return &m_tasks; }
+    const TaskList *tasks() const { return &m_tasks; }
     TaskSelection *selection() { return &m_selection; }
     Offer *offer() { return &m_offer; }
+    PageOutput *output() { return &m_output; }
+    TaskLogs *logs() { return &m_logs; }
     QString globalCaption() const { return m_formats.globalCaption(); }
     QString globalIcon() const { return m_formats.globalIcon(); }
     /*! The output folder; empty: beside each source. */
@@ -91,8 +99,8 @@ public:
     /*! Has the thumbnail made, if the file has a picture. Meant for the rows in sight. */
     Q_INVOKABLE void requestThumbnail(int taskId);
 
-    Q_INVOKABLE void convert(int taskId) { m_runner.convert({taskId}); }
-    Q_INVOKABLE void convertChosen(int taskId) { m_runner.convert(m_selection.with(taskId)); }
+    Q_INVOKABLE void convert(int taskId) { start({taskId}); }
+    Q_INVOKABLE void convertChosen(int taskId) { start(m_selection.with(taskId)); }
     /*! Converts all files that aren't converted yet. */
     Q_INVOKABLE void convertAll();
     Q_INVOKABLE void cancel(int taskId) { m_runner.cancel(taskId); }
@@ -136,7 +144,9 @@ protected:
 
 private:
     int addTask(const Task &task);
-    void addAll(const QStringList &paths);
+    void addAll(const QVector<SourceFile> &files);
+    /*! Converts the tasks, unless the user has to be asked about their results' names first. */
+    void start(const QVector<int> &ids);
     void removeTasks(const QVector<int> &ids);
     void takeFacts(int taskId, const Result<MediaFacts> &facts);
     ConversionJob jobOf(const Task &task) const;
@@ -149,6 +159,8 @@ private:
     TaskSelection m_selection{m_tasks};
     Offer m_offer;
     TaskFormats m_formats;
+    PageOutput m_output;
+    TaskLogs m_logs;
     TaskOutlooks m_outlooks;
     int m_outlookVersion = 0;
     Inspector m_inspector;

@@ -2,6 +2,26 @@
 
 #include "host/media/clocktext.h"
 
+void ConverterProxy::openInEditor(int taskId)
+{
+    if (const Task *task = tasks()->find(taskId)) {
+        Q_EMIT editorAsked(task->source, task->format);
+    }
+}
+
+EditorProxy::EditorProxy(WindowSettings &settings, Presets &presets, QObject *parent)
+    : Page(PageKind::Editor, settings, presets, parent)
+{}
+
+void EditorProxy::addWithFormat(const QString &path, const QString &format)
+{
+    const int before = tasks()->count();
+    addPaths({path});
+    if (tasks()->count() > before) {
+        setTaskFormat(tasks()->tasks().constLast().id, format);
+    }
+}
+
 double EditorProxy::secondsOf(const QString &text) const
 {
     return secondsFromClockText(text);
@@ -10,4 +30,24 @@ double EditorProxy::secondsOf(const QString &text) const
 QString EditorProxy::clockOf(double seconds) const
 {
     return exactClockText(seconds);
+}
+
+double EditorProxy::frameSeconds(int taskId) const
+{
+    const Task *task = tasks()->find(taskId);
+    return FrameReader::frameSeconds(task == nullptr ? MediaFacts() : task->facts);
+}
+
+void EditorProxy::requestFrame(int taskId, double seconds)
+{
+    const Task *task = tasks()->find(taskId);
+    if (task == nullptr) {
+        return;
+    }
+    m_frames.disconnect(this);
+    connect(&m_frames, &FrameReader::ready, this,
+            [this, taskId](const QString &, double moment, const QString &url) {
+                Q_EMIT frameReady(taskId, moment, url);
+            });
+    m_frames.request(task->source, task->facts, seconds);
 }

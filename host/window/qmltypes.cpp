@@ -30,12 +30,15 @@ int registerTypes()
 {
     qRegisterMetaType<Outlook>();
     registerSingleton<ExposedToolFun>();
+    registerSingleton<ExposedDialogs>();
     registerSingleton<ExposedFileChooser>();
     registerSingleton<ExposedNotices>();
+    registerSingleton<ExposedAppearance>();
+    registerSingleton<ExposedWindowSettings>();
     registerSingleton<ExposedConverterProxy>();
     registerSingleton<ExposedEditorProxy>();
-    qmlRegisterTypesAndRevisions<ExposedPage, ExposedTaskList, ExposedTaskSelection, ExposedOffer,
-                                 ExposedDialogFrame>(module, 1);
+    qmlRegisterTypesAndRevisions<ExposedPage, ExposedPageOutput, ExposedTaskLogs, ExposedTaskList,
+                                 ExposedTaskSelection, ExposedOffer, ExposedDialogFrame>(module, 1);
     return qmlRegisterUncreatableMetaObject(Task::staticMetaObject, module, 1, 0,
                                             nameOf<ExposedTask>(),
                                             QStringLiteral("holds the states of a task"));

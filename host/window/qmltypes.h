@@ -1,7 +1,8 @@
 #ifndef WINDOW_QMLTYPES_H
 #define WINDOW_QMLTYPES_H
 
-#include "host/window/dialogframe.h"
+#include "host/window/appearance.h"
+#include "host/window/dialogs.h"
 #include "host/window/filechooser.h"
 #include "host/window/notices.h"
 #include "host/window/pageproxies.h"
@@ -23,6 +24,14 @@ struct ExposedToolFun
     QML_SINGLETON
 };
 
+struct ExposedDialogs
+{
+    Q_GADGET
+    QML_FOREIGN(Dialogs)
+    QML_NAMED_ELEMENT(Dialogs)
+    QML_SINGLETON
+};
+
 struct ExposedFileChooser
 {
     Q_GADGET
@@ -36,6 +45,22 @@ struct ExposedNotices
     Q_GADGET
     QML_FOREIGN(Notices)
     QML_NAMED_ELEMENT(Notices)
+    QML_SINGLETON
+};
+
+struct ExposedAppearance
+{
+    Q_GADGET
+    QML_FOREIGN(Appearance)
+    QML_NAMED_ELEMENT(Appearance)
+    QML_SINGLETON
+};
+
+struct ExposedWindowSettings
+{
+    Q_GADGET
+    QML_FOREIGN(WindowSettings)
+    QML_NAMED_ELEMENT(Settings)
     QML_SINGLETON
 };
 
@@ -61,6 +86,20 @@ struct ExposedPage
     QML_FOREIGN(Page)
     QML_NAMED_ELEMENT(PageProxy)
     QML_UNCREATABLE("is one of the two pages")
+};
+
+struct ExposedPageOutput
+{
+    Q_GADGET
+    QML_FOREIGN(PageOutput)
+    QML_ANONYMOUS
+};
+
+struct ExposedTaskLogs
+{
+    Q_GADGET
+    QML_FOREIGN(TaskLogs)
+    QML_ANONYMOUS
 };
 
 struct ExposedTaskList

@@ -45,6 +45,7 @@ KeptTask keptTask(const Task &task)
 {
     KeptTask kept;
     kept.source = task.source;
+    kept.subfolder = task.subfolder;
     kept.ownFormats = task.ownFormats;
     kept.format = task.format;
     kept.formatCaption = task.formatCaption;
@@ -62,6 +63,7 @@ Task restoredTask(const KeptTask &kept)
 {
     Task task;
     task.source = kept.source;
+    task.subfolder = kept.subfolder;
     task.ownFormats = kept.ownFormats;
     task.format = kept.format;
     task.formatCaption = kept.formatCaption;

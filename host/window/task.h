@@ -31,6 +31,7 @@ public:
 
     int id = 0; //!< assigned by TaskList::add(), unique in the process
     QString source;
+    QString subfolder; //!< of the source, below the folder that was added; empty: directly in it
     MediaFacts facts;
     QString thumbnail; //!< URL; empty until there is one
     /*! Ids of the presets chosen for this file, the last choice last; none: it follows the page. */

@@ -67,10 +67,14 @@ void TaskFormats::setOwn(int taskId, const QStringList &ids)
     assign(taskId);
 }
 
+QString TaskFormats::presetId(const Task &task) const
+{
+    return m_presets.usable(task.format, globalId());
+}
+
 OutputSettings TaskFormats::outputSettings(const Task &task) const
 {
-    const std::optional<FoundPreset> preset =
-        m_presets.find(m_presets.usable(task.format, globalId()));
+    const std::optional<FoundPreset> preset = m_presets.find(presetId(task));
     return preset ? preset->outputSettings() : OutputSettings();
 }
 

@@ -30,6 +30,8 @@ public:
     /*! Lets the task follow the page again, unless it is running. */
     void follow(int taskId);
 
+    /*! The id of the preset that the task is converted with. */
+    [[nodiscard]] QString presetId(const Task &task) const;
     /*! The settings of the task's conversion. */
     [[nodiscard]] OutputSettings outputSettings(const Task &task) const;
 

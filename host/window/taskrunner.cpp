@@ -12,6 +12,7 @@ TaskRunner::TaskRunner(TaskList &tasks, const JobMaker &jobOf, QObject *parent)
     , m_jobOf(jobOf)
 {
     connect(&m_queue, &ConversionQueue::progressed, this, &TaskRunner::takeProgress);
+    connect(&m_queue, &ConversionQueue::logged, this, &TaskRunner::logged);
     connect(&m_queue, &ConversionQueue::finished, this, &TaskRunner::takeOutcome);
 }
 
@@ -79,7 +80,9 @@ void TaskRunner::takeOutcome(int id, const Result<ConversionOutcome> &outcome)
         task.error = outcome ? QString() : outcome.error().text;
         task.target = outcome ? outcome->target : QString();
         task.targetBytes = outcome ? outcome->facts.bytes : 0;
-        task.note = outcome ? outcome->notes().join(QStringLiteral("; ")) : QString();
+        task.note = !outcome             ? QString()
+                    : outcome->isSkipped ? ToolFun::text(QStringLiteral("was there already"))
+                                         : outcome->notes().join(QStringLiteral("; "));
     });
     m_converted += outcome ? 1 : 0;
     m_failed += !outcome && !isCancelled ? 1 : 0;

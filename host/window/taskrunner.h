@@ -21,6 +21,8 @@ public:
 
     TaskRunner(TaskList &tasks, const JobMaker &jobOf, QObject *parent = nullptr);
 
+    /*! See ConversionQueue::setMaxRunning(). */
+    void setMaxRunning(int count) { m_queue.setMaxRunning(count); }
     /*! Converts those of the tasks that aren't waiting or running. */
     void convert(const QVector<int> &ids);
     void cancel(int id);
@@ -43,6 +45,8 @@ Q_SIGNALS:
     void progressed();
     void pauseChanged();
     void started(int id);
+    /*! See Conversion::logged(). */
+    void logged(int id, const ToolCall &call, const QString &log);
     /*! No task is left. Tasks that were stopped count as neither. */
     void ended(int converted, int failed);
 

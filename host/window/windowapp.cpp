@@ -7,9 +7,11 @@
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
 #include "host/window/toolfun.h"
+#include "host/window/windowsettings.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QIcon>
 #include <QMessageBox>
 #include <QOpenGLContext>
 #include <QQuickStyle>
@@ -18,6 +20,12 @@
 
 #include <cstdio>
 #include <cstdlib>
+
+/*! A static library's resources need this call, which must not be in a namespace. */
+static void initIcons()
+{
+    Q_INIT_RESOURCE(window);
+}
 
 namespace {
 
@@ -67,6 +75,31 @@ ExitCode refuse(const Error &error)
     return exitCode;
 }
 
+/*! The program's own, as the desktop has it only once it is installed. */
+QIcon windowIcon()
+{
+    initIcons();
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(QStringLiteral(":/window/icon/%1.png").arg(size));
+    }
+    return icon;
+}
+
+/*! The code of the language that is asked for, else of the chosen one, else of the system's. */
+QString languageOf(const WindowOptions &options)
+{
+    const WindowSettings settings(PresetStore::folderAt(options.configFolder) +
+                                  QStringLiteral("/vexconvert.ini"));
+    for (const QString &wanted : {options.language, settings.language()}) {
+        const QString language = Languages::suiting(wanted);
+        if (!language.isEmpty()) {
+            return language;
+        }
+    }
+    return Languages::ofSystem();
+}
+
 ExitCode showWindow(const WindowOptions &options)
 {
     Interrupt interrupt; // catches signals until everything is shut down
@@ -110,7 +143,9 @@ int runWindow(int &argc, char **argv, const WindowOptions &options)
     qInstallMessageHandler(usual);
     drawWithWhatThereIs();
 
-    Languages::install(options.language.isEmpty() ? Languages::ofSystem()
-                                                  : Languages::suiting(options.language));
+    QGuiApplication::setDesktopFileName(QStringLiteral("vexconvert"));
+    QGuiApplication::setWindowIcon(windowIcon());
+
+    Languages::install(languageOf(options));
     return showWindow(options);
 }

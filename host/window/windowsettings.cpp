@@ -15,6 +15,18 @@ QString lastKey(bool hasVideo)
     return hasVideo ? QStringLiteral("lastVideoId") : QStringLiteral("lastAudioId");
 }
 
+/*! The file's words for WindowSettings::IfInUse, in its order. */
+QStringList ifInUseWords()
+{
+    return {QStringLiteral("rename"), QStringLiteral("ask"), QStringLiteral("skip"),
+            QStringLiteral("overwrite")};
+}
+
+QStringList themeWords()
+{
+    return {QStringLiteral("system"), QStringLiteral("light"), QStringLiteral("dark")};
+}
+
 } // namespace
 
 WindowSettings::WindowSettings(const QString &path, QObject *parent)
@@ -24,7 +36,9 @@ WindowSettings::WindowSettings(const QString &path, QObject *parent)
 
 QString WindowSettings::globalId(PageKind page) const
 {
-    return m_file.value(key(page, "globalId"), defaultPresetId()).toString();
+    return m_standIns.contains(page)
+               ? m_standIns.value(page)
+               : m_file.value(key(page, "globalId"), defaultPresetId()).toString();
 }
 
 void WindowSettings::setGlobalId(PageKind page, const QString &id)
@@ -32,8 +46,8 @@ void WindowSettings::setGlobalId(PageKind page, const QString &id)
     if (id == globalId(page)) {
         return;
     }
-    m_file.setValue(key(page, "globalId"), id);
-    m_file.sync();
+    m_standIns.remove(page);
+    write(key(page, "globalId"), id);
     if (page == PageKind::Converter) {
         Q_EMIT converterGlobalIdChanged();
     } else {
@@ -62,6 +76,113 @@ QString WindowSettings::folder(PageKind page) const
 
 void WindowSettings::setFolder(PageKind page, const QString &folder)
 {
-    m_file.setValue(key(page, "folder"), folder);
+    write(key(page, "folder"), folder);
+}
+
+QString WindowSettings::nameTemplate(PageKind page) const
+{
+    return m_file.value(key(page, "names")).toString();
+}
+
+void WindowSettings::setNameTemplate(PageKind page, const QString &nameTemplate)
+{
+    write(key(page, "names"), nameTemplate);
+}
+
+WindowSettings::IfInUse WindowSettings::ifInUse(PageKind page) const
+{
+    const int known = ifInUseWords().indexOf(m_file.value(key(page, "ifExists")).toString());
+    return known < 0 ? Rename : IfInUse(known);
+}
+
+void WindowSettings::setIfInUse(PageKind page, IfInUse ifInUse)
+{
+    write(key(page, "ifExists"), ifInUseWords().at(int(ifInUse)));
+}
+
+bool WindowSettings::keepsTree(PageKind page) const
+{
+    return m_file.value(key(page, "keepTree"), true).toBool();
+}
+
+void WindowSettings::setKeepsTree(PageKind page, bool keepsTree)
+{
+    write(key(page, "keepTree"), keepsTree);
+}
+
+WindowSettings::ThemeChoice WindowSettings::theme() const
+{
+    const int known = themeWords().indexOf(m_file.value(QStringLiteral("theme")).toString());
+    return known < 0 ? SystemTheme : ThemeChoice(known);
+}
+
+void WindowSettings::setTheme(ThemeChoice theme)
+{
+    write(QStringLiteral("theme"), themeWords().at(theme));
+    Q_EMIT themeChanged();
+}
+
+bool WindowSettings::isStill() const
+{
+    return m_file.value(QStringLiteral("still"), false).toBool();
+}
+
+void WindowSettings::setStill(bool isStill)
+{
+    write(QStringLiteral("still"), isStill);
+    Q_EMIT stillChanged();
+}
+
+QString WindowSettings::language() const
+{
+    return m_file.value(QStringLiteral("language")).toString();
+}
+
+void WindowSettings::setLanguage(const QString &language)
+{
+    write(QStringLiteral("language"), language);
+    Q_EMIT languageChanged();
+}
+
+int WindowSettings::jobs() const
+{
+    return m_file.value(QStringLiteral("jobs"), 0).toInt();
+}
+
+void WindowSettings::setJobs(int jobs)
+{
+    write(QStringLiteral("jobs"), jobs);
+    Q_EMIT jobsChanged();
+}
+
+QString WindowSettings::lastFolder() const
+{
+    return m_file.value(QStringLiteral("lastFolder")).toString();
+}
+
+void WindowSettings::setLastFolder(const QString &folder)
+{
+    write(QStringLiteral("lastFolder"), folder);
+}
+
+QRect WindowSettings::place() const
+{
+    return m_file.value(QStringLiteral("window/place")).toRect();
+}
+
+bool WindowSettings::isMaximised() const
+{
+    return m_file.value(QStringLiteral("window/maximised")).toBool();
+}
+
+void WindowSettings::setPlace(const QRect &place, bool isMaximised)
+{
+    m_file.setValue(QStringLiteral("window/place"), place);
+    write(QStringLiteral("window/maximised"), isMaximised);
+}
+
+void WindowSettings::write(const QString &key, const QVariant &value)
+{
+    m_file.setValue(key, value);
     m_file.sync();
 }

@@ -1,7 +1,9 @@
 #ifndef WINDOW_WINDOWSETTINGS_H
 #define WINDOW_WINDOWSETTINGS_H
 
+#include <QMap>
 #include <QObject>
+#include <QRect>
 #include <QSettings>
 #include <QString>
 
@@ -15,14 +17,33 @@ class WindowSettings : public QObject
                    converterGlobalIdChanged)
     Q_PROPERTY(QString editorGlobalId READ editorGlobalId WRITE setEditorGlobalId NOTIFY
                    editorGlobalIdChanged)
+    Q_PROPERTY(ThemeChoice theme READ theme WRITE setTheme NOTIFY themeChanged)
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
+    Q_PROPERTY(int jobs READ jobs WRITE setJobs NOTIFY jobsChanged)
+    Q_PROPERTY(bool isStill READ isStill WRITE setStill NOTIFY stillChanged)
 
 public:
+    /*! What happens if a result's name is in use. */
+    enum IfInUse {
+        Rename, //!< the result gets " (2)", " (3)" ...
+        Ask,
+        Skip, //!< nothing is converted
+        Overwrite
+    };
+    Q_ENUM(IfInUse)
+
+    enum ThemeChoice { SystemTheme, LightTheme, DarkTheme };
+    Q_ENUM(ThemeChoice)
+
     /*! \a path is the ini file. */
     explicit WindowSettings(const QString &path, QObject *parent = nullptr);
 
     /*! The page's preset, for tasks without one of their own. */
     QString globalId(PageKind page) const;
     void setGlobalId(PageKind page, const QString &id);
+    /*! Takes the place of a preset that this catalogue lacks until another is chosen. Not kept, as
+     *  the next start may find the preset. */
+    void standIn(PageKind page, const QString &id) { m_standIns.insert(page, id); }
     /*! The page's output folder; empty: beside each source. */
     QString folder(PageKind page) const;
     void setFolder(PageKind page, const QString &folder);
@@ -30,6 +51,35 @@ public:
     /*! The preset chosen last of those for video, or of those for audio alone. */
     QString lastId(bool hasVideo) const;
     void setLastId(bool hasVideo, const QString &id);
+
+    /*! The names of the page's results, with nameFields(); empty: the source's. */
+    QString nameTemplate(PageKind page) const;
+    void setNameTemplate(PageKind page, const QString &nameTemplate);
+    IfInUse ifInUse(PageKind page) const;
+    void setIfInUse(PageKind page, IfInUse ifInUse);
+    /*! Whether the page's output folder gets the subfolders of an added folder. */
+    bool keepsTree(PageKind page) const;
+    void setKeepsTree(PageKind page, bool keepsTree);
+
+    ThemeChoice theme() const;
+    void setTheme(ThemeChoice theme);
+    /*! Whether nothing moves by itself, whatever the desktop says. */
+    bool isStill() const;
+    void setStill(bool isStill);
+
+    /*! The code of the window's language; empty: the system's. */
+    QString language() const;
+    void setLanguage(const QString &language);
+    /*! How many files each page converts at a time; 0: as many as suit the machine. */
+    int jobs() const;
+    void setJobs(int jobs);
+    /*! The folder that files were last added from. */
+    QString lastFolder() const;
+    void setLastFolder(const QString &folder);
+    /*! Where the window was, not maximised; null before the first time. */
+    QRect place() const;
+    bool isMaximised() const;
+    void setPlace(const QRect &place, bool isMaximised);
 
     QString converterGlobalId() const { return globalId(PageKind::Converter); }
     void setConverterGlobalId(const QString &id) { setGlobalId(PageKind::Converter, id); }
@@ -39,9 +89,16 @@ public:
 Q_SIGNALS:
     void converterGlobalIdChanged();
     void editorGlobalIdChanged();
+    void themeChanged();
+    void stillChanged();
+    void languageChanged();
+    void jobsChanged();
 
 private:
+    void write(const QString &key, const QVariant &value);
+
     QSettings m_file;
+    QMap<PageKind, QString> m_standIns;
 };
 
 #endif

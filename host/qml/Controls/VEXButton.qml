@@ -7,6 +7,8 @@ import VexTheme 1.0
 T.Button {
     id: root
 
+    readonly property ThemeColours theme: Theme.around(root)
+
     property bool primary: false
     property int minWidth: 88
 
@@ -30,27 +32,27 @@ T.Button {
         verticalAlignment: Text.AlignVCenter
         font.pixelSize: root.font.pixelSize
         font.weight: root.primary ? Font.DemiBold : Font.Normal
-        color: !root.enabled ? Theme.font_color_disabled
-                             : root.primary ? Theme.onAccent : Theme.font_color_grade1
+        color: !root.enabled ? root.theme.font_color_disabled
+                             : root.primary ? root.theme.onAccent : root.theme.font_color_grade1
     }
 
     background: Rectangle {
         radius: Theme.radius_1
         border.width: root.primary ? 0 : 1
-        border.color: !root.enabled ? Theme.rule
-                                    : root.hovered ? Theme.font_color_grade3
-                                                   : Theme.frame
+        border.color: !root.enabled ? root.theme.rule
+                                    : root.hovered ? root.theme.font_color_grade3
+                                                   : root.theme.frame
         color: {
             if (!root.enabled) {
-                return Theme.secondary_gradeTone4
+                return root.theme.secondary_gradeTone4
             }
             if (root.primary) {
-                return root.down ? Theme.accentPressed
-                                 : root.hovered ? Theme.accentHover
-                                                : Theme.font_color_grade3
+                return root.down ? root.theme.accentPressed
+                                 : root.hovered ? root.theme.accentHover
+                                                : root.theme.font_color_grade3
             }
-            return root.down ? Theme.pressed
-                             : root.hovered ? Theme.hover : Theme.basics_gradeTone1
+            return root.down ? root.theme.pressed
+                             : root.hovered ? root.theme.hover : root.theme.basics_gradeTone1
         }
 
         VEXFocusFrame {

@@ -7,6 +7,7 @@ import VexTheme 1.0
 T.ComboBox {
     id: root
 
+    readonly property ThemeColours theme: Theme.around(root)
 
     function transText(text) {
         return String(text)
@@ -33,7 +34,7 @@ T.ComboBox {
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
         font: root.font
-        color: root.enabled ? Theme.font_color_grade2 : Theme.font_color_disabled
+        color: root.enabled ? root.theme.font_color_grade2 : root.theme.font_color_disabled
     }
 
     indicator: VEXIcon {
@@ -48,11 +49,11 @@ T.ComboBox {
     background: Rectangle {
         radius: Theme.radius_1
         border.width: 1
-        border.color: !root.enabled ? Theme.rule
+        border.color: !root.enabled ? root.theme.rule
                                     : root.hovered || root.popup.visible
-                                      ? Theme.font_color_grade3 : Theme.frame
-        color: !root.enabled ? Theme.secondary_gradeTone4
-                             : root.down ? Theme.hover : Theme.basics_gradeTone1
+                                      ? root.theme.font_color_grade3 : root.theme.frame
+        color: !root.enabled ? root.theme.secondary_gradeTone4
+                             : root.down ? root.theme.hover : root.theme.basics_gradeTone1
 
         VEXFocusFrame {
             visible: root.visualFocus
@@ -82,12 +83,12 @@ T.ComboBox {
             elide: Text.ElideRight
             verticalAlignment: Text.AlignVCenter
             font.pixelSize: root.font.pixelSize
-            color: root.currentIndex === entry.index ? Theme.font_color_grade3
-                                                     : Theme.font_color_grade2
+            color: root.currentIndex === entry.index ? root.theme.accentText
+                                                     : root.theme.font_color_grade2
         }
 
         background: Rectangle {
-            color: entry.highlighted ? Theme.basics_gradeTone7 : Theme.basics_gradeTone1
+            color: entry.highlighted ? root.theme.basics_gradeTone7 : root.theme.basics_gradeTone1
         }
     }
 
@@ -105,14 +106,16 @@ T.ComboBox {
             currentIndex: root.highlightedIndex
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: 0
-            T.ScrollBar.vertical: VEXScrollBar {}
+            T.ScrollBar.vertical: VEXScrollBar {
+                theme: root.theme
+            }
         }
 
         background: Rectangle {
             radius: Theme.radius_1
             border.width: 1
-            border.color: Theme.frame
-            color: Theme.basics_gradeTone1
+            border.color: root.theme.frame
+            color: root.theme.basics_gradeTone1
         }
     }
 }

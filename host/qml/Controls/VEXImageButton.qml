@@ -7,6 +7,8 @@ import VexTheme 1.0
 T.AbstractButton {
     id: root
 
+    readonly property ThemeColours theme: Theme.around(root)
+
     /*! As AbstractButton.display. */
     property int mode: T.AbstractButton.IconOnly
     property int iconSize: Theme.smallIcon
@@ -35,7 +37,7 @@ T.AbstractButton {
             anchors.fill: parent
             anchors.margins: -Math.max(0, Math.min(4, (24 - root.width) / 2))
             radius: Theme.radius_1
-            color: root.down ? Theme.secondary_gradeTone3 : Theme.accentPale
+            color: root.down ? root.theme.secondary_gradeTone3 : root.theme.accentPale
             visible: root.enabled && (root.hovered || root.down)
         }
 

@@ -20,7 +20,7 @@ T.ProgressBar {
         visible: piece.bar.indeterminate || piece.bar.visualPosition > 0
 
         NumberAnimation on x {
-            running: piece.bar.indeterminate && piece.bar.visible
+            running: piece.bar.indeterminate && piece.bar.visible && Theme.isMoving
             from: -piece.width
             to: piece.bar.width
             duration: 1400

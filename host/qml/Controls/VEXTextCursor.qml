@@ -5,6 +5,8 @@ import VexTheme 1.0
 Item {
     id: root
 
+    readonly property ThemeColours theme: Theme.around(root)
+
     required property bool blinks
     property int shownWidth: 1
     property int shownHeight: 0
@@ -18,7 +20,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: root.shownWidth
         height: root.shownHeight > 0 ? root.shownHeight : parent.height
-        color: Theme.font_color_grade3
+        color: root.theme.font_color_grade3
     }
 
     Timer {

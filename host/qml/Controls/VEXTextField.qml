@@ -6,6 +6,8 @@ import VexTheme 1.0
 T.TextField {
     id: root
 
+    readonly property ThemeColours theme: Theme.around(root)
+
     /*! Whether the cursor is 1 wide and 15 high, instead of as high as the line. */
     property bool isCostomCursor: false
 
@@ -15,11 +17,11 @@ T.TextField {
     rightPadding: 4
     verticalAlignment: Text.AlignVCenter
     font.pixelSize: Theme.text
-    color: Theme.font_color_grade1
-    placeholderTextColor: Theme.font_color_disabled
+    color: root.theme.font_color_grade1
+    placeholderTextColor: root.theme.font_color_grade4
     selectByMouse: true
-    selectionColor: Theme.font_color_grade3
-    selectedTextColor: Theme.onAccent
+    selectionColor: root.theme.font_color_grade3
+    selectedTextColor: root.theme.onAccent
     Accessible.role: Accessible.EditableText
 
     cursorDelegate: VEXTextCursor {

@@ -5,6 +5,8 @@ import VexTheme 1.0
 TextInput {
     id: root
 
+    readonly property ThemeColours theme: Theme.around(root)
+
     property bool isSearch: false
     /*! Whether the cursor has the size that follows, instead of the usual one. */
     property bool isCostomCursor: false
@@ -12,8 +14,8 @@ TextInput {
     property int cursorHeight: 15
 
     selectByMouse: true
-    selectionColor: Theme.font_color_grade3
-    selectedTextColor: Theme.onAccent
+    selectionColor: root.theme.font_color_grade3
+    selectedTextColor: root.theme.onAccent
     inputMethodHints: root.isSearch ? Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase : Qt.ImhNone
     onActiveFocusChanged: {
         if (!root.activeFocus) {

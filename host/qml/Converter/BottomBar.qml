@@ -21,6 +21,8 @@ Rectangle {
                            : path.slice(path.lastIndexOf("/") + 1)
     }
 
+    readonly property bool isNarrow: root.width < 960
+
     implicitHeight: 72
     color: Theme.basics_gradeTone1
 
@@ -42,7 +44,7 @@ Rectangle {
         VEXLabel {
             width: root.formatLabelWidth
             height: parent.height
-            text: root.formatLabel + ":"
+            text: ToolFun.tr("%1:").arg(root.formatLabel)
             font.pixelSize: Theme.smallText
             color: Theme.font_color_grade4
         }
@@ -50,7 +52,7 @@ Rectangle {
         VEXFormatButton {
             id: formatButton
 
-            width: 220
+            width: root.isNarrow ? 190 : 220
             purpose: root.formatLabel
             text: root.page.globalCaption
             iconSource: root.page.globalIcon
@@ -66,7 +68,8 @@ Rectangle {
             leftMargin: Theme.wideMargin
             verticalCenter: parent.verticalCenter
         }
-        text: ToolFun.tr("Save to") + ":"
+        visible: !root.isNarrow
+        text: ToolFun.tr("%1:").arg(ToolFun.tr("Save to"))
         font.pixelSize: Theme.smallText
         color: Theme.font_color_grade4
     }
@@ -75,12 +78,15 @@ Rectangle {
         id: folderButton
 
         anchors {
-            left: folderLabel.right
-            leftMargin: 12
-            right: besideButton.visible ? besideButton.left : convertButton.left
-            rightMargin: besideButton.visible ? Theme.spacing : Theme.wideMargin
+            left: root.isNarrow ? format.right : folderLabel.right
+            leftMargin: root.isNarrow ? Theme.wideMargin : 12
             verticalCenter: parent.verticalCenter
         }
+        width: Math.min(320, root.width - x - buttons.width - convertButton.width
+                             - Theme.spacing - 2 * Theme.wideMargin)
+        minWidth: 0
+        leftPadding: Theme.spacing
+        rightPadding: Theme.spacing
         text: root.folderName(root.page.folder)
         Accessible.name: folderLabel.text + " " + folderButton.text
         onClicked: FileChooser.chooseFolder(root.page)
@@ -91,20 +97,44 @@ Rectangle {
         }
     }
 
-    VEXImageButton {
-        id: besideButton
+    Row {
+        id: buttons
 
         anchors {
-            right: convertButton.left
-            rightMargin: Theme.wideMargin
+            left: folderButton.right
+            leftMargin: Theme.spacing
             verticalCenter: parent.verticalCenter
         }
-        width: 24
-        height: 24
-        visible: root.page.folder !== ""
-        iconSource: "qrc:/window/images/close.svg"
-        Accessible.name: ToolFun.tr("Same folder as the source")
-        onClicked: root.page.folder = ""
+        spacing: Theme.spacing
+
+        VEXImageButton {
+            width: 24
+            height: 24
+            visible: root.page.folder !== ""
+            iconSource: "qrc:/window/images/close.svg"
+            Accessible.name: ToolFun.tr("Same folder as the source")
+            onClicked: root.page.folder = ""
+        }
+
+        VEXImageButton {
+            id: namesButton
+
+            width: 24
+            height: 24
+            iconSize: 20
+            iconSource: "qrc:/window/images/names.svg"
+            Accessible.name: ToolFun.tr("Names of the results")
+            onClicked: panel.open()
+
+            OutputPanel {
+                id: panel
+
+                objectName: "outputPanel"
+                x: (namesButton.width - width) / 2
+                y: -height - Theme.margin
+                page: root.page
+            }
+        }
     }
 
     VEXButton {

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import Controls 1.0
 import VexTheme 1.0
 import VexWindow 1.0
 
@@ -13,24 +12,22 @@ Row {
     required property real end
     required property bool inTabOrder
 
+    readonly property real shortest: 0.01
     readonly property real shownEnd: root.end > 0 ? root.end : root.seconds
 
     function keep(start, end) {
-        if (start >= 0 && end <= root.seconds && end - start >= 0.01) {
-            EditorProxy.cut(root.taskId, start, end === root.seconds ? 0 : end)
-        }
-        root.moveHandles()
+        EditorProxy.cut(root.taskId, start, end >= root.seconds ? 0 : end)
     }
 
-    // The handles' values have to lie within the slider's ends at every moment.
-    function moveHandles() {
-        slider.to = Math.max(0.01, root.seconds)
-        slider.setValues(root.start, root.shownEnd)
+    function moveStart(seconds) {
+        root.keep(Math.max(0, Math.min(seconds, root.shownEnd - root.shortest)), root.shownEnd)
     }
 
-    onStartChanged: root.moveHandles()
-    onShownEndChanged: root.moveHandles()
-    Component.onCompleted: root.moveHandles()
+    function moveEnd(seconds) {
+        root.keep(root.start, Math.max(root.start + root.shortest,
+                                       Math.min(seconds, root.seconds)))
+    }
+
     spacing: Theme.spacing
     enabled: root.seconds > 0
 
@@ -39,22 +36,23 @@ Row {
 
         anchors.verticalCenter: parent.verticalCenter
         inTabOrder: root.inTabOrder
-        name: ToolFun.tr("Start")
+        purpose: ToolFun.tr("Start")
         value: root.start
-        onAsked: function (seconds) { root.keep(seconds, root.shownEnd) }
+        least: 0
+        most: root.shownEnd - root.shortest
+        onAsked: function (seconds) { root.moveStart(seconds) }
     }
 
-    VEXRangeSlider {
-        id: slider
-
+    TimeLine {
         anchors.verticalCenter: parent.verticalCenter
         width: root.width - startMoment.width - endMoment.width - 2 * root.spacing
-        focusPolicy: root.inTabOrder ? Qt.StrongFocus : Qt.ClickFocus
-        firstName: ToolFun.tr("Start")
-        secondName: ToolFun.tr("End")
-        stepSize: root.seconds / 100
-        first.onMoved: root.keep(slider.first.value, root.shownEnd)
-        second.onMoved: root.keep(root.start, slider.second.value)
+        taskId: root.taskId
+        seconds: root.seconds
+        start: root.start
+        end: root.shownEnd
+        inTabOrder: root.inTabOrder
+        onStartMoved: function (seconds) { root.moveStart(seconds) }
+        onEndMoved: function (seconds) { root.moveEnd(seconds) }
     }
 
     CutMoment {
@@ -62,8 +60,10 @@ Row {
 
         anchors.verticalCenter: parent.verticalCenter
         inTabOrder: root.inTabOrder
-        name: ToolFun.tr("End")
+        purpose: ToolFun.tr("End")
         value: root.shownEnd
-        onAsked: function (seconds) { root.keep(root.start, seconds) }
+        least: root.start + root.shortest
+        most: root.seconds
+        onAsked: function (seconds) { root.moveEnd(seconds) }
     }
 }

@@ -1,49 +1,72 @@
 import QtQuick 2.15
 import Controls 1.0
+import Public 1.0
 import VexTheme 1.0
 import VexWindow 1.0
 
-/*! A moment to type in: one end of the part that is kept. */
-Rectangle {
+/*! A moment to type in: one end of the part that is kept, between \a least and \a most seconds. */
+VEXLineField {
     id: root
 
-    required property string name
     required property real value
+    required property real least
+    required property real most
     required property bool inTabOrder
+
+    /*! What is wrong with the text; empty if nothing is. */
+    property string mistake: ""
 
     signal asked(real seconds)
 
     function show() {
-        field.text = EditorProxy.clockOf(root.value)
+        root.mistake = ""
+        root.text = EditorProxy.clockOf(root.value)
     }
 
     function take() {
-        const typed = EditorProxy.secondsOf(field.text)
-        if (typed >= 0 && typed !== root.value) {
-            root.asked(typed)
+        const typed = EditorProxy.secondsOf(root.text)
+        root.mistake = root.mistakeIn(typed)
+        if (root.mistake === "") {
+            if (typed !== root.value) {
+                root.asked(typed)
+            }
+            root.show()
         }
-        root.show()
     }
 
-    width: 84
+    function mistakeIn(seconds) {
+        if (seconds < 0) {
+            return ToolFun.tr("Write a time such as 1:02:03.5")
+        }
+        if (seconds < root.least) {
+            return ToolFun.tr("%1 is the earliest possible time").arg(
+                        EditorProxy.clockOf(root.least))
+        }
+        return seconds > root.most
+                ? ToolFun.tr("%1 is the latest possible time").arg(EditorProxy.clockOf(root.most))
+                : ""
+    }
+
+    width: 104
     height: 28
-    radius: Theme.radius_1
-    border.width: 1
-    border.color: field.activeFocus ? Theme.font_color_grade3
-                                    : Theme.frame
-    opacity: root.enabled ? 1 : 0.5
+    wrong: root.mistake !== ""
+    remark: root.mistake
+    field.horizontalAlignment: Text.AlignHCenter
+    field.activeFocusOnTab: root.inTabOrder || field.activeFocus
     onValueChanged: root.show()
     Component.onCompleted: root.show()
 
-    VEXTextField {
-        id: field
+    Connections {
+        target: root.field
+        function onEditingFinished() { root.take() }
+        function onTextEdited() { root.mistake = "" }
+    }
 
-        anchors.fill: parent
-        horizontalAlignment: Text.AlignHCenter
-        font.pixelSize: Theme.smallText
-        activeFocusOnTab: root.inTabOrder || activeFocus
-        Accessible.name: root.name
-        onEditingFinished: root.take()
-        Keys.onEscapePressed: root.show()
+    Keys.onEscapePressed: root.show()
+
+    VEXHint {
+        shown: root.wrong
+        delay: 0
+        text: root.mistake
     }
 }

@@ -54,7 +54,7 @@ Row {
                 verticalAlignment: Text.AlignVCenter
                 font.pixelSize: Theme.mediumText
                 font.weight: Font.DemiBold
-                color: tab.isCurrent ? Theme.font_color_grade3
+                color: tab.isCurrent ? Theme.accentText
                                      : Theme.font_color_grade2
             }
 

@@ -53,11 +53,27 @@ Row {
     }
 
     Action {
+        visible: root.taskState === Task.Ready && root.page === ConverterProxy
+        inTabOrder: root.inTabOrder
+        iconSource: "qrc:/window/images/edit.svg"
+        Accessible.name: ToolFun.tr("Cut in the editor")
+        onClicked: ConverterProxy.openInEditor(root.taskId)
+    }
+
+    Action {
         visible: root.canRetry
         inTabOrder: root.inTabOrder
         iconSource: "qrc:/window/images/retry.svg"
         Accessible.name: ToolFun.tr("Try again")
         onClicked: root.page.convert(root.taskId)
+    }
+
+    Action {
+        visible: root.taskState === Task.Failed
+        inTabOrder: root.inTabOrder
+        iconSource: "qrc:/window/images/log.svg"
+        Accessible.name: ToolFun.tr("Show log")
+        onClicked: root.page.logs.show(root.taskId)
     }
 
     Action {

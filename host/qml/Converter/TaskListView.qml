@@ -73,7 +73,7 @@ ListView {
     model: root.page.tasks
     boundsBehavior: Flickable.StopAtBounds
     flickDeceleration: 3000
-    highlightMoveDuration: 120
+    highlightMoveDuration: Theme.isMoving ? 120 : 0
     Accessible.role: Accessible.List
     Accessible.name: ToolFun.tr("Files")
     Keys.onPressed: function (event) {

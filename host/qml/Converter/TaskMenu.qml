@@ -41,6 +41,19 @@ StyledMenu {
     }
 
     MenuEntry {
+        visible: root.page === ConverterProxy
+        enabled: root.taskState !== Task.Reading
+        text: ToolFun.tr("Cut in the editor")
+        onTriggered: ConverterProxy.openInEditor(root.taskId)
+    }
+
+    MenuEntry {
+        enabled: root.taskState !== Task.Reading && !root.isQueued
+        text: ToolFun.tr("Show log")
+        onTriggered: root.page.logs.show(root.taskId)
+    }
+
+    MenuEntry {
         enabled: root.taskState !== Task.Running
         text: ToolFun.tr("Choose a format …")
         shortcutText: ToolFun.tr("Enter")

@@ -4,11 +4,15 @@ import VexWindow 1.0
 
 /*! The framed ground of a dialog. */
 Rectangle {
+    id: root
+
     /*! The window that the dialog is shown in. */
     required property DialogFrame frame
+    /*! Which its controls have, too. */
+    readonly property ThemeColours theme: root.frame.isLight ? Theme.light : Theme
 
-    color: Theme.basics_gradeTone1
+    color: root.theme.basics_gradeTone1
     radius: Theme.radius_2
     border.width: 1
-    border.color: Theme.frame
+    border.color: root.theme.frame
 }

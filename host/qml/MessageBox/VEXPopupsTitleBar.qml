@@ -30,6 +30,7 @@ Item {
         text: root.text
         font.pixelSize: Theme.mediumText
         font.weight: Font.DemiBold
+        color: root.control.theme.font_color_grade1
     }
 
     VEXImageButton {
@@ -53,6 +54,6 @@ Item {
         x: 1
         width: root.width - 2
         height: 1
-        color: Theme.rule
+        color: root.control.theme.rule
     }
 }

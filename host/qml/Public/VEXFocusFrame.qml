@@ -5,6 +5,8 @@ import VexTheme 1.0
 Rectangle {
     id: root
 
+    readonly property ThemeColours theme: Theme.around(root)
+
     property int controlRadius: Theme.radius_1
     readonly property int gap: 3
 
@@ -13,6 +15,6 @@ Rectangle {
     color: "transparent"
     radius: root.controlRadius + root.gap
     border.width: 2
-    border.color: Theme.font_color_grade3
+    border.color: root.theme.font_color_grade3
     opacity: 0.6
 }

@@ -5,6 +5,8 @@ import VexTheme 1.0
 Text {
     textFormat: Text.PlainText
     elide: Text.ElideRight
+    // A name in Arabic or Hebrew stays where the others begin, with its details.
+    horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
     color: Theme.font_color_grade1
     font.pixelSize: Theme.text

@@ -5,6 +5,8 @@ import VexTheme 1.0
 ScrollBar {
     id: root
 
+    property ThemeColours theme: Theme
+
     policy: root.size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
     padding: 2
     minimumSize: 0.08
@@ -13,7 +15,7 @@ ScrollBar {
         implicitWidth: 6
         implicitHeight: 6
         radius: 3
-        color: Theme.font_color_grade4
+        color: root.theme.font_color_grade4
         opacity: root.pressed ? 0.7 : root.hovered ? 0.5 : 0.3
     }
 }

@@ -5,8 +5,6 @@
 #include "formats/models/formatlistmodel.h"
 #include "formats/proxy/formatsproxy.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -16,7 +14,6 @@ class TestMediaFiles : public QObject
 
 private Q_SLOTS:
     void filesThatPresetsWriteAreMedia();
-    void onlyTheFoldersOwnMediaFilesAreListedByName();
 };
 
 void TestMediaFiles::filesThatPresetsWriteAreMedia()
@@ -38,18 +35,6 @@ void TestMediaFiles::filesThatPresetsWriteAreMedia()
         }
     }
     QCOMPARE(unknown, QStringList());
-}
-
-void TestMediaFiles::onlyTheFoldersOwnMediaFilesAreListedByName()
-{
-    QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("more.mp4")));
-    for (const char *name : {"b.wav", "A.MTS", "note.txt", "mp3", "more.mp4/c.mp3"}) {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    QCOMPARE(mediaFilesIn(folder.path()), QStringList({folder.filePath(QStringLiteral("A.MTS")),
-                                                       folder.filePath(QStringLiteral("b.wav"))}));
 }
 
 QTEST_GUILESS_MAIN(TestMediaFiles)

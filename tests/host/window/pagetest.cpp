@@ -31,6 +31,9 @@ void PageTest::cleanup()
     m_editor.reset();
     m_files.reset();
     m_settings->setFolder(PageKind::Converter, QString());
+    m_settings->setNameTemplate(PageKind::Converter, QString());
+    m_settings->setIfInUse(PageKind::Converter, WindowSettings::Rename);
+    m_settings->setKeepsTree(PageKind::Converter, true);
 }
 
 QUrl PageTest::song(const QString &name)

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void aResultIsShownInTheFileManager();
     void aPresetInUseIsNotDeleted();
     void closingWhileConvertingAsks();
+    void atItsSmallestNothingIsCutOff();
     void closingTheWindowStopsItsConversion();
 
 private:
@@ -253,6 +254,28 @@ void TestMainWindow::closingWhileConvertingAsks()
     QTRY_VERIFY_WITH_TIMEOUT(!m_main->converter().isBusy(), patience);
     m_window->close();
     QVERIFY(!m_window->isVisible());
+}
+
+void TestMainWindow::atItsSmallestNothingIsCutOff()
+{
+    QCOMPARE(m_window->minimumSize(), QSize(760, 480));
+    m_window->resize(m_window->minimumSize());
+    m_main->converter().setFolder(m_files->path());
+    for (const char *name : {"Add folder", "Add files", "Preferences", "Names of the results",
+                             "Same folder as the source", "Convert All"}) {
+        QTRY_VERIFY2(!itemsNamed(m_window->contentItem(), QString::fromLatin1(name)).isEmpty(),
+                     name);
+    }
+    const auto placeOf = [this](const char *name) {
+        const auto *button =
+            itemsNamed(m_window->contentItem(), QString::fromLatin1(name)).value(0);
+        return button->mapRectToScene({0, 0, button->width(), button->height()}).toAlignedRect();
+    };
+    const QRect names = placeOf("Names of the results");
+    QVERIFY(!names.intersects(placeOf("Convert All")));
+    QVERIFY(!names.intersects(placeOf("Same folder as the source")));
+    QVERIFY(placeOf("Same folder as the source").left() > 400); // room for the folder's name
+    m_main->converter().setFolder({});
 }
 
 void TestMainWindow::closingTheWindowStopsItsConversion()

@@ -14,11 +14,8 @@ QStringList warnings;
 
 void keepWarning(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    // Qt goes on counting a row that a list gave up while it was made ahead, as when a search
-    // changes the list on a slow machine.
-    const bool isMiscount = text.contains(QStringLiteral("in the process of being created"));
     const bool isLackOfScreen = text.startsWith(QStringLiteral("This plugin does not support"));
-    if (type != QtDebugMsg && type != QtInfoMsg && !isMiscount && !isLackOfScreen) {
+    if (type != QtDebugMsg && type != QtInfoMsg && !isLackOfScreen) {
         warnings << text;
     }
 }

@@ -1,5 +1,5 @@
-#ifndef COMMANDLINE_SHELLTEXT_H
-#define COMMANDLINE_SHELLTEXT_H
+#ifndef TOOLS_SHELLTEXT_H
+#define TOOLS_SHELLTEXT_H
 
 #include "host/tools/toolcall.h"
 

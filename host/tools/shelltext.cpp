@@ -1,4 +1,4 @@
-#include "host/commandline/shelltext.h"
+#include "host/tools/shelltext.h"
 
 #include "host/files/visibletext.h"
 
