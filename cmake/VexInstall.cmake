@@ -3,10 +3,10 @@
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
-# INCLUDE_DIR is the root of the header names; PACKAGES are the CMake packages and REQUIRES the
+# INCLUDE_DIR is the root of the header names, EXPORT_HEADER the generated one; PACKAGES are the CMake packages and REQUIRES the
 # pkg-config modules that users of the library need too.
 function(vex_install_library target)
-  cmake_parse_arguments(ARG "" "INCLUDE_DIR;DESCRIPTION;REQUIRES;REQUIRES_PRIVATE"
+  cmake_parse_arguments(ARG "" "INCLUDE_DIR;EXPORT_HEADER;DESCRIPTION;REQUIRES;REQUIRES_PRIVATE"
     "HEADERS;PACKAGES" ${ARGN})
   set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
   set(include_dir ${CMAKE_INSTALL_INCLUDEDIR}/${target})
@@ -21,6 +21,10 @@ function(vex_install_library target)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${ARG_INCLUDE_DIR}/${header} DESTINATION ${include_dir}/${folder} COMPONENT dev)
   endforeach()
+  get_target_property(binary_dir ${target} BINARY_DIR)
+  get_filename_component(folder ${ARG_EXPORT_HEADER} DIRECTORY)
+  install(FILES ${binary_dir}/generated/${ARG_EXPORT_HEADER}
+    DESTINATION ${include_dir}/${folder} COMPONENT dev)
 
   install(EXPORT ${target} NAMESPACE Vex:: FILE ${target}Targets.cmake
     DESTINATION ${package_dir} COMPONENT dev)
@@ -33,6 +37,12 @@ function(vex_install_library target)
   write_basic_package_version_file(${PROJECT_BINARY_DIR}/package/${target}ConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
 
+  # Of a static library, what its headers need to know.
+  get_target_property(definitions ${target} INTERFACE_COMPILE_DEFINITIONS)
+  set(pc_flags "")
+  if(definitions)
+    string(REGEX REPLACE "([^;]+);?" " -D\\1" pc_flags "${definitions}")
+  endif()
   file(RELATIVE_PATH prefix_from_pc ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
   string(REGEX REPLACE "/$" "" prefix_from_pc ${prefix_from_pc})
   configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in
@@ -49,7 +59,8 @@ if(TARGET VexMorrowUtility)
   vex_install_library(VexMorrowUtility
     DESCRIPTION "The export catalogue of a media converter"
     INCLUDE_DIR ${PROJECT_SOURCE_DIR}/utility
-    HEADERS formatcodecapi.h utilityglobal.h
+    HEADERS formatcodecapi.h
+    EXPORT_HEADER utilityglobal.h
     PACKAGES "Qt${VEX_QT} 5.15 COMPONENTS Core"
     REQUIRES "Qt${VEX_QT}Core >= 5.15")
 endif()
@@ -57,8 +68,8 @@ endif()
 vex_install_library(VexConvertFormats
   DESCRIPTION "The output formats and presets of a media converter, as models for QML"
   INCLUDE_DIR ${PROJECT_SOURCE_DIR}
+  EXPORT_HEADER formats/formatsglobal.h
   HEADERS
-    formats/formatsglobal.h
     formats/models/formatdetailmodel.h
     formats/models/formatdetailmodeldata.h
     formats/models/formatlistmodel.h

@@ -3,6 +3,8 @@
 
 #include "formats/formatsglobal.h"
 
+#include <QtGlobal>
+
 class FormatDetailModel;
 class FormatListModel;
 class QString;
