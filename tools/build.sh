@@ -46,7 +46,7 @@ test_packages=(
     qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3-jsonschema
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
     dbus-daemon desktop-file-utils appstream man-db zsh fish handbrake-cli
-    abigail-tools qtdeclarative5-dev-tools qt6-declarative-dev-tools qml6-module-qtqml
+    abigail-tools doxygen qtdeclarative5-dev-tools qt6-declarative-dev-tools qml6-module-qtqml
 )
 qt6_packages=(
     qt6-base-dev qt6-declarative-dev libqt6svg6 qml6-module-qttest
