@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qint64 largestFile = 16LL * 1024 * 1024;
+constexpr qint64 largestFile = 64LL * 1024 * 1024;
 constexpr int version = 1;
 const QLatin1String versionKey("version");
 const QLatin1String entriesKey("entries");
@@ -91,7 +91,7 @@ Result<> ConfigList::write(const QJsonArray &entries) const
     }
     if (done) {
         const QJsonObject root{{versionKey, version}, {entriesKey, entries}};
-        done = writeAtomically(m_path, QJsonDocument(root).toJson(), m_path);
+        done = writeAtomically(m_path, QJsonDocument(root).toJson(QJsonDocument::Compact), m_path);
     }
     if (!done) {
         return failed(

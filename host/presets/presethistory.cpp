@@ -90,8 +90,20 @@ void PresetHistory::note(const Presets &before, const Presets &after, const QDat
     }
     if (!step.changes.isEmpty()) {
         m_steps.prepend(step);
-        m_steps.resize(std::min(m_steps.size(), mostSteps));
+        dropOldest();
     }
+}
+
+void PresetHistory::dropOldest()
+{
+    int kept = 0;
+    for (int changes = 0; kept < std::min(m_steps.size(), mostSteps); ++kept) {
+        changes += m_steps.at(kept).changes.size();
+        if (kept > 0 && changes > mostChanges) {
+            break;
+        }
+    }
+    m_steps.resize(kept);
 }
 
 Result<PresetHistory::Step> PresetHistory::undo(OwnPresets &presets)

@@ -16,6 +16,7 @@ class PresetHistory
 
 public:
     static constexpr int mostSteps = 50;
+    static constexpr int mostChanges = 2000; //!< of all steps; the last one has any number
 
     struct Change
     {
@@ -37,7 +38,8 @@ public:
 
     [[nodiscard]] const QVector<Step> &steps() const { return m_steps; }
 
-    /*! Adds a step for what differs between the two; the oldest beyond mostSteps are dropped. */
+    /*! Adds a step for what differs between the two; the oldest beyond mostSteps and
+     *  mostChanges are dropped. */
     void note(const QMap<QString, OwnPreset> &before, const QMap<QString, OwnPreset> &after,
               const QDateTime &when);
     /*! Undoes the last step in \a presets, and returns it. A step that never came to be, as saving
@@ -50,6 +52,8 @@ public:
     void read(const QJsonArray &entries);
 
 private:
+    void dropOldest();
+
     QVector<Step> m_steps;
 };
 
