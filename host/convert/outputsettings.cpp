@@ -108,6 +108,10 @@ void readConverterSettings(OutputSettings &settings, const QVariantMap &preset)
     settings.tune = ofCodec("Tune");
     settings.peakKbps =
         numberFromText(chosenText(param, QStringLiteral("peakKbps")), unreadableKbps);
+    if (param.contains(QStringLiteral("bufferSeconds"))) {
+        settings.bufferSeconds =
+            numberFromText(param.value(QStringLiteral("bufferSeconds")).toString(), unreadableKbps);
+    }
     settings.level = ofCodec("Level");
     settings.profile = ofCodec("Profile");
     settings.videoTag = ofCodec("Tag");
@@ -211,6 +215,7 @@ Result<> OutputSettings::validate() const
         {"video.resolution", double(side), 1, 16384, " px", sizeText(box)},
         {"video.bitrate", videoKbps, 1, 1000000, " kbps"},
         {"videoParam.peakKbps", peakKbps, 1, 1000000, " kbps"},
+        {"videoParam.bufferSeconds", bufferSeconds, 0.1, 60, " s"},
         {"audio.sampleRate", double(sampleRate), 1000, 768000, " Hz"},
         {"audio.channel", double(channels), 1, 64, ""},
         {"audio.bitrate", audioKbps, 1, 100000, " kbps"},

@@ -113,6 +113,7 @@ const QVector<PresetDetail> &presetDetails()
         {QStringLiteral("quality"), QStringLiteral("quality"), QStringLiteral("high"), -8, 8},
         text("rate-mode", "rateMode", "average"),
         {QStringLiteral("peak-bitrate"), QStringLiteral("peakKbps"), QString(), 1, 1000000},
+        {QStringLiteral("buffer-seconds"), QStringLiteral("bufferSeconds"), QString(), 0.1, 60},
         text("h264-level", "h264Level", level),
         text("h264-profile", "h264Profile", "baseline|main|high"),
         text("h264-speed", "h264Speed", speed),

@@ -136,6 +136,7 @@ void Translation::readQuality()
 /*! Options of the encoder: none is passed on, only the limit of the bitrate is taken. */
 void Translation::readExtraOptions()
 {
+    int bufferKbits = 0;
     const QStringList options =
         text("VideoOptionExtra").split(QLatin1Char(':'), Qt::SkipEmptyParts);
     for (const QString &option : options) {
@@ -146,10 +147,17 @@ void Translation::readExtraOptions()
             m_to.values.insert(QStringLiteral("video-bitrate"), QString::number(value.toInt()));
             m_to.keep(setting, value);
         } else if (name == QLatin1String("vbv-bufsize")) {
-            m_to.approximate(setting, value, Texts::tr("a buffer of one second"));
+            bufferKbits = value.toInt();
+            m_to.keep(setting, value);
         } else {
             m_to.lose(setting, value, Texts::tr("the encoder's own value"));
         }
+    }
+    const int kbps = m_to.values.value(QStringLiteral("video-bitrate")).toInt();
+    if (bufferKbits > 0 && kbps > 0) {
+        m_to.values.insert(
+            QStringLiteral("buffer-seconds"),
+            QString::number(std::clamp(double(bufferKbits) / kbps, 0.1, 60.0), 'g', 4));
     }
 }
 

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void aWrongPresetIsRefusedAndTheOthersAreRead();
     void aFileOfAnotherKindFails_data();
     void aFileOfAnotherKindFails();
+    void theSchemaDescribesAllSettings();
     void aHugeFileIsNotRead();
     void foldersThatNeverEndAreRefused();
     void optionsOfTheEncoderAreNeverPassedOn();
@@ -163,6 +164,19 @@ void TestPresetFile::aFileOfAnotherKindFails()
     const Result<PortablePresets> read = readPresets(content, QStringLiteral("a file"));
     QVERIFY(!read);
     QVERIFY2(read.error().text.contains(reason), qPrintable(read.error().text));
+}
+
+void TestPresetFile::theSchemaDescribesAllSettings()
+{
+    const QJsonValue schema =
+        QJsonDocument::fromJson(contentOf(QStringLiteral(VEX_SCHEMA))).object();
+    const QJsonObject described = schema[QStringLiteral("properties")][QStringLiteral("presets")]
+                                        [QStringLiteral("items")][QStringLiteral("properties")]
+                                        [QStringLiteral("settings")][QStringLiteral("properties")]
+                                            .toObject();
+    QStringList names = valueNames();
+    names.sort();
+    QCOMPARE(described.keys(), names);
 }
 
 void TestPresetFile::aHugeFileIsNotRead()
