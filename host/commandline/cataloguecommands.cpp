@@ -1,5 +1,6 @@
 #include "host/app/console.h"
 #include "host/commandline/commandline.h"
+#include "host/commandline/fitness.h"
 #include "host/commandline/fitting.h"
 #include "host/commandline/formattable.h"
 #include "host/commandline/nearestword.h"
@@ -191,14 +192,27 @@ Result<ExitCode> runShow(const Call &call)
     if (!preset) {
         return failed(preset);
     }
+    const QString source = call.options.value(QStringLiteral("for"));
+    const Result<Fitness> fitness = Fitness::of(source);
+    if (!fitness && !source.isEmpty()) {
+        return failed(fitness);
+    }
+    const QString problem = fitness ? fitness->problemWith(*preset) : QString();
+    const QString instead = problem.isEmpty() ? QString() : fitness->nearestTo(*preset, store);
     if (call.options.isSet(jsonFlag)) {
         QVariantMap map = preset->map;
+        map.insert(QStringLiteral("problem"), problem);
+        map.insert(QStringLiteral("instead"), instead);
         map.insert(QStringLiteral("tag"), preset->tag);
         map.insert(QStringLiteral("class"), preset->className);
         map.insert(QStringLiteral("userDefine"), preset->isUserDefined);
         Console::printJson(map);
     } else {
         printSettings(store, *preset);
+        if (!problem.isEmpty()) {
+            Console::print(QString());
+            Console::print(problemInWords(call.arguments.constFirst(), problem, instead));
+        }
     }
     return Success;
 }
@@ -242,10 +256,12 @@ QVector<Subcommand> catalogueCommands()
          {jsonOption()},
          runPresets},
         {QStringLiteral("show"),
-         CommandLine::tr("ID [--json]"),
+         CommandLine::tr("ID [--for FILE] [--json]"),
          CommandLine::tr("Show the settings of a preset and their choices."),
-         {},
-         {jsonOption()},
+         CommandLine::tr(
+             "\nA preset that this ffmpeg, or the FILE of --for, doesn't allow is told, "
+             "with the nearest one\nthat can be used.\n"),
+         {sourceOption(), jsonOption()},
          runShow},
         {QStringLiteral("fit"),
          CommandLine::tr("--type video|audio --format FORMAT --target TARGET [--prefer-source]"),

@@ -24,8 +24,8 @@ QVector<Subcommand> subcommands()
 {
     QVector<Subcommand> all = catalogueCommands();
     all.append(searchCommand());
-    all +=
-        convertCommands() + watchCommands() + planCommands() + engineCommands() + presetCommands();
+    all += convertCommands() + watchCommands() + planCommands() + engineCommands() +
+           presetCommands() + favoriteCommands();
 #ifdef VEX_CHECKS_CATALOGUE
     all += checkCommands();
 #endif

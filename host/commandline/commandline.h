@@ -39,6 +39,7 @@ struct Subcommand
 [[nodiscard]] Subcommand searchCommand();
 [[nodiscard]] QVector<Subcommand> convertCommands();
 [[nodiscard]] QVector<Subcommand> engineCommands();
+[[nodiscard]] QVector<Subcommand> favoriteCommands();
 [[nodiscard]] QVector<Subcommand> planCommands();
 [[nodiscard]] QVector<Subcommand> presetCommands();
 [[nodiscard]] QVector<Subcommand> watchCommands();

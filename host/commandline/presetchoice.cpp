@@ -1,6 +1,7 @@
 #include "host/commandline/presetchoice.h"
 
 #include "host/app/console.h"
+#include "host/commandline/favorites.h"
 #include "host/commandline/fitting.h"
 
 #include "formats/proxy/formatsproxy.h"
@@ -26,6 +27,13 @@ Result<> noteAsUsed(PresetStore &presets, const FoundPreset &preset)
     return presets.save();
 }
 
+/*! The user's default for the files that are named; empty without one. */
+QString defaultPreset(const Call &call, const PresetStore &presets)
+{
+    const std::optional<SourceKind> kind = sourceKindOf(call.arguments);
+    return kind ? favoritesOf(presets).defaultFor(*kind) : QString();
+}
+
 } // namespace
 
 QList<QCommandLineOption> presetOptions()
@@ -44,12 +52,14 @@ Result<FoundPreset> chosenPreset(const Call &call, Noting noting)
     const bool isDescribed = hasFittingOptions(call.options);
     // What is given on the command line comes before a default.
     const bool isNamed = call.options.isGiven(presetOption) || !isDescribed;
-    const QString id = isNamed ? call.options.value(presetOption) : QString();
+    const QString named = isNamed ? call.options.value(presetOption) : QString();
+    PresetStore presets = presetsOf(call);
+    const QString id = named.isEmpty() && !isDescribed ? defaultPreset(call, presets) : named;
     if (id.isEmpty() == !isDescribed) {
         return wrongUsage(CommandLine::tr("choose a preset: either --preset ID or --type, "
-                                          "--format and --target"));
+                                          "--format and --target; \"vexconvert default\" chooses "
+                                          "one for the next time"));
     }
-    PresetStore presets = presetsOf(call);
     if (id.isEmpty()) {
         openWhatCanBeRead(presets);
         return fittingPreset(call.options, presets.formats())

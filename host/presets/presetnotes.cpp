@@ -65,6 +65,17 @@ void PresetNotes::keepOnly(const QStringList &ids)
     m_notes = kept;
 }
 
+QHash<QString, QString> PresetNotes::texts() const
+{
+    QHash<QString, QString> texts;
+    for (auto note = m_notes.begin(); note != m_notes.end(); ++note) {
+        if (!note->text.isEmpty()) {
+            texts.insert(note.key(), note->text);
+        }
+    }
+    return texts;
+}
+
 QJsonArray PresetNotes::toJson() const
 {
     QStringList ids = m_notes.keys();

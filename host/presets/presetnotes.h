@@ -35,6 +35,8 @@ public:
     /*! Removes the notes on all others. */
     void keepOnly(const QStringList &ids);
 
+    /*! The users' texts that aren't empty, by id. */
+    [[nodiscard]] QHash<QString, QString> texts() const;
     /*! A list of objects, by id; of entries that aren't, nothing is taken. */
     [[nodiscard]] QJsonArray toJson() const;
     void read(const QJsonArray &entries);

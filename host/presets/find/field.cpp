@@ -7,10 +7,10 @@ namespace {
 const std::array<QString, fieldCount> &names()
 {
     static const std::array<QString, fieldCount> all = {
-        QStringLiteral("format"),  QStringLiteral("title"),      QStringLiteral("extension"),
-        QStringLiteral("codec"),   QStringLiteral("size"),       QStringLiteral("purpose"),
-        QStringLiteral("bitrate"), QStringLiteral("frame rate"), QStringLiteral("kind"),
-        QStringLiteral("category")};
+        QStringLiteral("format"),   QStringLiteral("title"),      QStringLiteral("extension"),
+        QStringLiteral("codec"),    QStringLiteral("size"),       QStringLiteral("purpose"),
+        QStringLiteral("bitrate"),  QStringLiteral("frame rate"), QStringLiteral("kind"),
+        QStringLiteral("category"), QStringLiteral("note")};
     return all;
 }
 

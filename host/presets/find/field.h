@@ -17,8 +17,9 @@ enum class Field : quint8 {
     FrameRate,
     Kind,
     Category,
+    Note,
 };
-constexpr int fieldCount = int(Field::Category) + 1;
+constexpr int fieldCount = int(Field::Note) + 1;
 
 /*! The name that users and the file of synonyms have for it: "format", "frame rate", ... */
 [[nodiscard]] QString nameOf(Field field);

@@ -34,9 +34,9 @@ QStringList telling(const QStringList &words)
 
 } // namespace
 
-PresetIndex::PresetIndex(FormatsProxy &formats)
+PresetIndex::PresetIndex(FormatsProxy &formats, const PresetExtras &extras)
 {
-    PresetIndexBuilder(*this, Synonyms::builtIn()).build(formats);
+    PresetIndexBuilder(*this, Synonyms::builtIn(), extras).build(formats);
 }
 
 PresetMatches PresetIndex::find(const PresetQuery &query, int limit) const
@@ -186,22 +186,22 @@ QVector<int> PresetIndex::ranked(const QVector<quint32> &scores, int limit) cons
 {
     struct Rank
     {
-        int recent;
+        int preferred;
         quint32 score;
         int preset;
     };
     QVector<Rank> ranks;
     for (int preset = 0; preset < scores.size(); ++preset) {
         if (scores.at(preset) > 0) {
-            const int recent = m_recent.indexOf(preset);
+            const int place = m_preferred.indexOf(preset);
             ranks.append(
-                {recent < 0 ? std::numeric_limits<int>::max() : recent, scores.at(preset), preset});
+                {place < 0 ? std::numeric_limits<int>::max() : place, scores.at(preset), preset});
         }
     }
     std::partial_sort(ranks.begin(), ranks.begin() + limit, ranks.end(),
                       [](const Rank &one, const Rank &other) {
-                          return std::tie(one.recent, other.score, one.preset) <
-                                 std::tie(other.recent, one.score, other.preset);
+                          return std::tie(one.preferred, other.score, one.preset) <
+                                 std::tie(other.preferred, one.score, other.preset);
                       });
     QVector<int> best;
     for (int index = 0; index < limit; ++index) {

@@ -21,12 +21,13 @@ class FormatsProxy;
 class PresetIndex
 {
 public:
-    explicit PresetIndex(FormatsProxy &formats);
+    explicit PresetIndex(FormatsProxy &formats, const PresetExtras &extras = {});
 
     /*!
-     * The presets that match all words, at most \a limit of them. First those recently used, then
-     * those that match best: whole words before beginnings of words before words with a typing
-     * error, and titles before other fields; then in catalogue order. An empty query finds nothing.
+     * The presets that match all words, at most \a limit of them. First the favourites, then those
+     * recently used, then those that match best: whole words before beginnings of words before
+     * words with a typing error, and titles before other fields; then in catalogue order. An empty
+     * query finds nothing.
      */
     [[nodiscard]] PresetMatches find(const PresetQuery &query, int limit) const;
     /*! All words that find something, folded. */
@@ -75,7 +76,7 @@ private:
     QVector<quint32> m_profileTerms;        // of all profiles; a format and its tag come first
     QVector<quint32> m_profileStarts = {0}; // in m_profileTerms, and its end
     QVector<Preset> m_presets;              // in catalogue order
-    QVector<int> m_recent;                  // presets, the last used first
+    QVector<int> m_preferred;               // presets: the favourites, and the last used
 };
 
 #endif

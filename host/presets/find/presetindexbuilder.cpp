@@ -25,9 +25,11 @@ QStringList wordsOf(const Synonym &synonym)
 
 } // namespace
 
-PresetIndexBuilder::PresetIndexBuilder(PresetIndex &index, const Synonyms &synonyms)
+PresetIndexBuilder::PresetIndexBuilder(PresetIndex &index, const Synonyms &synonyms,
+                                       const PresetExtras &extras)
     : m_index(index)
     , m_synonyms(synonyms)
+    , m_extras(extras)
 {
     for (const Synonym &synonym : synonyms.all) {
         for (const QStringList &keys : synonym.fits) {
@@ -56,15 +58,12 @@ void PresetIndexBuilder::build(FormatsProxy &formats)
     }
     m_index.m_words = WordIndex(std::move(m_entries), m_index.m_terms.size());
 
+    for (const QString &id : m_extras.favorites) {
+        prefer(id);
+    }
     const FormatDetailModel &recent = *formats.recentlyFormatsModel();
     for (int row = 0; row < recent.rowCount(); ++row) {
-        const QString id = recent.getId(row);
-        const auto found =
-            std::find_if(m_index.m_presets.cbegin(), m_index.m_presets.cend(),
-                         [&id](const PresetIndex::Preset &preset) { return preset.id == id; });
-        if (found != m_index.m_presets.cend()) {
-            m_index.m_recent.append(int(found - m_index.m_presets.cbegin()));
-        }
+        prefer(recent.getId(row));
     }
     m_index.m_terms.squeeze();
     m_index.m_presets.squeeze();
@@ -72,12 +71,28 @@ void PresetIndexBuilder::build(FormatsProxy &formats)
     m_index.m_profileStarts.squeeze();
 }
 
+/*! Ranks the preset after those that are preferred already. */
+void PresetIndexBuilder::prefer(const QString &id)
+{
+    const auto found =
+        std::find_if(m_index.m_presets.cbegin(), m_index.m_presets.cend(),
+                     [&id](const PresetIndex::Preset &preset) { return preset.id == id; });
+    const int preset = int(found - m_index.m_presets.cbegin());
+    if (found != m_index.m_presets.cend() && !m_index.m_preferred.contains(preset)) {
+        m_index.m_preferred.append(preset);
+    }
+}
+
 void PresetIndexBuilder::addPreset(const FormatDetailModelData &preset,
                                    const FormatListModelData &format)
 {
     const Title ofPreset = title(preset.title);
-    m_index.m_presets.append(
-        {preset.id, ofPreset.term, profile(facetsOf(preset, format), ofPreset.keys)});
+    QVector<Facet> facets = facetsOf(preset, format);
+    const QString note = m_extras.notes.value(preset.id);
+    if (!note.isEmpty()) {
+        facets.append({QStringLiteral("note/") + preset.id, Field::Note, note, foldedWords(note)});
+    }
+    m_index.m_presets.append({preset.id, ofPreset.term, profile(facets, ofPreset.keys)});
 }
 
 PresetIndexBuilder::Title PresetIndexBuilder::title(const QString &text)

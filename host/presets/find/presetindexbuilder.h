@@ -13,7 +13,7 @@
 class PresetIndexBuilder
 {
 public:
-    PresetIndexBuilder(PresetIndex &index, const Synonyms &synonyms);
+    PresetIndexBuilder(PresetIndex &index, const Synonyms &synonyms, const PresetExtras &extras);
 
     void build(FormatsProxy &formats);
 
@@ -25,6 +25,7 @@ private:
     };
 
     void addPreset(const FormatDetailModelData &preset, const FormatListModelData &format);
+    void prefer(const QString &id);
     Title title(const QString &text);
     quint32 profile(const QVector<Facet> &facets, const QStringList &titleKeys);
     void addSynonyms(const QSet<QString> &keys);
@@ -32,6 +33,7 @@ private:
 
     PresetIndex &m_index;
     const Synonyms &m_synonyms;
+    const PresetExtras &m_extras;
     QSet<QString> m_titleKeys; // all that synonyms name
     QHash<QString, Title> m_titles;
     QHash<QString, quint32> m_terms;    // by a key of each

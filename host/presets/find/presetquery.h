@@ -3,8 +3,17 @@
 
 #include "host/presets/find/field.h"
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QVector>
+
+/*! What is known of presets beside the presets themselves. */
+struct PresetExtras
+{
+    QStringList favorites;         //!< ids, the best first
+    QHash<QString, QString> notes; //!< the user's, by id
+};
 
 /*! What a preset must have. Every word of every text must match; an empty text allows all. */
 struct PresetQuery

@@ -116,7 +116,9 @@ void TestSearchCommand::jsonHasAllPresetsAndWhy()
         {QStringLiteral("tag"), QStringLiteral("device")},
         {QStringLiteral("why"),
          QJsonArray{why("iph", "title", "iPhone HD 1080P"), why("x264", "codec", "h264"),
-                    why("1080", "size", "1920x1080")}}};
+                    why("1080", "size", "1920x1080")}},
+        {QStringLiteral("problem"), QString()},
+        {QStringLiteral("instead"), QString()}};
     QCOMPARE(found.at(0).toObject(), expected);
 }
 
