@@ -25,7 +25,8 @@ All {formats} formats and {presets} presets of the built-in catalogue. This page
 
 "source" keeps the source's own value, and "auto" lets the encoder choose the bitrate for good
 quality. A video bitrate is the most that the video may have: easy content gets less. It is followed
-by those of the low and the high quality. The size is a box that the video is scaled to fit.
+by those of the low and the high quality. The size is a box that the video is scaled to fit. The bits
+per colour are the most that a device plays. A variable frame rate is kept unless it says "constant".
 
 Presets of devices and sites name the published limits that they follow. Those called unconfirmed
 follow none; they are what such devices and sites usually take. Devices called discontinued are no
@@ -80,8 +81,11 @@ def video_cells(preset):
     levels = f" ({low:,} to {high:,})" if high else ""
     kbps = param["bitrateKbps"]
     most = f"at most {kbps:,}" if kbps else "auto"
-    return [number(param["encoder"]), number(param["resolution"]), number(param["frameRate"]),
-            most + levels]
+    codec = param["encoder"]
+    depth = param.get(f"{codec}BitDepth")
+    mode = param.get("frameRateMode")
+    return [number(codec) + (f", {depth} bits" if depth else ""), number(param["resolution"]),
+            number(param["frameRate"]) + (f", {mode}" if mode else ""), most + levels]
 
 
 def row(preset):

@@ -50,9 +50,9 @@ const std::array<CatalogueText, 6> &CatalogueText::all()
     return texts;
 }
 
-const std::array<CatalogueDetail, 7> &CatalogueDetail::all()
+const std::array<CatalogueDetail, 11> &CatalogueDetail::all()
 {
-    static const std::array<CatalogueDetail, 7> details{{
+    static const std::array<CatalogueDetail, 11> details{{
         {QLatin1String("quality"), QLatin1String("high"),
          QLatin1String("A better picture than usual at the same bitrate")},
         {QLatin1String("peakKbps"), QLatin1String(),
@@ -63,6 +63,14 @@ const std::array<CatalogueDetail, 7> &CatalogueDetail::all()
          QLatin1String("The profile of H.264 that the device plays")},
         {QLatin1String("hevcLevel"), QLatin1String("[1-6](\\.[1-3])?"),
          QLatin1String("The level of HEVC that the device plays, in the main tier")},
+        {QLatin1String("h264BitDepth"), QLatin1String("8|10"),
+         QLatin1String("The most bits per colour that the device plays in H.264")},
+        {QLatin1String("hevcBitDepth"), QLatin1String("8|10"),
+         QLatin1String("The most bits per colour that the device plays in HEVC")},
+        {QLatin1String("vp9BitDepth"), QLatin1String("8|10"),
+         QLatin1String("The most bits per colour that the device plays in VP9")},
+        {QLatin1String("frameRateMode"), QLatin1String("variable|constant"),
+         QLatin1String("Whether a variable frame rate is kept, as usual, or becomes constant")},
         {QLatin1String("mpeg4Tag"), QLatin1String("[A-Z0-9]{4}"),
          QLatin1String("The name of MPEG-4 video in the file")},
         {QLatin1String("editLists"), QLatin1String("none"),

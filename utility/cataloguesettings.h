@@ -36,7 +36,7 @@ struct CatalogueDetail
     QLatin1String pattern; //!< a regular expression of the whole text; empty: a bitrate in kbps
     QLatin1String meaning; //!< one line
 
-    [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueDetail, 7> &all();
+    [[nodiscard]] VEX_UTILITY_EXPORT static const std::array<CatalogueDetail, 11> &all();
     /*! The detail with that key, nullptr for none. */
     [[nodiscard]] static const CatalogueDetail *find(const QString &key);
     [[nodiscard]] VEX_UTILITY_EXPORT QJsonValue::Type type() const;

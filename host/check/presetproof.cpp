@@ -17,13 +17,14 @@ ConversionJob jobOf(const OutputSettings &settings, const ProofClip &clip)
 }
 
 /*! The audio is noise, so that encoders use up the bitrate, and is said to have more of it than any
- *  preset gives. No preset can copy these codecs. */
+ *  preset gives. No preset can copy these codecs. The picture has 10 bits per colour, which a
+ * result has only where it may. */
 QStringList clipArguments(const QSize &size, const QString &path)
 {
     return QStringLiteral("-y "
                           "-f lavfi -i testsrc2=size=%1x%2:rate=30000/1001:duration=1 "
                           "-f lavfi -i anoisesrc=color=pink:sample_rate=44100:seed=1:duration=1 "
-                          "-vf setfield=prog -pix_fmt yuv420p -c:v utvideo -ac 2 "
+                          "-vf setfield=prog -pix_fmt yuv420p10le -c:v ffvhuff -ac 2 "
                           "-c:a adpcm_ms -b:a 1000k")
                .arg(size.width())
                .arg(size.height())

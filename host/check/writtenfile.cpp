@@ -2,6 +2,7 @@
 
 #include "host/convert/audioplan.h"
 #include "host/convert/codecs.h"
+#include "host/convert/colourplan.h"
 #include "host/convert/containers.h"
 #include "host/convert/frametiming.h"
 #include "host/convert/nearest.h"
@@ -166,6 +167,10 @@ void Comparison::compareStream(const VideoTrack &track)
     const double unit = track.codec == QLatin1String("hevc") ? 30 : 10;
     expect(m_asked.level.isEmpty() || track.level <= qRound(m_asked.level.toDouble() * unit),
            QStringLiteral("the level is %1, not %2").arg(track.level / unit).arg(m_asked.level));
+    const bool isSourceDeep = isDeep(m_source.video()->pixelFormat);
+    const int depth = isDeep(track.pixelFormat) ? 10 : 8;
+    expect(m_asked.bitDepth == 0 || depth == (isSourceDeep ? m_asked.bitDepth : 8),
+           QStringLiteral("%1 bits per colour, not %2").arg(depth).arg(m_asked.bitDepth));
     expect(m_asked.videoTag.isEmpty() || track.codecTag == m_asked.videoTag,
            QStringLiteral("the tag is %1, not %2").arg(track.codecTag, m_asked.videoTag));
 }

@@ -24,8 +24,10 @@ QVector<Subcommand> subcommands()
 {
     QVector<Subcommand> all = catalogueCommands();
     all.append(searchCommand());
-    all += convertCommands() + watchCommands() + planCommands() + engineCommands() +
-           presetCommands() + favoriteCommands();
+    all += convertCommands();
+    all.append(compareCommand());
+    all +=
+        watchCommands() + planCommands() + engineCommands() + presetCommands() + favoriteCommands();
 #ifdef VEX_CHECKS_CATALOGUE
     all += checkCommands();
 #endif

@@ -37,6 +37,7 @@ struct Subcommand
 
 [[nodiscard]] QVector<Subcommand> catalogueCommands();
 [[nodiscard]] Subcommand searchCommand();
+[[nodiscard]] Subcommand compareCommand();
 [[nodiscard]] QVector<Subcommand> convertCommands();
 [[nodiscard]] QVector<Subcommand> engineCommands();
 [[nodiscard]] QVector<Subcommand> favoriteCommands();

@@ -1,5 +1,6 @@
 #include "host/commandline/batchreports.h"
 #include "host/commandline/convertoptions.h"
+#include "host/commandline/mediaoptions.h"
 #include "host/queue/resultlog.h"
 
 namespace {
@@ -19,6 +20,28 @@ Result<> keepFailed(const Call &call, ConvertRequest &request)
             request.files.keepOnly(sources);
             request.count = sources.size();
         });
+}
+
+/*! Converts only a part of each file, if the options say so. */
+Result<> takeSample(const Call &call, ConvertRequest &request)
+{
+    const Result<std::optional<SamplePart>> sample = wantedSample(call);
+    if (!sample) {
+        return failed(sample);
+    }
+    const OutputSettings &settings = request.prototype.settings;
+    const bool isCut = settings.start > 0 || settings.end > 0 || settings.stillSeconds > 0;
+    if (*sample && (isCut || settings.targetBytes > 0)) {
+        return wrongUsage(CommandLine::tr("--sample chooses the part itself; leave out --start, "
+                                          "--end, --duration and --fit-size"));
+    }
+    request.prototype.sample = *sample;
+    if (!*sample || !request.name.isEmpty()) {
+        return {};
+    }
+    const QString field = QStringLiteral("name");
+    return NameTemplate::fromText(CommandLine::tr("{%1} sample").arg(field), {field})
+        .map([&request](const NameTemplate &name) { request.name = name; });
 }
 
 /*! The files one after another, as jobs. */
@@ -52,7 +75,8 @@ Result<ExitCode> runConvert(const Call &call)
     if (!request) {
         return failed(request);
     }
-    const Result<> kept = keepFailed(call, *request);
+    const Result<> kept =
+        keepFailed(call, *request).and_then([&] { return takeSample(call, *request); });
     if (!kept) {
         return failed(kept);
     }
@@ -87,7 +111,9 @@ QVector<Subcommand> convertCommands()
                     CommandLine::tr("Convert only those of the files that have no result in the "
                                     "LOG of an earlier run with --json."),
                     CommandLine::tr("LOG")),
-        {dryRunFlag, CommandLine::tr("Only print the ffmpeg commands.")},
+        sampleOption(),
+        {dryRunFlag, CommandLine::tr("Only print the ffmpeg commands, and the most bytes that each "
+                                     "result may have.")},
     };
     return {
         {QStringLiteral("convert"),

@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QVariantMap>
 
+#include <cmath>
+
 namespace {
 
 /*! Prints an event of the job with its \a values. */
@@ -61,9 +63,16 @@ void JsonReport::logged(const BatchJob &job, const ToolCall &call, const QString
 void JsonReport::finished(const BatchJob &job, const Result<ConversionOutcome> &outcome)
 {
     if (outcome && job.conversion.planOnly && !outcome->isSkipped) {
-        print("planned", job,
-              {{QStringLiteral("target"), outcome->target},
-               {QStringLiteral("command"), shellText(outcome->plan)}});
+        QStringList commands;
+        for (const ToolCall &call : outcome->plan) {
+            commands << shellText(call);
+        }
+        QVariantMap planned = {{QStringLiteral("target"), outcome->target},
+                               {QStringLiteral("command"), commands.join(QStringLiteral(" && "))}};
+        if (outcome->mostBytes > 0) {
+            planned.insert(QStringLiteral("mostBytes"), std::round(outcome->mostBytes));
+        }
+        print("planned", job, planned);
         return;
     }
     QVariantMap values = {{QStringLiteral("status"), QLatin1String(statusOf(outcome))}};
@@ -76,6 +85,9 @@ void JsonReport::finished(const BatchJob &job, const Result<ConversionOutcome> &
     } else {
         values.insert(QStringLiteral("target"), outcome->target);
         values.insert(QStringLiteral("bytes"), double(QFileInfo(outcome->target).size()));
+        if (outcome->wholeBytes > 0) {
+            values.insert(QStringLiteral("wholeBytes"), std::round(outcome->wholeBytes));
+        }
         const QStringList notes = outcome->notes();
         for (const QString &note : notes) {
             if (m_events == All) {

@@ -2,6 +2,8 @@
 
 #include "host/media/clocktext.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 const QLatin1String audioOption("audio");
@@ -12,7 +14,9 @@ const QLatin1String startOption("start");
 const QLatin1String endOption("end");
 const QLatin1String durationOption("duration");
 const QLatin1String averageFlag("average");
-const QLatin1String sizeOption("size");
+const QLatin1String sizeOption("fit-size");
+const QLatin1String shortSizeOption("size");
+const QLatin1String sampleName("sample");
 
 /*! Takes what the options say of tracks and of pictures. */
 Result<> readTrackOptions(const Call &call, OutputSettings &settings)
@@ -53,19 +57,29 @@ Result<> readTrackOptions(const Call &call, OutputSettings &settings)
     return done;
 }
 
-/*! The size that each result may have; 0 for any. */
-Result<double> wantedMegabytes(const Call &call)
+/*! The bytes of "25MB", "700 kB" or "1.5GB"; without a unit they are MB. 0 for anything else. */
+double bytesFromText(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("\\A([0-9]+(?:\\.[0-9]+)?) ?([kmg]?)b?\\z"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = form.match(text);
+    const QString unit = match.captured(2).toLower();
+    const double factor = unit == QLatin1String("k") ? 1e3 : unit == QLatin1String("g") ? 1e9 : 1e6;
+    return match.captured(1).toDouble() * factor;
+}
+
+/*! The size that each result may have in bytes; 0 for any. */
+Result<double> wantedBytes(const Call &call)
 {
     if (!call.options.isSet(sizeOption)) {
         return 0;
     }
-    bool isNumber = false;
-    const double megabytes = call.options.value(sizeOption).toDouble(&isNumber);
-    constexpr double most = 1e6;
-    if (!isNumber || megabytes <= 0 || megabytes > most) {
-        return wrongUsage(CommandLine::tr("--size takes a number of megabytes, such as 25"));
+    const double bytes = bytesFromText(call.options.value(sizeOption));
+    constexpr double most = 1e12;
+    if (bytes <= 0 || bytes > most) {
+        return wrongUsage(CommandLine::tr("--fit-size takes a size such as 25MB, 700kB or 1.5GB"));
     }
-    return megabytes;
+    return bytes;
 }
 
 /*! Takes the cut. */
@@ -113,8 +127,10 @@ QList<QCommandLineOption> mediaOptions()
                     CommandLine::tr("SECONDS")),
         {averageFlag, CommandLine::tr("Reach the preset's video bitrate on average, instead of "
                                       "taking it for the most.")},
-        valueOption(sizeOption, CommandLine::tr("Make each result at most that large."),
-                    CommandLine::tr("MB")),
+        {{shortSizeOption, sizeOption},
+         CommandLine::tr("Make each result just so large, such as 25MB. The video is written in "
+                         "two passes."),
+         CommandLine::tr("SIZE")},
     };
 }
 
@@ -124,6 +140,34 @@ Result<> readMediaOptions(const Call &call, ConversionJob &job)
     job.keepDates = call.options.isSet(keepDatesFlag);
     return readTrackOptions(call, job.settings)
         .and_then([&] { return readTimes(call, job.settings); })
-        .and_then([&] { return wantedMegabytes(call); })
-        .map([&job](double megabytes) { job.settings.targetBytes = megabytes * 1000000; });
+        .and_then([&] { return wantedBytes(call); })
+        .map([&job](double bytes) { job.settings.targetBytes = bytes; });
+}
+
+QCommandLineOption sampleOption()
+{
+    return valueOption(
+        sampleName,
+        CommandLine::tr(
+            "Only a part, such as 10s@40%: 10 seconds from 40 % of the source. Says how "
+            "large all of it would be."),
+        CommandLine::tr("PART"));
+}
+
+Result<std::optional<SamplePart>> wantedSample(const Call &call)
+{
+    if (!call.options.isSet(sampleName)) {
+        return std::optional<SamplePart>();
+    }
+    static const QRegularExpression form(
+        QStringLiteral("\\A([0-9:.]+) ?s?(?:@([0-9]+(?:\\.[0-9]+)?)%)?\\z"));
+    const QRegularExpressionMatch match = form.match(call.options.value(sampleName));
+    const QString place = match.captured(2);
+    const SamplePart part{secondsFromClockText(match.captured(1)),
+                          place.isEmpty() ? 0.5 : place.toDouble() / 100};
+    if (part.seconds <= 0 || part.at > 1) {
+        return wrongUsage(CommandLine::tr("--sample takes a part such as 10s@40%: how long it is "
+                                          "and where in the source it begins"));
+    }
+    return std::optional(part);
 }

@@ -9,4 +9,9 @@
 /*! Takes their values over into \a job. */
 [[nodiscard]] Result<> readMediaOptions(const Call &call, ConversionJob &job);
 
+/*! The option --sample. */
+[[nodiscard]] QCommandLineOption sampleOption();
+/*! The part "10s@40%" of each source that it asks for; the middle without "@40%". */
+[[nodiscard]] Result<std::optional<SamplePart>> wantedSample(const Call &call);
+
 #endif

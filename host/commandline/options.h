@@ -25,6 +25,8 @@ public:
     [[nodiscard]] bool isSet(const QString &name) const;
     /*! Empty if the option has none. */
     [[nodiscard]] QString value(const QString &name) const;
+    /*! All values that the command line gives, in their order. */
+    [[nodiscard]] QStringList values(const QString &name) const { return m_parser->values(name); }
 
 private:
     explicit Options(const QCommandLineParser &parser)

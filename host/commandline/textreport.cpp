@@ -5,8 +5,18 @@
 #include "host/tools/shelltext.h"
 
 #include <QFileInfo>
+#include <QLocale>
 
 #include <algorithm>
+
+namespace {
+
+QString bytesText(double bytes)
+{
+    return QLocale::c().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
+}
+
+} // namespace
 
 void TextReport::started(const BatchJob &job)
 {
@@ -96,15 +106,25 @@ void TextReport::showProgress(const BatchJob &job, const Progress &progress)
 void TextReport::tellConverted(const BatchJob &job, const ConversionOutcome &outcome) const
 {
     const QString &file = job.conversion.source;
-    if (job.conversion.planOnly && !outcome.isSkipped) {
-        Console::print(shellText(outcome.plan));
-        return;
+    const bool isPlan = job.conversion.planOnly && !outcome.isSkipped;
+    if (isPlan) {
+        for (const ToolCall &call : outcome.plan) {
+            Console::print(shellText(call));
+        }
+        if (outcome.mostBytes > 0) {
+            Console::print(QStringLiteral("# ") +
+                           CommandLine::tr("at most %1").arg(bytesText(outcome.mostBytes)));
+        }
     }
-    if (m_detail != Quiet && outcome.isSkipped) {
+    if (!isPlan && m_detail != Quiet && outcome.isSkipped) {
         Console::print(CommandLine::tr("%1: skipped, as %2 is there").arg(file, outcome.target));
-    } else if (m_detail != Quiet) {
+    } else if (!isPlan && m_detail != Quiet) {
         Console::print(CommandLine::tr("%1 -> %2").arg(file, outcome.target));
         Console::print(QStringLiteral("  ") + outcome.facts.summary());
+        if (outcome.wholeBytes > 0) {
+            Console::print(QStringLiteral("  ") + CommandLine::tr("all of it would have about %1")
+                                                      .arg(bytesText(outcome.wholeBytes)));
+        }
     }
     const QStringList notes = outcome.notes();
     for (const QString &note : notes) {

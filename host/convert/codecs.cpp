@@ -45,10 +45,30 @@ public:
         encoders.last().level = {QLatin1String(option), QLatin1String(value)};
         return *this;
     }
+    /*! The encoder named last takes ffmpeg's options for two passes. */
+    Video inTwoPasses()
+    {
+        encoders.last().passes = {{QStringLiteral("pass"), QStringLiteral("%1")},
+                                  {QStringLiteral("passlogfile"), QStringLiteral("%2")}};
+        return *this;
+    }
+    Video inTwoPassesWith(const char *option, const char *value)
+    {
+        encoders.last().passes = {{QLatin1String(option), QLatin1String(value)}};
+        return *this;
+    }
     /*! An encoder of ffmpeg's own that was first made for MPEG. */
     Video writtenLikeMpegBy(const char *encoder)
     {
-        return writtenBy(encoder).goodAt("q", 4, -1, 2).keepsBelow(Ceiling::LeastQuantiser);
+        return writtenBy(encoder)
+            .goodAt("q", 4, -1, 2)
+            .keepsBelow(Ceiling::LeastQuantiser)
+            .inTwoPasses();
+    }
+    Video lookingPoorBelow(double bitsPerPixel)
+    {
+        leastBitsPerPixel = bitsPerPixel;
+        return *this;
     }
     Video inPixels(const char *format)
     {
@@ -194,23 +214,26 @@ QVector<VideoCodec> makeVideoCodecs()
                                 {50, 1}};
     return {
         Video("h264").writtenBy("libx264").with("preset", "medium").goodAt("crf", 21.5, -3, 0)
-            .takesLevelAs("level", "%1").inPixels("yuv420p").atAnyTime().keepingBusy(8),
+            .takesLevelAs("level", "%1").inTwoPasses().lookingPoorBelow(0.03).inPixels("yuv420p").atAnyTime().keepingBusy(8),
         Video("hevc").writtenBy("libx265").with("preset", "veryfast")
             .with("x265-params", "log-level=error").goodAt("crf", 23, -3, 0)
             .takesLevelAs("x265-params", "log-level=error:high-tier=0:level-idc=%1")
+            .inTwoPassesWith("x265-params", "pass=%1:stats=%2").lookingPoorBelow(0.018)
             .inPixels("yuv420p").atAnyTime().keepingBusy(8).inDeepPixels("yuv420p10le"),
         Video("vp8").writtenBy("libvpx").with("deadline", "good").with("cpu-used", "4")
-            .goodAt("crf", 10, -3, 4).keepsBelow(Ceiling::Targeted).orElse("b", "8M")
+            .goodAt("crf", 10, -3, 4).keepsBelow(Ceiling::Targeted).orElse("b", "8M").inTwoPasses()
             .inPixels("yuv420p").atAnyTime().keepingBusy(2).inAlphaPixels("yuva420p", flatAlpha),
         Video("vp9").writtenBy("libvpx-vp9").with("deadline", "good").with("cpu-used", "5")
             .with("row-mt", "1").with("max-intra-rate", "200")
             .goodAt("crf", 31, -4, 0).keepsBelow(Ceiling::Targeted)
-            .orElse("b", "0").inPixels("yuv420p").atAnyTime().keepingBusy(4)
+            .orElse("b", "0").inTwoPasses().lookingPoorBelow(0.02)
+            .inPixels("yuv420p").atAnyTime().keepingBusy(4)
             .inDeepPixels("yuv420p10le").inAlphaPixels("yuva420p", flatAlpha),
         Video("av1").writtenBy("libsvtav1").with("preset", "9").goodAt("crf", 32, -5, 1)
             .keepsBelow(Ceiling::Capped)
             .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1")
             .goodAt("crf", 30, -5, 0).keepsBelow(Ceiling::Targeted).orElse("b", "0")
+            .inTwoPasses().lookingPoorBelow(0.016)
             .inPixels("yuv420p").atAnyTime().keepingBusy(8).inDeepPixels("yuv420p10le"),
         Video("mpeg4").writtenLikeMpegBy("mpeg4").inPixels("yuv420p"),
         Video("mpeg2video").writtenLikeMpegBy("mpeg2video").inPixels("yuv420p").atRates(mpeg)
@@ -222,7 +245,7 @@ QVector<VideoCodec> makeVideoCodecs()
         Video("wmv2").writtenLikeMpegBy("wmv2").inPixels("yuv420p"),
         Video("flv1").writtenLikeMpegBy("flv").inPixels("yuv420p"),
         Video("theora").writtenBy("libtheora").goodAt("q", 7, 1.5, 10)
-            .keepsBelow(Ceiling::BitsPerPixel).inPixels("yuv420p"),
+            .keepsBelow(Ceiling::BitsPerPixel).inTwoPasses().inPixels("yuv420p"),
         Video("mjpeg").writtenLikeMpegBy("mjpeg").inPixels("yuvj420p").atAnyTime()
             .inOwnColour("bt470bg", "pc"),
         Video("prores").writtenBy("prores").inPixels("yuv422p10le").withoutBitrate().atAnyTime()

@@ -36,6 +36,7 @@ struct VideoCodec
         Ceiling ceiling = Ceiling::Buffered;
         ToolOptions unlimited = {}; //!< given when no bitrate is asked for
         ToolOption level = {};      //!< takes the level of a device as "%1"
+        ToolOptions passes = {};    //!< with the pass as "%1" and its file as "%2"; empty: only one
     };
     /*! A picture of fixed size, rate and pixel shape, as studio formats have it. */
     struct Frame
@@ -67,6 +68,7 @@ struct VideoCodec
     bool isBottomFieldFirst = false; //!< and never the other way round
     bool hasPalette = false;         //!< its colours are few, and chosen for each film
     QVector<Frame> frames = {};      //!< the only ones allowed
+    double leastBitsPerPixel = 0.06; //!< with fewer a film looks poor
     int busyCores = 1;               //!< that its encoder keeps busy with a film in HD
 
     /*! The encoders' names for ffmpeg, the best first. */

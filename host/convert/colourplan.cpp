@@ -27,12 +27,6 @@ bool hasAlpha(const VideoTrack &track)
            track.codec != QLatin1String("gif");
 }
 
-bool isDeep(const QString &pixels)
-{
-    return matches(pixels, "(p|gray|ya|x2rgb|x2bgr|y2|p0|p2|p4)(9|10|12|14|16)(le|be)?$|"
-                           "(48|64)(le|be)$|f32");
-}
-
 bool isHd(const QSize &size)
 {
     return std::max(size.width(), size.height()) >= 1280 ||
@@ -179,22 +173,6 @@ QStringList lightForSvtAv1(const VideoTrack &track)
     return parameters;
 }
 
-/*! Adds them to the option \a name, which takes its parameters with colons between. */
-void addParameters(ToolOptions &options, const QString &name, const QStringList &parameters)
-{
-    if (parameters.isEmpty()) {
-        return;
-    }
-    const auto own = std::find_if(options.begin(), options.end(),
-                                  [&name](const ToolOption &each) { return each.name == name; });
-    const QString text = parameters.join(QLatin1Char(':'));
-    if (own == options.end()) {
-        options.append({name, text});
-    } else {
-        own->value += QLatin1Char(':') + text;
-    }
-}
-
 /*! Tags the frames themselves, in the words of encoders that know only one name for each. */
 QString frameTagging(const Colour &colour)
 {
@@ -206,6 +184,12 @@ QString frameTagging(const Colour &colour)
 }
 
 } // namespace
+
+bool isDeep(const QString &pixels)
+{
+    return matches(pixels, "(p|gray|ya|x2rgb|x2bgr|y2|p0|p2|p4)(9|10|12|14|16)(le|be)?$|"
+                           "(48|64)(le|be)$|f32");
+}
 
 Colour shownColour(const VideoTrack &track)
 {
@@ -231,7 +215,7 @@ Colour shownColour(const VideoTrack &track)
 }
 
 ColourPlan ColourPlan::make(const VideoTrack &track, const QSize &size, const VideoCodec &codec,
-                            const Container &container)
+                            const Container &container, int bitDepth)
 {
     ColourPlan plan;
     plan.pixels = {codec.pixelFormat};
@@ -239,7 +223,7 @@ ColourPlan ColourPlan::make(const VideoTrack &track, const QSize &size, const Vi
         return plan;
     }
     const bool isTagged = isTold(codec, container);
-    const bool takesDeep = !codec.deepPixels.format.isEmpty();
+    const bool takesDeep = !codec.deepPixels.format.isEmpty() && bitDepth != 8;
     plan.isHdrKept = track.colour.isHdr() && isTagged && takesDeep;
     plan.isToneMapped = track.colour.isHdr() && !plan.isHdrKept;
     if (keepsAlpha(track, codec, container)) {

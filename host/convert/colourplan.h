@@ -16,10 +16,12 @@ struct ColourPlan
     bool isHdrKept = false;
     bool isToneMapped = false;
 
-    /*! The plan for a picture of \a size. Where the pixels of \a track aren't known nothing is
-     *  converted or said. */
+    /*! The plan for a picture of \a size with at most \a bitDepth bits per colour, or with any
+     *  number if it is 0. Where the pixels of \a track aren't known nothing is converted or said.
+     */
     [[nodiscard]] static ColourPlan make(const VideoTrack &track, const QSize &size,
-                                         const VideoCodec &codec, const Container &container);
+                                         const VideoCodec &codec, const Container &container,
+                                         int bitDepth = 0);
 
     /*! What the encoder writes into the file. */
     [[nodiscard]] ToolOptions tags() const;
@@ -30,6 +32,9 @@ private:
 
 /*! The colours of \a track, with what players take where it doesn't say. */
 [[nodiscard]] Colour shownColour(const VideoTrack &track);
+
+/*! Whether decoded \a pixels, as ffmpeg names their format, have more than 8 bits per colour. */
+[[nodiscard]] bool isDeep(const QString &pixels);
 
 /*! Makes \a options, which are \a encoder's, tell the display and light that \a track has. */
 void addLight(ToolOptions &options, const QString &encoder, const VideoTrack &track);

@@ -5,7 +5,7 @@
 #include "host/convert/ffmpegarguments.h"
 #include "host/convert/losses.h"
 #include "host/convert/shortfall.h"
-#include "host/convert/videoplan.h"
+#include "host/convert/subtitleplan.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -39,14 +39,22 @@ bool wroteAll(const ToolRun &run)
 
 QStringList ConversionOutcome::notes() const
 {
-    QStringList notes = {shortfall, losses};
+    QStringList notes = {shortfall, losses, advice};
     notes.removeAll(QString());
     return notes;
+}
+
+void SamplePart::cut(OutputSettings &settings, double duration) const
+{
+    const double latest = std::max(0.0, duration - seconds);
+    settings.start = std::min(duration * at, latest);
+    settings.end = settings.start + seconds;
 }
 
 Conversion::Conversion(const ConversionJob &job, QObject *parent)
     : QObject(parent)
     , m_job(job)
+    , m_settings(job.settings)
     , m_name(job.source, job.target, job.settings.extension)
 {
     connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::listEncoders);
@@ -64,7 +72,11 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
 
 void Conversion::start()
 {
-    const Result<> possible = m_job.settings.validate().and_then(
+    m_settings = m_job.settings;
+    m_sizeFit.reset();
+    m_copies = {};
+    m_runs = 0;
+    const Result<> possible = m_settings.validate().and_then(
         [this] { return m_name.isComplete() ? m_name.choose() : Result<>(); });
     if (possible && !m_name.isSkipped()) {
         m_sourceProbe.start(m_job.source);
@@ -114,12 +126,11 @@ void Conversion::lookAtSource(const Result<QSet<QString>> &encoders)
         return;
     }
     m_encoderNames = *encoders;
-    const VideoTrack *track = m_job.settings.hasVideo ? m_source.video() : nullptr;
-    if (track == nullptr) {
+    if (!m_settings.hasVideo) {
         convert(m_source);
         return;
     }
-    const Result<VideoPlan> plan = VideoPlan::make(*track, streamTarget());
+    const Result<VideoPlan> plan = videoPlan();
     m_look.start(m_job.source, m_source, plan && plan->isToneMapped);
 }
 
@@ -130,6 +141,18 @@ void Conversion::convert(const Result<MediaFacts> &source)
         return;
     }
     m_source = *source;
+    if (m_job.sample) {
+        m_job.sample->cut(m_settings, m_source.duration);
+    }
+    const Result<OutputSettings> fitted = fittedToSize(m_source, streamTarget());
+    if (!fitted) {
+        fail(fitted.error());
+        return;
+    }
+    m_settings = *fitted;
+    if (m_settings.targetBytes > 0 && m_settings.hasVideo) {
+        m_sizeFit.emplace(m_settings.targetBytes, expectedDuration(), m_settings.videoKbps);
+    }
     if (!m_name.isComplete()) {
         const Result<> named = namePicture().and_then([this] { return m_name.choose(); });
         if (!named) {
@@ -141,13 +164,16 @@ void Conversion::convert(const Result<MediaFacts> &source)
             return;
         }
     }
-    const Result<QStringList> planned = argumentsFor(m_name.path());
+    const Result<QVector<ToolCall>> planned = plannedCalls();
     if (!planned) {
         fail(planned.error());
         return;
     }
     if (m_job.planOnly) {
-        Q_EMIT finished(ConversionOutcome{m_name.path(), {}, losses(), {}, ffmpegCall(*planned)});
+        ConversionOutcome outcome{m_name.path(), {}, losses(), {}, *planned};
+        outcome.mostBytes = mostBytes(m_source, streamTarget());
+        outcome.advice = advice();
+        Q_EMIT finished(outcome);
         return;
     }
     if (m_job.target.makesFolder) {
@@ -158,19 +184,25 @@ void Conversion::convert(const Result<MediaFacts> &source)
         fail(created.error());
         return;
     }
-    m_firstCopies = copiesIn(*planned);
+    m_firstCopies = copiesIn(planned->constLast().arguments);
     m_copies = m_firstCopies;
+    attempt();
+}
+
+void Conversion::attempt()
+{
+    m_pass = {takesPasses() ? 1 : 0, m_pending.passPath()};
     runFfmpeg();
 }
 
 void Conversion::runFfmpeg()
 {
-    const Result<QStringList> arguments = argumentsFor(m_pending.path());
+    const Result<QStringList> arguments = argumentsFor(m_pending.path(), m_pass);
     if (!arguments) {
         fail(arguments.error());
         return;
     }
-    m_progress = ProgressReader(expectedDuration());
+    m_progress = ProgressReader(expectedDuration(), m_runs, m_pass.number == 1 ? 1 : 0);
     m_call = ffmpegCall(*arguments);
     if (m_job.isLogged) {
         m_call.report = m_pending.logPath();
@@ -186,6 +218,7 @@ void Conversion::checkRun(const Result<ToolRun> &run)
     if (m_job.isLogged) {
         log();
     }
+    ++m_runs;
     if (!run) {
         fail(run.error());
     } else if (run->errors.contains("No space left on device")) {
@@ -197,10 +230,35 @@ void Conversion::checkRun(const Result<ToolRun> &run)
         }
         fail({tr("ffmpeg couldn't convert it (%1); check the file or try another preset")
                   .arg(failureInPlainWords(run->firstError()))});
+    } else if (m_pass.number == 1) {
+        m_pass.number = 2;
+        runFfmpeg();
     } else {
         m_hadErrors = !run->errors.isEmpty();
-        m_resultProbe.start(m_pending.path());
+        const Result<bool> corrects = correctsSize();
+        if (!corrects) {
+            fail(corrects.error());
+        } else if (*corrects) {
+            runFfmpeg();
+        } else {
+            m_resultProbe.start(m_pending.path());
+        }
     }
+}
+
+Result<bool> Conversion::correctsSize()
+{
+    if (!m_sizeFit) {
+        return false;
+    }
+    const qint64 bytes = QFileInfo(m_pending.path()).size();
+    const bool corrects = m_sizeFit->corrects(bytes);
+    if (!corrects && double(bytes) > m_settings.targetBytes) {
+        return failed(tr("can't be made as small as asked; choose a larger size or a preset with "
+                         "a smaller picture"));
+    }
+    m_settings.videoKbps = m_sizeFit->kbps();
+    return corrects;
 }
 
 void Conversion::checkResult(const Result<MediaFacts> &result)
@@ -209,7 +267,7 @@ void Conversion::checkResult(const Result<MediaFacts> &result)
         fail(result.error());
         return;
     }
-    if (!result || (m_job.settings.hasVideo && result->video() == nullptr)) {
+    if (!result || (m_settings.hasVideo && result->video() == nullptr)) {
         if (!retryWithFewerCopies()) {
             fail({tr("ffmpeg wrote a file that can't be played; try another preset")});
         }
@@ -241,7 +299,7 @@ void Conversion::compareFrames(const Result<ToolRun> &run)
     } else if (beginsAlike(m_sourceFrames, run->output)) {
         publish();
     } else {
-        retryWith({false, m_copies.audio});
+        retryWith({false, m_copies.audio, m_copies.subtitles});
     }
 }
 
@@ -259,13 +317,45 @@ void Conversion::publish()
     if (m_job.keepDates) {
         takeDate(m_name.path(), m_job.source);
     }
-    Q_EMIT finished(ConversionOutcome{m_name.path(), m_result, losses(), shortfall()});
+    ConversionOutcome outcome{m_name.path(), m_result, losses(), shortfall()};
+    outcome.advice = advice();
+    if (m_job.sample && m_result.duration > 0) {
+        outcome.wholeBytes = double(m_result.bytes) * m_source.duration / m_result.duration;
+    }
+    Q_EMIT finished(outcome);
 }
 
-Result<QStringList> Conversion::argumentsFor(const QString &target) const
+Result<QStringList> Conversion::argumentsFor(const QString &target, const EncodingPass &pass) const
 {
-    return ffmpegArguments(m_job.settings, m_source, m_encoderNames, m_job.source, target,
-                           m_copies);
+    return ffmpegArguments(m_settings, m_source, m_encoderNames, m_job.source, target, m_copies,
+                           pass);
+}
+
+Result<QVector<ToolCall>> Conversion::plannedCalls() const
+{
+    QVector<ToolCall> calls;
+    const QString file = m_name.path() + QStringLiteral(".pass");
+    for (const int number : takesPasses() ? QVector<int>{1, 2} : QVector<int>{0}) {
+        const Result<QStringList> arguments = argumentsFor(m_name.path(), {number, file});
+        if (!arguments) {
+            return failed(arguments);
+        }
+        calls.append(ffmpegCall(*arguments));
+    }
+    return calls;
+}
+
+Result<VideoPlan> Conversion::videoPlan() const
+{
+    const VideoTrack *track = m_settings.hasVideo ? m_source.video() : nullptr;
+    return track == nullptr ? failed(tr("has no video; choose an audio preset"))
+                            : VideoPlan::make(*track, streamTarget());
+}
+
+bool Conversion::takesPasses() const
+{
+    const Result<VideoPlan> plan = videoPlan();
+    return plan && plan->takesPasses;
 }
 
 QString Conversion::losses() const
@@ -273,51 +363,66 @@ QString Conversion::losses() const
     return lossesIn(m_source, streamTarget());
 }
 
+QString Conversion::advice() const
+{
+    const Result<VideoPlan> plan = videoPlan();
+    if (!m_sizeFit || !plan) {
+        return {};
+    }
+    const VideoTrack &track = *m_source.video();
+    const QString codec = m_settings.videoCodec.isEmpty() ? track.codec : m_settings.videoCodec;
+    return poorPicture(videoCodec(codec), {plan->size, resultRate(track.frameRate, m_settings)},
+                       m_settings.videoKbps);
+}
+
 QString Conversion::shortfall() const
 {
     const bool isGuessed = m_result.hasGuessedDuration();
     return shortfallIn(m_source, m_result, expectedDuration(),
-                       isGuessed ? m_progress.progress().done : m_result.duration);
+                       isGuessed ? m_progress.written() : m_result.duration);
 }
 
 double Conversion::expectedDuration() const
 {
     if (m_source.isStill()) {
-        return m_job.settings.stillSeconds;
+        return m_settings.stillSeconds;
     }
-    return m_job.settings.cutDuration(m_source.duration);
+    return m_settings.cutDuration(m_source.duration);
 }
 
 bool Conversion::retryWithFewerCopies()
 {
-    const bool canRetry = m_copies.video || m_copies.audio;
-    if (canRetry) {
+    if (m_copies.video || m_copies.audio) {
         retryWith(fewerCopies(m_firstCopies, m_copies));
+        return true;
     }
-    return canRetry;
+    // The subtitles may be what can't be written: the rest is worth more.
+    if (m_copies.subtitles && !subtitlePlans(m_source, streamTarget()).isEmpty()) {
+        m_firstCopies.subtitles = false;
+        retryWith(m_firstCopies);
+        return true;
+    }
+    return false;
 }
 
 void Conversion::retryWith(const Copies &copies)
 {
     m_copies = copies;
-    runFfmpeg();
+    attempt();
 }
 
 StreamTarget Conversion::streamTarget() const
 {
-    return {m_job.settings, *Container::find(m_job.settings.extension), m_encoderNames, m_copies};
+    return {m_settings, *Container::find(m_settings.extension), m_encoderNames, m_copies};
 }
 
 Result<> Conversion::namePicture()
 {
-    const VideoTrack *track = m_source.video();
-    if (!m_job.settings.hasVideo || track == nullptr) {
+    if (!m_settings.hasVideo || m_source.video() == nullptr) {
         return failed(tr("the output has no picture, so its name can't hold the picture's width "
                          "or height"));
     }
-    return VideoPlan::make(*track, streamTarget()).map([this](const VideoPlan &plan) {
-        m_name.setPicture(plan.size);
-    });
+    return videoPlan().map([this](const VideoPlan &plan) { m_name.setPicture(plan.size); });
 }
 
 void Conversion::log()

@@ -5,6 +5,8 @@
 #include "host/convert/outputname.h"
 #include "host/convert/outputsettings.h"
 #include "host/convert/progress.h"
+#include "host/convert/sizefit.h"
+#include "host/convert/videoplan.h"
 #include "host/files/pendingfile.h"
 #include "host/media/mediafacts.h"
 #include "host/media/mediaprobe.h"
@@ -14,28 +16,43 @@
 #include <QObject>
 #include <QStringList>
 
+/*! A part of a source to try settings on. */
+struct SamplePart
+{
+    double seconds = 0;
+    double at = 0; //!< where it begins, as a share of the source from 0 to 1
+
+    /*! Makes \a settings keep that part, or all that there is, of a source that lasts so many
+     *  seconds. */
+    void cut(OutputSettings &settings, double duration) const;
+};
+
 /*! One file to convert. */
 struct ConversionJob
 {
     QString source;
     OutputSettings settings;
     OutputTarget target;
-    bool keepDates = false; //!< gives the output the source's date
-    bool planOnly = false;  //!< only finds out what would be done
-    bool isLogged = false;  //!< logged() tells what ffmpeg does
+    std::optional<SamplePart> sample = {}; //!< of the source; none: what the settings keep
+    bool keepDates = false;                //!< gives the output the source's date
+    bool planOnly = false;                 //!< only finds out what would be done
+    bool isLogged = false;                 //!< logged() tells what ffmpeg does
 };
 
 /*! The result of a conversion or, with planOnly, of its plan. */
 struct ConversionOutcome
 {
-    QString target;         //!< the new file; for a plan, its name as of now
-    MediaFacts facts;       //!< of the new file; empty for a plan
-    QString losses = {};    //!< what is left out, one line; empty: nothing
-    QString shortfall = {}; //!< says that the output is too short; empty: it isn't
-    ToolCall plan = {};     //!< only for a plan: the call that would write the target
+    QString target;              //!< the new file; for a plan, its name as of now
+    MediaFacts facts;            //!< of the new file; empty for a plan
+    QString losses = {};         //!< what is left out, one line; empty: nothing
+    QString shortfall = {};      //!< says that the output is too short; empty: it isn't
+    QVector<ToolCall> plan = {}; //!< only for a plan: the calls that would write the target
+    double mostBytes = 0;   //!< only for a plan: of the target; 0: the encoder's quality decides
+    double wholeBytes = 0;  //!< only for a sample: about what all of the source would make
+    QString advice = {};    //!< what would look better, one line; empty: nothing
     bool isSkipped = false; //!< the target was there already; nothing was converted
 
-    /*! What is to be said of it: the shortfall and the losses. */
+    /*! What is to be said of it: the shortfall, the losses and the advice. */
     [[nodiscard]] QStringList notes() const;
 };
 Q_DECLARE_METATYPE(Result<ConversionOutcome>)
@@ -74,15 +91,24 @@ private:
     void listEncoders(const Result<MediaFacts> &source);
     void lookAtSource(const Result<QSet<QString>> &encoders);
     void convert(const Result<MediaFacts> &source);
+    /*! Begins an attempt, in as many passes as it takes. */
+    void attempt();
     void runFfmpeg();
     void checkRun(const Result<ToolRun> &run);
     void checkResult(const Result<MediaFacts> &result);
     void compareFrames(const Result<ToolRun> &run);
     void publish();
 
-    [[nodiscard]] Result<QStringList> argumentsFor(const QString &target) const;
+    [[nodiscard]] Result<QStringList> argumentsFor(const QString &target,
+                                                   const EncodingPass &pass) const;
+    [[nodiscard]] Result<QVector<ToolCall>> plannedCalls() const;
+    [[nodiscard]] Result<VideoPlan> videoPlan() const;
+    [[nodiscard]] bool takesPasses() const;
+    /*! Whether the size calls for another run; fails if none can give it. */
+    [[nodiscard]] Result<bool> correctsSize();
     [[nodiscard]] double expectedDuration() const;
     [[nodiscard]] QString losses() const;
+    [[nodiscard]] QString advice() const;
     [[nodiscard]] QString shortfall() const;
     /*! Encodes what can't be copied; false if nothing is left to try. */
     bool retryWithFewerCopies();
@@ -96,13 +122,17 @@ private:
     void fail(const Error &error);
 
     const ConversionJob m_job;
+    OutputSettings m_settings; // the job's, fitted to the source
+    std::optional<SizeFit> m_sizeFit;
     MediaFacts m_source;
     MediaFacts m_result;
     QSet<QString> m_encoderNames;
     Copies m_firstCopies; // of the first attempt
     Copies m_copies;      // of the current attempt
     OutputName m_name;
-    ToolCall m_call; // of the current attempt
+    EncodingPass m_pass;
+    int m_runs = 0;  // of ffmpeg that have ended
+    ToolCall m_call; // of the current run
     bool m_hadErrors = false;
     bool m_isPaused = false;
     QByteArray m_sourceFrames; // the first ones, once known

@@ -85,13 +85,14 @@ Copies copiesThatLast(const Copies &copied, const MediaFacts &source, const Medi
     const bool isFileLonger =
         seconds > 0 && result.duration > 0 && result.duration > seconds + tolerance;
     return {copied.video && !isFileLonger && lasts(source.video(), result.video(), seconds),
-            copied.audio && !isFileLonger && lasts(source.audio(), result.audio(), seconds)};
+            copied.audio && !isFileLonger && lasts(source.audio(), result.audio(), seconds),
+            copied.subtitles};
 }
 
 Copies fewerCopies(const Copies &first, const Copies &copied)
 {
     if (copied.video && copied.audio) {
-        return {true, false};
+        return {true, false, copied.subtitles};
     }
-    return {false, copied.video && first.audio};
+    return {false, copied.video && first.audio, copied.subtitles};
 }

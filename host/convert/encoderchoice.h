@@ -13,11 +13,19 @@ struct Copies
 {
     bool video = true;
     bool audio = true;
+    bool subtitles = true; //!< false: they aren't written at all
 
     [[nodiscard]] bool operator!=(const Copies &other) const
     {
-        return video != other.video || audio != other.audio;
+        return video != other.video || audio != other.audio || subtitles != other.subtitles;
     }
+};
+
+/*! One of two runs over a source, the first of which only finds out what the second needs. */
+struct EncodingPass
+{
+    int number = 0;    //!< from 1; 0: there is only one run
+    QString file = {}; //!< for what the first one finds
 };
 
 /*! What a stream is written for. */
@@ -28,6 +36,7 @@ struct StreamTarget
     const QSet<QString> &encoders; //!< those that ffmpeg has
     Copies allowed = {};
     QString burnFilter = {}; //!< draws the subtitles onto the picture; empty: none are drawn
+    EncodingPass pass = {};
 
     /*! Not where the start is cut off: a copied stream can begin only at a key frame. */
     [[nodiscard]] bool allowsVideoCopy() const { return allowed.video && settings.start <= 0; }

@@ -2,7 +2,6 @@
 
 #include "host/convert/burnedsubtitles.h"
 #include "host/convert/outputstreams.h"
-#include "host/convert/ratecontrol.h"
 #include "host/media/mediainput.h"
 #include "host/tools/toolcall.h"
 
@@ -69,23 +68,20 @@ ToolOptions muxerOptions(const StreamTarget &target)
 
 Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaFacts &source,
                                     const QSet<QString> &encoders, const QString &sourcePath,
-                                    const QString &targetPath, Copies allowed)
+                                    const QString &targetPath, Copies allowed,
+                                    const EncodingPass &pass)
 {
     const Result<> possible = settings.validate();
     if (!possible) {
         return tl::make_unexpected(possible.error());
-    }
-    const Result<OutputSettings> fitted = fittedToSize(settings, source);
-    if (!fitted) {
-        return tl::make_unexpected(fitted.error());
     }
     const Container &container = *Container::find(settings.extension);
     const Result<QString> burned = burnFilter(source, settings, sourcePath);
     if (!burned) {
         return failed(burned);
     }
-    const Copies copies = source.isStill() ? Copies{false, false} : allowed;
-    const StreamTarget target{*fitted, container, encoders, copies, *burned};
+    const Copies copies = source.isStill() ? Copies{false, false, allowed.subtitles} : allowed;
+    const StreamTarget target{settings, container, encoders, copies, *burned, pass};
     const Result<OutputStreams> streams = OutputStreams::make(source, target);
     if (!streams) {
         return failed(streams);
@@ -96,12 +92,20 @@ Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaF
         input << QStringLiteral("-c:v") << streams->decoder;
     }
     input += inputArguments(sourcePath, source.container);
+    const QStringList head = {QStringLiteral("-progress"), QStringLiteral("pipe:1"),
+                              QStringLiteral("-y")};
+    if (pass.number == 1) {
+        return head + input + streams->arguments +
+               QStringList{QStringLiteral("-f"), QStringLiteral("null"), QStringLiteral("-")};
+    }
+    const QStringList palette = streams->needsPalette
+                                    ? QStringList{QStringLiteral("-f"), QStringLiteral("png_pipe"),
+                                                  QStringLiteral("-i"), fileArgument(pass.file)}
+                                    : QStringList();
     const QStringList file = metadataArguments(source) + toArguments(muxerOptions(target)) +
                              toArguments({{QStringLiteral("f"), container.muxer}}) +
                              QStringList{fileArgument(targetPath)};
-    return QStringList{QStringLiteral("-progress"), QStringLiteral("pipe:1"),
-                       QStringLiteral("-y")} +
-           input + (streams->isReadTwice ? input : QStringList()) + streams->arguments + file;
+    return head + input + palette + streams->arguments + file;
 }
 
 Copies copiesIn(const QStringList &arguments)

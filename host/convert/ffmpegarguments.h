@@ -12,13 +12,13 @@
 /*!
  * The arguments for ffmpegCall() that convert \a source with \a settings, or why that is
  * impossible. \a encoders are the names of ffmpeg's encoders. Streams that already fit are copied
- * if \a allowed permits it. A pure function.
+ * if \a allowed permits it. The first of two passes writes only what the second needs. A pure
+ * function.
  */
-[[nodiscard]] Result<QStringList> ffmpegArguments(const OutputSettings &settings,
-                                                  const MediaFacts &source,
-                                                  const QSet<QString> &encoders,
-                                                  const QString &sourcePath,
-                                                  const QString &targetPath, Copies allowed = {});
+[[nodiscard]] Result<QStringList>
+ffmpegArguments(const OutputSettings &settings, const MediaFacts &source,
+                const QSet<QString> &encoders, const QString &sourcePath, const QString &targetPath,
+                Copies allowed = {}, const EncodingPass &pass = {});
 
 /*! Which streams these arguments copy. */
 [[nodiscard]] Copies copiesIn(const QStringList &arguments);

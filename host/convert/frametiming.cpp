@@ -108,7 +108,9 @@ FrameTiming FrameTiming::make(const VideoTrack &track, const VideoCodec &codec,
     }
     if (isVariable) {
         const bool canVary = container.times == Container::Times::Any && codec.frameRates.isEmpty();
-        return canVary && !isFixed ? variableTiming(track, codec, settings) : constant(rate);
+        return canVary && !isFixed && settings.keepsVariableRate
+                   ? variableTiming(track, codec, settings)
+                   : constant(rate);
     }
     return rate == own ? FrameTiming() : thinnedTo(rate);
 }

@@ -31,13 +31,19 @@ QVector<SubtitleTrack> lostSubtitles(const MediaFacts &source, const StreamTarge
     std::copy_if(source.subtitleTracks.begin(), source.subtitleTracks.end(),
                  std::back_inserter(lost), [&target](const SubtitleTrack &track) {
                      return target.settings.subtitles.takes(track) &&
-                            !holdsSubtitles(track, target.container);
+                            (!target.allowed.subtitles || !holdsSubtitles(track, target.container));
                  });
     return lost;
 }
 
-QString textOf(const QVector<SubtitleTrack> &lost, const QString &extension)
+QString textOf(const QVector<SubtitleTrack> &lost, const StreamTarget &target)
 {
+    const QString extension = target.settings.extension;
+    if (!target.allowed.subtitles) {
+        return Texts::tr("subtitle tracks: %1 (%2; they can't be written into this .%3)")
+            .arg(lost.size())
+            .arg(codecNames(lost), extension);
+    }
     for (const char *other : {"mkv", "m2ts"}) {
         const Container &container = *Container::find(QLatin1String(other));
         const bool holdsAll =
@@ -61,7 +67,7 @@ QStringList lossesOfFilm(const MediaFacts &source, const StreamTarget &target)
     QStringList losses;
     const QVector<SubtitleTrack> subtitles = lostSubtitles(source, target);
     if (!subtitles.isEmpty()) {
-        losses << textOf(subtitles, extension);
+        losses << textOf(subtitles, target);
     }
     const int films = int(std::count_if(source.videoTracks.begin(), source.videoTracks.end(),
                                         [](const VideoTrack &track) { return !track.isCover; }));

@@ -114,7 +114,10 @@ void readConverterSettings(OutputSettings &settings, const QVariantMap &preset)
     }
     settings.level = ofCodec("Level");
     settings.profile = ofCodec("Profile");
+    settings.bitDepth = countFromText(ofCodec("BitDepth"));
     settings.videoTag = ofCodec("Tag");
+    settings.keepsVariableRate =
+        chosenText(param, QStringLiteral("frameRateMode")) != QLatin1String("constant");
     settings.hasEditLists = chosenText(param, QStringLiteral("editLists")) != QLatin1String("none");
 }
 
@@ -160,10 +163,11 @@ struct ChosenNumber
 auto valuesOf(const OutputSettings &settings)
 {
     return std::tie(settings.extension, settings.hasVideo, settings.videoCodec, settings.frameRate,
-                    settings.frameRateMode, settings.box, settings.videoKbps, settings.quality,
-                    settings.averagesBitrate, settings.targetBytes, settings.bufferSeconds,
-                    settings.peakKbps, settings.level, settings.profile, settings.speed,
-                    settings.tune, settings.mustEncode, settings.videoTag, settings.hasEditLists,
+                    settings.frameRateMode, settings.keepsVariableRate, settings.box,
+                    settings.videoKbps, settings.quality, settings.averagesBitrate,
+                    settings.targetBytes, settings.bufferSeconds, settings.peakKbps, settings.level,
+                    settings.profile, settings.bitDepth, settings.speed, settings.tune,
+                    settings.mustEncode, settings.videoTag, settings.hasEditLists,
                     settings.audioCodec, settings.sampleRate, settings.channels, settings.audioKbps,
                     settings.audioTracks, settings.subtitles, settings.burnedSubtitles,
                     settings.stillSeconds, settings.start, settings.end);
@@ -216,6 +220,7 @@ Result<> OutputSettings::validate() const
         {"video.bitrate", videoKbps, 1, 1000000, " kbps"},
         {"videoParam.peakKbps", peakKbps, 1, 1000000, " kbps"},
         {"videoParam.bufferSeconds", bufferSeconds, 0.1, 60, " s"},
+        {"videoParam.bitDepth", double(bitDepth), 8, 10, ""},
         {"audio.sampleRate", double(sampleRate), 1000, 768000, " Hz"},
         {"audio.channel", double(channels), 1, 64, ""},
         {"audio.bitrate", audioKbps, 1, 100000, " kbps"},

@@ -29,20 +29,22 @@ public:
     QString videoCodec; //!< ffprobe's name
     Ratio frameRate;
     FrameRateMode frameRateMode = FrameRateMode::Ceiling;
-    QSize box;                    //!< the video is fitted into it
-    double videoKbps = 0;         //!< maximum; 0: the encoder's default quality
-    double quality = 0;           //!< of the video: 1 is high, 0 default, -1 low
-    bool averagesBitrate = false; //!< videoKbps is the average, not the maximum
-    double targetBytes = 0;       //!< maximum file size; 0: any
-    double bufferSeconds = 1;     //!< of the decoder's rate buffer
-    double peakKbps = 0;          //!< maximum within any second; 0: limited by the buffer
-    QString level;                //!< of the video codec, as a device requires
-    QString profile;              //!< of the video codec, as a device requires
-    QString speed;                //!< the encoder's own word for it; empty: the usual one
-    QString tune;                 //!< the encoder's word for a kind of content; empty: any
-    bool mustEncode = false;      //!< a picture that fits is encoded, too
-    QString videoTag;             //!< the codec's tag in the container; empty: the usual one
-    bool hasEditLists = true;     //!< if the container supports them
+    bool keepsVariableRate = true; //!< if the container supports it
+    QSize box;                     //!< the video is fitted into it
+    double videoKbps = 0;          //!< maximum; 0: the encoder's default quality
+    double quality = 0;            //!< of the video: 1 is high, 0 default, -1 low
+    bool averagesBitrate = false;  //!< videoKbps is the average, not the maximum
+    double targetBytes = 0;        //!< maximum file size; 0: any
+    double bufferSeconds = 1;      //!< of the decoder's rate buffer
+    double peakKbps = 0;           //!< maximum within any second; 0: limited by the buffer
+    QString level;                 //!< of the video codec, as a device requires
+    QString profile;               //!< of the video codec, as a device requires
+    int bitDepth = 0;              //!< the most that a device plays; 0: as many as the codec has
+    QString speed;                 //!< the encoder's own word for it; empty: the usual one
+    QString tune;                  //!< the encoder's word for a kind of content; empty: any
+    bool mustEncode = false;       //!< a picture that fits is encoded, too
+    QString videoTag;              //!< the codec's tag in the container; empty: the usual one
+    bool hasEditLists = true;      //!< if the container supports them
     QString audioCodec;
     int sampleRate = 0; //!< Hz
     int channels = 0;

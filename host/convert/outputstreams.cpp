@@ -59,7 +59,10 @@ public:
     void addSubtitles();
     void addAttachments();
     void addCover();
-    OutputStreams result() const { return {m_graph + m_maps + m_codecs, m_decoder, m_isReadTwice}; }
+    OutputStreams result() const
+    {
+        return {m_graph + m_maps + m_codecs, m_decoder, m_needsPalette};
+    }
 
 private:
     void map(int index) { map(QStringLiteral("0:%1").arg(index)); }
@@ -71,7 +74,7 @@ private:
     QStringList m_maps;
     QStringList m_codecs;
     QString m_decoder;
-    bool m_isReadTwice = false;
+    bool m_needsPalette = false;
     int m_pictures = 0;
 };
 
@@ -81,19 +84,21 @@ Result<> StreamCollector::addVideo(const VideoTrack &picture)
     if (!plan) {
         return failed(plan);
     }
+    m_decoder = plan->decoder;
+    if (plan->hasPalette && m_target.pass.number == 1) {
+        m_graph = plan->paletteArguments(picture.index, m_target.pass.file);
+        return {};
+    }
     if (plan->hasGraph()) {
-        const QString drawn = QStringLiteral("[drawn]");
-        m_graph =
-            QStringList{QStringLiteral("-filter_complex"), plan->graph(picture.index) + drawn};
-        map(drawn);
+        m_graph = QStringList{QStringLiteral("-filter_complex"), plan->graph(picture.index)};
+        map(QStringLiteral("[drawn]"));
         m_codecs << QStringLiteral("-map_metadata:s:v:0")
                  << QStringLiteral("0:s:%1").arg(picture.index);
     } else {
         map(picture.index);
     }
     m_codecs += plan->arguments();
-    m_decoder = plan->decoder;
-    m_isReadTwice = plan->hasPalette;
+    m_needsPalette = plan->hasPalette;
     ++m_pictures;
     return {};
 }
@@ -163,6 +168,9 @@ Result<OutputStreams> OutputStreams::make(const MediaFacts &source, const Stream
     }
     StreamCollector streams(source, target);
     Result<> added = video == nullptr ? Result<>() : streams.addVideo(*video);
+    if (added && target.pass.number == 1) {
+        return streams.result();
+    }
     if (added) {
         added = streams.addAudio(audio);
     }

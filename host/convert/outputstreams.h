@@ -8,9 +8,9 @@
 /*! Which of a source's streams are written, and how. */
 struct OutputStreams
 {
-    QStringList arguments;    //!< select the streams and their codecs
-    QString decoder;          //!< of the video; empty: the usual one
-    bool isReadTwice = false; //!< as two inputs of the same source
+    QStringList arguments;     //!< select the streams and their codecs
+    QString decoder;           //!< of the video; empty: the usual one
+    bool needsPalette = false; //!< as a second input
 
     /*! Those of \a source for \a target. Fails if there is nothing to write, or the container can't
      *  hold it. A pure function. */

@@ -37,7 +37,7 @@ bool ProgressReader::feed(const QByteArray &bytes)
             }
             m_growing.speed = plausibleSeconds(value.toDouble());
         } else if (key == "progress") {
-            m_progress.done = m_growing.done;
+            m_progress.done = m_before + m_growing.done;
             m_progress.speed = m_growing.speed;
             isNew = true;
         }

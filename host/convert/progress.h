@@ -22,13 +22,23 @@ Q_DECLARE_METATYPE(Progress)
 class ProgressReader
 {
 public:
-    explicit ProgressReader(double total = 0) { m_progress.total = total; }
+    /*! For a run that writes \a seconds of media; \a before and \a after it are other runs of so
+     *  many each. */
+    explicit ProgressReader(double seconds = 0, int before = 0, int after = 0)
+        : m_before(seconds * before)
+    {
+        m_progress.total = seconds * (before + 1 + after);
+        m_progress.done = m_before;
+    }
 
     /*! Takes the next bytes; true when they end at least one report, so that progress() is new. */
     bool feed(const QByteArray &bytes);
     [[nodiscard]] const Progress &progress() const { return m_progress; }
+    /*! Seconds of media that this run has written. */
+    [[nodiscard]] double written() const { return m_progress.done - m_before; }
 
 private:
+    double m_before = 0;
     Progress m_progress;
     Progress m_growing;
     QByteArray m_line;

@@ -1,18 +1,9 @@
 #include "host/convert/ratecontrol.h"
 
-#include "host/convert/audioplan.h"
-
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(RateControl)
-};
 
 void set(ToolOptions &options, const QString &name, const QString &value)
 {
@@ -63,13 +54,8 @@ double sufficientKbps(const EncodedPicture &picture, double quality)
 
 void setAverage(ToolOptions &options, VideoCodec::Ceiling ceiling, const OutputSettings &settings)
 {
-    // Only a full buffer keeps an encoder's whole film below a size; others stay so far below it.
-    constexpr double shareWithoutBuffer = 0.8;
-    const bool mayExceed = settings.targetBytes > 0 && ceiling != VideoCodec::Ceiling::Buffered &&
-                           ceiling != VideoCodec::Ceiling::LeastQuantiser;
-    setKbps(options, "b", settings.videoKbps * (mayExceed ? shareWithoutBuffer : 1));
-    const bool isLimited = settings.targetBytes > 0 || settings.peakKbps > 0;
-    if (isLimited && ceiling != VideoCodec::Ceiling::Capped &&
+    setKbps(options, "b", settings.videoKbps);
+    if (settings.peakKbps > 0 && ceiling != VideoCodec::Ceiling::Capped &&
         ceiling != VideoCodec::Ceiling::BitsPerPixel) {
         setBuffer(options, settings);
     }
@@ -101,20 +87,6 @@ void setCeiling(ToolOptions &options, const VideoCodec::Encoder &encoder,
         break;
     }
     setBuffer(options, settings);
-}
-
-/*! What the chosen tracks have together, at most. */
-double audioKbps(const OutputSettings &settings, const MediaFacts &source)
-{
-    double kbps = 0;
-    for (const AudioTrack &track : source.audioTracks) {
-        const double usual = std::max(track.kbps, 96.0 * track.channels);
-        const double own =
-            settings.audioKbps > 0 ? sufficientKbps(track, settings, track.channels) : usual;
-        const bool isOnlyOne = settings.audioTracks.kind == TrackChoice::First;
-        kbps = isOnlyOne ? std::max(kbps, own) : kbps + own;
-    }
-    return kbps;
 }
 
 } // namespace
@@ -149,31 +121,4 @@ ToolOptions rateOptions(const VideoCodec &codec, const VideoCodec::Encoder &enco
         set(options, QStringLiteral("profile"), settings.profile);
     }
     return options;
-}
-
-Result<OutputSettings> fittedToSize(const OutputSettings &settings, const MediaFacts &source)
-{
-    if (settings.targetBytes <= 0) {
-        return settings;
-    }
-    const double seconds = settings.cutDuration(source.duration);
-    if (seconds <= 0) {
-        return failed(
-            Texts::tr("says no length, so that no bitrate gives it the asked size; choose "
-                      "a bitrate instead"));
-    }
-    // Of the container's own, and of what its packets need.
-    constexpr double shareOfStreams = 0.96;
-    OutputSettings fitted = settings;
-    fitted.averagesBitrate = true;
-    fitted.bufferSeconds = std::clamp(seconds / 20, 0.25, 10.0);
-    const double kbits = settings.targetBytes * 8 / 1000 * shareOfStreams;
-    const double videoKbits = kbits - audioKbps(settings, source) * seconds;
-    fitted.videoKbps = std::floor(videoKbits / (seconds + fitted.bufferSeconds));
-    constexpr double leastKbps = 32;
-    if (settings.hasVideo && fitted.videoKbps < leastKbps) {
-        return failed(
-            Texts::tr("is too long for the asked size; choose a larger size or less audio"));
-    }
-    return fitted;
 }

@@ -3,7 +3,6 @@
 
 #include "host/convert/codecs.h"
 #include "host/convert/outputsettings.h"
-#include "host/media/mediafacts.h"
 
 /*! A picture as it is encoded. */
 struct EncodedPicture
@@ -17,10 +16,5 @@ struct EncodedPicture
 [[nodiscard]] ToolOptions rateOptions(const VideoCodec &codec, const VideoCodec::Encoder &encoder,
                                       const OutputSettings &settings,
                                       const EncodedPicture &picture);
-
-/*! The settings with the video bitrate that lets the result of \a source have the asked size. Fails
- *  where not even the audio fits. */
-[[nodiscard]] Result<OutputSettings> fittedToSize(const OutputSettings &settings,
-                                                  const MediaFacts &source);
 
 #endif

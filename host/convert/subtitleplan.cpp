@@ -29,7 +29,8 @@ QVector<SubtitlePlan> subtitlePlans(const MediaFacts &source, const StreamTarget
 {
     QVector<SubtitlePlan> plans;
     for (const SubtitleTrack &track : source.subtitleTracks) {
-        const bool isWanted = target.settings.hasVideo && target.settings.subtitles.takes(track);
+        const bool isWanted = target.settings.hasVideo && target.allowed.subtitles &&
+                              target.settings.subtitles.takes(track);
         if (isWanted && holdsSubtitles(track, target.container)) {
             const bool isCopied = target.container.subtitleCodecs.contains(track.codec);
             QStringList flags;

@@ -17,6 +17,9 @@ using ToolOptions = QVector<ToolOption>;
  *  empty one they are the file's. */
 [[nodiscard]] QStringList toArguments(const ToolOptions &options, const QString &stream = {});
 
+/*! Adds \a parameters to the option \a name, which takes them with colons between. */
+void addParameters(ToolOptions &options, const QString &name, const QStringList &parameters);
+
 /*! A bitrate as ffmpeg reads it: "1500k". */
 [[nodiscard]] QString kbpsText(double kbps);
 

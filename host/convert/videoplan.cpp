@@ -5,6 +5,9 @@
 #include "host/convert/fieldplan.h"
 #include "host/convert/picturefit.h"
 #include "host/convert/ratecontrol.h"
+#include "host/tools/toolcall.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -29,8 +32,10 @@ bool canBeCopied(const VideoTrack &track, const StreamTarget &target)
     const bool isOwnCodec = settings.videoCodec.isEmpty()
                                 ? target.container.videoCodecs.contains(track.codec)
                                 : settings.videoCodec == track.codec;
-    return target.allowsVideoCopy() && !settings.mustEncode && isOwnCodec &&
-           target.burnFilter.isEmpty() && settings.videoKbps == 0 &&
+    const bool isTooDeep = settings.bitDepth == 8 && isDeep(track.pixelFormat);
+    const bool isUneven = !settings.keepsVariableRate && track.hasVariableRate();
+    return target.allowsVideoCopy() && !settings.mustEncode && isOwnCodec && !isTooDeep &&
+           !isUneven && target.burnFilter.isEmpty() && settings.videoKbps == 0 &&
            resultRate(track.frameRate, settings) == track.frameRate &&
            boxedSize(track, settings.box).isEmpty() && turnIsKept;
 }
@@ -96,7 +101,8 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     plan.size = isFramed ? fit.frame.size : size;
 
     const FieldPlan fields = FieldPlan::make(track, codec, target.container);
-    const ColourPlan colour = ColourPlan::make(track, size, codec, target.container);
+    const ColourPlan colour =
+        ColourPlan::make(track, size, codec, target.container, target.settings.bitDepth);
     plan.filters = fields.filters;
     if (!target.settings.hasEditLists) {
         // Video that begins late would begin with the audio: its first frame is shown until then.
@@ -130,17 +136,44 @@ void planPicture(VideoPlan &plan, const VideoTrack &track, const VideoCodec &cod
     }
 }
 
-void planQuality(VideoPlan &plan, const VideoTrack &track, const VideoCodec &codec,
-                 const OutputSettings &settings)
+/*! Lets the encoder work in that pass; its file may have any name. */
+void addPass(ToolOptions &options, const VideoCodec::Encoder &encoder, const EncodingPass &pass)
 {
+    for (const ToolOption &option : encoder.passes) {
+        const bool isParameter = option.value.contains(QLatin1Char('='));
+        QString file = pass.file;
+        if (isParameter) {
+            file.replace(QRegularExpression(QStringLiteral("([\\\\':= ])")),
+                         QStringLiteral("\\\\1"));
+        }
+        const QString value = QString(option.value)
+                                  .replace(QLatin1String("%1"), QString::number(pass.number))
+                                  .replace(QLatin1String("%2"), file);
+        if (isParameter) {
+            addParameters(options, option.name, {value});
+        } else {
+            options.append({option.name, value});
+        }
+    }
+}
+
+void planQuality(VideoPlan &plan, const VideoTrack &track, const VideoCodec &codec,
+                 const StreamTarget &target)
+{
+    const OutputSettings &settings = target.settings;
     const QSize boxed = boxedSize(track, settings.box);
     const VideoCodec::Encoder unknown{plan.encoder};
     const auto row = std::find_if(
         codec.encoders.begin(), codec.encoders.end(),
         [&plan](const VideoCodec::Encoder &each) { return each.name == plan.encoder; });
+    const VideoCodec::Encoder &encoder = row == codec.encoders.end() ? unknown : *row;
     plan.options = rateOptions(
-        codec, row == codec.encoders.end() ? unknown : *row, settings,
+        codec, encoder, settings,
         {boxed.isEmpty() ? track.storedSize : boxed, resultRate(track.frameRate, settings)});
+    plan.takesPasses = codec.hasPalette || (settings.targetBytes > 0 && !encoder.passes.isEmpty());
+    if (target.pass.number > 0) {
+        addPass(plan.options, encoder, target.pass);
+    }
 }
 
 } // namespace
@@ -161,7 +194,7 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
             return tl::make_unexpected(encoder.error());
         }
         plan.encoder = *encoder;
-        planQuality(plan, track, codec, settings);
+        planQuality(plan, track, codec, target);
         planPicture(plan, track, codec, target);
     }
     if (isCopied) {
@@ -184,22 +217,45 @@ bool VideoPlan::hasGraph() const
     return hasPalette || isToneMapped || isFilterGraph(filters.value(0));
 }
 
-QString VideoPlan::graph(int track) const
+QString VideoPlan::chain(int track) const
 {
-    const auto chain = [this, track](int input) {
-        const QString source = QStringLiteral("[%1:").arg(input);
-        QString text = filters.isEmpty() ? QStringLiteral("null") : filters.join(QLatin1Char(','));
-        return isFilterGraph(text) ? text.replace(QLatin1String("[0:"), source)
-                                   : QStringLiteral("%1%2]%3").arg(source).arg(track).arg(text);
-    };
-    if (hasPalette) {
-        return QStringLiteral("%1,palettegen[palette];%2[picture];[picture][palette]paletteuse")
-            .arg(chain(1), chain(0));
-    }
+    const QString text =
+        filters.isEmpty() ? QStringLiteral("null") : filters.join(QLatin1Char(','));
+    const QString source = QStringLiteral("[0:%1]").arg(track);
+    const QString chained = isFilterGraph(text) ? text : source + text;
     // Else ffmpeg would say of the result what the source's container says of its light: it takes
     // nothing over where a graph has two inputs.
-    const QString second = QStringLiteral("[0:%1]nullsink;").arg(track);
-    return isToneMapped ? second + chain(0) : chain(0);
+    return isToneMapped ? source + QStringLiteral("nullsink;") + chained : chained;
+}
+
+QString VideoPlan::graph(int track) const
+{
+    return chain(track) + (hasPalette ? QStringLiteral("[picture];[picture][1:0]paletteuse[drawn]")
+                                      : QStringLiteral("[drawn]"));
+}
+
+QStringList VideoPlan::paletteArguments(int track, const QString &file) const
+{
+    // The palette comes last, and ffmpeg tells no progress before each output has begun: another
+    // picture stands in for it.
+    const QString palette = QStringLiteral(
+        ",split[seen][all];[all]palettegen[own];color=size=16x16:duration=0.04[first];"
+        "[first][own]concat[palette]");
+    return {QStringLiteral("-filter_complex"),
+            chain(track) + palette,
+            QStringLiteral("-map"),
+            QStringLiteral("[palette]"),
+            QStringLiteral("-fps_mode"),
+            QStringLiteral("passthrough"),
+            QStringLiteral("-c:v"),
+            QStringLiteral("png"),
+            QStringLiteral("-f"),
+            QStringLiteral("image2"),
+            QStringLiteral("-update"),
+            QStringLiteral("1"),
+            fileArgument(file),
+            QStringLiteral("-map"),
+            QStringLiteral("[seen]")};
 }
 
 QStringList VideoPlan::arguments() const

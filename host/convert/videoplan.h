@@ -12,9 +12,8 @@ struct VideoPlan
     QString encoder; //!< "copy" takes the stream over as it is
     QSize size = {}; //!< as it is shown
     QStringList filters = {};
-    //! The colours are chosen first, from the source read once more: to keep its frames until then
-    //! takes too much memory.
-    bool hasPalette = false;
+    bool hasPalette = false;   //!< its colours are chosen in the first pass
+    bool takesPasses = false;  //!< the result is better if it is written in two passes
     bool isToneMapped = false; //!< HDR becomes BT.709
     FrameTiming timing = {};
     QString pixelFormat = {};     //!< empty: the encoder's choice
@@ -29,10 +28,16 @@ struct VideoPlan
 
     /*! Whether the filters must stand in a graph. */
     [[nodiscard]] bool hasGraph() const;
-    /*! The graph that draws the stream \a track; input 1 is the source once more. */
+    /*! The graph that draws the stream \a track as "drawn"; input 1 is its palette. */
     [[nodiscard]] QString graph(int track) const;
+    /*! The arguments that write the palette of the stream \a track into a \a file; "seen" are the
+     *  pictures, which tell how far it is. */
+    [[nodiscard]] QStringList paletteArguments(int track, const QString &file) const;
     /*! The arguments of ffmpeg for its first video stream. */
     [[nodiscard]] QStringList arguments() const;
+
+private:
+    [[nodiscard]] QString chain(int track) const;
 };
 
 #endif

@@ -45,6 +45,11 @@ QString PendingFile::path() const
     return m_work ? m_work->filePath(QStringLiteral("part")) : QString();
 }
 
+QString PendingFile::passPath() const
+{
+    return m_work ? m_work->filePath(QStringLiteral("pass")) : QString();
+}
+
 QString PendingFile::logPath() const
 {
     return m_work ? m_work->filePath(QStringLiteral("log")) : QString();

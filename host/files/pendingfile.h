@@ -24,6 +24,8 @@ public:
     [[nodiscard]] Result<> create(const QString &folder);
     /*! Where to write the file; empty before create() and after publishing or discarding. */
     [[nodiscard]] QString path() const;
+    /*! Where to write what the work needs again, which goes with the unfinished file. */
+    [[nodiscard]] QString passPath() const;
     /*! Where to write a log of the work, which goes with the unfinished file. */
     [[nodiscard]] QString logPath() const;
     /*! Removes the unfinished file, as the destructor does. */

@@ -267,6 +267,21 @@ void TestWrittenFile::aDeviationIsReported_data()
             asked.level = QStringLiteral("4.1");
             file.facts.videoTracks[0].level = 42;
         });
+    const auto bits = [&row](const char *name, const char *deviation, int asked, const char *source,
+                             const char *result) {
+        row(name, deviation, [=](OutputSettings &preset, WrittenFile &file, MediaFacts &before) {
+            preset.bitDepth = asked;
+            before.videoTracks[0].pixelFormat = QLatin1String(source);
+            file.facts.videoTracks[0].pixelFormat = QLatin1String(result);
+        });
+    };
+    bits("more bits than the device plays", "10 bits per colour, not 8", 8, "yuv420p10le",
+         "yuv420p10le");
+    bits("as many bits as it plays", "", 8, "yuv420p10le", "yuv420p");
+    bits("bits that the device would play", "8 bits per colour, not 10", 10, "yuv420p10le",
+         "yuv420p");
+    bits("bits that the source doesn't have", "", 10, "yuv420p", "yuv420p");
+    bits("any bits", "", 0, "yuv420p10le", "yuv420p");
     row("another tag than the preset's", "the tag is FMP4, not XVID",
         [](OutputSettings &asked, WrittenFile &file, MediaFacts &) {
             asked.videoTag = QStringLiteral("XVID");

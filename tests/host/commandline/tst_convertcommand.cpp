@@ -34,6 +34,9 @@ private Q_SLOTS:
     void aResultIsNoLargerThanAsked();
     void anImpossibleSizeIsRefused_data();
     void anImpossibleSizeIsRefused();
+    void aSampleIsAPartWithANameOfItsOwn();
+    void whatASampleCannotBeIsRefused_data();
+    void whatASampleCannotBeIsRefused();
     void aDamagedPresetIsRefused_data();
     void aDamagedPresetIsRefused();
     void aConversionDoesNotWaitForThePresets();
@@ -109,14 +112,17 @@ void TestConvertCommand::aDryRunOnlyPrintsTheCommand()
         run({QStringLiteral("convert"), QStringLiteral("it's.mp4"), QStringLiteral("--preset"),
              QStringLiteral("V_MP4_1"), QStringLiteral("--dry-run")});
     QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.out,
+    const QString command = result.out.section(QLatin1Char('\n'), 0, 0);
+    QCOMPARE(command,
              QStringLiteral(
                  "ffmpeg -nostdin -hide_banner -v error -progress pipe:1 -y "
                  "-protocol_whitelist file -format_whitelist "
                  "mov,mp4,m4a,3gp,3g2,mj2 -i 'file:%1/it'\\''s.mp4' -map 0:0 -map 0:1 -c:v:0 copy "
                  "-c:a:0 copy -movflags +faststart -f mp4 'file:%1/it'\\''s "
-                 "(2).mp4'\n")
+                 "(2).mp4'")
                  .arg(m_folder->path()));
+    QVERIFY2(result.out.section(QLatin1Char('\n'), 1).startsWith(QStringLiteral("# at most ")),
+             qPrintable(result.out));
     QCOMPARE(everything(), QStringList{QStringLiteral("it's.mp4")});
     QVERIFY(!QFile::exists(config()));
 }
@@ -267,7 +273,7 @@ void TestConvertCommand::aResultIsNoLargerThanAsked()
 {
     QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("long.mp4")),
                         path(QStringLiteral("long.mp4"))));
-    const CommandRun told = run("convert long.mp4 --preset V_MP4_2 --size 0.35");
+    const CommandRun told = run("convert long.mp4 --preset V_MP4_2 --fit-size 350kB");
     QCOMPARE(told.err, QString());
     QCOMPARE(told.exitCode, 0);
     const qint64 bytes = QFileInfo(path(QStringLiteral("long (2).mp4"))).size();
@@ -279,7 +285,7 @@ void TestConvertCommand::anImpossibleSizeIsRefused_data()
     QTest::addColumn<QString>("size");
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QString>("reason");
-    const QString number = QStringLiteral("--size takes a number of megabytes, such as 25");
+    const QString number = QStringLiteral("--fit-size takes a size such as 25MB, 700kB or 1.5GB");
     QTest::newRow("a word") << QStringLiteral("small") << 2 << number;
     QTest::newRow("nothing") << QStringLiteral("0") << 2 << number;
     QTest::newRow("less than nothing") << QStringLiteral("-1") << 2 << number;
@@ -295,6 +301,43 @@ void TestConvertCommand::anImpossibleSizeIsRefused()
                                 QStringList{QStringLiteral("--size=") + size});
     QCOMPARE(told.exitCode, exitCode);
     QVERIFY2(!told.err.isEmpty() && told.err.contains(reason), qPrintable(told.err));
+    QCOMPARE(everything(), QStringList{QStringLiteral("film.mp4")});
+}
+
+void TestConvertCommand::aSampleIsAPartWithANameOfItsOwn()
+{
+    QVERIFY(QFile::copy(m_clips.filePath(QStringLiteral("long.mp4")),
+                        path(QStringLiteral("long.mp4"))));
+    const CommandRun told = run("convert long.mp4 --preset V_MP4_1 --sample 2s@95%");
+    QCOMPARE(told.err, QString());
+    QCOMPARE(told.exitCode, 0);
+    // It is as long as asked, although its place is near the end.
+    const MediaFacts facts = MediaClips::factsOf(path(QStringLiteral("long sample.mp4")));
+    QVERIFY2(qAbs(facts.duration - 2) < 0.1, qPrintable(QString::number(facts.duration)));
+    QVERIFY2(told.out.contains(QStringLiteral("all of it would have about ")),
+             qPrintable(told.out));
+    QCOMPARE(run("convert long.mp4 --preset V_MP4_1 --sample 1:00").exitCode, 0);
+    const MediaFacts whole = MediaClips::factsOf(path(QStringLiteral("long sample (2).mp4")));
+    QVERIFY2(qAbs(whole.duration - 20) < 0.1, qPrintable(QString::number(whole.duration)));
+}
+
+void TestConvertCommand::whatASampleCannotBeIsRefused_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::newRow("a word") << "--sample some";
+    QTest::newRow("no time") << "--sample 0s@10%";
+    QTest::newRow("beyond the end") << "--sample 2s@101%";
+    QTest::newRow("another cut") << "--sample 2s --start 3";
+    QTest::newRow("a size") << "--sample 2s --fit-size 1MB";
+}
+
+void TestConvertCommand::whatASampleCannotBeIsRefused()
+{
+    QFETCH(QString, options);
+    const CommandRun told =
+        run(words("convert film.mp4 --preset V_MP4_1") + options.split(QLatin1Char(' ')));
+    QCOMPARE(told.exitCode, 2);
+    QVERIFY2(told.err.contains(QStringLiteral("--sample ")), qPrintable(told.err));
     QCOMPARE(everything(), QStringList{QStringLiteral("film.mp4")});
 }
 

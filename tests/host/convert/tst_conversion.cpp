@@ -330,7 +330,8 @@ void TestConversion::aPlanWritesNothing()
     const Outcome outcome = convert(planned);
     QCOMPARE(errorOf(outcome), QString());
     QCOMPARE(outcome->target, path(QStringLiteral("clip.mkv")));
-    QCOMPARE(outcome->plan.arguments.constLast(), QStringLiteral("file:") + outcome->target);
+    QCOMPARE(outcome->plan.constLast().arguments.constLast(),
+             QStringLiteral("file:") + outcome->target);
     QCOMPARE(everything(), names("clip.mp4"));
 }
 

@@ -132,7 +132,7 @@ void TestConversionColour::theSourcesLightStaysBehind()
     const Outcome outcome = convert(planned);
     QVERIFY2(outcome, qPrintable(errorOf(outcome)));
     // Of a graph with one input ffmpeg writes the display and light that its container tells.
-    const QStringList arguments = outcome->plan.arguments;
+    const QStringList arguments = outcome->plan.constFirst().arguments;
     const int graph = arguments.indexOf(QStringLiteral("-filter_complex")) + 1;
     QCOMPARE(arguments.value(graph).count(QStringLiteral("[0:0]")), 2);
 }

@@ -2,6 +2,7 @@
 #include "host/tools/tool.h"
 #include "tests/host/convert/conversiontest.h"
 #include "tests/support/mediaclips.h"
+#include "tests/support/testfiles.h"
 
 #include <QProcess>
 
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void soundThatItsContainerLacksIsEncodedAlone();
     void whatItHoldsComesAlong();
     void subtitlesThatArePicturesNeedAnMkv();
+    void onlyTheSubtitlesThatAreRefusedAreLeftOut();
     void aSourceThatEndsEarlyIsSaid();
     void aPictureIsShownForSoLong();
 
@@ -236,6 +238,25 @@ void TestConversionCopies::aPictureIsShownForSoLong()
     const Outcome outcome = convert(job(source, settings));
     QCOMPARE(errorOf(outcome), QString());
     QVERIFY(qAbs(outcome->facts.duration - 1.5) < 0.1);
+}
+
+void TestConversionCopies::onlyTheSubtitlesThatAreRefusedAreLeftOut()
+{
+    QVERIFY(
+        writeFile(path(QStringLiteral("words.srt")), "1\n00:00:00,100 --> 00:00:00,900\nHello\n"));
+    const QString source = path(QStringLiteral("subtitled.mkv"));
+    QVERIFY(MediaClips::make(source, QStringLiteral("-i %1 -i %2 -c copy")
+                                         .arg(m_clips->filePath(QStringLiteral("film.mp4")),
+                                              path(QStringLiteral("words.srt")))));
+    standIn(QStringLiteral("case \"$*\" in *-c:s:0*) echo 'not this text' >&2; exit 1;; esac\n"
+                           "exec $REAL \"$@\""));
+    const Outcome outcome = convert(job(source, video(QStringLiteral("mp4"))));
+    QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+    QVERIFY(outcome->facts.subtitleTracks.isEmpty());
+    QCOMPARE(outcome->facts.video()->codec, QStringLiteral("h264"));
+    QCOMPARE(outcome->notes(),
+             QStringList(QStringLiteral("left out: subtitle tracks: 1 (subrip; they can't be "
+                                        "written into this .mp4)")));
 }
 
 QTEST_GUILESS_MAIN(TestConversionCopies)

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void aReportThatIsNotCompleteChangesNothing();
     void whatIsNotKnownYetIsZero_data();
     void whatIsNotKnownYetIsZero();
+    void severalRunsHaveOneProgress();
     void thePercentageStaysInBounds_data();
     void thePercentageStaysInBounds();
     void theTimeLeftFollowsFromTheSpeed_data();
@@ -127,6 +128,19 @@ void TestProgress::whatIsNotKnownYetIsZero()
     QVERIFY(reader.feed(report));
     QCOMPARE(reader.progress().done, 0.0);
     QCOMPARE(reader.progress().speed, 0.0);
+}
+
+void TestProgress::severalRunsHaveOneProgress()
+{
+    ProgressReader first(10, 0, 1);
+    QVERIFY(first.feed("out_time_us=5000000\nspeed=2x\nprogress=continue\n"));
+    QCOMPARE(first.progress().percent(), 25);
+    QCOMPARE(first.written(), 5.0);
+    ProgressReader second(10, 1);
+    QCOMPARE(second.progress().percent(), 50);
+    QVERIFY(second.feed("out_time_us=5000000\nspeed=2x\nprogress=continue\n"));
+    QCOMPARE(second.progress().percent(), 75);
+    QCOMPARE(second.written(), 5.0);
 }
 
 void TestProgress::thePercentageStaysInBounds_data()

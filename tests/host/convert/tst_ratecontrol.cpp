@@ -19,10 +19,6 @@ private Q_SLOTS:
     void aPresetChoosesTheSpeedAndTheContent();
     void aHigherBitrateIsABetterPicture_data();
     void aHigherBitrateIsABetterPicture();
-    void theResultFitsTheAskedSize();
-    void whatAudioDoesNotNeedIsTheVideos();
-    void aSizeTooSmallForTheSoundIsRefused();
-    void aSourceWithoutLengthHasNoAskedSize();
 
 private:
     static OutputSettings atMost(double kbps)
@@ -37,8 +33,6 @@ private:
     static void row(const char *name, const char *codec, const OutputSettings &settings,
                     const char *options);
     static void compareWithRow();
-    /*! A minute of film with stereo sound. */
-    static MediaFacts film();
 };
 
 void TestRateControl::addColumns()
@@ -67,16 +61,6 @@ void TestRateControl::compareWithRow()
              options);
 }
 
-MediaFacts TestRateControl::film()
-{
-    MediaFacts facts;
-    facts.duration = 60;
-    AudioTrack sound;
-    sound.channels = 2;
-    facts.audioTracks = {sound};
-    return facts;
-}
-
 void TestRateControl::theBitrateIsACeiling_data()
 {
     addColumns();
@@ -97,10 +81,9 @@ void TestRateControl::whoeverAsksGetsTheAverage_data()
     average.averagesBitrate = true;
     row("h264", "h264", average, "-b 2000k");
     row("theora", "theora", average, "-b 2000k");
-    average.targetBytes = 1000000;
-    average.bufferSeconds = 3;
-    row("a size is never left behind", "h264", average, "-b 2000k -maxrate 2000k -bufsize 6000k");
-    row("an encoder that takes one of both", "av1", average, "-b 1600k");
+    average.peakKbps = 3000;
+    row("a device's peak", "h264", average, "-b 2000k -maxrate 2000k -bufsize 1000k");
+    row("an encoder that takes one of both", "av1", average, "-b 2000k");
 }
 
 void TestRateControl::theDeviceLimitsTheStream_data()
@@ -166,51 +149,6 @@ void TestRateControl::aHigherBitrateIsABetterPicture()
     QVERIFY((valueAt(0) - valueAt(-1)) * better > 0);
     // No value beyond the encoder's own.
     QCOMPARE(valueAt(100), encoder.quality.finest);
-}
-
-void TestRateControl::theResultFitsTheAskedSize()
-{
-    OutputSettings settings = atMost(0);
-    settings.audioKbps = 128;
-    settings.targetBytes = 10000000;
-    const Result<OutputSettings> fitted = fittedToSize(settings, film());
-    QVERIFY(fitted);
-    QVERIFY(fitted->averagesBitrate);
-    const double seconds = 60 + fitted->bufferSeconds;
-    const double bytes = (fitted->videoKbps * seconds + 128 * 60) * 1000 / 8;
-    QVERIFY(bytes < settings.targetBytes);
-    QVERIFY(bytes > settings.targetBytes * 0.95);
-}
-
-void TestRateControl::whatAudioDoesNotNeedIsTheVideos()
-{
-    OutputSettings settings = atMost(0);
-    settings.hasVideo = true;
-    settings.audioKbps = 320;
-    settings.targetBytes = 10000000;
-    MediaFacts poor = film();
-    poor.audioTracks[0].kbps = 128;
-    const double gained =
-        fittedToSize(settings, poor)->videoKbps - fittedToSize(settings, film())->videoKbps;
-    QVERIFY(qAbs(gained - 192) < 20);
-}
-
-void TestRateControl::aSizeTooSmallForTheSoundIsRefused()
-{
-    OutputSettings settings = atMost(0);
-    settings.audioKbps = 192;
-    settings.targetBytes = 1000000;
-    const Result<OutputSettings> fitted = fittedToSize(settings, film());
-    QVERIFY(!fitted);
-    QCOMPARE(fitted.error().text, QStringLiteral("is too long for the asked size; choose a larger "
-                                                 "size or less audio"));
-}
-
-void TestRateControl::aSourceWithoutLengthHasNoAskedSize()
-{
-    OutputSettings settings = atMost(0);
-    settings.targetBytes = 1000000;
-    QVERIFY(!fittedToSize(settings, MediaFacts()));
 }
 
 QTEST_GUILESS_MAIN(TestRateControl)

@@ -1,4 +1,5 @@
 #include "host/convert/frametiming.h"
+#include "host/convert/videoplan.h"
 #include "tests/host/convert/plannedcommand.h"
 
 using namespace PlannedCommand;
@@ -18,8 +19,12 @@ private Q_SLOTS:
     void aPresetsRateIsACeiling();
     void aVariableRateStaysVariableWhereItCan_data();
     void aVariableRateStaysVariableWhereItCan();
+    void aVariableRateBecomesConstantOnDemand();
     void theEncoderGetsItsOptions_data();
     void theEncoderGetsItsOptions() { compareWithRow(); }
+    void theFirstPassWritesOnlyWhatTheSecondNeeds_data();
+    void theFirstPassWritesOnlyWhatTheSecondNeeds();
+    void aCopyHasNoMoreBitsThanTheDevicePlays();
 };
 
 void TestVideoPlan::thePictureHasTheAskedSize_data()
@@ -52,8 +57,7 @@ void TestVideoPlan::thePictureHasTheAskedSize_data()
         "-preset:v:0 medium "
         "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
     row("an odd size stays where it may", video("gif"), odd,
-        "-protocol_whitelist file -format_whitelist mov,mp4 -i file:/in -filter_complex "
-        "[1:0]null,palettegen[palette];[0:0]null[picture];[picture][palette]paletteuse[drawn] "
+        "-f png_pipe -i file: -filter_complex [0:0]null[picture];[picture][1:0]paletteuse[drawn] "
         "-map [drawn] -map_metadata:s:v:0 0:s:0 -c:v:0 gif -fps_mode:v:0 vfr -f gif");
     row("an unknown size is left alone",
         with(video("mp4", "h264"), [](OutputSettings &s) { s.box = QSize(640, 360); }),
@@ -128,8 +132,7 @@ void TestVideoPlan::thePictureHasARateOfItsCodec_data()
               [](MediaFacts &f) {
                   f.videoTracks[0].frameRate = {27, 2};
               }),
-        "-protocol_whitelist file -format_whitelist mov,mp4 -i file:/in -filter_complex "
-        "[1:0]null,palettegen[palette];[0:0]null[picture];[picture][palette]paletteuse[drawn] "
+        "-f png_pipe -i file: -filter_complex [0:0]null[picture];[picture][1:0]paletteuse[drawn] "
         "-map [drawn] -map_metadata:s:v:0 0:s:0 -c:v:0 gif -r:v:0 15 -fps_mode:v:0 cfr -f gif");
 }
 
@@ -186,6 +189,22 @@ void TestVideoPlan::aVariableRateStaysVariableWhereItCan()
     QTEST(toArguments(timing.options()).join(QLatin1Char(' ')), "options");
 }
 
+void TestVideoPlan::aVariableRateBecomesConstantOnDemand()
+{
+    VideoTrack track = picture(QStringLiteral("h264"), QSize(1920, 1080));
+    track.frameRate = {90, 1};
+    track.averageFrameRate = {239, 10};
+    OutputSettings settings = video("mp4", "h264");
+    settings.keepsVariableRate = false;
+    const FrameTiming timing = FrameTiming::make(track, videoCodec(settings.videoCodec),
+                                                 *Container::find(settings.extension), settings);
+    QVERIFY(timing.isConstant);
+    QCOMPARE(timing.rate.toText(), QStringLiteral("24000/1001"));
+    const QSet<QString> encoders = usualEncoders();
+    const StreamTarget target{settings, *Container::find(settings.extension), encoders};
+    QVERIFY(VideoPlan::make(track, target)->encoder != QLatin1String("copy"));
+}
+
 void TestVideoPlan::theEncoderGetsItsOptions_data()
 {
     addColumns();
@@ -226,6 +245,68 @@ void TestVideoPlan::theEncoderGetsItsOptions_data()
         "-qmin:v:0 4 -maxrate:v:0 2000k -bufsize:v:0 2000k -c:a:0 "
         "wmav2 "
         "-b:a:0 96k -f asf");
+}
+
+void TestVideoPlan::theFirstPassWritesOnlyWhatTheSecondNeeds_data()
+{
+    QTest::addColumn<OutputSettings>("settings");
+    QTest::addColumn<int>("pass");
+    QTest::addColumn<QString>("command");
+    const auto row = [](const char *name, const OutputSettings &settings, int pass,
+                        const char *command) {
+        QTest::newRow(name) << settings << pass << QString::fromLatin1(command);
+    };
+    const auto atKbps = [](const char *codec) {
+        return with(video("mkv", codec, "ac3"), [](OutputSettings &s) {
+            s.videoKbps = 900;
+            s.averagesBitrate = true;
+            s.targetBytes = 1000000;
+        });
+    };
+    row("ffmpeg's options", atKbps("h264"), 1,
+        "-map 0:0 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 medium "
+        "-b:v:0 900k -pass:v:0 1 -passlogfile:v:0 /a:b -f null -");
+    row("the same again", atKbps("h264"), 2,
+        "-map 0:0 -map 0:1 -c:v:0 libx264 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p "
+        "-preset:v:0 medium -b:v:0 900k -pass:v:0 2 -passlogfile:v:0 /a:b -c:a:0 ac3 -b:a:0 192k "
+        "-f matroska file:/out");
+    row("an encoder's own, with a safe name", atKbps("hevc"), 1,
+        "-map 0:0 -c:v:0 libx265 -fps_mode:v:0 vfr -pix_fmt:v:0 yuv420p -preset:v:0 veryfast "
+        "-x265-params:v:0 log-level=error:pass=1:stats=/a\\:b -b:v:0 900k -f null -");
+    row("a palette", video("gif"), 1,
+        "-filter_complex [0:0]null,split[seen][all];[all]palettegen[own];"
+        "color=size=16x16:duration=0.04[first];[first][own]concat[palette] -map [palette] "
+        "-fps_mode passthrough -c:v png -f image2 -update 1 file:/a:b -map [seen] -f null -");
+}
+
+void TestVideoPlan::theFirstPassWritesOnlyWhatTheSecondNeeds()
+{
+    QFETCH(OutputSettings, settings);
+    QFETCH(int, pass);
+    QFETCH(QString, command);
+    const Result<QStringList> formed =
+        ffmpegArguments(settings, film(), usualEncoders(), QStringLiteral("/in"),
+                        QStringLiteral("/out"), {}, {pass, QStringLiteral("/a:b")});
+    QVERIFY2(formed, formed ? "" : qPrintable(formed.error().text));
+    QCOMPARE(formed->join(QLatin1Char(' ')), head + command);
+}
+
+void TestVideoPlan::aCopyHasNoMoreBitsThanTheDevicePlays()
+{
+    const QSet<QString> encoders = usualEncoders();
+    OutputSettings settings = video("mp4", "hevc");
+    VideoTrack track = picture(QStringLiteral("hevc"), QSize(1280, 720));
+    track.pixelFormat = QStringLiteral("yuv420p10le");
+    const auto planned = [&] {
+        const StreamTarget target{settings, *Container::find(settings.extension), encoders};
+        return *VideoPlan::make(track, target);
+    };
+    QCOMPARE(planned().encoder, QStringLiteral("copy"));
+    settings.bitDepth = 10;
+    QCOMPARE(planned().encoder, QStringLiteral("copy"));
+    settings.bitDepth = 8;
+    QCOMPARE(planned().encoder, QStringLiteral("libx265"));
+    QCOMPARE(planned().pixelFormat, QStringLiteral("yuv420p"));
 }
 
 QTEST_GUILESS_MAIN(TestVideoPlan)

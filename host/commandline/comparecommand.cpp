@@ -1,0 +1,324 @@
+#include "host/app/console.h"
+#include "host/commandline/mediaoptions.h"
+#include "host/convert/likeness.h"
+#include "host/files/pendingfile.h"
+#include "host/queue/batch.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <cmath>
+
+namespace {
+
+const QLatin1String presetOption("preset");
+const QLatin1String pictureOption("picture");
+const QLatin1String jsonFlag("json");
+
+/*! A preset that is tried, and what came of it. */
+struct Trial
+{
+    FoundPreset preset;
+    ConversionOutcome outcome = {};
+    QString error = {}; //!< empty: it was converted
+    double seconds = 0; //!< that the conversion took
+    std::optional<double> ssim = {};
+    std::optional<double> vmaf = {};
+
+    [[nodiscard]] QString id() const { return preset.map.value(QStringLiteral("id")).toString(); }
+    [[nodiscard]] bool hasPicture() const { return outcome.facts.video() != nullptr; }
+    /*! Seconds of media a second. */
+    [[nodiscard]] double speed() const
+    {
+        return seconds > 0 ? outcome.facts.duration / seconds : 0;
+    }
+};
+
+/*! Takes the outcomes and times of the conversions, which are as many as the trials. */
+class TrialReport : public BatchReport
+{
+public:
+    explicit TrialReport(QVector<Trial> &trials)
+        : m_trials(trials)
+    {}
+
+    void started(const BatchJob & /*job*/) override { m_clock.start(); }
+    void progressed(const BatchJob & /*job*/, const Progress & /*progress*/) override {}
+    void logged(const BatchJob & /*job*/, const ToolCall & /*call*/,
+                const QString & /*log*/) override
+    {}
+    void finished(const BatchJob &job, const Result<ConversionOutcome> &outcome) override
+    {
+        Trial &trial = m_trials[job.number - 1];
+        if (outcome) {
+            trial.outcome = *outcome;
+        } else {
+            trial.error = outcome.error().text;
+        }
+        trial.seconds = double(m_clock.elapsed()) / 1000;
+    }
+
+private:
+    QVector<Trial> &m_trials;
+    QElapsedTimer m_clock;
+};
+
+Result<ToolRun> runTool(const QStringList &arguments)
+{
+    Tool tool;
+    QEventLoop loop;
+    Result<ToolRun> ended = failed(QString());
+    QObject::connect(&tool, &Tool::finished, &loop, [&](const Result<ToolRun> &run) {
+        ended = run;
+        loop.quit();
+    });
+    tool.start(ffmpegCall(arguments));
+    loop.exec();
+    return ended;
+}
+
+Result<MediaFacts> factsOf(const QString &path)
+{
+    MediaProbe probe;
+    QEventLoop loop;
+    Result<MediaFacts> found = failed(QString());
+    QObject::connect(&probe, &MediaProbe::finished, &loop, [&](const Result<MediaFacts> &facts) {
+        found = facts;
+        loop.quit();
+    });
+    probe.start(path);
+    loop.exec();
+    return found;
+}
+
+/*! The presets that are named, two at least. */
+Result<QVector<Trial>> namedPresets(const Call &call)
+{
+    const QStringList ids = call.options.values(presetOption);
+    if (ids.size() < 2) {
+        return wrongUsage(CommandLine::tr("name two presets or more to compare, such as "
+                                          "\"--preset ID --preset ID\""));
+    }
+    PresetStore store = presetsOf(call);
+    openWhatCanBeRead(store);
+    QVector<Trial> trials;
+    for (const QString &id : ids) {
+        const Result<FoundPreset> preset = findPreset(store, id);
+        if (!preset) {
+            return failed(preset);
+        }
+        trials.append({*preset});
+    }
+    return trials;
+}
+
+/*! Converts the part of the source with each preset, one after another, into a \a folder. */
+BatchSummary convertWithAll(QVector<Trial> &trials, const QString &source, const SamplePart &part,
+                            const QString &folder)
+{
+    TrialReport report(trials);
+    const auto next = [&, number = 0]() mutable -> std::optional<BatchJob> {
+        if (number == trials.size()) {
+            return std::nullopt;
+        }
+        ConversionJob job;
+        job.source = source;
+        job.settings = trials.at(number).preset.outputSettings();
+        job.sample = part;
+        job.target.folder = folder;
+        job.target.name = NameTemplate::literal(QString::number(number));
+        ++number;
+        return BatchJob{number, job};
+    };
+    return Batch(next, 1, report).run();
+}
+
+void measure(Trial &trial, const ViewedFile &source, double seconds)
+{
+    // A picture whose HDR is mapped is another one.
+    const bool isMapped = trial.hasPicture() && source.facts.video()->colour.isHdr() &&
+                          !trial.outcome.facts.video()->colour.isHdr();
+    if (!trial.hasPicture() || isMapped) {
+        return;
+    }
+    const ViewedFile result{trial.outcome.target, trial.outcome.facts};
+    const auto likeness = [&](LikenessMeasure what) -> std::optional<double> {
+        const Result<ToolRun> run = runTool(likenessArguments(result, source, seconds, what));
+        return run && run->exitedCleanly ? likenessIn(run->output) : std::nullopt;
+    };
+    trial.ssim = likeness(LikenessMeasure::Ssim);
+    trial.vmaf = likeness(LikenessMeasure::Vmaf);
+}
+
+QString sizeOf(double bytes)
+{
+    return QLocale::c().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
+}
+
+void printText(const QVector<Trial> &trials)
+{
+    const auto number = [](const std::optional<double> &value, int decimals) {
+        return value ? QString::number(*value, 'f', decimals) : QStringLiteral("-");
+    };
+    QVector<QStringList> table = {{CommandLine::tr("Preset"), CommandLine::tr("Title"),
+                                   CommandLine::tr("Size"), CommandLine::tr("All of it"),
+                                   CommandLine::tr("Speed"), QStringLiteral("SSIM"),
+                                   QStringLiteral("VMAF")}};
+    for (const Trial &trial : trials) {
+        if (!trial.error.isEmpty()) {
+            Console::printError(QStringLiteral("%1: %2").arg(trial.id(), trial.error));
+            continue;
+        }
+        table.append({trial.id(), trial.preset.map.value(QStringLiteral("title")).toString(),
+                      sizeOf(double(trial.outcome.facts.bytes)), sizeOf(trial.outcome.wholeBytes),
+                      QStringLiteral("%1x").arg(trial.speed(), 0, 'f', 1), number(trial.ssim, 4),
+                      number(trial.vmaf, 1)});
+    }
+    Console::printTable(table);
+}
+
+void printJson(const QVector<Trial> &trials)
+{
+    QVariantList json;
+    for (const Trial &trial : trials) {
+        QVariantMap values = {{QStringLiteral("preset"), trial.id()}};
+        if (!trial.error.isEmpty()) {
+            values.insert(QStringLiteral("error"), trial.error);
+        } else {
+            values.insert(QStringLiteral("bytes"), double(trial.outcome.facts.bytes));
+            values.insert(QStringLiteral("wholeBytes"), std::round(trial.outcome.wholeBytes));
+            values.insert(QStringLiteral("speed"), trial.speed());
+        }
+        if (trial.ssim) {
+            values.insert(QStringLiteral("ssim"), *trial.ssim);
+        }
+        if (trial.vmaf) {
+            values.insert(QStringLiteral("vmaf"), *trial.vmaf);
+        }
+        json.append(values);
+    }
+    Console::printJson(json);
+}
+
+/*! Writes the label of a file into \a folder. */
+LabelledFile labelled(const ViewedFile &file, const QString &label, const WorkFolder &folder,
+                      int number)
+{
+    const QString path = folder.filePath(QStringLiteral("label%1").arg(number));
+    QFile text(path);
+    if (text.open(QIODevice::WriteOnly)) {
+        text.write(label.toUtf8());
+    }
+    return {file, path};
+}
+
+/*! Writes the frame in the middle of the part, as the source and each result have it. */
+Result<> drawPicture(const QVector<Trial> &trials, const ViewedFile &source, double seconds,
+                     const WorkFolder &folder, const QString &target)
+{
+    ViewedFile original = source;
+    original.start += seconds / 2;
+    QVector<LabelledFile> files = {labelled(original, CommandLine::tr("source"), folder, 0)};
+    for (const Trial &trial : trials) {
+        if (trial.hasPicture()) {
+            const QString label =
+                QStringLiteral("%1, %2").arg(trial.id(), sizeOf(double(trial.outcome.facts.bytes)));
+            files.append(labelled({trial.outcome.target, trial.outcome.facts, seconds / 2}, label,
+                                  folder, files.size()));
+        }
+    }
+    PendingFile picture;
+    const Result<> created = picture.create(QFileInfo(target).absolutePath());
+    if (!created) {
+        return created;
+    }
+    const Result<ToolRun> run = runTool(sideBySideArguments(files, picture.path()));
+    const Result<QByteArray> drawn = cleanOutput(run);
+    if (!drawn) {
+        return failed(CommandLine::tr("the picture couldn't be drawn (%1); an ffmpeg with drawtext "
+                                      "and fonts is needed")
+                          .arg(drawn.error().text));
+    }
+    return picture.publishOver(target);
+}
+
+Result<ExitCode> runCompare(const Call &call)
+{
+    if (call.arguments.size() != 1) {
+        return wrongUsage(CommandLine::tr("give one file: vexconvert compare FILE --preset ID "
+                                          "--preset ID"));
+    }
+    const Result<std::optional<SamplePart>> sample = wantedSample(call);
+    if (!sample) {
+        return failed(sample);
+    }
+    Result<QVector<Trial>> trials = namedPresets(call);
+    if (!trials) {
+        return failed(trials);
+    }
+    const QString path = call.arguments.constFirst();
+    const Result<MediaFacts> facts = factsOf(path);
+    if (!facts) {
+        return failed(QStringLiteral("%1: %2").arg(path, facts.error().text));
+    }
+    const QString picture = call.options.value(pictureOption);
+    if (!picture.isEmpty() && facts->video() == nullptr) {
+        return failed(CommandLine::tr("%1: has no video, so no picture can be drawn").arg(path));
+    }
+    const Result<WorkFolder> folder = WorkFolder::make();
+    if (!folder) {
+        return failed(
+            CommandLine::tr("couldn't create a temporary folder: %1").arg(folder.error().text));
+    }
+    const SamplePart part = sample->value_or(SamplePart{10, 0.4});
+    if (convertWithAll(*trials, path, part, folder->path()).isInterrupted) {
+        return Failure;
+    }
+    OutputSettings cut;
+    part.cut(cut, facts->duration);
+    const double seconds = cut.cutDuration(facts->duration);
+    const ViewedFile source{path, *facts, cut.start};
+    bool isComplete = true;
+    for (Trial &trial : *trials) {
+        measure(trial, source, seconds);
+        isComplete = isComplete && trial.error.isEmpty();
+    }
+    call.options.isSet(jsonFlag) ? printJson(*trials) : printText(*trials);
+    if (!picture.isEmpty()) {
+        const Result<> drawn = drawPicture(*trials, source, seconds, *folder, picture);
+        if (!drawn) {
+            return failed(drawn);
+        }
+    }
+    return isComplete ? Success : Failure;
+}
+
+} // namespace
+
+Subcommand compareCommand()
+{
+    return {
+        QStringLiteral("compare"),
+        CommandLine::tr(
+            "FILE --preset ID --preset ID... [--sample PART] [--picture FILE] [--json]"),
+        CommandLine::tr("Try presets on a part of a file and compare what they make."),
+        CommandLine::tr(
+            "\nFor each preset, its size, about what all of the file would have, its speed "
+            "(seconds of the\nfile a second), and how like its picture is to the source: SSIM from "
+            "0 to 1, and VMAF from\n0 to 100 if ffmpeg has it. The source is scaled to the "
+            "result's size for that. Nothing is\nkept but the picture. The exit code is 1 if a "
+            "preset fails.\n"),
+        {valueOption(presetOption, CommandLine::tr("A preset to try, given twice or more."),
+                     CommandLine::tr("ID")),
+         sampleOption(),
+         valueOption(pictureOption,
+                     CommandLine::tr("Write a frame of the source and of each result, side by "
+                                     "side, to this PNG."),
+                     CommandLine::tr("FILE")),
+         jsonOption()},
+        runCompare,
+    };
+}

@@ -1,0 +1,58 @@
+#ifndef CONVERT_SIZEFIT_H
+#define CONVERT_SIZEFIT_H
+
+#include "host/convert/encoderchoice.h"
+#include "host/convert/ratecontrol.h"
+#include "host/error.h"
+#include "host/media/mediafacts.h"
+
+#include <optional>
+
+/*!
+ * Finds the video bitrate with which a file gets an asked size: it begins with the one that should
+ * do, and corrects it by what came out.
+ */
+class SizeFit
+{
+public:
+    /*! For a file of \a bytes that lasts \a seconds, first tried with \a kbps. */
+    SizeFit(double bytes, double seconds, double kbps);
+
+    /*! Takes the size that came out with kbps(). Whether another attempt is worthwhile: the file is
+     *  too large, or more than 2 % too small. */
+    [[nodiscard]] bool corrects(qint64 bytes);
+    /*! Of the attempt to make. */
+    [[nodiscard]] double kbps() const { return m_kbps; }
+
+private:
+    struct Attempt
+    {
+        double kbps = 0;
+        double bytes = 0;
+    };
+
+    /*! How many bytes one kbps more makes, by the last attempts. */
+    [[nodiscard]] double bytesPerKbps(const Attempt &attempt) const;
+
+    const double m_target;
+    const double m_seconds;
+    double m_kbps;
+    std::optional<Attempt> m_last;
+    int m_attempts = 0;
+};
+
+/*! The settings with the bitrates that let the result of \a source have the asked size, as
+ *  \a target's container and encoders allow; the same where none is asked. Fails where nothing
+ *  lets it. */
+[[nodiscard]] Result<OutputSettings> fittedToSize(const MediaFacts &source,
+                                                  const StreamTarget &target);
+
+/*! Says that \a picture looks poor in \a codec with so few kbps, and what would look better; empty
+ *  where it doesn't. */
+[[nodiscard]] QString poorPicture(const VideoCodec &codec, const EncodedPicture &picture,
+                                  double kbps);
+
+/*! The most bytes that the result of \a source may have; 0 where the encoder's quality decides. */
+[[nodiscard]] double mostBytes(const MediaFacts &source, const StreamTarget &target);
+
+#endif
