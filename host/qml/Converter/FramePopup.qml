@@ -19,14 +19,24 @@ T.Popup {
         }
     }
 
+    function take(taskId, seconds, url) {
+        if (root.visible && taskId === root.taskId && seconds === root.pictureSeconds) {
+            picture.source = url
+        }
+    }
+
     x: (parent.width - width) / 2
     y: -height - Theme.spacing
     margins: Theme.spacing
     padding: 4
+    width: content.implicitWidth + 2 * root.padding
+    height: content.implicitHeight + 2 * root.padding
     closePolicy: T.Popup.NoAutoClose
     onPictureSecondsChanged: root.ask()
     onAboutToShow: picture.source = ""
     onVisibleChanged: root.ask()
+    Component.onCompleted: EditorProxy.frameReady.connect(root.take)
+    Component.onDestruction: EditorProxy.frameReady.disconnect(root.take)
 
     background: Rectangle {
         radius: Theme.radius_1
@@ -35,29 +45,22 @@ T.Popup {
         border.color: Theme.frame
     }
 
-    contentItem: Column {
+    Column {
+        id: content
+
         Image {
             id: picture
 
             width: 240
-            height: status === Image.Ready ? width * implicitHeight / implicitWidth : 0
+            height: width * implicitHeight / Math.max(1, implicitWidth)
+            visible: status === Image.Ready
             cache: false
         }
 
         VEXLabel {
-            width: Math.max(picture.height > 0 ? picture.width : 0, implicitWidth)
-            horizontalAlignment: Text.AlignHCenter
+            anchors.horizontalCenter: parent.horizontalCenter
             text: EditorProxy.clockOf(root.seconds)
             font.pixelSize: Theme.smallText
-        }
-    }
-
-    Connections {
-        target: EditorProxy
-        function onFrameReady(taskId, seconds, url) {
-            if (root.visible && taskId === root.taskId && seconds === root.pictureSeconds) {
-                picture.source = url
-            }
         }
     }
 }

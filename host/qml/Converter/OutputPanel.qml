@@ -38,12 +38,13 @@ T.Popup {
         border.color: Theme.frame
     }
 
-    contentItem: Column {
+    Column {
         id: content
 
         readonly property int captionWidth: 130
         readonly property int fieldWidth: width - captionWidth - Theme.spacing
 
+        width: root.availableWidth
         spacing: Theme.spacing
         Accessible.role: Accessible.Dialog
         Accessible.name: ToolFun.tr("Names of the results")

@@ -1,7 +1,6 @@
 import QtQuick 2.15
 import Controls 1.0
 import MessageBox 1.0
-import Public 1.0
 import VexTheme 1.0
 import VexWindow 1.0
 

@@ -17,7 +17,7 @@ VEXContent {
         id: choice
 
         required property string caption
-        property alias box: box
+        property alias current: box.currentIndex
         property var words: []
 
         signal chosen(int index)
@@ -72,14 +72,14 @@ VEXContent {
             caption: ToolFun.tr("Theme")
             // In the order of Settings.ThemeChoice.
             words: [ToolFun.tr("As the desktop"), ToolFun.tr("Light"), ToolFun.tr("Dark")]
-            box.currentIndex: Settings.theme
+            current: Settings.theme
             onChosen: function (index) { Settings.theme = index }
         }
 
         Choice {
             caption: ToolFun.tr("Language (from the next start)")
             words: [ToolFun.tr("As the desktop")].concat(root.info["names"])
-            box.currentIndex: Math.max(0, root.languages.indexOf(Settings.language))
+            current: Math.max(0, root.languages.indexOf(Settings.language))
             onChosen: function (index) { Settings.language = root.languages[index] }
         }
 
@@ -88,7 +88,7 @@ VEXContent {
             words: root.jobs.map(function (count) {
                 return count === 0 ? ToolFun.tr("As many as suit this machine") : String(count)
             })
-            box.currentIndex: Math.max(0, root.jobs.indexOf(Settings.jobs))
+            current: Math.max(0, root.jobs.indexOf(Settings.jobs))
             onChosen: function (index) { Settings.jobs = root.jobs[index] }
         }
 
