@@ -2,6 +2,7 @@
 
 #include "host/window/page.h"
 #include "host/window/toolfun.h"
+#include "host/window/windowsettings.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -42,10 +43,11 @@ void notify(const QString &text)
 } // namespace
 
 DesktopFeedback::DesktopFeedback(const QVector<Page *> &pages, const QWindow &window,
-                                 QObject *parent)
+                                 const WindowSettings &settings, QObject *parent)
     : QObject(parent)
     , m_pages(pages)
     , m_window(window)
+    , m_settings(settings)
 {
     for (const Page *page : m_pages) {
         connect(page, &Page::overallChanged, this, &DesktopFeedback::showProgress);
@@ -82,7 +84,8 @@ void DesktopFeedback::noteEnd(int converted, int failed)
     const QStringList parts = {
         ToolFun::text(QStringLiteral("Files converted: %1")).arg(m_converted),
         ToolFun::text(QStringLiteral("failed: %1")).arg(m_failed)};
-    if (m_converted + m_failed > 0 && !m_window.isActive()) {
+    const bool isWanted = m_settings.isNotifying() && !m_window.isActive();
+    if (m_converted + m_failed > 0 && isWanted) {
         notify(m_failed > 0 ? parts.join(QStringLiteral(", ")) : parts.constFirst());
     }
     m_converted = 0;

@@ -105,7 +105,7 @@ Result<> MainWindow::open()
     m_files.setUp(window(), m_settings.get());
     m_dialogs.setUp(m_engine.get(), window());
     m_feedback = std::make_unique<DesktopFeedback>(
-        QVector<Page *>{m_converter.get(), m_editor.get()}, *window());
+        QVector<Page *>{m_converter.get(), m_editor.get()}, *window(), *m_settings);
     // Another program may cancel the logout, so the window only saves and stays open.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {

@@ -155,6 +155,17 @@ void WindowSettings::setJobs(int jobs)
     Q_EMIT jobsChanged();
 }
 
+bool WindowSettings::isNotifying() const
+{
+    return m_file.value(QStringLiteral("notifications"), true).toBool();
+}
+
+void WindowSettings::setNotifying(bool isNotifying)
+{
+    write(QStringLiteral("notifications"), isNotifying);
+    Q_EMIT notifyingChanged();
+}
+
 QString WindowSettings::lastFolder() const
 {
     return m_file.value(QStringLiteral("lastFolder")).toString();

@@ -20,6 +20,7 @@ class WindowSettings : public QObject
     Q_PROPERTY(ThemeChoice theme READ theme WRITE setTheme NOTIFY themeChanged)
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
     Q_PROPERTY(int jobs READ jobs WRITE setJobs NOTIFY jobsChanged)
+    Q_PROPERTY(bool isNotifying READ isNotifying WRITE setNotifying NOTIFY notifyingChanged)
     Q_PROPERTY(bool isStill READ isStill WRITE setStill NOTIFY stillChanged)
 
 public:
@@ -73,6 +74,9 @@ public:
     /*! How many files each page converts at a time; 0: as many as suit the machine. */
     int jobs() const;
     void setJobs(int jobs);
+    /*! Whether the desktop tells when a run has ended. */
+    bool isNotifying() const;
+    void setNotifying(bool isNotifying);
     /*! The folder that files were last added from. */
     QString lastFolder() const;
     void setLastFolder(const QString &folder);
@@ -93,6 +97,7 @@ Q_SIGNALS:
     void stillChanged();
     void languageChanged();
     void jobsChanged();
+    void notifyingChanged();
 
 private:
     void write(const QString &key, const QVariant &value);

@@ -93,6 +93,15 @@ VEXContent {
         }
 
         VEXCheckBox {
+            id: notifying
+
+            width: parent.width
+            text: ToolFun.tr("Tell me when all files are converted")
+            checked: Settings.isNotifying
+            onToggled: Settings.isNotifying = notifying.checked
+        }
+
+        VEXCheckBox {
             id: still
 
             width: parent.width

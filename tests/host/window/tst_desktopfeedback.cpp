@@ -49,6 +49,7 @@ private Q_SLOTS:
     void startBus();
     void theTaskBarShowsTheProgress();
     void theEndIsNotifiedWhereTheWindowIsNotInUse();
+    void whoWantsNoNotificationGetsNone();
     void theWindowInUseNeedsNoNotification();
     void aFileIsShownSelected();
 
@@ -95,7 +96,7 @@ void TestDesktopFeedback::takeUpdate(const QString &application, const QVariantM
 void TestDesktopFeedback::theTaskBarShowsTheProgress()
 {
     const QWindow window;
-    const DesktopFeedback feedback({m_converter.get(), m_editor.get()}, window);
+    const DesktopFeedback feedback({m_converter.get(), m_editor.get()}, window, *m_settings);
     addReady(*m_converter, song(QStringLiteral("a.wav")));
     addReady(*m_converter, song(QStringLiteral("b.wav")));
     m_converter->convertAll();
@@ -112,7 +113,7 @@ void TestDesktopFeedback::theEndIsNotifiedWhereTheWindowIsNotInUse()
 {
     m_notifications.texts.clear();
     const QWindow window;
-    const DesktopFeedback feedback({m_converter.get(), m_editor.get()}, window);
+    const DesktopFeedback feedback({m_converter.get(), m_editor.get()}, window, *m_settings);
     addReady(*m_converter, song());
     m_converter->addFiles({noMedia()});
     QTRY_COMPARE_WITH_TIMEOUT(m_converter->tasks()->countOf(Task::Failed), 1, patience);
@@ -122,6 +123,25 @@ void TestDesktopFeedback::theEndIsNotifiedWhereTheWindowIsNotInUse()
                               patience);
 }
 
+void TestDesktopFeedback::whoWantsNoNotificationGetsNone()
+{
+    m_notifications.texts.clear();
+    m_settings->setNotifying(false);
+    const QWindow window;
+    const DesktopFeedback feedback({m_converter.get(), m_editor.get()}, window, *m_settings);
+    QSignalSpy ended(m_converter.get(), &Page::ended);
+    addReady(*m_converter, song());
+    m_converter->convertAll();
+    QVERIFY(ended.wait(patience));
+    m_settings->setNotifying(true);
+    addReady(*m_converter, song(QStringLiteral("a.wav")));
+    addReady(*m_converter, song(QStringLiteral("b.wav")));
+    m_converter->convertAll();
+    // Only of the second run.
+    QTRY_COMPARE_WITH_TIMEOUT(m_notifications.texts,
+                              QStringList{QStringLiteral("Files converted: 2")}, patience);
+}
+
 void TestDesktopFeedback::theWindowInUseNeedsNoNotification()
 {
     m_notifications.texts.clear();
@@ -129,7 +149,7 @@ void TestDesktopFeedback::theWindowInUseNeedsNoNotification()
     window.show();
     window.requestActivate();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    const DesktopFeedback feedback({m_converter.get(), m_editor.get()}, window);
+    const DesktopFeedback feedback({m_converter.get(), m_editor.get()}, window, *m_settings);
     m_updates.clear();
     addReady(*m_converter, song());
     m_converter->convertAll();
