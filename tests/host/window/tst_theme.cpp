@@ -121,6 +121,7 @@ void TestTheme::initTestCase()
 
 void TestTheme::init()
 {
+    QDir(m_work.filePath(QStringLiteral("config"))).removeRecursively();
     m_main = std::make_unique<MainWindow>(m_work.filePath(QStringLiteral("config")));
     QVERIFY(m_main->open());
     m_window = m_main->window();
@@ -129,7 +130,6 @@ void TestTheme::init()
 
 void TestTheme::cleanup()
 {
-    m_main->settings().setTheme(WindowSettings::SystemTheme);
     m_main.reset();
     QCOMPARE(takeWarnings(), QString());
 }
