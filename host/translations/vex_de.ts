@@ -819,6 +819,178 @@
         <source>VexConvert can&apos;t open its window</source>
         <translation>VexConvert kann sein Fenster nicht öffnen</translation>
     </message>
+    <message>
+        <source>%1 is the earliest possible time</source>
+        <translation>%1 ist der früheste mögliche Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>%1 is the latest possible time</source>
+        <translation>%1 ist der späteste mögliche Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
+        <translation>Ein Name enthält kein „/“; wählen Sie den Ordner bei „Speichern in“</translation>
+    </message>
+    <message>
+        <source>About VexConvert</source>
+        <translation>Über VexConvert</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>Nummer anhängen</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>As many as suit this machine</source>
+        <translation>So viele, wie zum Rechner passen</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie der Desktop</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Fragen</translation>
+    </message>
+    <message>
+        <source>Conversions at a time</source>
+        <translation>Umwandlungen gleichzeitig</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Cut in the editor</source>
+        <translation>Im Editor schneiden</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>Zum Beispiel %1</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Urlaub</translation>
+    </message>
+    <message>
+        <source>If a name is in use</source>
+        <translation>Wenn ein Name vergeben ist</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Language (from the next start)</source>
+        <translation>Sprache (ab dem nächsten Start)</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Make the subfolders of an added folder, too</source>
+        <translation>Unterordner eines hinzugefügten Ordners ebenfalls anlegen</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Namen</translation>
+    </message>
+    <message>
+        <source>Names in use</source>
+        <translation>Vergebene Namen</translation>
+    </message>
+    <message>
+        <source>Names of the results</source>
+        <translation>Namen der Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Programmeinstellungen</translation>
+    </message>
+    <message>
+        <source>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</source>
+        <translation>Qt steht unter der LGPL 3, ffmpeg unter der LGPL oder der GPL.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace the file</source>
+        <translation>Datei ersetzen</translation>
+    </message>
+    <message>
+        <source>Show log</source>
+        <translation>Protokoll zeigen</translation>
+    </message>
+    <message>
+        <source>Show no animations</source>
+        <translation>Keine Animationen zeigen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>Datei überspringen</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>There is no field {%1}; use %2</source>
+        <translation>Es gibt kein Feld {%1}; möglich sind %2</translation>
+    </message>
+    <message>
+        <source>These are replaced: %1</source>
+        <translation>Ersetzt werden: %1</translation>
+    </message>
+    <message>
+        <source>These files are there already:</source>
+        <translation>Diese Dateien gibt es schon:</translation>
+    </message>
+    <message>
+        <source>VexConvert is free software under the MIT licence.</source>
+        <translation>VexConvert ist freie Software unter der MIT-Lizenz.</translation>
+    </message>
+    <message>
+        <source>Write a time such as 1:02:03.5</source>
+        <translation>Schreiben Sie eine Zeit wie 1:02:03.5</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>ffmpeg hasn&apos;t run for this file yet</source>
+        <translation>ffmpeg ist für diese Datei noch nicht gelaufen</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>war schon vorhanden</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Tell me when all files are converted</source>
+        <translation>Melden, wenn alle Dateien umgewandelt sind</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>

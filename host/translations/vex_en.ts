@@ -819,5 +819,177 @@
         <source>VexConvert can&apos;t open its window</source>
         <translation>VexConvert can’t open its window</translation>
     </message>
+    <message>
+        <source>%1 is the earliest possible time</source>
+        <translation>%1 is the earliest possible time</translation>
+    </message>
+    <message>
+        <source>%1 is the latest possible time</source>
+        <translation>%1 is the latest possible time</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
+        <translation>A name has no “/”; choose the folder in “Save to”</translation>
+    </message>
+    <message>
+        <source>About VexConvert</source>
+        <translation>About VexConvert</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>Add a number</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Add folder</translation>
+    </message>
+    <message>
+        <source>As many as suit this machine</source>
+        <translation>As many as suit this machine</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>As the desktop</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Ask</translation>
+    </message>
+    <message>
+        <source>Conversions at a time</source>
+        <translation>Conversions at a time</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Cut in the editor</source>
+        <translation>Cut in the editor</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>For example %1</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Holidays</translation>
+    </message>
+    <message>
+        <source>If a name is in use</source>
+        <translation>If a name is in use</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Keep both</translation>
+    </message>
+    <message>
+        <source>Language (from the next start)</source>
+        <translation>Language (from the next start)</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>Make the subfolders of an added folder, too</source>
+        <translation>Make the subfolders of an added folder, too</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Names</translation>
+    </message>
+    <message>
+        <source>Names in use</source>
+        <translation>Names in use</translation>
+    </message>
+    <message>
+        <source>Names of the results</source>
+        <translation>Names of the results</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</source>
+        <translation>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Replace the file</source>
+        <translation>Replace the file</translation>
+    </message>
+    <message>
+        <source>Show log</source>
+        <translation>Show log</translation>
+    </message>
+    <message>
+        <source>Show no animations</source>
+        <translation>Show no animations</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Skip</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>Skip the file</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>There is no field {%1}; use %2</source>
+        <translation>There is no field {%1}; use %2</translation>
+    </message>
+    <message>
+        <source>These are replaced: %1</source>
+        <translation>These are replaced: %1</translation>
+    </message>
+    <message>
+        <source>These files are there already:</source>
+        <translation>These files are there already:</translation>
+    </message>
+    <message>
+        <source>VexConvert is free software under the MIT licence.</source>
+        <translation>VexConvert is free software under the MIT licence.</translation>
+    </message>
+    <message>
+        <source>Write a time such as 1:02:03.5</source>
+        <translation>Write a time such as 1:02:03.5</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>ffmpeg hasn&apos;t run for this file yet</source>
+        <translation>ffmpeg hasn’t run for this file yet</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>was there already</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Tell me when all files are converted</source>
+        <translation>Tell me when all files are converted</translation>
+    </message>
 </context>
 </TS>

@@ -819,6 +819,178 @@
         <source>VexConvert can&apos;t open its window</source>
         <translation>VexConvert no puede abrir su ventana</translation>
     </message>
+    <message>
+        <source>%1 is the earliest possible time</source>
+        <translation>%1 es el primer momento posible</translation>
+    </message>
+    <message>
+        <source>%1 is the latest possible time</source>
+        <translation>%1 es el último momento posible</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
+        <translation>Un nombre no contiene «/»; elija la carpeta en «Guardar en»</translation>
+    </message>
+    <message>
+        <source>About VexConvert</source>
+        <translation>Acerca de VexConvert</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>Añadir un número</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message>
+        <source>As many as suit this machine</source>
+        <translation>Las que convengan al equipo</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como el escritorio</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Preguntar</translation>
+    </message>
+    <message>
+        <source>Conversions at a time</source>
+        <translation>Conversiones a la vez</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Cut in the editor</source>
+        <translation>Cortar en el editor</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>Por ejemplo, %1</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Vacaciones</translation>
+    </message>
+    <message>
+        <source>If a name is in use</source>
+        <translation>Si un nombre ya existe</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Conservar ambos</translation>
+    </message>
+    <message>
+        <source>Language (from the next start)</source>
+        <translation>Idioma (desde el próximo inicio)</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Make the subfolders of an added folder, too</source>
+        <translation>Crear también las subcarpetas de una carpeta añadida</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Nombres</translation>
+    </message>
+    <message>
+        <source>Names in use</source>
+        <translation>Nombres ya usados</translation>
+    </message>
+    <message>
+        <source>Names of the results</source>
+        <translation>Nombres de los resultados</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</source>
+        <translation>Qt está bajo la LGPL 3; ffmpeg, bajo la LGPL o la GPL.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Replace the file</source>
+        <translation>Reemplazar el archivo</translation>
+    </message>
+    <message>
+        <source>Show log</source>
+        <translation>Mostrar el registro</translation>
+    </message>
+    <message>
+        <source>Show no animations</source>
+        <translation>No mostrar animaciones</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Omitir</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>Omitir el archivo</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>There is no field {%1}; use %2</source>
+        <translation>No hay ningún campo {%1}; use %2</translation>
+    </message>
+    <message>
+        <source>These are replaced: %1</source>
+        <translation>Se sustituyen: %1</translation>
+    </message>
+    <message>
+        <source>These files are there already:</source>
+        <translation>Estos archivos ya existen:</translation>
+    </message>
+    <message>
+        <source>VexConvert is free software under the MIT licence.</source>
+        <translation>VexConvert es software libre bajo la licencia MIT.</translation>
+    </message>
+    <message>
+        <source>Write a time such as 1:02:03.5</source>
+        <translation>Escriba un tiempo como 1:02:03.5</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>ffmpeg hasn&apos;t run for this file yet</source>
+        <translation>ffmpeg aún no se ha ejecutado para este archivo</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>ya existía</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Tell me when all files are converted</source>
+        <translation>Avisarme cuando todos los archivos estén convertidos</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>

@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
-        <translation>Choisissez ensuite un format et cliquez sur « Tout convertir »</translation>
+        <translation>Choisissez ensuite un format et cliquez sur « Tout convertir »</translation>
     </message>
     <message>
         <source>Convert</source>
@@ -809,41 +809,213 @@
     </message>
     <message>
         <source>There are no video or audio files in the folder %1; add the files themselves</source>
-        <translation>Le dossier %1 ne contient aucun fichier vidéo ou audio ; ajoutez directement les fichiers</translation>
+        <translation>Le dossier %1 ne contient aucun fichier vidéo ou audio ; ajoutez directement les fichiers</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>
-        <translation>Aucun gestionnaire de fichiers n’a pu être lancé pour afficher le dossier %1 ; ouvrez-le vous-même</translation>
+        <translation>Aucun gestionnaire de fichiers n’a pu être lancé pour afficher le dossier %1 ; ouvrez-le vous-même</translation>
     </message>
     <message>
         <source>VexConvert can&apos;t open its window</source>
         <translation>VexConvert ne peut pas ouvrir sa fenêtre</translation>
+    </message>
+    <message>
+        <source>%1 is the earliest possible time</source>
+        <translation>%1 est le premier instant possible</translation>
+    </message>
+    <message>
+        <source>%1 is the latest possible time</source>
+        <translation>%1 est le dernier instant possible</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
+        <translation>Un nom ne contient pas de « / » ; choisissez le dossier dans « Enregistrer dans »</translation>
+    </message>
+    <message>
+        <source>About VexConvert</source>
+        <translation>À propos de VexConvert</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>Ajouter un numéro</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <source>As many as suit this machine</source>
+        <translation>Autant que l’ordinateur le permet</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>Conversions at a time</source>
+        <translation>Conversions simultanées</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Cut in the editor</source>
+        <translation>Couper dans l’éditeur</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>Par exemple %1</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Vacances</translation>
+    </message>
+    <message>
+        <source>If a name is in use</source>
+        <translation>Si un nom est déjà pris</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Garder les deux</translation>
+    </message>
+    <message>
+        <source>Language (from the next start)</source>
+        <translation>Langue (au prochain démarrage)</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Make the subfolders of an added folder, too</source>
+        <translation>Créer aussi les sous-dossiers d’un dossier ajouté</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Noms</translation>
+    </message>
+    <message>
+        <source>Names in use</source>
+        <translation>Noms déjà pris</translation>
+    </message>
+    <message>
+        <source>Names of the results</source>
+        <translation>Noms des résultats</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</source>
+        <translation>Qt est sous LGPL 3, ffmpeg sous LGPL ou GPL.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Replace the file</source>
+        <translation>Remplacer le fichier</translation>
+    </message>
+    <message>
+        <source>Show log</source>
+        <translation>Afficher le journal</translation>
+    </message>
+    <message>
+        <source>Show no animations</source>
+        <translation>Ne pas afficher d’animations</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>Ignorer le fichier</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>There is no field {%1}; use %2</source>
+        <translation>Il n’y a pas de champ {%1} ; utilisez %2</translation>
+    </message>
+    <message>
+        <source>These are replaced: %1</source>
+        <translation>Sont remplacés : %1</translation>
+    </message>
+    <message>
+        <source>These files are there already:</source>
+        <translation>Ces fichiers existent déjà :</translation>
+    </message>
+    <message>
+        <source>VexConvert is free software under the MIT licence.</source>
+        <translation>VexConvert est un logiciel libre sous licence MIT.</translation>
+    </message>
+    <message>
+        <source>Write a time such as 1:02:03.5</source>
+        <translation>Écrivez un temps tel que 1:02:03.5</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 autres</translation>
+    </message>
+    <message>
+        <source>ffmpeg hasn&apos;t run for this file yet</source>
+        <translation>ffmpeg n’a pas encore traité ce fichier</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>existait déjà</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Tell me when all files are converted</source>
+        <translation>M’avertir quand tous les fichiers sont convertis</translation>
     </message>
 </context>
 <context>
     <name>OutputStreams</name>
     <message>
         <source>has no video; choose an audio preset</source>
-        <translation>ne contient pas de vidéo ; choisissez un format audio</translation>
+        <translation>ne contient pas de vidéo ; choisissez un format audio</translation>
     </message>
     <message>
         <source>has no audio; choose a video preset</source>
-        <translation>ne contient pas de son ; choisissez un format vidéo</translation>
+        <translation>ne contient pas de son ; choisissez un format vidéo</translation>
     </message>
     <message>
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
-        <translation>un fichier .%1 ne peut pas contenir de vidéo ; choisissez un format audio</translation>
+        <translation>un fichier .%1 ne peut pas contenir de vidéo ; choisissez un format audio</translation>
     </message>
     <message>
         <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
-        <translation>est une seule image et ne fait pas un film ; en ligne de commande, --duration SECONDS la montre aussi longtemps</translation>
+        <translation>est une seule image et ne fait pas un film ; en ligne de commande, --duration SECONDS la montre aussi longtemps</translation>
     </message>
 </context>
 <context>
     <name>EncoderChoice</name>
     <message>
         <source>needs the encoder %1 for %2, which this ffmpeg lacks; choose a preset with another encoder or install an ffmpeg that has it</source>
-        <translation>a besoin de l’encodeur %1 pour %2, absent de ce ffmpeg ; choisissez un format avec un autre encodeur ou installez un ffmpeg qui en dispose</translation>
+        <translation>a besoin de l’encodeur %1 pour %2, absent de ce ffmpeg ; choisissez un format avec un autre encodeur ou installez un ffmpeg qui en dispose</translation>
     </message>
     <message>
         <source> or </source>
@@ -854,41 +1026,41 @@
     <name>RateControl</name>
     <message>
         <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
-        <translation>n&apos;indique pas de durée, si bien qu&apos;aucun débit ne donne la taille voulue ; choisissez plutôt un débit</translation>
+        <translation>n&apos;indique pas de durée, si bien qu&apos;aucun débit ne donne la taille voulue ; choisissez plutôt un débit</translation>
     </message>
     <message>
         <source>is too long for the asked size; choose a larger size or less audio</source>
-        <translation>est trop long pour la taille voulue ; choisissez une taille plus grande ou moins de son</translation>
+        <translation>est trop long pour la taille voulue ; choisissez une taille plus grande ou moins de son</translation>
     </message>
 </context>
 <context>
     <name>EncoderList</name>
     <message>
         <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>
-        <translation>%1 n’indique pas ses encodeurs (%2) ; vérifiez que « %1 -encoders » les affiche, ou installez un autre ffmpeg</translation>
+        <translation>%1 n’indique pas ses encodeurs (%2) ; vérifiez que « %1 -encoders » les affiche, ou installez un autre ffmpeg</translation>
     </message>
 </context>
 <context>
     <name>Conversion</name>
     <message>
         <source>the disk with %1 is full; free some space or choose another folder</source>
-        <translation>le disque contenant %1 est plein ; libérez de l’espace ou choisissez un autre dossier</translation>
+        <translation>le disque contenant %1 est plein ; libérez de l’espace ou choisissez un autre dossier</translation>
     </message>
     <message>
         <source>ffmpeg couldn&apos;t convert it (%1); check the file or try another preset</source>
-        <translation>ffmpeg n’a pas pu convertir ce fichier (%1) ; vérifiez le fichier ou essayez un autre format</translation>
+        <translation>ffmpeg n’a pas pu convertir ce fichier (%1) ; vérifiez le fichier ou essayez un autre format</translation>
     </message>
     <message>
         <source>ffmpeg wrote a file that can&apos;t be played; try another preset</source>
-        <translation>ffmpeg a écrit un fichier illisible ; essayez un autre format</translation>
+        <translation>ffmpeg a écrit un fichier illisible ; essayez un autre format</translation>
     </message>
     <message>
         <source>holds %1 of %2 s: the source ends early or is damaged</source>
-        <translation>contient %1 s sur %2 : la source se termine trop tôt ou est endommagée</translation>
+        <translation>contient %1 s sur %2 : la source se termine trop tôt ou est endommagée</translation>
     </message>
     <message>
         <source>its video is HDR, and this ffmpeg can&apos;t map that to ordinary colours; install an ffmpeg with zscale and tonemap</source>
-        <translation>la vidéo est en HDR et cet ffmpeg ne peut pas la ramener à des couleurs ordinaires ; installez un ffmpeg avec zscale et tonemap</translation>
+        <translation>la vidéo est en HDR et cet ffmpeg ne peut pas la ramener à des couleurs ordinaires ; installez un ffmpeg avec zscale et tonemap</translation>
     </message>
     <message>
         <source>the encoder refuses these settings</source>
@@ -907,57 +1079,57 @@
     <name>MediaInput</name>
     <message>
         <source>is a playlist; choose the files that it lists</source>
-        <translation>est une liste de lecture ; choisissez les fichiers qu’elle contient</translation>
+        <translation>est une liste de lecture ; choisissez les fichiers qu’elle contient</translation>
     </message>
     <message>
         <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
-        <translation>désigne une séquence d’images ; renommez le fichier et ses dossiers sans % * ? [ ] { }</translation>
+        <translation>désigne une séquence d’images ; renommez le fichier et ses dossiers sans % * ? [ ] { }</translation>
     </message>
     <message>
         <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
-        <translation>est d’un type qui n’est pas converti (%1) ; choisissez un fichier vidéo ou audio</translation>
+        <translation>est d’un type qui n’est pas converti (%1) ; choisissez un fichier vidéo ou audio</translation>
     </message>
 </context>
 <context>
     <name>MediaProbe</name>
     <message>
         <source>no such file; check its name</source>
-        <translation>ce fichier n’existe pas ; vérifiez son nom</translation>
+        <translation>ce fichier n’existe pas ; vérifiez son nom</translation>
     </message>
     <message>
         <source>this is a folder; name the files in it</source>
-        <translation>c’est un dossier ; choisissez les fichiers qu’il contient</translation>
+        <translation>c’est un dossier ; choisissez les fichiers qu’il contient</translation>
     </message>
     <message>
         <source>cannot be read as media (%1); check that it is a complete video or audio file</source>
-        <translation>illisible comme vidéo ou audio (%1) ; vérifiez que le fichier est complet</translation>
+        <translation>illisible comme vidéo ou audio (%1) ; vérifiez que le fichier est complet</translation>
     </message>
     <message>
         <source>holds neither video nor audio; choose a video or audio file</source>
-        <translation>ne contient ni vidéo ni audio ; choisissez un fichier vidéo ou audio</translation>
+        <translation>ne contient ni vidéo ni audio ; choisissez un fichier vidéo ou audio</translation>
     </message>
     <message>
         <source>takes too long to read; check the disk or network that it is on</source>
-        <translation>est trop long à lire ; vérifiez le disque ou le réseau où il se trouve</translation>
+        <translation>est trop long à lire ; vérifiez le disque ou le réseau où il se trouve</translation>
     </message>
     <message>
         <source>describes itself without end; check that it is a complete video or audio file</source>
-        <translation>contient une description sans fin ; vérifiez que c’est un fichier vidéo ou audio complet</translation>
+        <translation>contient une description sans fin ; vérifiez que c’est un fichier vidéo ou audio complet</translation>
     </message>
 </context>
 <context>
     <name>OutputSettings</name>
     <message>
         <source>files of the kind &quot;.%1&quot; can&apos;t be written; choose another preset</source>
-        <translation>les fichiers de type « .%1 » ne peuvent pas être écrits ; choisissez un autre format</translation>
+        <translation>les fichiers de type « .%1 » ne peuvent pas être écrits ; choisissez un autre format</translation>
     </message>
     <message>
         <source>no encoder has a name like &quot;%1&quot;; choose another preset</source>
-        <translation>aucun encodeur ne s’appelle « %1 » ; choisissez un autre format</translation>
+        <translation>aucun encodeur ne s’appelle « %1 » ; choisissez un autre format</translation>
     </message>
     <message>
         <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
-        <translation>%1 du format est %2 ; il faut 0 ou %3 ; choisissez un autre format</translation>
+        <translation>%1 du format est %2 ; il faut 0 ou %3 ; choisissez un autre format</translation>
     </message>
     <message>
         <source>not a valid number</source>
@@ -965,44 +1137,44 @@
     </message>
     <message>
         <source>the part to keep must begin at 0 or later and end after that; choose another part</source>
-        <translation>l’extrait doit commencer à 0 ou plus tard et finir après ; choisissez un autre extrait</translation>
+        <translation>l’extrait doit commencer à 0 ou plus tard et finir après ; choisissez un autre extrait</translation>
     </message>
 </context>
 <context>
     <name>PendingFile</name>
     <message>
         <source>the folder %1 doesn&apos;t exist; make it or choose another one</source>
-        <translation>le dossier %1 n’existe pas ; créez-le ou choisissez-en un autre</translation>
+        <translation>le dossier %1 n’existe pas ; créez-le ou choisissez-en un autre</translation>
     </message>
     <message>
         <source>can&apos;t write into the folder %1 (%2); choose another one</source>
-        <translation>impossible d’écrire dans le dossier %1 (%2) ; choisissez-en un autre</translation>
+        <translation>impossible d’écrire dans le dossier %1 (%2) ; choisissez-en un autre</translation>
     </message>
     <message>
         <source>the result couldn&apos;t get its name in %1 (%2); choose another folder</source>
-        <translation>impossible de nommer le résultat dans %1 (%2) ; choisissez un autre dossier</translation>
+        <translation>impossible de nommer le résultat dans %1 (%2) ; choisissez un autre dossier</translation>
     </message>
 </context>
 <context>
     <name>PresetStore</name>
     <message>
         <source>can&apos;t write into the configuration folder %1 (%2); check its disk and its permissions</source>
-        <translation>impossible d’écrire dans le dossier de configuration %1 (%2) ; vérifiez le disque et les droits</translation>
+        <translation>impossible d’écrire dans le dossier de configuration %1 (%2) ; vérifiez le disque et les droits</translation>
     </message>
     <message>
         <source>can&apos;t write %1, which is as before; check its disk and its permissions</source>
-        <translation>impossible d’écrire %1, qui est resté inchangé ; vérifiez le disque et les droits</translation>
+        <translation>impossible d’écrire %1, qui est resté inchangé ; vérifiez le disque et les droits</translation>
     </message>
 </context>
 <context>
     <name>Tool</name>
     <message>
         <source>%1 is not on the PATH; install ffmpeg (Debian: apt-get install ffmpeg) and try again</source>
-        <translation>%1 n’est pas dans le PATH ; installez ffmpeg (Debian : apt-get install ffmpeg) et réessayez</translation>
+        <translation>%1 n’est pas dans le PATH ; installez ffmpeg (Debian : apt-get install ffmpeg) et réessayez</translation>
     </message>
     <message>
         <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
-        <translation>%1 n’a pas pu démarrer (%2) ; fermez d’autres programmes ou relevez les limites de fichiers ouverts et de processus (ulimit -n, ulimit -u), puis réessayez</translation>
+        <translation>%1 n’a pas pu démarrer (%2) ; fermez d’autres programmes ou relevez les limites de fichiers ouverts et de processus (ulimit -n, ulimit -u), puis réessayez</translation>
     </message>
 </context>
 <context>
@@ -1032,15 +1204,15 @@
     </message>
     <message>
         <source>can&apos;t write into the configuration folder %1 (%2); name another one</source>
-        <translation>impossible d’écrire dans le dossier de configuration %1 (%2) ; indiquez-en un autre</translation>
+        <translation>impossible d’écrire dans le dossier de configuration %1 (%2) ; indiquez-en un autre</translation>
     </message>
     <message>
         <source>%1 is using the presets in %2; close it, or try again when it is done</source>
-        <translation>%1 utilise les formats de %2 ; fermez-le ou réessayez quand il aura fini</translation>
+        <translation>%1 utilise les formats de %2 ; fermez-le ou réessayez quand il aura fini</translation>
     </message>
     <message>
         <source>%1 is no plain file; remove it</source>
-        <translation>%1 n’est pas un fichier ordinaire ; supprimez-le</translation>
+        <translation>%1 n’est pas un fichier ordinaire ; supprimez-le</translation>
     </message>
     <message>
         <source>waiting for %1, which is using the presets in %2</source>
@@ -1051,31 +1223,31 @@
     <name>UserFile</name>
     <message>
         <source>%1 is no file; move it away</source>
-        <translation>%1 n’est pas un fichier ; déplacez-le</translation>
+        <translation>%1 n’est pas un fichier ; déplacez-le</translation>
     </message>
     <message>
         <source>%1 has %2, and no more than %3 are read; move it away to start anew</source>
-        <translation>%1 fait %2 et on lit au plus %3 ; déplacez-le pour repartir de zéro</translation>
+        <translation>%1 fait %2 et on lit au plus %3 ; déplacez-le pour repartir de zéro</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read (%2); check its permissions</source>
-        <translation>impossible de lire %1 (%2) ; vérifiez les droits</translation>
+        <translation>impossible de lire %1 (%2) ; vérifiez les droits</translation>
     </message>
     <message>
         <source>%1 is missing; put its last good copy, %2, in its place</source>
-        <translation>%1 manque ; remettez à sa place sa dernière bonne copie, %2</translation>
+        <translation>%1 manque ; remettez à sa place sa dernière bonne copie, %2</translation>
     </message>
     <message>
         <source>%1 is damaged; put its last good copy, %2, in its place</source>
-        <translation>%1 est endommagé ; remettez à sa place sa dernière bonne copie, %2</translation>
+        <translation>%1 est endommagé ; remettez à sa place sa dernière bonne copie, %2</translation>
     </message>
     <message>
         <source>%1 is empty and there is no good copy of it; remove it to start anew</source>
-        <translation>%1 est vide et il n’en existe pas de bonne copie ; supprimez-le pour repartir de zéro</translation>
+        <translation>%1 est vide et il n’en existe pas de bonne copie ; supprimez-le pour repartir de zéro</translation>
     </message>
     <message>
         <source>%1 is damaged and there is no good copy of it; fix it, or move it away to start anew</source>
-        <translation>%1 est endommagé et il n’en existe pas de bonne copie ; réparez-le ou déplacez-le pour repartir de zéro</translation>
+        <translation>%1 est endommagé et il n’en existe pas de bonne copie ; réparez-le ou déplacez-le pour repartir de zéro</translation>
     </message>
     <message>
         <source>%1 was empty and there is no good copy of it</source>
@@ -1083,15 +1255,15 @@
     </message>
     <message>
         <source>%1 was damaged and there is no good copy of it; it is kept as %2</source>
-        <translation>%1 était endommagé et il n’en existe pas de bonne copie ; il est gardé sous %2</translation>
+        <translation>%1 était endommagé et il n’en existe pas de bonne copie ; il est gardé sous %2</translation>
     </message>
     <message>
         <source>%1 was damaged; its last good copy, %2, is in its place, and the damaged file is kept as %3</source>
-        <translation>%1 était endommagé ; sa dernière bonne copie, %2, l’a remplacé et le fichier endommagé est gardé sous %3</translation>
+        <translation>%1 était endommagé ; sa dernière bonne copie, %2, l’a remplacé et le fichier endommagé est gardé sous %3</translation>
     </message>
     <message>
         <source>%1 was missing; its last good copy, %2, is in its place</source>
-        <translation>%1 manquait ; sa dernière bonne copie, %2, l’a remplacé</translation>
+        <translation>%1 manquait ; sa dernière bonne copie, %2, l’a remplacé</translation>
     </message>
     <message>
         <source>%1 was missing and its copy, %2, is damaged</source>
@@ -1099,26 +1271,26 @@
     </message>
     <message>
         <source>%1 was empty; its last good copy, %2, is in its place</source>
-        <translation>%1 était vide ; sa dernière bonne copie, %2, l’a remplacé</translation>
+        <translation>%1 était vide ; sa dernière bonne copie, %2, l’a remplacé</translation>
     </message>
     <message>
         <source>can&apos;t write %1 (%2), which is as before; check its disk and its permissions</source>
-        <translation>impossible d’écrire %1 (%2), qui est resté inchangé ; vérifiez le disque et les droits</translation>
+        <translation>impossible d’écrire %1 (%2), qui est resté inchangé ; vérifiez le disque et les droits</translation>
     </message>
     <message>
         <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
-        <translation>impossible de garder dans %2 les formats inutilisables de %1 (%3) ; vérifiez le disque et les droits</translation>
+        <translation>impossible de garder dans %2 les formats inutilisables de %1 (%3) ; vérifiez le disque et les droits</translation>
     </message>
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
-        <translation>%1 contient des formats sans réglages (&quot;outPutNode&quot;), inutilisables ; ils sont gardés dans %2</translation>
+        <translation>%1 contient des formats sans réglages (&quot;outPutNode&quot;), inutilisables ; ils sont gardés dans %2</translation>
     </message>
 </context>
 <context>
     <name>Losses</name>
     <message>
         <source>left out: %1</source>
-        <translation>laissé de côté : %1</translation>
+        <translation>laissé de côté : %1</translation>
     </message>
     <message>
         <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
@@ -1126,23 +1298,23 @@
     </message>
     <message>
         <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
-        <translation>pistes de sous-titres : %1 (%2 ; .%3 ne les accepte pas, .%4 si)</translation>
+        <translation>pistes de sous-titres : %1 (%2 ; .%3 ne les accepte pas, .%4 si)</translation>
     </message>
     <message>
         <source>subtitle tracks: %1 (%2; no format holds them)</source>
-        <translation>pistes de sous-titres : %1 (%2 ; aucun format ne les accepte)</translation>
+        <translation>pistes de sous-titres : %1 (%2 ; aucun format ne les accepte)</translation>
     </message>
     <message>
         <source>more video tracks: %1 (a result has one)</source>
-        <translation>autres pistes vidéo : %1 (un résultat en a une)</translation>
+        <translation>autres pistes vidéo : %1 (un résultat en a une)</translation>
     </message>
     <message>
         <source>attachments: %1 (.%2 doesn&apos;t hold them, .mkv does)</source>
-        <translation>pièces jointes : %1 (.%2 ne les accepte pas, .mkv si)</translation>
+        <translation>pièces jointes : %1 (.%2 ne les accepte pas, .mkv si)</translation>
     </message>
     <message>
         <source>chapters: %1 (.%2 doesn&apos;t hold them, .%3 does)</source>
-        <translation>chapitres : %1 (.%2 ne les accepte pas, .%3 si)</translation>
+        <translation>chapitres : %1 (.%2 ne les accepte pas, .%3 si)</translation>
     </message>
     <message>
         <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>
@@ -1153,7 +1325,7 @@
     <name>BurnedSubtitles</name>
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
-        <translation>contient %1 pistes de sous-titres, donc pas de numéro %2 ; choisissez-en une autre</translation>
+        <translation>contient %1 pistes de sous-titres, donc pas de numéro %2 ; choisissez-en une autre</translation>
     </message>
 </context>
 </TS>

@@ -819,6 +819,178 @@
         <source>VexConvert can&apos;t open its window</source>
         <translation>VexConvert のウィンドウを開けません</translation>
     </message>
+    <message>
+        <source>%1 is the earliest possible time</source>
+        <translation>%1 が最も早い時刻です</translation>
+    </message>
+    <message>
+        <source>%1 is the latest possible time</source>
+        <translation>%1 が最も遅い時刻です</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
+        <translation>名前に「/」は使えません。フォルダは「保存先」で選んでください</translation>
+    </message>
+    <message>
+        <source>About VexConvert</source>
+        <translation>VexConvert について</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>番号を付ける</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>フォルダを追加</translation>
+    </message>
+    <message>
+        <source>As many as suit this machine</source>
+        <translation>この機械に合う数</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>デスクトップと同じ</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>確認する</translation>
+    </message>
+    <message>
+        <source>Conversions at a time</source>
+        <translation>同時に変換する数</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Cut in the editor</source>
+        <translation>エディタで切り出す</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>例: %1</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>休暇</translation>
+    </message>
+    <message>
+        <source>If a name is in use</source>
+        <translation>名前が使われている場合</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>両方残す</translation>
+    </message>
+    <message>
+        <source>Language (from the next start)</source>
+        <translation>言語（次回起動時から）</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>Make the subfolders of an added folder, too</source>
+        <translation>追加したフォルダのサブフォルダも作る</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Names in use</source>
+        <translation>使用中の名前</translation>
+    </message>
+    <message>
+        <source>Names of the results</source>
+        <translation>結果の名前</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <source>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</source>
+        <translation>Qt は LGPL 3、ffmpeg は LGPL または GPL です。</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Replace the file</source>
+        <translation>ファイルを置き換える</translation>
+    </message>
+    <message>
+        <source>Show log</source>
+        <translation>ログを表示</translation>
+    </message>
+    <message>
+        <source>Show no animations</source>
+        <translation>アニメーションを表示しない</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>スキップ</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>ファイルをスキップ</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>テーマ</translation>
+    </message>
+    <message>
+        <source>There is no field {%1}; use %2</source>
+        <translation>{%1} という項目はありません。使えるのは %2 です</translation>
+    </message>
+    <message>
+        <source>These are replaced: %1</source>
+        <translation>次の部分が置き換わります: %1</translation>
+    </message>
+    <message>
+        <source>These files are there already:</source>
+        <translation>次のファイルがすでにあります:</translation>
+    </message>
+    <message>
+        <source>VexConvert is free software under the MIT licence.</source>
+        <translation>VexConvert は MIT ライセンスの自由ソフトウェアです。</translation>
+    </message>
+    <message>
+        <source>Write a time such as 1:02:03.5</source>
+        <translation>1:02:03.5 のような時刻を入力してください</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 件</translation>
+    </message>
+    <message>
+        <source>ffmpeg hasn&apos;t run for this file yet</source>
+        <translation>このファイルではまだ ffmpeg が動いていません</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>すでにありました</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Tell me when all files are converted</source>
+        <translation>すべて変換し終えたら知らせる</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>

@@ -819,6 +819,178 @@
         <source>VexConvert can&apos;t open its window</source>
         <translation>VexConvert 无法打开窗口</translation>
     </message>
+    <message>
+        <source>%1 is the earliest possible time</source>
+        <translation>最早可用时间是 %1</translation>
+    </message>
+    <message>
+        <source>%1 is the latest possible time</source>
+        <translation>最晚可用时间是 %1</translation>
+    </message>
+    <message>
+        <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
+        <translation>名称中不能有“/”；请在“保存到”中选择文件夹</translation>
+    </message>
+    <message>
+        <source>About VexConvert</source>
+        <translation>关于 VexConvert</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>添加编号</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>添加文件夹</translation>
+    </message>
+    <message>
+        <source>As many as suit this machine</source>
+        <translation>适合本机的数量</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>跟随桌面</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>询问</translation>
+    </message>
+    <message>
+        <source>Conversions at a time</source>
+        <translation>同时转换数</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Cut in the editor</source>
+        <translation>在编辑器中剪切</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>例如 %1</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>假期</translation>
+    </message>
+    <message>
+        <source>If a name is in use</source>
+        <translation>名称已被使用时</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>两者都保留</translation>
+    </message>
+    <message>
+        <source>Language (from the next start)</source>
+        <translation>语言（下次启动时生效）</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Make the subfolders of an added folder, too</source>
+        <translation>同时创建所添加文件夹的子文件夹</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Names in use</source>
+        <translation>名称已被使用</translation>
+    </message>
+    <message>
+        <source>Names of the results</source>
+        <translation>结果的名称</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</source>
+        <translation>Qt 采用 LGPL 3，ffmpeg 采用 LGPL 或 GPL。</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Replace the file</source>
+        <translation>替换文件</translation>
+    </message>
+    <message>
+        <source>Show log</source>
+        <translation>显示日志</translation>
+    </message>
+    <message>
+        <source>Show no animations</source>
+        <translation>不显示动画</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>跳过</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>跳过文件</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>There is no field {%1}; use %2</source>
+        <translation>没有字段 {%1}；可使用 %2</translation>
+    </message>
+    <message>
+        <source>These are replaced: %1</source>
+        <translation>以下内容会被替换：%1</translation>
+    </message>
+    <message>
+        <source>These files are there already:</source>
+        <translation>以下文件已存在：</translation>
+    </message>
+    <message>
+        <source>VexConvert is free software under the MIT licence.</source>
+        <translation>VexConvert 是采用 MIT 许可的自由软件。</translation>
+    </message>
+    <message>
+        <source>Write a time such as 1:02:03.5</source>
+        <translation>请输入时间，例如 1:02:03.5</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>ffmpeg hasn&apos;t run for this file yet</source>
+        <translation>ffmpeg 尚未处理此文件</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>已存在</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1：</translation>
+    </message>
+    <message>
+        <source>Tell me when all files are converted</source>
+        <translation>所有文件转换完成后通知我</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
