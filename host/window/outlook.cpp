@@ -61,6 +61,11 @@ double expectedBytes(const OutputSettings &settings, const MediaFacts &source,
     const QSet<QString> encoders;
     const StreamTarget target{settings, *Container::find(settings.extension), encoders};
     const QVector<AudioTrack> tracks = chosenAudio(source, target);
+    const bool isAllCopied =
+        (copies.video || !settings.hasVideo) && (copies.audio || tracks.isEmpty());
+    if (isAllCopied && source.duration > 0) {
+        return double(source.bytes) * seconds / source.duration;
+    }
     const double video = settings.hasVideo ? videoKbps(settings, source, copies.video) : 0;
     const double audio = audioKbps(settings, tracks, copies.audio);
     const bool isKnown =

@@ -38,7 +38,7 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     , m_settings(settings)
     , m_formats(kind, settings, presets, m_tasks)
     , m_output(kind, settings, m_tasks, m_formats)
-    , m_outlooks(presets, [this](const Task &task) { return jobOf(task); })
+    , m_outlooks(presets, settings, [this](const Task &task) { return jobOf(task); })
     , m_runner(m_tasks, [this](const Task &task) { return jobOf(task); })
     , m_removals(m_tasks, m_inspector, m_runner)
 {
@@ -302,14 +302,10 @@ void Page::setGlobalFormat(const QString &id)
 /*! A new format leaves results alone; who wants these files in it, too, finds the way here. */
 void Page::offerAgain()
 {
-    QVector<int> again;
+    const QVector<int> again = m_formats.outdated();
     QStringList sources;
-    for (const Task &task : m_tasks.tasks()) {
-        const bool isOther = task.format != m_settings.globalId(m_kind);
-        if (task.state == Task::Converted && task.ownFormats.isEmpty() && isOther) {
-            again << task.id;
-            sources << task.source;
-        }
+    for (const int id : again) {
+        sources << m_tasks.find(id)->source;
     }
     if (again.isEmpty()) {
         return;

@@ -72,6 +72,19 @@ QString TaskFormats::presetId(const Task &task) const
     return m_presets.usable(task.format, globalId());
 }
 
+QVector<int> TaskFormats::outdated() const
+{
+    const Followed wanted = followed();
+    QVector<int> ids;
+    for (const Task &task : m_tasks.tasks()) {
+        const bool follows = task.state == Task::Converted && task.ownFormats.isEmpty();
+        if (follows && formatOf(task, wanted) != task.format) {
+            ids << task.id;
+        }
+    }
+    return ids;
+}
+
 OutputSettings TaskFormats::outputSettings(const Task &task) const
 {
     const std::optional<FoundPreset> preset = m_presets.find(presetId(task));

@@ -32,6 +32,8 @@ public:
 
     /*! The id of the preset that the task is converted with. */
     [[nodiscard]] QString presetId(const Task &task) const;
+    /*! The converted tasks that follow the page, whose format has changed since. */
+    [[nodiscard]] QVector<int> outdated() const;
     /*! The settings of the task's conversion. */
     [[nodiscard]] OutputSettings outputSettings(const Task &task) const;
 

@@ -2,12 +2,15 @@
 
 #include "host/convert/ffmpegarguments.h"
 #include "host/window/presets.h"
+#include "host/window/windowsettings.h"
 
 #include <algorithm>
 
-TaskOutlooks::TaskOutlooks(const Presets &presets, const JobMaker &jobOf, QObject *parent)
+TaskOutlooks::TaskOutlooks(const Presets &presets, const WindowSettings &settings,
+                           const JobMaker &jobOf, QObject *parent)
     : QObject(parent)
     , m_presets(presets)
+    , m_settings(settings)
     , m_jobOf(jobOf)
 {
     connect(&m_list, &EncoderList::finished, this, [this](const Result<QSet<QString>> &encoders) {
@@ -31,14 +34,16 @@ Outlook TaskOutlooks::of(const Task &task) const
     return outlook;
 }
 
-/*! The first preset that works, of the same format, then of the same kind, then of any. */
+/*! The first preset that works, of the same format, else of the same kind, else of any; one that
+ *  was chosen last comes before the others. */
 QString TaskOutlooks::nearestTo(const Task &task) const
 {
     const std::optional<FoundPreset> chosen = m_presets.find(task.format);
     const ConversionJob job = m_jobOf(task);
     QString nearest;
     int best = -1;
-    const QStringList ids = m_presets.ids();
+    const QStringList ids =
+        QStringList{m_settings.lastId(true), m_settings.lastId(false)} + m_presets.ids();
     for (const QString &id : ids) {
         const std::optional<FoundPreset> preset = m_presets.find(id);
         const bool isSameFormat = preset && chosen && preset->className == chosen->className;

@@ -8,6 +8,7 @@
 #include <functional>
 
 class Presets;
+class WindowSettings;
 
 /*! Tells of tasks what their conversions will give, as soon as ffmpeg's encoders are known. */
 class TaskOutlooks : public QObject
@@ -17,7 +18,8 @@ class TaskOutlooks : public QObject
 public:
     using JobMaker = std::function<ConversionJob(const Task &task)>;
 
-    TaskOutlooks(const Presets &presets, const JobMaker &jobOf, QObject *parent = nullptr);
+    TaskOutlooks(const Presets &presets, const WindowSettings &settings, const JobMaker &jobOf,
+                 QObject *parent = nullptr);
 
     /*! Empty while the task's file or the encoders are unknown. */
     [[nodiscard]] Outlook of(const Task &task) const;
@@ -30,6 +32,7 @@ private:
     [[nodiscard]] QString nearestTo(const Task &task) const;
 
     const Presets &m_presets;
+    const WindowSettings &m_settings;
     const JobMaker m_jobOf;
     EncoderList m_list;
     QSet<QString> m_encoders;

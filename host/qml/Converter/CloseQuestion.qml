@@ -27,7 +27,8 @@ Popup {
         border.color: Theme.frame
     }
 
-    contentItem: Column {
+    Column {
+        width: root.availableWidth
         spacing: Theme.margin
         Accessible.role: Accessible.AlertMessage
         Accessible.name: title.text + " " + words.text

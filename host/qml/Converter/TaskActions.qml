@@ -31,7 +31,7 @@ Row {
     Action {
         visible: root.taskState === Task.Converted
         inTabOrder: root.inTabOrder
-        iconSource: "qrc:/window/images/media.svg"
+        iconSource: "qrc:/window/images/play.svg"
         Accessible.name: ToolFun.tr("Play")
         onClicked: root.page.play(root.taskId)
     }

@@ -38,11 +38,25 @@ ListView {
         }
     }
 
+    /*! Removes the task, with the selection if it is in it, and goes on with the row below. */
+    function removeChosen(taskId) {
+        const row = root.currentIndex
+        root.page.removeChosen(taskId)
+        root.goTo(Math.min(row, root.count - 1), Qt.NoModifier)
+    }
+
+    /*! Moves the task, with the selection if it is in it, above the row. */
+    function moveTo(taskId, row) {
+        root.page.moveChosen(taskId, root.page.idAt(row))
+        root.currentIndex = root.page.rowOf(taskId)
+        root.currentItem.forceActiveFocus(Qt.TabFocusReason)
+    }
+
     /*! Moves the current row, with the selection if it is in it, by one place. */
     function moveBy(step) {
         const to = root.currentIndex + (step < 0 ? -1 : 2)
         if (to >= 0 && to <= root.count) {
-            root.page.moveChosen(root.currentItem.taskId, root.page.idAt(to))
+            root.moveTo(root.currentItem.taskId, to)
         }
     }
 
@@ -60,7 +74,7 @@ ListView {
 
     function drop(taskId) {
         if (root.dropRow >= 0) {
-            root.page.moveChosen(taskId, root.page.idAt(root.dropRow))
+            root.moveTo(taskId, root.dropRow)
         }
         root.dropRow = -1
         scroller.step = 0
@@ -87,6 +101,9 @@ ListView {
             event.accepted = true
         } else if (event.key === Qt.Key_Home || event.key === Qt.Key_End) {
             root.goTo(event.key === Qt.Key_Home ? 0 : root.count - 1, event.modifiers)
+            event.accepted = true
+        } else if (event.key === Qt.Key_Escape && root.page.selection.count > 0) {
+            root.page.selection.clear()
             event.accepted = true
         } else if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier) {
             root.currentItem.menuWanted()
@@ -126,6 +143,7 @@ ListView {
             }
             menu.openFor(row)
         }
+        onRemovalWanted: root.removeChosen(row.taskId)
         onDragged: function (y) { root.drag(y) }
         onDropped: root.drop(row.taskId)
     }

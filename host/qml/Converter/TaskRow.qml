@@ -52,6 +52,7 @@ Rectangle {
     signal pressed(int modifiers)
     signal released(int modifiers)
     signal menuWanted()
+    signal removalWanted()
     signal dragged(real y)
     signal dropped()
 
@@ -85,7 +86,7 @@ Rectangle {
     Keys.onReturnPressed: root.activate()
     Keys.onEnterPressed: root.activate()
     Keys.onSpacePressed: root.activate()
-    Keys.onDeletePressed: root.page.removeChosen(root.taskId)
+    Keys.onDeletePressed: root.removalWanted()
     Keys.onMenuPressed: root.menuWanted()
 
     Component.onCompleted: root.isComplete = true

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void onlyThePartThatIsKeptCounts();
     void anUnlimitedBitrateGivesNoSize();
     void aCopiedVideoKeepsItsBitrate();
+    void aFileThatIsCopiedWholeKeepsItsSize();
     void theAskedSizeIsTheMost();
     void theNameIsTheOneThatIsFreeNow();
     void whatIsImpossibleIsNamed_data();
@@ -117,6 +118,16 @@ void TestOutlook::aCopiedVideoKeepsItsBitrate()
     // Without a bitrate of its own, it is at most that of the file.
     facts.videoTracks.first().kbps = 0;
     QCOMPARE(kilobytes(job("mp4", true), facts, copy), 51600);
+}
+
+void TestOutlook::aFileThatIsCopiedWholeKeepsItsSize()
+{
+    const QStringList copy = {QStringLiteral("-c:v:0"), QStringLiteral("copy"),
+                              QStringLiteral("-c:a:0"), QStringLiteral("copy")};
+    ConversionJob job1 = job("mp4", true);
+    QCOMPARE(expectedBytes(job1.settings, film(), copy), 5e7);
+    job1.settings.end = 50;
+    QCOMPARE(expectedBytes(job1.settings, film(), copy), 2.5e7);
 }
 
 void TestOutlook::theAskedSizeIsTheMost()

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void aWaitingTaskTakesTheNewGlobalFormat();
     void aTaskWithAFormatOfItsOwnKeepsItUntilItFollowsAgain();
     void aSongIsNotGivenAVideoFormatNorASilentFilmAnAudioFormat();
+    void anImpossibleFormatIsNamedWithTheNearestPossibleOne();
     void aTaskHasAFormatOfItsOwn();
     void choosingAPresetMovesItToTheTopOfTheRecentlyUsed();
     void aPresetIsUsedWhileItsTaskIsQueued();
@@ -82,6 +83,27 @@ void TestPageFormats::aSongIsNotGivenAVideoFormatNorASilentFilmAnAudioFormat()
     m_converter->setConverterGlobalFormat(mp3);
     QCOMPARE(task(*m_converter, sung).format, mp3);
     QCOMPARE(task(*m_converter, silent).format, mkv);
+}
+
+void TestPageFormats::anImpossibleFormatIsNamedWithTheNearestPossibleOne()
+{
+    m_converter->setConverterGlobalFormat(flac);
+    const int id = addReady(*m_converter, song());
+    const auto outlook = [this, id] {
+        return m_converter->outlook(id, {}, 0, 0, m_converter->outlookVersion());
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(outlook().name, QStringLiteral("song.flac"), patience);
+    QCOMPARE(outlook().problem, QString());
+    QCOMPARE(outlook().nearest, QString());
+    m_converter->setConvertingListTaskFormat(id, mp4);
+    QVERIFY(outlook().problem.startsWith(QStringLiteral("has no video")));
+    QCOMPARE(outlook().nearest, flac);
+    m_converter->useFormat(id, outlook().nearest);
+    QCOMPARE(outlook().problem, QString());
+    // Another name follows from another folder.
+    const int version = m_converter->outlookVersion();
+    m_converter->setFolder(m_files->path());
+    QVERIFY(m_converter->outlookVersion() > version);
 }
 
 void TestPageFormats::aTaskHasAFormatOfItsOwn()
