@@ -991,6 +991,178 @@
         <source>Tell me when all files are converted</source>
         <translation>Melden, wenn alle Dateien umgewandelt sind</translation>
     </message>
+    <message>
+        <source>%1 % smaller</source>
+        <translation>%1 % kleiner</translation>
+    </message>
+    <message>
+        <source>%1 % larger</source>
+        <translation>%1 % größer</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>%1 is a picture; add video or audio files</source>
+        <translation>%1 ist ein Bild; fügen Sie Video- oder Audiodateien hinzu</translation>
+    </message>
+    <message>
+        <source>%1 is a playlist; add the files that it names instead</source>
+        <translation>%1 ist eine Wiedergabeliste; fügen Sie stattdessen die Dateien daraus hinzu</translation>
+    </message>
+    <message>
+        <source>%1 is not on this computer; download it first and add the file</source>
+        <translation>%1 liegt nicht auf diesem Rechner; laden Sie es herunter und fügen Sie die Datei hinzu</translation>
+    </message>
+    <message>
+        <source>There is no file %1 any more; convert it again</source>
+        <translation>Die Datei %1 gibt es nicht mehr; wandeln Sie sie noch einmal um</translation>
+    </message>
+    <message>
+        <source>No player could be started for %1; open it by hand</source>
+        <translation>Für %1 ließ sich kein Player starten; öffnen Sie die Datei selbst</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>Already in the list: %1</source>
+        <translation>Schon in der Liste: %1</translation>
+    </message>
+    <message>
+        <source>Add again</source>
+        <translation>Noch einmal hinzufügen</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Converted already: %1</source>
+        <translation>Schon umgewandelt: %1</translation>
+    </message>
+    <message>
+        <source>Convert again</source>
+        <translation>Noch einmal umwandeln</translation>
+    </message>
+    <message>
+        <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
+        <translation>VexConvert wurde beim Umwandeln beendet; „Alle umwandeln“ macht mit dem Rest weiter</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>Files converted: %1</source>
+        <translation>Umgewandelte Dateien: %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>Unterbrochen</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Choose a format …</source>
+        <translation>Format wählen …</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Use the format for all</source>
+        <translation>Format für alle verwenden</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Strg+A</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 von %2 ausgewählt</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Clear converted</source>
+        <translation>Umgewandelte entfernen</translation>
+    </message>
+    <message>
+        <source>Stop converting?</source>
+        <translation>Umwandeln abbrechen?</translation>
+    </message>
+    <message>
+        <source>The list is kept: you can convert the rest the next time.</source>
+        <translation>Die Liste bleibt erhalten: Den Rest können Sie das nächste Mal umwandeln.</translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation>Abbrechen und schließen</translation>
+    </message>
+    <message>
+        <source>Keep converting</source>
+        <translation>Weiter umwandeln</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 nehmen</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1326,6 +1498,29 @@
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>enthält %1 Untertitelspuren, also keine Nummer %2; wählen Sie eine andere</translation>
+    </message>
+</context>
+<context>
+    <name>KeptQueue</name>
+    <message>
+        <source>it is of a newer version of the program</source>
+        <translation>sie stammt von einer neueren Version des Programms</translation>
+    </message>
+    <message>
+        <source>it holds no list of files</source>
+        <translation>sie enthält keine Dateiliste</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); it is now %2, and the window starts empty</source>
+        <translation>Die Dateiliste vom letzten Mal ist nicht lesbar (%1); sie heißt jetzt %2, und das Fenster beginnt leer</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); remove %2 to let a new one be kept</source>
+        <translation>Die Dateiliste vom letzten Mal ist nicht lesbar (%1); entfernen Sie %2, damit eine neue gesichert werden kann</translation>
+    </message>
+    <message>
+        <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
+        <translation>Die Dateiliste lässt sich nicht in %1 sichern (%2); schaffen Sie Platz oder prüfen Sie die Rechte des Ordners</translation>
     </message>
 </context>
 </TS>

@@ -991,5 +991,177 @@
         <source>Tell me when all files are converted</source>
         <translation>Tell me when all files are converted</translation>
     </message>
+    <message>
+        <source>%1 % smaller</source>
+        <translation>%1 % smaller</translation>
+    </message>
+    <message>
+        <source>%1 % larger</source>
+        <translation>%1 % larger</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Paused</translation>
+    </message>
+    <message>
+        <source>%1 is a picture; add video or audio files</source>
+        <translation>%1 is a picture; add video or audio files</translation>
+    </message>
+    <message>
+        <source>%1 is a playlist; add the files that it names instead</source>
+        <translation>%1 is a playlist; add the files that it names instead</translation>
+    </message>
+    <message>
+        <source>%1 is not on this computer; download it first and add the file</source>
+        <translation>%1 is not on this computer; download it first and add the file</translation>
+    </message>
+    <message>
+        <source>There is no file %1 any more; convert it again</source>
+        <translation>There is no file %1 any more; convert it again</translation>
+    </message>
+    <message>
+        <source>No player could be started for %1; open it by hand</source>
+        <translation>No player could be started for %1; open it by hand</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 files</translation>
+    </message>
+    <message>
+        <source>Already in the list: %1</source>
+        <translation>Already in the list: %1</translation>
+    </message>
+    <message>
+        <source>Add again</source>
+        <translation>Add again</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Removed: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Converted already: %1</source>
+        <translation>Converted already: %1</translation>
+    </message>
+    <message>
+        <source>Convert again</source>
+        <translation>Convert again</translation>
+    </message>
+    <message>
+        <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
+        <translation>VexConvert was closed while it converted; Convert All goes on with what is left</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>at most %1</translation>
+    </message>
+    <message>
+        <source>Files converted: %1</source>
+        <translation>Files converted: %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>failed: %1</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>Interrupted</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Sort by</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duration</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>Choose a format …</source>
+        <translation>Choose a format …</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Use the format for all</source>
+        <translation>Use the format for all</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 of %2 selected</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>Files: %1</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Resume</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Clear converted</source>
+        <translation>Clear converted</translation>
+    </message>
+    <message>
+        <source>Stop converting?</source>
+        <translation>Stop converting?</translation>
+    </message>
+    <message>
+        <source>The list is kept: you can convert the rest the next time.</source>
+        <translation>The list is kept: you can convert the rest the next time.</translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation>Stop and close</translation>
+    </message>
+    <message>
+        <source>Keep converting</source>
+        <translation>Keep converting</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>Use %1</translation>
+    </message>
 </context>
 </TS>

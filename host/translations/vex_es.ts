@@ -991,6 +991,178 @@
         <source>Tell me when all files are converted</source>
         <translation>Avisarme cuando todos los archivos estén convertidos</translation>
     </message>
+    <message>
+        <source>%1 % smaller</source>
+        <translation>%1 % más pequeño</translation>
+    </message>
+    <message>
+        <source>%1 % larger</source>
+        <translation>%1 % más grande</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>%1 is a picture; add video or audio files</source>
+        <translation>%1 es una imagen; añade archivos de vídeo o audio</translation>
+    </message>
+    <message>
+        <source>%1 is a playlist; add the files that it names instead</source>
+        <translation>%1 es una lista de reproducción; añade los archivos que contiene</translation>
+    </message>
+    <message>
+        <source>%1 is not on this computer; download it first and add the file</source>
+        <translation>%1 no está en este equipo; descárgalo primero y añade el archivo</translation>
+    </message>
+    <message>
+        <source>There is no file %1 any more; convert it again</source>
+        <translation>El archivo %1 ya no existe; conviértelo de nuevo</translation>
+    </message>
+    <message>
+        <source>No player could be started for %1; open it by hand</source>
+        <translation>No se pudo iniciar ningún reproductor para %1; ábrelo a mano</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 archivos</translation>
+    </message>
+    <message>
+        <source>Already in the list: %1</source>
+        <translation>Ya en la lista: %1</translation>
+    </message>
+    <message>
+        <source>Add again</source>
+        <translation>Añadir de nuevo</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Quitado: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Converted already: %1</source>
+        <translation>Ya convertido: %1</translation>
+    </message>
+    <message>
+        <source>Convert again</source>
+        <translation>Convertir de nuevo</translation>
+    </message>
+    <message>
+        <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
+        <translation>VexConvert se cerró mientras convertía; «Convertir todo» continúa con lo que falta</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>como máximo %1</translation>
+    </message>
+    <message>
+        <source>Files converted: %1</source>
+        <translation>Archivos convertidos: %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>con error: %1</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>Interrumpido</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Choose a format …</source>
+        <translation>Elegir un formato …</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Use the format for all</source>
+        <translation>Usar el formato de todos</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 de %2 seleccionados</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>Archivos: %1</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reanudar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Clear converted</source>
+        <translation>Quitar los convertidos</translation>
+    </message>
+    <message>
+        <source>Stop converting?</source>
+        <translation>¿Dejar de convertir?</translation>
+    </message>
+    <message>
+        <source>The list is kept: you can convert the rest the next time.</source>
+        <translation>La lista se conserva: puedes convertir el resto la próxima vez.</translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation>Detener y cerrar</translation>
+    </message>
+    <message>
+        <source>Keep converting</source>
+        <translation>Seguir convirtiendo</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>Usar %1</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1326,6 +1498,29 @@
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>tiene %1 pistas de subtítulos, así que ninguna número %2; elija otra</translation>
+    </message>
+</context>
+<context>
+    <name>KeptQueue</name>
+    <message>
+        <source>it is of a newer version of the program</source>
+        <translation>es de una versión más nueva del programa</translation>
+    </message>
+    <message>
+        <source>it holds no list of files</source>
+        <translation>no contiene ninguna lista de archivos</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); it is now %2, and the window starts empty</source>
+        <translation>La lista de archivos de la última vez no se puede leer (%1); ahora es %2 y la ventana empieza vacía</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); remove %2 to let a new one be kept</source>
+        <translation>La lista de archivos de la última vez no se puede leer (%1); elimina %2 para que se pueda guardar una nueva</translation>
+    </message>
+    <message>
+        <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
+        <translation>La lista de archivos no se puede guardar en %1 (%2); libera espacio o revisa los permisos de la carpeta</translation>
     </message>
 </context>
 </TS>

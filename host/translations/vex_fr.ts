@@ -991,6 +991,178 @@
         <source>Tell me when all files are converted</source>
         <translation>M’avertir quand tous les fichiers sont convertis</translation>
     </message>
+    <message>
+        <source>%1 % smaller</source>
+        <translation>%1 % plus petit</translation>
+    </message>
+    <message>
+        <source>%1 % larger</source>
+        <translation>%1 % plus grand</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>%1 is a picture; add video or audio files</source>
+        <translation>%1 est une image ; ajoutez des fichiers vidéo ou audio</translation>
+    </message>
+    <message>
+        <source>%1 is a playlist; add the files that it names instead</source>
+        <translation>%1 est une liste de lecture ; ajoutez plutôt les fichiers qu’elle contient</translation>
+    </message>
+    <message>
+        <source>%1 is not on this computer; download it first and add the file</source>
+        <translation>%1 n’est pas sur cet ordinateur ; téléchargez-le d’abord, puis ajoutez le fichier</translation>
+    </message>
+    <message>
+        <source>There is no file %1 any more; convert it again</source>
+        <translation>Le fichier %1 n’existe plus ; convertissez-le à nouveau</translation>
+    </message>
+    <message>
+        <source>No player could be started for %1; open it by hand</source>
+        <translation>Aucun lecteur n’a pu être lancé pour %1 ; ouvrez-le à la main</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 fichiers</translation>
+    </message>
+    <message>
+        <source>Already in the list: %1</source>
+        <translation>Déjà dans la liste : %1</translation>
+    </message>
+    <message>
+        <source>Add again</source>
+        <translation>Ajouter à nouveau</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Retiré : %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Converted already: %1</source>
+        <translation>Déjà converti : %1</translation>
+    </message>
+    <message>
+        <source>Convert again</source>
+        <translation>Convertir à nouveau</translation>
+    </message>
+    <message>
+        <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
+        <translation>VexConvert a été fermé pendant la conversion ; « Tout convertir » reprend ce qui reste</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>au plus %1</translation>
+    </message>
+    <message>
+        <source>Files converted: %1</source>
+        <translation>Fichiers convertis : %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>en échec : %1</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>Interrompu</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Trier par</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Choose a format …</source>
+        <translation>Choisir un format …</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Use the format for all</source>
+        <translation>Utiliser le format de tous</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Suppr</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 sur %2 sélectionnés</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>Fichiers : %1</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Clear converted</source>
+        <translation>Retirer les convertis</translation>
+    </message>
+    <message>
+        <source>Stop converting?</source>
+        <translation>Arrêter la conversion ?</translation>
+    </message>
+    <message>
+        <source>The list is kept: you can convert the rest the next time.</source>
+        <translation>La liste est conservée : vous pourrez convertir le reste la prochaine fois.</translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation>Arrêter et fermer</translation>
+    </message>
+    <message>
+        <source>Keep converting</source>
+        <translation>Continuer la conversion</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>Utiliser %1</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1326,6 +1498,29 @@
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>contient %1 pistes de sous-titres, donc pas de numéro %2 ; choisissez-en une autre</translation>
+    </message>
+</context>
+<context>
+    <name>KeptQueue</name>
+    <message>
+        <source>it is of a newer version of the program</source>
+        <translation>elle vient d’une version plus récente du programme</translation>
+    </message>
+    <message>
+        <source>it holds no list of files</source>
+        <translation>elle ne contient aucune liste de fichiers</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); it is now %2, and the window starts empty</source>
+        <translation>La liste de fichiers de la dernière fois est illisible (%1) ; elle s’appelle maintenant %2 et la fenêtre est vide au départ</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); remove %2 to let a new one be kept</source>
+        <translation>La liste de fichiers de la dernière fois est illisible (%1) ; supprimez %2 pour qu’une nouvelle puisse être conservée</translation>
+    </message>
+    <message>
+        <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
+        <translation>La liste de fichiers ne peut pas être conservée dans %1 (%2) ; libérez de la place ou vérifiez les droits du dossier</translation>
     </message>
 </context>
 </TS>

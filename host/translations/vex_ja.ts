@@ -991,6 +991,178 @@
         <source>Tell me when all files are converted</source>
         <translation>すべて変換し終えたら知らせる</translation>
     </message>
+    <message>
+        <source>%1 % smaller</source>
+        <translation>%1 % 小さい</translation>
+    </message>
+    <message>
+        <source>%1 % larger</source>
+        <translation>%1 % 大きい</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>%1 is a picture; add video or audio files</source>
+        <translation>%1 は画像です。動画または音声ファイルを追加してください</translation>
+    </message>
+    <message>
+        <source>%1 is a playlist; add the files that it names instead</source>
+        <translation>%1 はプレイリストです。中のファイルを追加してください</translation>
+    </message>
+    <message>
+        <source>%1 is not on this computer; download it first and add the file</source>
+        <translation>%1 はこのコンピューターにありません。先にダウンロードしてファイルを追加してください</translation>
+    </message>
+    <message>
+        <source>There is no file %1 any more; convert it again</source>
+        <translation>ファイル %1 はもうありません。もう一度変換してください</translation>
+    </message>
+    <message>
+        <source>No player could be started for %1; open it by hand</source>
+        <translation>%1 を再生するプレーヤーを起動できませんでした。手動で開いてください</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 個のファイル</translation>
+    </message>
+    <message>
+        <source>Already in the list: %1</source>
+        <translation>すでにリストにあります: %1</translation>
+    </message>
+    <message>
+        <source>Add again</source>
+        <translation>もう一度追加</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>削除しました: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Converted already: %1</source>
+        <translation>すでに変換済み: %1</translation>
+    </message>
+    <message>
+        <source>Convert again</source>
+        <translation>もう一度変換</translation>
+    </message>
+    <message>
+        <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
+        <translation>変換中に VexConvert が終了しました。「すべて変換」で残りを続けられます</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>最大 %1</translation>
+    </message>
+    <message>
+        <source>Files converted: %1</source>
+        <translation>変換したファイル: %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>失敗: %1</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>中断されました</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>並べ替え</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Choose a format …</source>
+        <translation>形式を選ぶ …</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Use the format for all</source>
+        <translation>全体の形式を使う</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%2 個中 %1 個を選択</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>ファイル: %1</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Clear converted</source>
+        <translation>変換済みを削除</translation>
+    </message>
+    <message>
+        <source>Stop converting?</source>
+        <translation>変換を止めますか?</translation>
+    </message>
+    <message>
+        <source>The list is kept: you can convert the rest the next time.</source>
+        <translation>リストは残るので、残りは次回に変換できます。</translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation>止めて閉じる</translation>
+    </message>
+    <message>
+        <source>Keep converting</source>
+        <translation>変換を続ける</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 を使う</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1326,6 +1498,29 @@
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>字幕トラックは %1 本で %2 番はありません。別の番号を選んでください</translation>
+    </message>
+</context>
+<context>
+    <name>KeptQueue</name>
+    <message>
+        <source>it is of a newer version of the program</source>
+        <translation>新しいバージョンのプログラムのものです</translation>
+    </message>
+    <message>
+        <source>it holds no list of files</source>
+        <translation>ファイルのリストが入っていません</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); it is now %2, and the window starts empty</source>
+        <translation>前回のファイルのリストを読めません (%1)。%2 という名前にして、空のリストで始めます</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); remove %2 to let a new one be kept</source>
+        <translation>前回のファイルのリストを読めません (%1)。新しいリストを残せるように %2 を削除してください</translation>
+    </message>
+    <message>
+        <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
+        <translation>ファイルのリストを %1 に残せません (%2)。空きを増やすか、フォルダーの権限を確かめてください</translation>
     </message>
 </context>
 </TS>

@@ -991,6 +991,178 @@
         <source>Tell me when all files are converted</source>
         <translation>所有文件转换完成后通知我</translation>
     </message>
+    <message>
+        <source>%1 % smaller</source>
+        <translation>小 %1 %</translation>
+    </message>
+    <message>
+        <source>%1 % larger</source>
+        <translation>大 %1 %</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>%1 is a picture; add video or audio files</source>
+        <translation>%1 是图片；请添加视频或音频文件</translation>
+    </message>
+    <message>
+        <source>%1 is a playlist; add the files that it names instead</source>
+        <translation>%1 是播放列表；请改为添加其中的文件</translation>
+    </message>
+    <message>
+        <source>%1 is not on this computer; download it first and add the file</source>
+        <translation>%1 不在此计算机上；请先下载，再添加文件</translation>
+    </message>
+    <message>
+        <source>There is no file %1 any more; convert it again</source>
+        <translation>文件 %1 已不存在；请重新转换</translation>
+    </message>
+    <message>
+        <source>No player could be started for %1; open it by hand</source>
+        <translation>无法为 %1 启动播放器；请手动打开</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 个文件</translation>
+    </message>
+    <message>
+        <source>Already in the list: %1</source>
+        <translation>已在列表中：%1</translation>
+    </message>
+    <message>
+        <source>Add again</source>
+        <translation>再次添加</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>已移除：%1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Converted already: %1</source>
+        <translation>已转换：%1</translation>
+    </message>
+    <message>
+        <source>Convert again</source>
+        <translation>再次转换</translation>
+    </message>
+    <message>
+        <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
+        <translation>VexConvert 在转换时被关闭；“全部转换”会继续其余的文件</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>最多 %1</translation>
+    </message>
+    <message>
+        <source>Files converted: %1</source>
+        <translation>已转换的文件：%1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>排序方式</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Choose a format …</source>
+        <translation>选择格式 …</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>回车</translation>
+    </message>
+    <message>
+        <source>Use the format for all</source>
+        <translation>使用全部文件的格式</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>已选择 %1/%2</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>文件：%1</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Clear converted</source>
+        <translation>移除已转换的</translation>
+    </message>
+    <message>
+        <source>Stop converting?</source>
+        <translation>停止转换？</translation>
+    </message>
+    <message>
+        <source>The list is kept: you can convert the rest the next time.</source>
+        <translation>列表会保留：下次可以转换其余的文件。</translation>
+    </message>
+    <message>
+        <source>Stop and close</source>
+        <translation>停止并关闭</translation>
+    </message>
+    <message>
+        <source>Keep converting</source>
+        <translation>继续转换</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>使用 %1</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1326,6 +1498,29 @@
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>有 %1 条字幕轨，没有第 %2 条；请选择其他字幕轨</translation>
+    </message>
+</context>
+<context>
+    <name>KeptQueue</name>
+    <message>
+        <source>it is of a newer version of the program</source>
+        <translation>它来自较新版本的程序</translation>
+    </message>
+    <message>
+        <source>it holds no list of files</source>
+        <translation>其中没有文件列表</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); it is now %2, and the window starts empty</source>
+        <translation>无法读取上次的文件列表（%1）；它现在是 %2，窗口从空列表开始</translation>
+    </message>
+    <message>
+        <source>The list of files of the last time can&apos;t be read (%1); remove %2 to let a new one be kept</source>
+        <translation>无法读取上次的文件列表（%1）；请删除 %2 以便保存新列表</translation>
+    </message>
+    <message>
+        <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
+        <translation>无法将文件列表保存在 %1（%2）；请释放空间或检查文件夹权限</translation>
     </message>
 </context>
 </TS>
