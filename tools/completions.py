@@ -10,8 +10,7 @@ import re
 LISTS = {
     "formats": r"""vexconvert formats --json 2>/dev/null | sed -n 's/.*"title": "\(.*\)".*/\1/p'""",
     "tags": r"""vexconvert formats --json 2>/dev/null | sed -n 's/.*"tag": "\(.*\)".*/\1/p' | sort -u""",
-    "ids": r"""_vexconvert_formats | tr '\n' '\0' | """
-           r"""xargs -0 -n 1 -P 8 vexconvert presets --json 2>/dev/null | """
+    "ids": r"""vexconvert presets --json 2>/dev/null | """
            r"""sed -n 's/^        "id": "\(.*\)".*/\1/p' | sort""",
 }
 KINDS = {"ID": "ids", "BASE_ID": "ids", "FORMAT": "formats", "TAG": "tags", "DIR": "folders",

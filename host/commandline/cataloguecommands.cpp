@@ -92,22 +92,28 @@ Result<ExitCode> runFormats(const Call &call)
 
 Result<ExitCode> runPresets(const Call &call)
 {
-    if (call.arguments.size() != 1) {
-        return wrongUsage(CommandLine::tr("give one format: vexconvert presets FORMAT"));
+    if (call.arguments.size() > 1) {
+        return wrongUsage(CommandLine::tr("give one format, or none to list the presets of all: "
+                                          "vexconvert presets FORMAT"));
     }
     PresetStore store = presetsOf(call);
     openWhatCanBeRead(store);
     const FormatListModel &formats = *store.formats().formatListModel();
-    const QString title = formatTitled(formats, call.arguments.constFirst());
-    const FormatDetailModel *list = formats.formatDetailModel(title);
-    if (list == nullptr) {
-        return wrongUsage(CommandLine::tr("there is no format \"%1\"; \"vexconvert formats\" lists "
-                                          "them, \"vexconvert search TEXT\" finds one%2")
-                              .arg(call.arguments.constFirst(),
-                                   didYouMean(call.arguments.constFirst(), titlesOf(formats))));
+    QStringList titles = titlesOf(formats);
+    for (const QString &name : call.arguments) {
+        const QString title = formatTitled(formats, name);
+        if (title.isEmpty()) {
+            return wrongUsage(
+                CommandLine::tr("there is no format \"%1\"; \"vexconvert formats\" lists "
+                                "them, \"vexconvert search TEXT\" finds one%2")
+                    .arg(name, didYouMean(name, titles)));
+        }
+        titles = QStringList(title);
     }
     QQueue<FormatDetailModelData> records;
-    list->getModelInfo(records);
+    for (const QString &title : qAsConst(titles)) {
+        formats.formatDetailModel(title)->getModelInfo(records); // appends
+    }
     QVector<QVariantMap> presets;
     QVariantList json;
     for (const FormatDetailModelData &record : qAsConst(records)) {
@@ -248,8 +254,8 @@ QVector<Subcommand> catalogueCommands()
          {tag, jsonOption()},
          runFormats},
         {QStringLiteral("presets"),
-         CommandLine::tr("FORMAT [--json]"),
-         CommandLine::tr("List the presets of a format."),
+         CommandLine::tr("[FORMAT] [--json]"),
+         CommandLine::tr("List the presets of a format, or of all."),
          CommandLine::tr("\n\"source\" keeps the source's own value, \"auto\" lets the encoder "
                          "choose the bitrate. A video\nbitrate is the most that a result may have; "
                          "easy content gets less.\n"),

@@ -98,6 +98,7 @@ void TestCatalogueCommands::listsCanBePrintedAsJson_data()
     QTest::addColumn<int>("size");
     QTest::newRow("formats") << QStringLiteral("formats --json") << 3;
     QTest::newRow("presets") << QStringLiteral("presets MP4 --json") << 2;
+    QTest::newRow("presets of all formats") << QStringLiteral("presets --json") << 5;
     QTest::newRow("recent") << QStringLiteral("recent --json") << 0;
     QTest::newRow("user") << QStringLiteral("user list --json") << 0;
 }

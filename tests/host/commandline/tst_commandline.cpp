@@ -97,7 +97,6 @@ void TestCommandLine::wrongUsageIsExplained_data()
     row("formats --tag recently", "there is no tag \"recently\"");
     row("search", "give one text to search for");
     row("search mp --kind image", "--kind must be video or audio");
-    row("presets", "give one format");
     row("presets MP4 MKV", "give one format");
     row("presets bogus", "there is no format \"bogus\"; \"vexconvert formats\" lists them, "
                          "\"vexconvert search TEXT\" finds one");
