@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds Debian packages of the last commit into build/packages. With --check, builds them a second
-# time elsewhere and compares, and runs lintian on them.
+# time elsewhere and compares, runs lintian on them, and tries them: see check-package.sh.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=tools/build.sh
@@ -40,3 +40,7 @@ for package in build/packages/*.deb; do
 done
 lintian --allow-root --fail-on error,warning build/packages/*.deb
 echo "The packages are reproducible, and clean for lintian."
+status=0
+tools/check-package.sh || status=$?
+skipped=77
+[ "$status" -eq 0 ] || [ "$status" -eq "$skipped" ]
