@@ -71,7 +71,7 @@ fail() {
 }
 get() {
     apt-get -qq -y --no-install-recommends -o Dpkg::Use-Pty=0 "$@" >/tmp/apt.log 2>&1 ||
-        fail "apt-get $* failed: $(cat /tmp/apt.log)"
+        fail "apt-get $* failed: $(tail -n 20 /tmp/apt.log)"
 }
 step() {
     echo "$((SECONDS / 60)):$(printf %02d $((SECONDS % 60)))  $*"
@@ -124,13 +124,13 @@ step "a program of ten lines builds and runs, in $((SECONDS - start)) s"
 ours=(vexconvert libvexconvertformats1 libvexconvertformats-dev)
 dpkg -L "${ours[@]}" | sort -u >/tmp/installed
 get remove "${ours[@]}"
-get purge "${ours[@]}"
+dpkg --purge "${ours[@]}" >/tmp/apt.log 2>&1 # apt-get no longer knows them
 while read -r path; do
     [ ! -e "$path" ] || dpkg -S "$path" >/dev/null 2>&1 || echo "$path"
 done </tmp/installed >/tmp/left
 find / -xdev -iname '*vexconv*' -not -path '/root/*' -not -path '/tmp/*' -not -path '/packages/*' \
     -not -path '/older/*' -not -path '/consumer/*' >>/tmp/left
-grep -rIls vexconvert /etc /usr/share /var/lib --exclude-dir=lists >>/tmp/left || true
+grep -rIls vexconvert /etc /usr/share /var/lib --exclude-dir=lists --exclude=status-old >>/tmp/left || true
 [ ! -s /tmp/left ] || fail "these are left: $(cat /tmp/left)"
 [ -s ~/.config/vexconvert/formatCache.json ] || fail "the user's own presets are gone"
 step "removed without a trace but for the user's own presets"
