@@ -114,8 +114,8 @@ void TestCommandLine::wrongUsageIsExplained_data()
     row("convert film.mp4 --type video --format MP4", "--target must be a size for video");
     row("recent bogus", "use \"vexconvert recent\" or");
     row("recent delete bogus", "\"bogus\" is not among the recently used presets");
-    row("user bogus", "use \"vexconvert user list\", or");
-    row("user add", "use \"vexconvert user list\", or");
+    row("user bogus", "\"user bogus\" doesn't exist; it is one of list, add");
+    row("user add", "use \"vexconvert user add BASE_ID --title TITLE");
     row("user add bogus --title x", "no preset has the id \"bogus\"");
     row("user add V_MP4_2", "give the new preset a title");
     row("user add V_MP4_2 --title=", "--title must not be empty");
