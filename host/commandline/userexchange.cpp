@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 
 #include <algorithm>
 #include <cstdio>
@@ -49,7 +50,7 @@ Result<ExitCode> exportPresets(const Call &call, PresetStore &store, const QStri
     }
     const QByteArray content = presetFile(presets);
     if (path == standardStream) {
-        Console::printLines(QString::fromUtf8(content).trimmed());
+        Console::printJson(QJsonDocument::fromJson(content).toVariant());
         return Success;
     }
     if (isTaken(path) && !call.options.isSet(overwriteFlag)) {

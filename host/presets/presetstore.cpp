@@ -188,6 +188,8 @@ Result<> PresetStore::save()
     if (!m_work) {
         return m_opened;
     }
+    // The library writes only there, even after the user has removed the configuration folder.
+    m_work->restore();
     // A step must not be gone before it is undone, nor a preset before its step is there.
     return m_isUndone ? saveLibrary().and_then([this] { return saveLists(); })
                       : saveLists().and_then([this] { return saveLibrary(); });
@@ -224,8 +226,6 @@ Result<> PresetStore::saveLibrary()
         {m_userPresets, m_formats.formatListModel()->toVariantListForSave()},
         {m_recently, m_formats.recentlyFormatsModel()->toVariantListForSave()},
     };
-    // The library writes only there, even after the user has removed the configuration folder.
-    m_work->restore();
     m_formats.uninit();
     for (const Part &part : parts) {
         const QByteArray written = bytesOf(copyIn(*m_work, part.file));

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void whatAnotherProgramChangedIsNotUndone();
     void aDamagedHistoryIsReportedAndKept();
     void presetsOfTheWindowHaveABase();
+    void aRemovedFolderIsMadeAgain();
 
 private:
     QString file(const char *name) const
@@ -206,6 +207,16 @@ void TestPresetHistory::presetsOfTheWindowHaveABase()
     QCOMPARE(m_store->history().steps().size(), 1);
     QVERIFY(undo());
     QVERIFY(!m_store->find(id));
+}
+
+void TestPresetHistory::aRemovedFolderIsMadeAgain()
+{
+    QVERIFY(QDir(m_folder->filePath(QStringLiteral("config"))).removeRecursively());
+    const QString id = add(QStringLiteral("First"));
+    QVERIFY(!id.isEmpty());
+    restart();
+    QCOMPARE(titleOf(id), QStringLiteral("First"));
+    QVERIFY(undo());
 }
 
 QTEST_GUILESS_MAIN(TestPresetHistory)
