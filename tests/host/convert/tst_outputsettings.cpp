@@ -153,7 +153,7 @@ void TestOutputSettings::aPresetCanStateHowItsVideoIsEncoded()
     const OutputSettings stated = settings({{QStringLiteral("quality"), QStringLiteral("-0.5")},
                                             {QStringLiteral("rateMode"), QStringLiteral("average")},
                                             {QStringLiteral("bufferSeconds"), QStringLiteral("10")},
-                  {QStringLiteral("h264Speed"), QStringLiteral("slow")},
+                                            {QStringLiteral("h264Speed"), QStringLiteral("slow")},
                                             {QStringLiteral("h264Tune"), QStringLiteral("film")},
                                             {QStringLiteral("hevcSpeed"), QStringLiteral("fast")}});
     QCOMPARE(stated.quality, -0.5);
