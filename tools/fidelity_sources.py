@@ -159,7 +159,7 @@ FORMATS = [
     Format('HEVC 1080p', 'Video_HEVCMP4_004'), Format('MOV', 'Video_MOV_001'),
     Format('MKV', 'Video_MKV_001'), Format('WebM 720p', 'Video_WEBM_005'),
     Format('AVI', 'Video_AVI_001', has_own_rate=True, tells_colours=False),
-    Format('ProRes', 'Video_PRORESMOV_001'),
+    Format('ProRes', 'Video_PRORESMOV_001', has_own_rate=True),
     Format('VOB', 'Video_VOB_001', has_own_rate=True, can_be_combed=True, tells_colours=False,
            least_psnr=26),
     Format('GIF', 'Video_GIF_001', has_own_rate=True, can_be_combed=True, tells_colours=False,
