@@ -1477,6 +1477,10 @@
         <translation>Untertitelspuren: %1 (%2; in keinem Format möglich)</translation>
     </message>
     <message>
+        <source>subtitle tracks: %1 (%2; they can&apos;t be written into this .%3)</source>
+        <translation>Untertitelspuren: %1 (%2; nicht in diese .%3 zu schreiben)</translation>
+    </message>
+    <message>
         <source>more video tracks: %1 (a result has one)</source>
         <translation>weitere Videospuren: %1 (ein Ergebnis hat eine)</translation>
     </message>

@@ -1477,6 +1477,10 @@
         <translation>pistas de subtítulos: %1 (%2; ningún formato las admite)</translation>
     </message>
     <message>
+        <source>subtitle tracks: %1 (%2; they can&apos;t be written into this .%3)</source>
+        <translation>pistas de subtítulos: %1 (%2; no se pueden escribir en este .%3)</translation>
+    </message>
+    <message>
         <source>more video tracks: %1 (a result has one)</source>
         <translation>más pistas de vídeo: %1 (un resultado tiene una)</translation>
     </message>

@@ -1477,6 +1477,10 @@
         <translation>pistes de sous-titres : %1 (%2 ; aucun format ne les accepte)</translation>
     </message>
     <message>
+        <source>subtitle tracks: %1 (%2; they can&apos;t be written into this .%3)</source>
+        <translation>pistes de sous-titres : %1 (%2 ; impossibles à écrire dans ce .%3)</translation>
+    </message>
+    <message>
         <source>more video tracks: %1 (a result has one)</source>
         <translation>autres pistes vidéo : %1 (un résultat en a une)</translation>
     </message>

@@ -1477,6 +1477,10 @@
         <translation>字幕トラック: %1（%2。入る形式がありません）</translation>
     </message>
     <message>
+        <source>subtitle tracks: %1 (%2; they can&apos;t be written into this .%3)</source>
+        <translation>字幕トラック: %1（%2。この .%3 には書き込めません）</translation>
+    </message>
+    <message>
         <source>more video tracks: %1 (a result has one)</source>
         <translation>その他の映像トラック: %1（結果は 1 本です）</translation>
     </message>

@@ -1477,6 +1477,10 @@
         <translation>字幕轨：%1（%2；没有格式支持）</translation>
     </message>
     <message>
+        <source>subtitle tracks: %1 (%2; they can&apos;t be written into this .%3)</source>
+        <translation>字幕轨：%1（%2；无法写入此 .%3）</translation>
+    </message>
+    <message>
         <source>more video tracks: %1 (a result has one)</source>
         <translation>其他视频轨：%1（结果只有一条）</translation>
     </message>
