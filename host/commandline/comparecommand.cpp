@@ -2,13 +2,13 @@
 #include "host/commandline/mediaoptions.h"
 #include "host/convert/likeness.h"
 #include "host/files/pendingfile.h"
+#include "host/media/sizetext.h"
 #include "host/queue/batch.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 
 #include <cmath>
 
@@ -153,11 +153,6 @@ void measure(Trial &trial, const ViewedFile &source, double seconds)
     trial.vmaf = likeness(LikenessMeasure::Vmaf);
 }
 
-QString sizeOf(double bytes)
-{
-    return QLocale::c().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
-}
-
 void printText(const QVector<Trial> &trials)
 {
     const auto number = [](const std::optional<double> &value, int decimals) {
@@ -173,7 +168,8 @@ void printText(const QVector<Trial> &trials)
             continue;
         }
         table.append({trial.id(), trial.preset.map.value(QStringLiteral("title")).toString(),
-                      sizeOf(double(trial.outcome.facts.bytes)), sizeOf(trial.outcome.wholeBytes),
+                      bytesText(double(trial.outcome.facts.bytes)),
+                      bytesText(trial.outcome.wholeBytes),
                       QStringLiteral("%1x").arg(trial.speed(), 0, 'f', 1), number(trial.ssim, 4),
                       number(trial.vmaf, 1)});
     }
@@ -224,8 +220,8 @@ Result<> drawPicture(const QVector<Trial> &trials, const ViewedFile &source, dou
     QVector<LabelledFile> files = {labelled(original, CommandLine::tr("source"), folder, 0)};
     for (const Trial &trial : trials) {
         if (trial.hasPicture()) {
-            const QString label =
-                QStringLiteral("%1, %2").arg(trial.id(), sizeOf(double(trial.outcome.facts.bytes)));
+            const QString label = QStringLiteral("%1, %2").arg(
+                trial.id(), bytesText(double(trial.outcome.facts.bytes)));
             files.append(labelled({trial.outcome.target, trial.outcome.facts, seconds / 2}, label,
                                   folder, files.size()));
         }

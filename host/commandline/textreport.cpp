@@ -2,21 +2,12 @@
 #include "host/commandline/batchreports.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/progresstext.h"
+#include "host/media/sizetext.h"
 #include "host/tools/shelltext.h"
 
 #include <QFileInfo>
-#include <QLocale>
 
 #include <algorithm>
-
-namespace {
-
-QString bytesText(double bytes)
-{
-    return QLocale::c().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
-}
-
-} // namespace
 
 void TextReport::started(const BatchJob &job)
 {

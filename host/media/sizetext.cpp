@@ -1,5 +1,6 @@
 #include "host/media/sizetext.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -8,6 +9,11 @@
 QString sizeText(const QSize &size)
 {
     return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+}
+
+QString bytesText(double bytes)
+{
+    return QLocale::c().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
 std::optional<QSize> sizeFromText(const QString &text)
