@@ -11,19 +11,22 @@ MenuItem {
 
     height: root.visible ? implicitHeight : 0
     implicitHeight: Theme.smallControlHeight
-    implicitWidth: words.implicitWidth + keys.implicitWidth + 3 * Theme.margin
+    implicitWidth: contentItem.implicitWidth + 2 * Theme.margin
     leftPadding: Theme.margin
     rightPadding: Theme.margin
-    font.pixelSize: Theme.text
     Accessible.name: root.text
 
-    contentItem: Item {
+    component Texts: Item {
+        property alias words: words.text
+        property alias keys: keys.text
+
+        implicitWidth: words.implicitWidth + keys.implicitWidth + Theme.margin
+
         VEXLabel {
             id: words
 
             anchors.verticalCenter: parent.verticalCenter
-            text: root.text
-            font: root.font
+            font.pixelSize: Theme.text
         }
 
         VEXLabel {
@@ -33,11 +36,15 @@ MenuItem {
                 right: parent.right
                 verticalCenter: parent.verticalCenter
             }
-            text: root.subMenu ? "›" : root.shortcutText
             font.pixelSize: Theme.smallText
             color: Theme.font_color_grade4
             Accessible.ignored: true
         }
+    }
+
+    contentItem: Texts {
+        words: root.text
+        keys: root.subMenu ? "›" : root.shortcutText
     }
 
     arrow: Item {}

@@ -1,6 +1,5 @@
 import QtQuick 2.15
 import VexTheme 1.0
-import VexWindow 1.0
 
 /*! The dots at a row's edge by which it is dragged to another place. */
 MouseArea {

@@ -34,7 +34,7 @@ ListView {
         root.currentIndex = row
         root.currentItem.forceActiveFocus(Qt.TabFocusReason)
         if (!(modifiers & Qt.ControlModifier)) {
-            root.select(root.currentItem.taskId, modifiers)
+            root.select(root.page.idAt(row), modifiers)
         }
     }
 
@@ -56,8 +56,12 @@ ListView {
     function moveBy(step) {
         const to = root.currentIndex + (step < 0 ? -1 : 2)
         if (to >= 0 && to <= root.count) {
-            root.moveTo(root.currentItem.taskId, to)
+            root.moveTo(root.page.idAt(root.currentIndex), to)
         }
+    }
+
+    function showStarted(taskId) {
+        root.positionViewAtIndex(root.page.rowOf(taskId), ListView.Contain)
     }
 
     function drag(y) {
@@ -111,6 +115,9 @@ ListView {
         }
     }
 
+    Component.onCompleted: root.page.started.connect(root.showStarted)
+    Component.onDestruction: root.page.started.disconnect(root.showStarted)
+
     ScrollBar.vertical: VEXScrollBar {}
 
     delegate: TaskRow {
@@ -148,14 +155,6 @@ ListView {
         onDropped: root.drop(row.taskId)
     }
 
-    Connections {
-        target: root.page
-
-        function onStarted(taskId) {
-            root.positionViewAtIndex(root.page.rowOf(taskId), ListView.Contain)
-        }
-    }
-
     Timer {
         id: scroller
 
@@ -185,7 +184,7 @@ ListView {
     TaskMenu {
         id: menu
 
-        property Item row
+        property TaskRow row
 
         function openFor(row) {
             menu.row = row

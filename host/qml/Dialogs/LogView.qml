@@ -8,6 +8,8 @@ import VexWindow 1.0
 VEXContent {
     id: root
 
+    readonly property var info: root.frame.info
+
     width: 720
     height: 480
     focus: true
@@ -41,7 +43,7 @@ VEXContent {
             id: log
 
             width: view.width
-            text: root.frame.info["text"]
+            text: root.info["text"]
             textFormat: TextEdit.PlainText
             readOnly: true
             selectByMouse: true

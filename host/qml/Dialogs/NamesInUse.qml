@@ -9,8 +9,9 @@ import VexWindow 1.0
 VEXContent {
     id: root
 
-    readonly property var names: root.frame.info["names"]
-    readonly property var output: root.frame.info["output"]
+    readonly property var info: root.frame.info
+    readonly property var names: root.info["names"]
+    readonly property var output: root.info["output"]
     readonly property int shownNames: 5
 
     function answer(ifInUse) {
