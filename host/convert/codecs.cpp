@@ -57,13 +57,11 @@ public:
         encoders.last().passes = {{QLatin1String(option), QLatin1String(value)}};
         return *this;
     }
-    /*! An encoder of ffmpeg's own that was first made for MPEG. */
+    /*! An encoder of ffmpeg's own that was first made for MPEG. Its second pass refuses bitrates
+     *  that a single one reaches. */
     Video writtenLikeMpegBy(const char *encoder)
     {
-        return writtenBy(encoder)
-            .goodAt("q", 4, -1, 2)
-            .keepsBelow(Ceiling::LeastQuantiser)
-            .inTwoPasses();
+        return writtenBy(encoder).goodAt("q", 4, -1, 2).keepsBelow(Ceiling::LeastQuantiser);
     }
     Video lookingPoorBelow(double bitsPerPixel)
     {

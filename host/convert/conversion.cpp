@@ -225,6 +225,11 @@ void Conversion::checkRun(const Result<ToolRun> &run)
         fail({tr("the disk with %1 is full; free some space or choose another folder")
                   .arg(QDir::toNativeSeparators(m_name.folder()))});
     } else if (!wroteAll(*run)) {
+        if (m_sizeFit && m_sizeFit->raises()) {
+            m_settings.videoKbps = m_sizeFit->kbps();
+            runFfmpeg();
+            return;
+        }
         if (retryWithFewerCopies()) {
             return;
         }

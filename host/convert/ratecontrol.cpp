@@ -55,7 +55,10 @@ double sufficientKbps(const EncodedPicture &picture, double quality)
 void setAverage(ToolOptions &options, VideoCodec::Ceiling ceiling, const OutputSettings &settings)
 {
     setKbps(options, "b", settings.videoKbps);
-    if (settings.peakKbps > 0 && ceiling != VideoCodec::Ceiling::Capped &&
+    // Without a buffer these encoders write noise with far more than they are asked for.
+    const bool overshoots =
+        settings.targetBytes > 0 && ceiling == VideoCodec::Ceiling::LeastQuantiser;
+    if ((settings.peakKbps > 0 || overshoots) && ceiling != VideoCodec::Ceiling::Capped &&
         ceiling != VideoCodec::Ceiling::BitsPerPixel) {
         setBuffer(options, settings);
     }

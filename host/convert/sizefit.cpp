@@ -19,6 +19,8 @@ struct Texts
 // What a container adds to its streams.
 constexpr double shareOfStreams = 0.99;
 
+constexpr int mostAttempts = 8;
+
 /*! Of PCM; 0 for other codecs. */
 double pcmKbps(const AudioTrack &track, const AudioPlan &plan, const QString &codec)
 {
@@ -115,9 +117,8 @@ SizeFit::SizeFit(double bytes, double seconds, double kbps)
 bool SizeFit::corrects(qint64 bytes)
 {
     constexpr double nearEnough = 0.98;
-    constexpr int mostAttempts = 6;
     // Each further attempt aims lower, so that the last one is not too large.
-    const double aim = m_target * (0.993 - 0.003 * m_attempts);
+    const double aim = m_target * (0.993 - 0.0015 * m_attempts);
     const Attempt attempt{m_kbps, double(bytes)};
     const bool isTooLarge = attempt.bytes > m_target;
     const bool isTooSmall = attempt.bytes < m_target * nearEnough;
@@ -131,6 +132,16 @@ bool SizeFit::corrects(qint64 bytes)
     const double wanted = m_kbps + (aim - attempt.bytes) / bytesPerKbps(attempt);
     m_last = attempt;
     m_kbps = std::max(1.0, std::floor(std::clamp(wanted, m_kbps / 4, m_kbps * 4)));
+    return true;
+}
+
+bool SizeFit::raises()
+{
+    ++m_attempts;
+    if (!m_last || m_attempts >= mostAttempts || m_last->kbps - m_kbps < 2) {
+        return false;
+    }
+    m_kbps = std::floor((m_kbps + m_last->kbps) / 2);
     return true;
 }
 

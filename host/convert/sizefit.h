@@ -21,6 +21,9 @@ public:
     /*! Takes the size that came out with kbps(). Whether another attempt is worthwhile: the file is
      *  too large, or more than 2 % too small. */
     [[nodiscard]] bool corrects(qint64 bytes);
+    /*! For when the encoder refuses kbps() as too few. Whether another attempt is worthwhile: with
+     *  more, but fewer than the last one. */
+    [[nodiscard]] bool raises();
     /*! Of the attempt to make. */
     [[nodiscard]] double kbps() const { return m_kbps; }
 

@@ -107,6 +107,7 @@ const QVector<PresetDetail> &presetDetails()
         return PresetDetail{QLatin1String(name), QLatin1String(key), QLatin1String(pattern)};
     };
     static const char level[] = "[1-6](\\.[1-3])?";
+    static const char depth[] = "8|10";
     static const char speed[] = "ultrafast|superfast|veryfast|faster|fast|medium|slow|slower|"
                                 "veryslow|placebo";
     static const QVector<PresetDetail> details = {
@@ -116,13 +117,17 @@ const QVector<PresetDetail> &presetDetails()
         {QStringLiteral("buffer-seconds"), QStringLiteral("bufferSeconds"), QString(), 0.1, 60},
         text("h264-level", "h264Level", level),
         text("h264-profile", "h264Profile", "baseline|main|high"),
+        text("h264-bit-depth", "h264BitDepth", depth),
         text("h264-speed", "h264Speed", speed),
         text("h264-tune", "h264Tune", "film|animation|grain|stillimage|fastdecode|zerolatency"),
         text("hevc-level", "hevcLevel", level),
+        text("hevc-bit-depth", "hevcBitDepth", depth),
         text("hevc-speed", "hevcSpeed", speed),
         text("hevc-tune", "hevcTune", "animation|grain|fastdecode|zerolatency"),
+        text("vp9-bit-depth", "vp9BitDepth", depth),
         text("av1-speed", "av1Speed", "[0-9]|1[0-3]"),
         text("mpeg4-tag", "mpeg4Tag", "[A-Z0-9]{4}"),
+        text("frame-rate-mode", "frameRateMode", "variable|constant"),
         text("edit-lists", "editLists", "none"),
     };
     return details;

@@ -110,8 +110,10 @@ void FrameReader::read(const Picture &picture)
     }
     const QString file = m_folder->filePath(QStringLiteral("%1.jpg").arg(++m_fileNumber));
     arguments += inputArguments(picture.path, picture.container);
+    // The key frame's time is before the moment: only "passthrough" writes it.
     arguments += {QStringLiteral("-map"),      QStringLiteral("0:%1").arg(picture.track),
                   QStringLiteral("-frames:v"), QStringLiteral("1"),
+                  QStringLiteral("-fps_mode"), QStringLiteral("passthrough"),
                   QStringLiteral("-vf"),       QStringLiteral("scale=320:-2:flags=fast_bilinear"),
                   QStringLiteral("-update"),   QStringLiteral("1"),
                   fileArgument(file)};

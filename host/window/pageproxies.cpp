@@ -2,6 +2,8 @@
 
 #include "host/media/clocktext.h"
 
+#include <algorithm>
+
 void ConverterProxy::openInEditor(int taskId)
 {
     if (const Task *task = tasks()->find(taskId)) {
@@ -15,10 +17,16 @@ EditorProxy::EditorProxy(WindowSettings &settings, Presets &presets, QObject *pa
 
 void EditorProxy::addWithFormat(const QString &path, const QString &format)
 {
-    const int before = tasks()->count();
-    addPaths({path});
-    if (tasks()->count() > before) {
-        setTaskFormat(tasks()->tasks().constLast().id, format);
+    const auto isThere = [this, &path] {
+        const QVector<Task> &all = tasks()->tasks();
+        return std::find_if(all.begin(), all.end(),
+                            [&path](const Task &task) { return task.source == path; });
+    };
+    if (isThere() == tasks()->tasks().end()) {
+        addPaths({path});
+    }
+    if (const auto task = isThere(); task != tasks()->tasks().end()) {
+        setTaskFormat(task->id, format);
     }
 }
 

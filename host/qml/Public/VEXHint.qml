@@ -10,6 +10,7 @@ ToolTip {
 
     visible: root.shown && root.text !== ""
     delay: 600
+    closePolicy: Popup.NoAutoClose // Escape is for what the hint is about
     font.pixelSize: Theme.smallText
     padding: 8
     contentWidth: Math.min(metrics.advanceWidth + 1, 420)

@@ -135,7 +135,7 @@ void TestDialogs::aFailedRowShowsItsLog()
     QVERIFY(click(m_window, QStringLiteral("Show log")));
     QTRY_VERIFY(dialog() != nullptr);
     QVERIFY(allTexts(dialog()->contentItem())
-                .contains(QStringLiteral("ffmpeg hasn't run for this file yet")));
+                .contains(QStringLiteral("ffmpeg hasn’t run for this file yet")));
     m_main->dialog()->cancelClicked();
 
     m_main->converter().setFolder({});

@@ -239,12 +239,13 @@ void TestEditor::theConvertersFileIsOpenedWithItsFormat()
     converter.setConvertingListTaskFormat(id, QStringLiteral("Video_MKV_001"));
     QTRY_COMPARE_WITH_TIMEOUT(converter.tasks()->tasks().constFirst().state, Task::Ready, patience);
     m_window->setProperty("currentPage", 0);
+    m_window->grabWindow(); // lays the page out
     QVERIFY(click(m_window, QStringLiteral("Cut in the editor")));
     QCOMPARE(m_window->property("currentPage").toInt(), 1);
     const QVector<Task> &edited = m_main->editor().tasks()->tasks();
-    QCOMPARE(edited.size(), 2);
-    QCOMPARE(edited.at(1).source, m_film);
-    QCOMPARE(edited.at(1).format, QStringLiteral("Video_MKV_001"));
+    QCOMPARE(edited.size(), 1);
+    QCOMPARE(edited.at(0).source, m_film);
+    QCOMPARE(edited.at(0).format, QStringLiteral("Video_MKV_001"));
 }
 
 QTEST_MAIN(TestEditor)

@@ -137,6 +137,7 @@ void TestFileChooser::init()
         QVERIFY(MediaClips::makeSong(homePath(name)));
     }
     QVERIFY(QDir(m_home->path()).mkdir(QStringLiteral("results")));
+    QFile::remove(m_config.filePath(QStringLiteral("vexconvert/queue.json")));
     m_main = std::make_unique<MainWindow>(m_config.filePath(QStringLiteral("vexconvert")));
     QVERIFY(m_main->open());
     m_main->converter().setFolder({});
