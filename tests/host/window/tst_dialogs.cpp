@@ -58,6 +58,7 @@ void TestDialogs::initTestCase()
 void TestDialogs::init()
 {
     QDir(path("config")).removeRecursively();
+    QFile::remove(path("song.mp3"));
     m_main = std::make_unique<MainWindow>(path("config"));
     QVERIFY(m_main->open());
     m_window = m_main->window();
@@ -174,7 +175,7 @@ void TestDialogs::namesInUseAreAskedAbout()
 void TestDialogs::withoutAnAnswerNothingStarts()
 {
     convertOntoAnEarlierResult();
-    QTest::keyClick(dialog(), Qt::Key_Escape);
+    press(dialog(), Qt::Key_Escape);
     QTRY_VERIFY(m_main->dialog() == nullptr);
     QCOMPARE(m_main->converter().tasks()->tasks().at(0).state, Task::Ready);
 }
