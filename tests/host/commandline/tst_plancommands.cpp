@@ -161,12 +161,16 @@ void TestPlanCommands::whatAKilledRunLeftIsRemoved()
     QVERIFY(plan("plan in --preset A_MP3_1 --to out"));
     QCOMPARE(run("run plan").exitCode, 0);
     QTemporaryDir tools;
-    QVERIFY(MediaClips::makeStandIn(tools.path(), QStringLiteral("sleep 60")));
+    const QDir started(tools.path());
+    QVERIFY(MediaClips::makeStandIn(
+        tools.path(),
+        QStringLiteral("touch '%1'/$$.started; exec sleep 60").arg(tools.path())));
     m_environment.insert(QStringLiteral("PATH"),
                          QString::fromLocal8Bit(MediaClips::pathWith(tools.path())));
     QProcess killed;
-    start(killed, words("run plan --if-exists overwrite"));
-    QTRY_VERIFY_WITH_TIMEOUT(results().size() > 2, patience);
+    start(killed, words("run plan --jobs 1 --if-exists overwrite"));
+    QTRY_VERIFY_WITH_TIMEOUT(!started.entryList({QStringLiteral("*.started")}).isEmpty(), patience);
+    QVERIFY(results().size() > 2);
     killed.kill();
     QVERIFY(killed.waitForFinished(patience));
     QCOMPARE(run("run plan").exitCode, 0);
