@@ -6,6 +6,7 @@
 #include "host/media/mediaprobe.h"
 #include "host/tools/encoderlist.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
 
@@ -26,6 +27,8 @@ Result<Value> waitFor(Object &object, const Start &start)
     });
     start();
     loop.exec();
+    // No other loop may follow that deletes what this one put off.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return result;
 }
 

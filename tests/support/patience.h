@@ -2,6 +2,6 @@
 #define TESTS_SUPPORT_PATIENCE_H
 
 /*! How long to wait for a state, in ms: generous, as the machine can be busy. */
-constexpr int patience = 60000;
+constexpr int patience = 180000;
 
 #endif
