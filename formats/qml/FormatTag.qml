@@ -3,13 +3,15 @@ import QtQuick.Controls 2.5
 import "."
 
 /*! One tag of the tag bar, underlined. */
-AbstractButton {
+TabButton {
     id: root
 
     required property string tag
     required property bool selected
 
     implicitWidth: Math.ceil(implicitContentWidth)
+    padding: 0
+    checkable: false
     text: ToolFun.tr(root.tag === "socialvideo" ? "socialVideo" : root.tag)
     hoverEnabled: true
     focusPolicy: root.selected || root.activeFocus ? Qt.TabFocus : Qt.NoFocus

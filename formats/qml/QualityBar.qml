@@ -35,7 +35,7 @@ Rectangle {
 
             model: root.qualities
 
-            AbstractButton {
+            RadioButton {
                 id: segment
 
                 required property string modelData
@@ -44,6 +44,9 @@ Rectangle {
 
                 width: 172
                 height: 34
+                padding: 0
+                indicator: null
+                checked: segment.isSelected
                 text: ToolFun.tr(segment.modelData)
                 focusPolicy: segment.isSelected || segment.activeFocus ? Qt.TabFocus : Qt.NoFocus
                 Accessible.role: Accessible.RadioButton

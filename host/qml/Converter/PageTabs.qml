@@ -26,7 +26,8 @@ Row {
 
         model: root.captions
 
-        T.AbstractButton {
+        // Its role is the control's own: Controls give theirs to assistive tools whatever is set here.
+        T.TabButton {
             id: tab
 
             required property string modelData
@@ -37,10 +38,10 @@ Row {
             implicitHeight: 34
             leftPadding: Theme.margin
             rightPadding: Theme.margin
+            checkable: false
             hoverEnabled: true
             focusPolicy: tab.isCurrent || tab.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             text: tab.modelData
-            Accessible.role: Accessible.PageTab
             Accessible.name: tab.text
             Accessible.selected: tab.isCurrent
             onClicked: root.current = tab.index

@@ -133,7 +133,7 @@ ScreenTest {
     function test_theQualityBar() {
         openDialog({})
         const bar = all("QualityBar")[0]
-        const segments = all("AbstractButton", bar)
+        const segments = all("RadioButton", bar)
         compare(at(bar)[0], 24 + 70)
         compare([bar.width, bar.height], [528, 34])
         compareColor(bar.color, theme.secondary_gradeTone4)
@@ -154,7 +154,7 @@ ScreenTest {
 
     function test_theSelectedSegmentStandsOut() {
         openDialog({})
-        const segments = all("AbstractButton", all("QualityBar")[0])
+        const segments = all("RadioButton", all("QualityBar")[0])
         const selected = function () {
             return segments.map(function (segment) {
                 return [String(segment.background.color), segment.background.border.width,

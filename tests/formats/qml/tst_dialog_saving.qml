@@ -232,7 +232,7 @@ ScreenTest {
 
     function test_tabVisitsTitleQualityBoxesAndButtons() {
         openDialog({})
-        const quality = all("AbstractButton", all("QualityBar")[0])[1]
+        const quality = all("RadioButton", all("QualityBar")[0])[1]
         const stops = [all("VEXTextInput")[0], quality].concat(all("VEXComboBox"), all("Button"))
         compare(stops.length, 12)
         for (const stop of stops) {

@@ -120,7 +120,7 @@ ScreenTest {
     function test_aClickOnASegmentTakesTheFocus() {
         openDialog({})
         mouseClick(field())
-        const segment = all("AbstractButton", all("QualityBar")[0])[2]
+        const segment = all("RadioButton", all("QualityBar")[0])[2]
         mouseClick(segment)
         verify(segment.activeFocus)
     }
