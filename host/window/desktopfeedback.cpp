@@ -1,7 +1,6 @@
 #include "host/window/desktopfeedback.h"
 
 #include "host/window/page.h"
-#include "host/window/toolfun.h"
 #include "host/window/windowsettings.h"
 
 #include <QDBusConnection>
@@ -81,12 +80,9 @@ void DesktopFeedback::noteEnd(int converted, int failed)
     if (isBusy) {
         return;
     }
-    const QStringList parts = {
-        ToolFun::text(QStringLiteral("Files converted: %1")).arg(m_converted),
-        ToolFun::text(QStringLiteral("failed: %1")).arg(m_failed)};
-    const bool isWanted = m_settings.isNotifying() && !m_window.isActive();
-    if (m_converted + m_failed > 0 && isWanted) {
-        notify(m_failed > 0 ? parts.join(QStringLiteral(", ")) : parts.constFirst());
+    const QString text = TaskRunner::outcomeText(m_converted, m_failed);
+    if (!text.isEmpty() && m_settings.isNotifying() && !m_window.isActive()) {
+        notify(text);
     }
     m_converted = 0;
     m_failed = 0;

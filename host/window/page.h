@@ -35,6 +35,7 @@ class Page : public QObject
     Q_PROPERTY(bool canConvert READ canConvert NOTIFY queueChanged)
     Q_PROPERTY(bool canClear READ canClear NOTIFY queueChanged)
     Q_PROPERTY(QString overall READ overall NOTIFY overallChanged)
+    Q_PROPERTY(QString outcome READ outcome NOTIFY overallChanged)
     Q_PROPERTY(int overallPercent READ overallPercent NOTIFY overallChanged)
     Q_PROPERTY(int outlookVersion READ outlookVersion NOTIFY outlookChanged)
 
@@ -64,6 +65,8 @@ public:
     /*! How far the conversions are as a whole: "3 of 17  ·  12:04 left"; empty if there are
      *  none. */
     QString overall() const { return m_runner.text(); }
+    /*! See TaskRunner::outcome(). */
+    QString outcome() const { return m_runner.outcome(); }
     int overallPercent() const { return m_runner.percent(); }
     /*! Rises when outlook() may give something else for all tasks. */
     int outlookVersion() const { return m_outlookVersion; }

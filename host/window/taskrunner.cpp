@@ -37,8 +37,20 @@ QString TaskRunner::text() const
     return parts.join(QStringLiteral("  ·  "));
 }
 
+QString TaskRunner::outcomeText(int converted, int failed)
+{
+    if (converted + failed == 0) {
+        return {};
+    }
+    const QString text = ToolFun::text(QStringLiteral("Files converted: %1")).arg(converted);
+    return failed == 0 ? text
+                       : text + QStringLiteral(", ") +
+                             ToolFun::text(QStringLiteral("failed: %1")).arg(failed);
+}
+
 void TaskRunner::convert(const QVector<int> &ids)
 {
+    m_outcome.clear();
     for (const int id : ids) {
         const Task *task = m_tasks.find(id);
         if (task != nullptr && !task->isQueued()) {
@@ -100,6 +112,7 @@ void TaskRunner::noteEnd()
         const int failed = std::exchange(m_failed, 0);
         resume();
         if (wasRun) {
+            m_outcome = outcomeText(converted, failed);
             Q_EMIT ended(converted, failed);
         }
     }

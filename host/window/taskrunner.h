@@ -40,6 +40,11 @@ public:
     [[nodiscard]] int percent() const { return m_progress.percent(); }
     /*! "3 of 17  ·  12:04 left"; empty if nothing is running or waiting. */
     [[nodiscard]] QString text() const;
+    /*! What came of the last run; empty while one goes on, and where nothing ended by itself. */
+    [[nodiscard]] QString outcome() const { return m_outcome; }
+
+    /*! "Files converted: 2, failed: 1" */
+    [[nodiscard]] static QString outcomeText(int converted, int failed);
 
 Q_SIGNALS:
     void progressed();
@@ -61,6 +66,7 @@ private:
     RunProgress m_progress;
     int m_converted = 0;
     int m_failed = 0;
+    QString m_outcome;
     ConversionQueue m_queue; // holds only what runs
 };
 

@@ -30,11 +30,11 @@ Item {
     }
 
     VEXLabel {
+        id: count
+
         anchors {
             left: parent.left
             leftMargin: Theme.wideMargin
-            right: buttons.left
-            rightMargin: Theme.margin
             verticalCenter: parent.verticalCenter
         }
         visible: !overall.visible
@@ -44,6 +44,21 @@ Item {
               : ToolFun.tr("Files: %1").arg(root.page.tasks.count)
         font.pixelSize: Theme.smallText
         color: Theme.font_color_grade4
+    }
+
+    VEXLabel {
+        anchors {
+            left: count.right
+            leftMargin: Theme.margin
+            right: buttons.left
+            rightMargin: Theme.margin
+            verticalCenter: parent.verticalCenter
+        }
+        visible: root.page.outcome !== ""
+        text: root.page.outcome
+        font.pixelSize: Theme.smallText
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.AlertMessage
     }
 
     Row {
@@ -73,7 +88,6 @@ Item {
 
             visible: root.page.tasks.count > 1
             text: ToolFun.tr("Sort by")
-            Accessible.role: Accessible.ButtonMenu
             onClicked: sortMenu.popup(sortButton, 0, sortButton.height + 4)
 
             SortMenu {
