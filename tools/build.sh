@@ -43,9 +43,10 @@ run_packages=(
     qml-module-qtgraphicaleffects qttranslations5-l10n
 )
 test_packages=(
-    qml-module-qttest xvfb xauth xdotool libgl1-mesa-dri python3-jsonschema
+    qml-module-qttest xvfb xdotool libgl1-mesa-dri python3-jsonschema
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
-    dbus-daemon desktop-file-utils appstream man-db zsh fish handbrake-cli
+    dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi desktop-file-utils appstream
+    man-db zsh fish handbrake-cli
     abigail-tools doxygen qtdeclarative5-dev-tools qt6-declarative-dev-tools qml6-module-qtqml
 )
 qt6_packages=(
