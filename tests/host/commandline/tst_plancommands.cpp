@@ -163,8 +163,7 @@ void TestPlanCommands::whatAKilledRunLeftIsRemoved()
     QTemporaryDir tools;
     const QDir started(tools.path());
     QVERIFY(MediaClips::makeStandIn(
-        tools.path(),
-        QStringLiteral("touch '%1'/$$.started; exec sleep 60").arg(tools.path())));
+        tools.path(), QStringLiteral("touch '%1'/$$.started; exec sleep 60").arg(tools.path())));
     m_environment.insert(QStringLiteral("PATH"),
                          QString::fromLocal8Bit(MediaClips::pathWith(tools.path())));
     QProcess killed;
