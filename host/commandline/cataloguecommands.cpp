@@ -135,7 +135,7 @@ QVector<QStringList> rowsOfOwn(PresetStore &store, const FoundPreset &preset)
 {
     const QString id = preset.map.value(QStringLiteral("id")).toString();
     const PresetNote note = store.notes().of(id);
-    const QVariantMap base = store.own().baseOf(preset.className, id);
+    const QVariantMap base = store.own().baseOf(id);
     QVector<QStringList> rows;
     if (!note.base.isEmpty()) {
         const QString form = base.isEmpty() ? CommandLine::tr("%1, which is gone")

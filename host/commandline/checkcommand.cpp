@@ -3,6 +3,7 @@
 #include "host/commandline/commandline.h"
 
 #include "formats/proxy/formatsproxy.h"
+#include "host/catalogue/servedcatalogue.h"
 #include "host/check/cataloguelint.h"
 #include "host/check/catalogueproof.h"
 #include "utility/cataloguefiles.h"
@@ -185,16 +186,25 @@ Result<ExitCode> runCheck(const Call &call)
         return wrongUsage(CommandLine::tr("\"check-catalogue\" takes no arguments but options"));
     }
     const bool asJson = call.options.isSet(jsonFlag);
+    const ServedCatalogue served(PresetStore::folderAt(call.configFolder));
     const QString own = ownCataloguePath();
-    const CatalogueResult catalogue = readCatalogueAt(own.isEmpty() ? builtInCataloguePath() : own);
+    const CatalogueResult catalogue =
+        served.read(own.isEmpty() ? builtInCataloguePath() : own).result;
+    // Without a valid preset, the built-in catalogue is served, which isn't the one to check.
+    const bool hasPresets = !catalogue.presetPlaces.isEmpty();
+    if (served.hasOverlays() && hasPresets) {
+        const Result<> done = ServedCatalogue::serve(catalogue.catalogue);
+        if (!done) {
+            return failed(done);
+        }
+    }
     const QVector<CatalogueMistake> mistakes =
         catalogue.mistakes + lintCatalogue(catalogue, icons(), tags());
     if (!asJson) {
         printMistakes(mistakes);
     }
     Result<Presets> proven;
-    // Without a valid preset, the built-in catalogue is served, which isn't the one to check.
-    if (!catalogue.presetPlaces.isEmpty()) {
+    if (hasPresets) {
         proven = prove(presetsToProve(catalogue.catalogue, call.options.isSet(quickFlag)),
                        !asJson && Console::isTerminal());
     }
@@ -222,8 +232,9 @@ QVector<Subcommand> checkCommands()
              "\nLists the mistakes in the files, then converts a clip of one second with every\n"
              "preset and compares the result with it; presets with equal settings share a\n"
              "conversion. The catalogue is the built-in one, or the one that "
-             "VEX_EXPORT_CATALOGUE\nnames. The exit code is 1 if anything is wrong; encoders that "
-             "this ffmpeg lacks don't count.\n"),
+             "VEX_EXPORT_CATALOGUE\nnames, with the overlays in the folder catalogues of the "
+             "configuration folder. The exit\ncode is 1 if anything is wrong; encoders that this "
+             "ffmpeg lacks don't count.\n"),
          {{quickFlag, CommandLine::tr("Convert with only one preset of each format.")},
           jsonOption()},
          runCheck},

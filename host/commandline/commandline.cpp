@@ -28,7 +28,7 @@ QVector<Subcommand> subcommands()
     all.append(compareCommand());
     all +=
         watchCommands() + planCommands() + engineCommands() + presetCommands() + favoriteCommands();
-#ifdef VEX_CHECKS_CATALOGUE
+#ifdef VEX_READS_CATALOGUE
     all += checkCommands();
 #endif
     return all;

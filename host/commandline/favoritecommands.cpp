@@ -62,7 +62,8 @@ Result<ExitCode> runFavorite(const Call &call)
         (isAdded ? CommandLine::tr("favorite: %1") : CommandLine::tr("no longer a favorite: %1"))
             .arg(ids.join(QStringLiteral(", ")));
     return changeFavorites(call, done, [&](PresetStore &store, Favorites &favorites) -> Result<> {
-        for (const QString &id : ids) {
+        for (const QString &given : ids) {
+            const QString id = store.idNow(given);
             const Result<FoundPreset> preset = findPreset(store, id);
             if (isAdded && !preset) {
                 return failed(preset);
@@ -115,7 +116,7 @@ Result<ExitCode> runDefault(const Call &call)
         if (!isNone && !preset) {
             return failed(preset);
         }
-        favorites.setDefault(*kind, isNone ? QString() : id);
+        favorites.setDefault(*kind, isNone ? QString() : store.idNow(id));
         return {};
     });
 }
@@ -129,6 +130,7 @@ Favorites favoritesOf(const PresetStore &store)
     if (!read) {
         Console::printError(read.error().text);
     }
+    favorites.renameIds([&store](const QString &id) { return store.idNow(id); });
     return favorites;
 }
 

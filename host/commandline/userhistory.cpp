@@ -26,7 +26,7 @@ Result<Comparison> compare(PresetStore &store, const QString &id)
         if (note.base.isEmpty()) {
             return failed(CommandLine::tr("nothing is known of the base of preset %1").arg(id));
         }
-        const QVariantMap base = store.own().baseOf(preset.className, id);
+        const QVariantMap base = store.own().baseOf(id);
         return Comparison{preset,
                           note.base,
                           !base.isEmpty(),

@@ -92,6 +92,17 @@ Result<> Favorites::save() const
     return m_file.write(entries);
 }
 
+void Favorites::renameIds(const std::function<QString(const QString &)> &idNow)
+{
+    for (QString &id : m_ids) {
+        id = idNow(id);
+    }
+    m_ids.removeDuplicates();
+    for (QString &id : m_defaults) {
+        id = idNow(id);
+    }
+}
+
 bool Favorites::add(const QString &id)
 {
     if (m_ids.contains(id)) {

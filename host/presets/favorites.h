@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 /*! What a source mainly is. */
@@ -31,6 +32,9 @@ public:
     [[nodiscard]] Result<> read();
     /*! Only the process that holds the folder's lock may do this. */
     [[nodiscard]] Result<> save() const;
+
+    /*! Gives each preset the id that \a idNow returns for it. */
+    void renameIds(const std::function<QString(const QString &)> &idNow);
 
     /*! The latest first. */
     [[nodiscard]] const QStringList &ids() const { return m_ids; }

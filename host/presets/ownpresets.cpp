@@ -227,7 +227,7 @@ void OwnPresets::sort(const QString &className, const QStringList &ids)
     }
 }
 
-QVariantMap OwnPresets::baseOf(const QString &className, const QString &id) const
+QVariantMap OwnPresets::baseOf(const QString &id) const
 {
-    return m_formats.getFormat(QString(), className, m_notes.of(id).base);
+    return m_formats.getFormat(m_notes.of(id).base);
 }

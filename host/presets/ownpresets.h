@@ -60,7 +60,7 @@ public:
     void sort(const QString &className, const QStringList &ids);
 
     /*! The preset's base as the catalogue has it now; empty if that is gone or unknown. */
-    [[nodiscard]] QVariantMap baseOf(const QString &className, const QString &id) const;
+    [[nodiscard]] QVariantMap baseOf(const QString &id) const;
 
 private:
     void setDetails(FormatDetailModel &list, const QString &id, const PresetValues &values);

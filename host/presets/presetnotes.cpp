@@ -65,6 +65,13 @@ void PresetNotes::keepOnly(const QStringList &ids)
     m_notes = kept;
 }
 
+void PresetNotes::renameBases(const std::function<QString(const QString &)> &idNow)
+{
+    for (PresetNote &note : m_notes) {
+        note.base = idNow(note.base);
+    }
+}
+
 QHash<QString, QString> PresetNotes::texts() const
 {
     QHash<QString, QString> texts;

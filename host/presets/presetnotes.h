@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <functional>
+
 class FormatDetailModel;
 class FormatDetailModelData;
 
@@ -34,6 +36,9 @@ public:
     void remove(const QString &id) { m_notes.remove(id); }
     /*! Removes the notes on all others. */
     void keepOnly(const QStringList &ids);
+
+    /*! Gives each base the id that \a idNow returns for it. */
+    void renameBases(const std::function<QString(const QString &)> &idNow);
 
     /*! The users' texts that aren't empty, by id. */
     [[nodiscard]] QHash<QString, QString> texts() const;

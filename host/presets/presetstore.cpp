@@ -5,6 +5,9 @@
 #include "formats/models/formatlistmodel.h"
 #include "formats/proxy/formatsproxy.h"
 #include "host/files/atomicwrite.h"
+#ifdef VEX_READS_CATALOGUE
+#include "host/catalogue/servedcatalogue.h"
+#endif
 
 #include <QDir>
 #include <QFile>
@@ -73,6 +76,9 @@ Result<> PresetStore::lock(int patience)
 
 Result<> PresetStore::open(Access access, UserFile::Unrecoverable unrecoverable)
 {
+#ifdef VEX_READS_CATALOGUE
+    m_aliases = ServedCatalogue(m_folder).serve(m_report);
+#endif
     m_opened = access == ReadWrite ? openToWrite(unrecoverable) : openToRead();
     // The library would block on a pipe, and read a file of any size.
     const bool isReadable = m_userPresets.content() && m_recently.content();
@@ -93,9 +99,35 @@ void PresetStore::readLists()
         return entries.value_or(QJsonArray());
     };
     m_notes.read(entriesIn(m_notesFile));
+    followAliases();
     m_history.read(entriesIn(m_historyFile));
     matchNotes();
     m_saved = own().all();
+}
+
+/*! What the user's lists say of presets that moved is said of where they are now. */
+void PresetStore::followAliases()
+{
+    if (m_aliases.isEmpty()) {
+        return;
+    }
+    m_notes.renameBases([this](const QString &id) { return idNow(id); });
+    FormatDetailModel &recent = *m_formats.recentlyFormatsModel();
+    for (int row = recent.rowCount() - 1; row >= 0; --row) {
+        const QString now = idNow(recent.getId(row));
+        if (now == recent.getId(row)) {
+            continue;
+        }
+        FormatDetailModelData record;
+        const FormatDetailModel *list = m_formats.formatListModel()->formatDetailModel(
+            m_formats.getTagAndClassById(now).value(QStringLiteral("class")).toString());
+        if (!recent.isExist(now) && list->getModelInfoById(now, record)) {
+            record.userDefine = true; // the library saves no others
+            recent.updateModeInfo(row, record);
+        } else {
+            recent.delModeInfo(row);
+        }
+    }
 }
 
 /*! Lets each of the user's presets have a note, and nothing else: an id may be given again. */
@@ -268,8 +300,14 @@ QStringList PresetStore::ids() const
     return ids;
 }
 
-std::optional<FoundPreset> PresetStore::find(const QString &id) const
+QString PresetStore::idNow(const QString &id) const
 {
+    return m_formats.getTagAndClassById(id).isEmpty() ? m_aliases.value(id, id) : id;
+}
+
+std::optional<FoundPreset> PresetStore::find(const QString &wanted) const
+{
+    const QString id = idNow(wanted);
     const QString recently = QStringLiteral("recently");
     const QVariantMap place = m_formats.getTagAndClassById(id);
     FoundPreset preset;

@@ -85,7 +85,9 @@ public:
     [[nodiscard]] FormatsProxy &formats() const { return m_formats; }
     /*! The ids of all presets of the catalogue and of the user. */
     [[nodiscard]] QStringList ids() const;
-    /*! The preset with this id of the catalogue or the user, else of the recently used list. */
+    /*! The id itself if a preset has it, else the one that the preset has now which had it once. */
+    [[nodiscard]] QString idNow(const QString &id) const;
+    /*! The preset with this id now of the catalogue or the user, else of the recently used list. */
     [[nodiscard]] std::optional<FoundPreset> find(const QString &id) const;
 
 private:
@@ -95,6 +97,7 @@ private:
     Result<> repair(UserFile::Unrecoverable unrecoverable) const;
     Result<> copyIntoWorkFolder();
     void readLists();
+    void followAliases();
     void matchNotes();
     Result<> saveLists();
     Result<> saveLibrary();
@@ -107,8 +110,9 @@ private:
     const ConfigList m_notesFile;
     const ConfigList m_historyFile;
     FolderLock m_lock;
-    std::optional<WorkFolder> m_work; //!< what the library works on; none if opened in place
-    Result<> m_opened;                //!< if an error, nothing is saved
+    QHash<QString, QString> m_aliases; //!< the ids that presets have now, by those they had
+    std::optional<WorkFolder> m_work;  //!< what the library works on; none if opened in place
+    Result<> m_opened;                 //!< if an error, nothing is saved
     PresetNotes m_notes;
     PresetHistory m_history;
     QMap<QString, OwnPreset> m_saved; //!< the user's presets as they were saved last

@@ -25,7 +25,7 @@ QString Presets::usable(const QString &id, const QString &standIn) const
 {
     for (const QString &candidate : {id, standIn, defaultPresetId()}) {
         if (find(candidate)) {
-            return candidate;
+            return m_store.idNow(candidate);
         }
     }
     // A custom catalogue may lack the default preset.
@@ -55,14 +55,14 @@ QString Presets::caption(const QString &id) const
 
 QString Presets::icon(const QString &id) const
 {
-    const QString name = m_store.formats().getClassIconById(id);
+    const QString name = m_store.formats().getClassIconById(m_store.idNow(id));
     return name.isEmpty() ? QString() : QStringLiteral("qrc:/formats/image/%1.svg").arg(name);
 }
 
 void Presets::noteUse(const QString &id)
 {
     if (const std::optional<FoundPreset> preset = find(id)) {
-        m_store.formats().add2Recently(preset->tag, preset->className, id);
+        m_store.formats().add2Recently(preset->tag, preset->className, m_store.idNow(id));
     }
 }
 

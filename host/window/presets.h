@@ -24,7 +24,7 @@ public:
     /*! The ids of all presets of the catalogue and of the user. */
     [[nodiscard]] QStringList ids() const { return m_store.ids(); }
     /*! The first preset that exists of \a id, \a standIn, the default preset and the catalogue's
-     *  first one; empty if there is none. */
+     *  first one, by the id that it has now; empty if there is none. */
     [[nodiscard]] QString usable(const QString &id, const QString &standIn) const;
     /*! The preset's format and translated title; empty for an unknown id. */
     [[nodiscard]] QString caption(const QString &id) const;

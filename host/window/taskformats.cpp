@@ -115,7 +115,7 @@ QString TaskFormats::formatOf(const Task &task, const Followed &followed) const
     const auto own = std::find_if(task.ownFormats.crbegin(), task.ownFormats.crend(),
                                   [this](const QString &id) { return m_presets.find(id); });
     if (own != task.ownFormats.crend()) {
-        return *own;
+        return m_presets.usable(*own, {});
     }
     if (task.facts.isEmpty()) {
         return followed.usual;
