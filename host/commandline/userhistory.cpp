@@ -117,7 +117,7 @@ Result<ExitCode> diff(const Call &call, PresetStore &store, const QStringList &a
 
 Result<ExitCode> reset(const Call &, PresetStore &store, const QStringList &arguments)
 {
-    const QString id = arguments.constFirst();
+    const QString &id = arguments.constFirst();
     const Result<Comparison> compared = compare(store, id);
     if (!compared) {
         return failed(compared);

@@ -127,7 +127,7 @@ QString OwnPresets::add(const QString &className, const QVariantMap &base, const
     if (list == nullptr || !list->getModelInfoById(baseId, baseRecord)) {
         return {};
     }
-    const QString id =
+    QString id =
         m_formats.addUserDefineFormat({}, className, baseId, libraryValues(base, title, values));
     setDetails(*list, id, values);
     PresetNote note = baseRecord.userDefine ? m_notes.of(baseId) : PresetNote::about(baseRecord);
