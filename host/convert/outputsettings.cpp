@@ -112,6 +112,8 @@ void readConverterSettings(OutputSettings &settings, const QVariantMap &preset)
         settings.bufferSeconds =
             numberFromText(param.value(QStringLiteral("bufferSeconds")).toString(), unreadableKbps);
     }
+    settings.keyFrameInterval =
+        countFromText(chosenText(param, QStringLiteral("keyFrameInterval")));
     settings.level = ofCodec("Level");
     settings.profile = ofCodec("Profile");
     settings.bitDepth = countFromText(ofCodec("BitDepth"));
@@ -165,12 +167,12 @@ auto valuesOf(const OutputSettings &settings)
     return std::tie(settings.extension, settings.hasVideo, settings.videoCodec, settings.frameRate,
                     settings.frameRateMode, settings.keepsVariableRate, settings.box,
                     settings.videoKbps, settings.quality, settings.averagesBitrate,
-                    settings.targetBytes, settings.bufferSeconds, settings.peakKbps, settings.level,
-                    settings.profile, settings.bitDepth, settings.speed, settings.tune,
-                    settings.mustEncode, settings.videoTag, settings.hasEditLists,
-                    settings.audioCodec, settings.sampleRate, settings.channels, settings.audioKbps,
-                    settings.audioTracks, settings.subtitles, settings.burnedSubtitles,
-                    settings.stillSeconds, settings.start, settings.end);
+                    settings.targetBytes, settings.bufferSeconds, settings.peakKbps,
+                    settings.keyFrameInterval, settings.level, settings.profile, settings.bitDepth,
+                    settings.speed, settings.tune, settings.mustEncode, settings.videoTag,
+                    settings.hasEditLists, settings.audioCodec, settings.sampleRate,
+                    settings.channels, settings.audioKbps, settings.audioTracks, settings.subtitles,
+                    settings.burnedSubtitles, settings.stillSeconds, settings.start, settings.end);
 }
 
 } // namespace
@@ -221,6 +223,7 @@ Result<> OutputSettings::validate() const
         {"videoParam.peakKbps", peakKbps, 1, 1000000, " kbps"},
         {"videoParam.bufferSeconds", bufferSeconds, 0.1, 60, " s"},
         {"videoParam.bitDepth", double(bitDepth), 8, 10, ""},
+        {"videoParam.keyFrameInterval", double(keyFrameInterval), 1, 999, " frames"},
         {"audio.sampleRate", double(sampleRate), 1000, 768000, " Hz"},
         {"audio.channel", double(channels), 1, 64, ""},
         {"audio.bitrate", audioKbps, 1, 100000, " kbps"},

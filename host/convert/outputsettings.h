@@ -37,6 +37,7 @@ public:
     double targetBytes = 0;        //!< maximum file size; 0: any
     double bufferSeconds = 1;      //!< of the decoder's rate buffer
     double peakKbps = 0;           //!< maximum within any second; 0: limited by the buffer
+    int keyFrameInterval = 0;      //!< frames at most; 0: as the encoder likes
     QString level;                 //!< of the video codec, as a device requires
     QString profile;               //!< of the video codec, as a device requires
     int bitDepth = 0;              //!< the most that a device plays; 0: as many as the codec has

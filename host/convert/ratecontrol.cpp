@@ -117,6 +117,9 @@ ToolOptions rateOptions(const VideoCodec &codec, const VideoCodec::Encoder &enco
     if (!settings.speed.isEmpty() && hasSpeeds) {
         set(options, QStringLiteral("preset"), settings.speed);
     }
+    if (settings.keyFrameInterval > 0) {
+        set(options, QStringLiteral("g"), QString::number(settings.keyFrameInterval));
+    }
     if (!settings.tune.isEmpty()) {
         set(options, QStringLiteral("tune"), settings.tune);
     }

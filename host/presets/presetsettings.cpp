@@ -115,6 +115,7 @@ const QVector<PresetDetail> &presetDetails()
         text("rate-mode", "rateMode", "average"),
         {QStringLiteral("peak-bitrate"), QStringLiteral("peakKbps"), QString(), 1, 1000000},
         {QStringLiteral("buffer-seconds"), QStringLiteral("bufferSeconds"), QString(), 0.1, 60},
+        text("key-frame-interval", "keyFrameInterval", "[1-9][0-9]{0,2}"),
         text("h264-level", "h264Level", level),
         text("h264-profile", "h264Profile", "baseline|main|high"),
         text("h264-bit-depth", "h264BitDepth", depth),

@@ -86,14 +86,18 @@ const VideoCodec::Encoder *encoderWithQuality(const VideoCodec &codec)
 }
 
 /*! The detail that holds such a word for a codec; null if there is none. */
-const PresetDetail *detailFor(const QString &codec, const QString &kind)
+const PresetDetail *detailNamed(const QString &name)
 {
-    const QString name = codec + QLatin1Char('-') + kind;
     const QVector<PresetDetail> &details = presetDetails();
     const auto detail =
         std::find_if(details.begin(), details.end(),
                      [&name](const PresetDetail &each) { return each.name == name; });
     return detail == details.end() ? nullptr : &*detail;
+}
+
+const PresetDetail *detailFor(const QString &codec, const QString &kind)
+{
+    return detailNamed(codec + QLatin1Char('-') + kind);
 }
 
 } // namespace
@@ -188,5 +192,16 @@ void takeDeviceWord(PortablePreset &preset, const QString &codec, const QString 
         preset.approximate(setting, value, Texts::tr("the encoder chooses the profile"));
     } else {
         preset.lose(setting, value, Texts::tr("the encoder chooses the level"));
+    }
+}
+
+void takeKeyFrameInterval(PortablePreset &preset, const QString &setting, const QString &value)
+{
+    const PresetDetail *detail = detailNamed(QStringLiteral("key-frame-interval"));
+    if (detail->accepts(value)) {
+        preset.values.insert(detail->name, value);
+        preset.keep(setting, value);
+    } else {
+        preset.lose(setting, value, Texts::tr("the encoder chooses the key frames"));
     }
 }

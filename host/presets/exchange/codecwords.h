@@ -27,5 +27,7 @@ void takeEncoderWord(PortablePreset &preset, const QString &codec, const QString
 /*! The same for a level or a profile. */
 void takeDeviceWord(PortablePreset &preset, const QString &codec, const QString &kind,
                     const QString &setting, const QString &value);
+/*! Takes the most frames from a key frame to the next over, if a preset can state so many. */
+void takeKeyFrameInterval(PortablePreset &preset, const QString &setting, const QString &value);
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "host/presets/exchange/codecwords.h"
 #include "host/presets/exchange/handbrakeleftovers.h"
+#include "host/presets/exchange/handbrakeoptions.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -48,7 +49,6 @@ private:
     void readContainer();
     void readVideoCodec();
     void readQuality();
-    void readExtraOptions();
     void readPicture();
     void readFrameRate();
     void readAudio();
@@ -66,7 +66,7 @@ PortablePreset Translation::preset()
     readContainer();
     readVideoCodec();
     readQuality();
-    readExtraOptions();
+    takeEncoderOptions(m_to, text("VideoOptionExtra"));
     readPicture();
     readFrameRate();
     readAudio();
@@ -130,34 +130,6 @@ void Translation::readQuality()
     keep("VideoAvgBitrate");
     if (m_from.value(QLatin1String("VideoTwoPass")).toBool()) {
         approximate("VideoTwoPass", Texts::tr("the average bitrate is reached in one pass"));
-    }
-}
-
-/*! Options of the encoder: none is passed on, only the limit of the bitrate is taken. */
-void Translation::readExtraOptions()
-{
-    int bufferKbits = 0;
-    const QStringList options =
-        text("VideoOptionExtra").split(QLatin1Char(':'), Qt::SkipEmptyParts);
-    for (const QString &option : options) {
-        const QString name = option.section(QLatin1Char('='), 0, 0);
-        const QString value = option.section(QLatin1Char('='), 1);
-        const QString setting = QStringLiteral("VideoOptionExtra/") + name;
-        if (name == QLatin1String("vbv-maxrate") && value.toInt() > 0) {
-            m_to.values.insert(QStringLiteral("video-bitrate"), QString::number(value.toInt()));
-            m_to.keep(setting, value);
-        } else if (name == QLatin1String("vbv-bufsize")) {
-            bufferKbits = value.toInt();
-            m_to.keep(setting, value);
-        } else {
-            m_to.lose(setting, value, Texts::tr("the encoder's own value"));
-        }
-    }
-    const int kbps = m_to.values.value(QStringLiteral("video-bitrate")).toInt();
-    if (bufferKbits > 0 && kbps > 0) {
-        m_to.values.insert(
-            QStringLiteral("buffer-seconds"),
-            QString::number(std::clamp(double(bufferKbits) / kbps, 0.1, 60.0), 'g', 4));
     }
 }
 

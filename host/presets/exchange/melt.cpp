@@ -150,6 +150,8 @@ void Translation::readVideo(const Property &property)
     } else if (key == QLatin1String("r") && text.toDouble() > 0) {
         set("frame-rate", text);
         keep(property);
+    } else if (key == QLatin1String("g")) {
+        takeKeyFrameInterval(m_to, key, text);
     } else if (key == QLatin1String("preset")) {
         takeEncoderWord(m_to, m_codec, QStringLiteral("speed"), key, text);
     } else if (key == QLatin1String("tune")) {

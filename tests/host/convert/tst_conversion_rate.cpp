@@ -18,10 +18,13 @@ private Q_SLOTS:
     void theHighQualityIsTheLargerFile();
     void theResultHasTheAskedSize_data();
     void theResultHasTheAskedSize();
+    void keyFramesAreNoFurtherApartThanAsked_data();
+    void keyFramesAreNoFurtherApartThanAsked();
 
 private:
     QString noise() const;
     QString easy() const;
+    static QList<QByteArray> packetsOf(const QString &file, const char *entry);
     static QVector<double> secondsOf(const QString &file);
     static void addCodecs();
     static OutputSettings settingsOfRow(double kbps);
@@ -45,26 +48,37 @@ QString TestConversionRate::easy() const
                : QString();
 }
 
-/*! The kbit of video in each second. */
-QVector<double> TestConversionRate::secondsOf(const QString &file)
+/*! What ffprobe says of each packet of the video. */
+QList<QByteArray> TestConversionRate::packetsOf(const QString &file, const char *entry)
 {
     QProcess ffprobe;
     ffprobe.start(QStringLiteral("ffprobe"),
                   {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-select_streams"),
                    QStringLiteral("v:0"), QStringLiteral("-show_entries"),
-                   QStringLiteral("packet=size"), QStringLiteral("-of"),
+                   QStringLiteral("packet=") + QLatin1String(entry), QStringLiteral("-of"),
                    QStringLiteral("csv=print_section=0"), file});
     ffprobe.waitForFinished();
-    constexpr int framesPerSecond = 25;
-    QVector<double> seconds;
-    int frame = 0;
+    QList<QByteArray> entries;
     const QList<QByteArray> lines = ffprobe.readAllStandardOutput().split('\n');
     for (const QByteArray &line : lines) {
         if (!line.trimmed().isEmpty()) {
-            seconds.resize(frame / framesPerSecond + 1);
-            seconds.last() += line.split(',').constFirst().toDouble() * 8 / 1000;
-            ++frame;
+            entries << line.split(',').constFirst();
         }
+    }
+    return entries;
+}
+
+/*! The kbit of video in each second. */
+QVector<double> TestConversionRate::secondsOf(const QString &file)
+{
+    constexpr int framesPerSecond = 25;
+    QVector<double> seconds;
+    int frame = 0;
+    const QList<QByteArray> sizes = packetsOf(file, "size");
+    for (const QByteArray &size : sizes) {
+        seconds.resize(frame / framesPerSecond + 1);
+        seconds.last() += size.toDouble() * 8 / 1000;
+        ++frame;
     }
     return seconds;
 }
@@ -155,6 +169,26 @@ void TestConversionRate::theResultHasTheAskedSize()
     const qint64 bytes = QFileInfo(outcome->target).size();
     QVERIFY2(bytes <= settings.targetBytes * 1.0, qPrintable(QString::number(bytes)));
     QVERIFY2(bytes >= settings.targetBytes * 0.98, qPrintable(QString::number(bytes)));
+}
+
+void TestConversionRate::keyFramesAreNoFurtherApartThanAsked_data()
+{
+    addCodecs();
+}
+
+void TestConversionRate::keyFramesAreNoFurtherApartThanAsked()
+{
+    OutputSettings settings = settingsOfRow(0);
+    settings.keyFrameInterval = 8;
+    const Outcome outcome = convert(job(easy(), settings));
+    QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+    const QList<QByteArray> packets = packetsOf(outcome->target, "flags");
+    QVERIFY(packets.size() >= 50);
+    int sinceKeyFrame = settings.keyFrameInterval;
+    for (const QByteArray &flags : packets) {
+        sinceKeyFrame = flags.startsWith('K') ? 1 : sinceKeyFrame + 1;
+        QVERIFY(sinceKeyFrame <= settings.keyFrameInterval);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestConversionRate)

@@ -150,16 +150,19 @@ void TestOutputSettings::aPresetCanStateHowItsVideoIsEncoded()
                    QVariantMap{{QStringLiteral("videoParam"), param}});
         return OutputSettings::fromPreset(map);
     };
-    const OutputSettings stated = settings({{QStringLiteral("quality"), QStringLiteral("-0.5")},
-                                            {QStringLiteral("rateMode"), QStringLiteral("average")},
-                                            {QStringLiteral("bufferSeconds"), QStringLiteral("10")},
-                                            {QStringLiteral("h264Speed"), QStringLiteral("slow")},
-                                            {QStringLiteral("h264Tune"), QStringLiteral("film")},
-                                            {QStringLiteral("hevcSpeed"), QStringLiteral("fast")}});
+    const OutputSettings stated =
+        settings({{QStringLiteral("quality"), QStringLiteral("-0.5")},
+                  {QStringLiteral("rateMode"), QStringLiteral("average")},
+                  {QStringLiteral("bufferSeconds"), QStringLiteral("10")},
+                  {QStringLiteral("keyFrameInterval"), QStringLiteral("30")},
+                  {QStringLiteral("h264Speed"), QStringLiteral("slow")},
+                  {QStringLiteral("h264Tune"), QStringLiteral("film")},
+                  {QStringLiteral("hevcSpeed"), QStringLiteral("fast")}});
     QCOMPARE(stated.quality, -0.5);
     QVERIFY(stated.mustEncode);
     QVERIFY(stated.averagesBitrate);
     QCOMPARE(stated.bufferSeconds, 10.0);
+    QCOMPARE(stated.keyFrameInterval, 30);
     QCOMPARE(stated.speed, QStringLiteral("slow"));
     QCOMPARE(stated.tune, QStringLiteral("film"));
     QVERIFY(settings({{QStringLiteral("quality"), QStringLiteral("0")}}).mustEncode);

@@ -108,13 +108,14 @@ void TestRateControl::aPresetChoosesTheSpeedAndTheContent()
     OutputSettings settings = atMost(0);
     settings.speed = QStringLiteral("slow");
     settings.tune = QStringLiteral("film");
+    settings.keyFrameInterval = 30;
     const auto optionsOf = [&settings](const char *name) {
         const VideoCodec codec = videoCodec(QLatin1String(name));
         return toArguments(rateOptions(codec, codec.encoders.constFirst(), settings,
                                        {QSize(640, 360), {25, 1}}))
             .join(QLatin1Char(' '));
     };
-    QCOMPARE(optionsOf("h264"), QStringLiteral("-preset slow -crf 21.5 -tune film"));
+    QCOMPARE(optionsOf("h264"), QStringLiteral("-preset slow -crf 21.5 -g 30 -tune film"));
     settings.tune.clear();
     QVERIFY2(!optionsOf("vp9").contains(QStringLiteral("slow")), "vp9 has no such word");
 }

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void aHugeFileIsNotRead();
     void foldersThatNeverEndAreRefused();
     void optionsOfTheEncoderAreNeverPassedOn();
+    void onlyAnIntervalOfKeyFramesThatCanBeHeldIsTaken_data();
+    void onlyAnIntervalOfKeyFramesThatCanBeHeldIsTaken();
 };
 
 void TestPresetFile::otherProgramsPresetsAreTranslated_data()
@@ -221,6 +223,37 @@ void TestPresetFile::optionsOfTheEncoderAreNeverPassedOn()
         QVERIFY2(!value.contains(QLatin1Char('/')) && !value.contains(QLatin1Char(' ')),
                  qPrintable(value));
     }
+}
+
+void TestPresetFile::onlyAnIntervalOfKeyFramesThatCanBeHeldIsTaken_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QString>("taken");
+    for (const char *value : {"1", "30", "999"}) {
+        QTest::newRow(value) << QString::fromLatin1(value) << QString::fromLatin1(value);
+    }
+    for (const char *value : {"0", "-1", "1000", "30.5", "infinite", ""}) {
+        QTest::newRow(value) << QString::fromLatin1(value) << QString();
+    }
+}
+
+void TestPresetFile::onlyAnIntervalOfKeyFramesThatCanBeHeldIsTaken()
+{
+    QFETCH(QString, given);
+    QFETCH(QString, taken);
+    const QByteArray content = R"({"PresetList": [{"PresetName": "x", "FileFormat": "av_mp4",
+        "VideoEncoder": "x264", "VideoOptionExtra": "keyint=)" +
+                               given.toUtf8() + R"("}]})";
+    const Result<PortablePresets> read = readPresets(content, QStringLiteral("a file"));
+    QVERIFY(read);
+    const PortablePreset &preset = read->presets.constFirst();
+    QCOMPARE(preset.values.value(QStringLiteral("key-frame-interval")), taken);
+    const auto finding =
+        std::find_if(preset.findings.begin(), preset.findings.end(), [](const Finding &each) {
+            return each.setting == QLatin1String("VideoOptionExtra/keyint");
+        });
+    QVERIFY(finding != preset.findings.end());
+    QCOMPARE(finding->verdict, taken.isEmpty() ? Finding::Lost : Finding::Kept);
 }
 
 QTEST_GUILESS_MAIN(TestPresetFile)
