@@ -107,19 +107,43 @@ while read -r subcommand; do
     [ -z "$(man --warnings -E UTF-8 -l -Tutf8 "$page" 2>&1 >/dev/null)" ] || fail "$page has mistakes"
 done <"$room/subcommands"
 
-# Each shell completes a preset's id, which it can only know from vexconvert.
+# Each shell completes a preset's id, which it can only know from vexconvert, subcommands and their
+# first words.
 export PATH=$prefix/bin:$PATH
 share=$prefix/share
 # shellcheck disable=SC2016 # the shells' own variables
-completed=(
-    "$(bash -c 'source "$1"; COMP_WORDS=(vexconvert show Video_MP4_00); COMP_CWORD=2; _vexconvert
-        printf "%s\n" "${COMPREPLY[@]}"' - "$share/bash-completion/completions/vexconvert")"
-    "$(fish -c 'source $argv[1]; complete -C "vexconvert show Video_MP4_00"' \
-        "$share/fish/vendor_completions.d/vexconvert.fish")"
-    "$(zsh -fc '_arguments() { eval "${@[-1]#*:argument:}"; }
-        compadd() { print -l $found; }; words=(vexconvert show Video); CURRENT=3; source $1' - \
-        "$share/zsh/vendor-completions/_vexconvert")"
-)
-for found in "${completed[@]}"; do
-    [[ $found == *Video_MP4_005* ]] || fail "a shell completes no ids but \"$found\""
-done
+in_bash() {
+    bash -c 'source "$1"; shift; COMP_WORDS=(vexconvert "$@"); COMP_CWORD=$#; _vexconvert
+        printf "%s\n" "${COMPREPLY[@]}"' - "$share/bash-completion/completions/vexconvert" "$@"
+}
+in_fish() {
+    fish -c 'source $argv[1]; complete -C "vexconvert $argv[2..-1]"' \
+        "$share/fish/vendor_completions.d/vexconvert.fish" "$@"
+}
+# The rules of _arguments end with those for the first argument and for the others, or with one.
+in_zsh() {
+    zsh -fc '_arguments() {
+            local rule=${@[-1]}
+            [[ $CURRENT != 2 || ${@[-2]} != 1:* ]] || rule=${@[-2]}
+            rule=${rule#*:a*:}
+            if [[ $rule == \(* ]]; then print -l ${=rule[2,-2]}; else eval "$rule"; fi
+        }
+        compadd() { print -l $found; }; file=$1; shift; words=(vexconvert "$@")
+        CURRENT=$#words; source $file' - "$share/zsh/vendor-completions/_vexconvert" "$@"
+}
+# completes WORD ARGUMENT...: what each shell offers after the arguments has the word.
+completes() {
+    local word=$1 shell found
+    shift
+    for shell in in_bash in_fish in_zsh; do
+        found=$("$shell" "$@")
+        grep -q "^$word\b" <<<"$found" || fail "$shell completes \"$*\" with no $word but \"$found\""
+    done
+}
+completes Video_MP4_005 show Video_MP4_00
+completes check-catalogue help che
+completes duplicate user dupl
+completes Video_MP4_005 user add Video_MP4_00
+vexconvert user add Video_MP4_005 --title Mine >"$room/added"
+completes 1001 user delete 10
+! in_bash user delete Video | grep -q Video || fail "presets that can't be deleted are completed"
