@@ -28,8 +28,8 @@ Result<> readTrackOptions(const Call &call, OutputSettings &settings)
         const QString text = call.options.value(option);
         const std::optional<TrackChoice> chosen = TrackChoice::fromText(text);
         if (!chosen) {
-            return wrongUsage(CommandLine::tr("--%1 takes a word such as all, or a language such "
-                                              "as de, not \"%2\"")
+            return wrongUsage(CommandLine::tr("--%1 takes a word such as all, a language such "
+                                              "as de, or numbers such as 1,3, not \"%2\"")
                                   .arg(option, text));
         }
         choice = *chosen;
@@ -37,7 +37,8 @@ Result<> readTrackOptions(const Call &call, OutputSettings &settings)
     };
     Result<> done = read(audioOption, settings.audioTracks);
     if (done && settings.audioTracks.kind == TrackChoice::None) {
-        done = wrongUsage(CommandLine::tr("--audio takes all, first or a language such as de"));
+        done = wrongUsage(CommandLine::tr("--audio takes all, first, a language such as de, or "
+                                          "numbers such as 1,3"));
     }
     if (done) {
         done = read(subtitlesOption, settings.subtitles);
@@ -106,12 +107,15 @@ QList<QCommandLineOption> mediaOptions()
     return {
         valueOption(audioOption,
                     CommandLine::tr("Audio tracks to write: all that the format holds (the "
-                                    "default), first, or those of a language."),
-                    CommandLine::tr("all|first|LANG")),
+                                    "default), first, those of a language, or those with these "
+                                    "numbers, from 1. With 1,3/3 players choose the third one by "
+                                    "themselves."),
+                    CommandLine::tr("all|first|LANG|N,N")),
         valueOption(subtitlesOption,
                     CommandLine::tr("Subtitles to write: all that the format holds (the default), "
-                                    "none, or those of a language."),
-                    CommandLine::tr("all|none|LANG")),
+                                    "none, those of a language, or those with these numbers. With "
+                                    "1,3/0 players show none by themselves."),
+                    CommandLine::tr("all|none|LANG|N,N")),
         valueOption(burnOption,
                     CommandLine::tr("Draw the subtitle track with this number, from 1, onto the "
                                     "picture."),

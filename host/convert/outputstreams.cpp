@@ -27,11 +27,36 @@ Result<> checkStreams(const VideoTrack *video, const QVector<AudioTrack> &audio,
                                 "--duration SECONDS shows it for so long"));
     }
     if (video == nullptr && audio.isEmpty()) {
-        return failed(Texts::tr("has no audio; choose a video preset"));
+        return target.settings.audioTracks.kind == TrackChoice::None
+                   ? failed(Texts::tr("none of its audio tracks is kept; keep one"))
+                   : failed(Texts::tr("has no audio; choose a video preset"));
     }
     if (video != nullptr && target.container.videoCodecs.isEmpty()) {
         return failed(Texts::tr("a .%1 file can't hold video; choose an audio preset")
                           .arg(target.settings.extension));
+    }
+    return {};
+}
+
+/*! Fails if a track is chosen that isn't there. */
+Result<> checkNumbers(const MediaFacts &source, const OutputSettings &settings)
+{
+    const auto missing = [](const TrackChoice &choice, int count) {
+        const bool isMissing = choice.kind == TrackChoice::Numbered && !choice.numbers.isEmpty() &&
+                               choice.numbers.constLast() > count;
+        return isMissing ? choice.numbers.constLast() : 0;
+    };
+    const int audio = missing(settings.audioTracks, source.audioTracks.size());
+    if (audio > 0) {
+        return failed(Texts::tr("has %1 audio tracks, so no number %2; choose another one")
+                          .arg(source.audioTracks.size())
+                          .arg(audio));
+    }
+    const int subtitles = missing(settings.subtitles, source.subtitleTracks.size());
+    if (subtitles > 0 && settings.hasVideo) {
+        return failed(Texts::tr("has %1 subtitle tracks, so no number %2; choose another one")
+                          .arg(source.subtitleTracks.size())
+                          .arg(subtitles));
     }
     return {};
 }
@@ -113,6 +138,13 @@ Result<> StreamCollector::addAudio(const QVector<AudioTrack> &audio)
         }
         map(track.index);
         m_codecs += plan->arguments(position);
+        if (m_target.settings.audioTracks.defaultNumber) {
+            const bool isDefault = m_target.settings.audioTracks.isDefault(track);
+            m_codecs +=
+                toArguments({{QStringLiteral("disposition"),
+                              isDefault ? QStringLiteral("+default") : QStringLiteral("-default")}},
+                            QStringLiteral("a:%1").arg(position));
+        }
         m_codecs += titleArguments(track, QStringLiteral("a:%1").arg(position), m_target.container);
     }
     return {};
@@ -161,8 +193,10 @@ Result<OutputStreams> OutputStreams::make(const MediaFacts &source, const Stream
 {
     const VideoTrack *video = target.settings.hasVideo ? source.video() : nullptr;
     const QVector<AudioTrack> audio = chosenAudio(source, target);
-    const Result<> possible =
-        checkStreams(video, audio, source.isStill() && target.settings.stillSeconds <= 0, target);
+    const Result<> possible = checkNumbers(source, target.settings).and_then([&] {
+        const bool isLoneStill = source.isStill() && target.settings.stillSeconds <= 0;
+        return checkStreams(video, audio, isLoneStill, target);
+    });
     if (!possible) {
         return failed(possible);
     }
@@ -191,11 +225,18 @@ QVector<AudioTrack> chosenAudio(const MediaFacts &source, const StreamTarget &ta
         return {};
     }
     const TrackChoice &choice = target.settings.audioTracks;
+    if (choice.kind == TrackChoice::None) {
+        return {};
+    }
     QVector<AudioTrack> chosen;
     std::copy_if(source.audioTracks.begin(), source.audioTracks.end(), std::back_inserter(chosen),
                  [&choice](const AudioTrack &track) { return choice.takes(track); });
     // No track may have the language, but the output must not be silent for that.
-    const AudioTrack usual = *source.audio();
+    const auto asked =
+        std::find_if(chosen.cbegin(), chosen.cend(), [&choice](const AudioTrack &track) {
+            return choice.defaultNumber && choice.isDefault(track);
+        });
+    const AudioTrack usual = asked == chosen.cend() ? *source.audio() : *asked;
     const bool takesUsual = chosen.isEmpty() || choice.takes(usual);
     if (choice.kind == TrackChoice::First || chosen.isEmpty() ||
         !target.container.holdsSeveralAudioTracks) {

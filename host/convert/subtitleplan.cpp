@@ -34,7 +34,7 @@ QVector<SubtitlePlan> subtitlePlans(const MediaFacts &source, const StreamTarget
         if (isWanted && holdsSubtitles(track, target.container)) {
             const bool isCopied = target.container.subtitleCodecs.contains(track.codec);
             QStringList flags;
-            if (track.isDefault) {
+            if (target.settings.subtitles.isDefault(track)) {
                 flags << QStringLiteral("default");
             }
             if (track.isForced) {

@@ -2,7 +2,8 @@
 
 #include <QRegularExpression>
 #include <QStringList>
-#include <QVector>
+
+#include <algorithm>
 
 namespace {
 
@@ -49,6 +50,30 @@ QStringList codesOf(const QString &language)
     return {code};
 }
 
+/*! Reads "1,3" and "1,3/3"; nullopt for anything else. */
+std::optional<TrackChoice> numberedFromText(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("\\A([1-9][0-9]{0,3}(?:,[1-9][0-9]{0,3})*)(?:/(0|[1-9][0-9]{0,3}))?\\z"));
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch()) {
+        return std::nullopt;
+    }
+    TrackChoice choice{TrackChoice::Numbered};
+    const QStringList numbers = match.captured(1).split(QLatin1Char(','));
+    for (const QString &number : numbers) {
+        if (!choice.numbers.contains(number.toInt())) {
+            choice.numbers.append(number.toInt());
+        }
+    }
+    std::sort(choice.numbers.begin(), choice.numbers.end());
+    if (match.capturedLength(2) > 0) {
+        choice.defaultNumber = match.captured(2).toInt();
+    }
+    const int number = choice.defaultNumber.value_or(0);
+    return number == 0 || choice.numbers.contains(number) ? std::optional(choice) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<TrackChoice> TrackChoice::fromText(const QString &text)
@@ -60,7 +85,7 @@ std::optional<TrackChoice> TrackChoice::fromText(const QString &text)
         }
     }
     return code.match(text).hasMatch() ? std::optional(TrackChoice{OfLanguage, text})
-                                       : std::nullopt;
+                                       : numberedFromText(text);
 }
 
 QString TrackChoice::text() const
@@ -70,11 +95,39 @@ QString TrackChoice::text() const
             return QLatin1String(word.text);
         }
     }
-    return language;
+    if (kind == OfLanguage) {
+        return language;
+    }
+    QStringList texts;
+    for (const int number : numbers) {
+        texts << QString::number(number);
+    }
+    const QString text = texts.join(QLatin1Char(','));
+    return defaultNumber ? text + QLatin1Char('/') + QString::number(*defaultNumber) : text;
 }
 
 bool TrackChoice::takes(const Track &track) const
 {
-    return kind != None &&
-           (kind != OfLanguage || codesOf(language).contains(codesOf(track.language).constFirst()));
+    switch (kind) {
+    case None:
+        return false;
+    case OfLanguage:
+        return codesOf(language).contains(codesOf(track.language).constFirst());
+    case Numbered:
+        return numbers.contains(track.number);
+    case All:
+    case First:
+        break;
+    }
+    return true;
+}
+
+bool TrackChoice::isDefault(const Track &track) const
+{
+    return defaultNumber ? track.number == *defaultNumber : track.isDefault;
+}
+
+QString usualLanguageCode(const QString &language)
+{
+    return codesOf(language).constFirst();
 }

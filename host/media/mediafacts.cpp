@@ -46,6 +46,13 @@ const AnyTrack *defaultOrFirst(const QVector<AnyTrack> &tracks, Wanted wanted)
 }
 
 template <typename AnyTrack>
+void append(QVector<AnyTrack> &tracks, AnyTrack track)
+{
+    track.number = tracks.size() + 1;
+    tracks.append(track);
+}
+
+template <typename AnyTrack>
 double longest(const QVector<AnyTrack> &tracks)
 {
     double seconds = 0;
@@ -91,11 +98,11 @@ MediaFacts MediaFacts::fromProbe(const QByteArray &json)
         const QJsonObject stream = value.toObject();
         const QString type = probeText(stream, QLatin1String("codec_type"));
         if (type == QLatin1String("video")) {
-            facts.videoTracks.append(videoTrackFromProbe(stream));
+            append(facts.videoTracks, videoTrackFromProbe(stream));
         } else if (type == QLatin1String("audio")) {
-            facts.audioTracks.append(audioTrackFromProbe(stream));
+            append(facts.audioTracks, audioTrackFromProbe(stream));
         } else if (type == QLatin1String("subtitle")) {
-            facts.subtitleTracks.append(subtitleTrackFromProbe(stream));
+            append(facts.subtitleTracks, subtitleTrackFromProbe(stream));
         } else if (type == QLatin1String("attachment")) {
             facts.attachments.append(attachmentFromProbe(stream));
         }

@@ -15,6 +15,7 @@
 struct Track
 {
     int index = -1;   //!< stream number in the file
+    int number = 0;   //!< among the file's tracks of its kind, from 1
     QString codec;    //!< for example "h264"
     QString codecTag; //!< the container's name for the codec, for example "hvc1"
     QString profile;  //!< for example "Main 10"

@@ -27,6 +27,9 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
                          sound(QStringLiteral("opus"), 2, 48000, 6),
                          sound(QStringLiteral("mp3"), 3, 22050, 1)};
         f.audioTracks[1].isDefault = true;
+        for (int i = 0; i < 3; ++i) {
+            f.audioTracks[i].number = i + 1;
+        }
     });
     const std::function<void(OutputSettings &)> allTracks = [](OutputSettings &s) {
         s.audioCodec = QStringLiteral("ac3");
@@ -39,6 +42,23 @@ void TestAudioPlan::theSoundIsAsAskedAndAsItsCodecAllows_data()
         "-c:a:1 ac3 -b:a:1 576k -c:a:2 ac3 -ar:a:2 32000 -b:a:2 96k -movflags +faststart -f mp4");
     row("all tracks where the file holds one", with(video("flv"), allTracks), dubbed,
         "-map 0:0 -map 0:2 -c:v:0 copy -c:a:0 ac3 -b:a:0 576k -f flv");
+    const auto chosen = [](const char *extension, const char *tracks) {
+        return with(video(extension), [tracks](OutputSettings &s) {
+            s.audioTracks = *TrackChoice::fromText(QString::fromLatin1(tracks));
+        });
+    };
+    row("the tracks with these numbers", chosen("mp4", "1,3"), dubbed,
+        "-map 0:0 -map 0:1 -map 0:3 -c:v:0 copy -c:a:0 copy -c:a:1 copy "
+        "-movflags +faststart -f mp4");
+    row("another default track", chosen("mp4", "2,3/3"), dubbed,
+        "-map 0:0 -map 0:2 -map 0:3 -c:v:0 copy -c:a:0 copy -disposition:a:0 -default "
+        "-c:a:1 copy -disposition:a:1 +default -movflags +faststart -f mp4");
+    row("the chosen default track where the file holds one", chosen("flv", "1,3/3"), dubbed,
+        "-map 0:0 -map 0:3 -c:v:0 copy -c:a:0 copy -disposition:a:0 +default -f flv");
+    row("the first chosen track where the default one isn't", chosen("flv", "1,3"), dubbed,
+        "-map 0:0 -map 0:1 -c:v:0 copy -c:a:0 copy -f flv");
+    row("no sound on demand", chosen("mp4", "none"), dubbed,
+        "-map 0:0 -c:v:0 copy -movflags +faststart -f mp4");
     row("a film without sound", video("mp4"),
         facts(film(), [](MediaFacts &f) { f.audioTracks.clear(); }),
         "-map 0:0 -c:v:0 copy -movflags +faststart -f mp4");

@@ -1,4 +1,3 @@
-#include "host/convert/trackchoice.h"
 #include "tests/host/convert/plannedcommand.h"
 
 using namespace PlannedCommand;
@@ -12,8 +11,6 @@ private Q_SLOTS:
     void subtitlesTravelAsTheContainerHoldsThem() { compareWithRow(); }
     void burnedSubtitlesAreDrawnOnThePicture_data();
     void burnedSubtitlesAreDrawnOnThePicture() { compareWithRow(); }
-    void aLanguageHasSeveralCodes_data();
-    void aLanguageHasSeveralCodes();
 };
 
 /*! The film with text in French, shown by default, and forced pictures in German. */
@@ -22,11 +19,13 @@ static MediaFacts subtitled()
     return facts(film(), [](MediaFacts &f) {
         SubtitleTrack text;
         text.index = 2;
+        text.number = 1;
         text.codec = QStringLiteral("subrip");
         text.language = QStringLiteral("fre");
         text.isDefault = true;
         SubtitleTrack pictures = text;
         pictures.index = 3;
+        pictures.number = 2;
         pictures.codec = QStringLiteral("hdmv_pgs_subtitle");
         pictures.language = QStringLiteral("ger");
         pictures.isDefault = false;
@@ -58,6 +57,15 @@ void TestSubtitlePlan::subtitlesTravelAsTheContainerHoldsThem_data()
         subtitled(),
         "-map 0:0 -map 0:1 -map 0:3 -c:v:0 copy -c:a:0 copy -c:s:0 copy "
         "-disposition:s:0 forced -default_mode infer_no_subs -f matroska");
+    row("those with these numbers, and none shown by itself",
+        with(video("mkv"),
+             [](OutputSettings &s) {
+                 s.subtitles = *TrackChoice::fromText(QStringLiteral("1,2/0"));
+             }),
+        subtitled(),
+        "-map 0:0 -map 0:1 -map 0:2 -map 0:3 -c:v:0 copy -c:a:0 copy -c:s:0 copy "
+        "-disposition:s:0 0 -c:s:1 copy -disposition:s:1 forced "
+        "-default_mode infer_no_subs -f matroska");
     row("none beside sound alone", audio("mka"), subtitled(), "-map 0:1 -c:a:0 copy -f matroska");
 }
 
@@ -81,30 +89,6 @@ void TestSubtitlePlan::burnedSubtitlesAreDrawnOnThePicture_data()
         "-map [drawn] -map 0:1 -map_metadata:s:v:0 0:s:0 -c:v:0 libx264 -fps_mode:v:0 vfr "
         "-pix_fmt:v:0 yuv420p -preset:v:0 medium "
         "-crf:v:0 21.5 -c:a:0 copy -movflags +faststart -f mp4");
-}
-
-void TestSubtitlePlan::aLanguageHasSeveralCodes_data()
-{
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<bool>("isTaken");
-    QTest::newRow("two letters") << QStringLiteral("de") << QStringLiteral("ger") << true;
-    QTest::newRow("the other three") << QStringLiteral("deu") << QStringLiteral("ger") << true;
-    QTest::newRow("a region") << QStringLiteral("pt-BR") << QStringLiteral("por") << true;
-    QTest::newRow("one without others") << QStringLiteral("tlh") << QStringLiteral("tlh") << true;
-    QTest::newRow("another one") << QStringLiteral("de") << QStringLiteral("dut") << false;
-    QTest::newRow("not told") << QStringLiteral("de") << QString() << false;
-}
-
-void TestSubtitlePlan::aLanguageHasSeveralCodes()
-{
-    QFETCH(QString, asked);
-    QFETCH(QString, language);
-    QFETCH(bool, isTaken);
-    Track track;
-    track.language = language;
-    QCOMPARE(TrackChoice::fromText(asked)->takes(track), isTaken);
-    QVERIFY(!TrackChoice::fromText(QStringLiteral("german")));
 }
 
 QTEST_GUILESS_MAIN(TestSubtitlePlan)

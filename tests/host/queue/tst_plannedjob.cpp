@@ -94,7 +94,7 @@ void TestPlannedJob::anInvalidLineIsRefused_data()
     const QString invalid =
         QStringLiteral("has an invalid value among its choices; make the plan again");
     QTest::newRow("negative start") << with("\"start\":1.5", "\"start\":-1") << invalid;
-    QTest::newRow("track") << with("\"subtitles\":\"none\"", "\"subtitles\":\"1\"") << invalid;
+    QTest::newRow("track") << with("\"subtitles\":\"none\"", "\"subtitles\":\"0\"") << invalid;
     QTest::newRow("other extension")
         << with("clip.a (2).mp4", "clip.mkv")
         << QStringLiteral("names a result that doesn't end with \".mp4\"; make the plan again");
