@@ -36,6 +36,7 @@ private:
     void takePickers();
     void takeDialogs();
     void takeTasks();
+    void takeTracks();
 
     QObject *picker() const;
     void openPicker();
@@ -83,6 +84,7 @@ Result<> Screenshots::takeAll(WindowSettings::ThemeChoice theme)
     showPage(0);
     takePickers();
     takeDialogs();
+    takeTracks();
     takeTasks();
     return m_result;
 }
@@ -186,6 +188,40 @@ void Screenshots::takeTasks()
     page.resume();
     waitUntil([this] { return !m_window.converter().isBusy(); });
     take(QStringLiteral("converter-done"));
+}
+
+void Screenshots::takeTracks()
+{
+    const QString words = m_work.filePath(QStringLiteral("words.srt"));
+    QFile file(words);
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write("1\n00:00:00,100 --> 00:00:00,900\nGood evening\n") < 0) {
+        m_result = failed(QStringLiteral("can't write %1; free some space").arg(words));
+        return;
+    }
+    file.close();
+    const QUrl film =
+        clip(QStringLiteral("Concert.mkv"),
+             QStringLiteral("-f lavfi -i gradients=size=1280x720:rate=30:duration=5:seed=7 "
+                            "-f lavfi -i sine=duration=5 -i %1 -map 0 -map 1 -map 1 -map 1 -map 2 "
+                            "-map 2 -c:v libx264 -preset ultrafast -c:a aac -ac:a:0 6 -c:s srt "
+                            "-metadata:s:a:0 language=eng -metadata:s:a:1 language=ger "
+                            "-metadata:s:a:2 language=eng -metadata:s:a:2 title=Commentary-of-the-"
+                            "director-the-conductor-and-the-first-violin-about-a-long-evening "
+                            "-metadata:s:s:0 language=eng -metadata:s:s:1 language=ger "
+                            "-disposition:s:1 forced")
+                 .arg(words));
+    Page &page = m_window.converter();
+    page.addFiles({film});
+    const int id = page.idAt(0);
+    waitUntil([&page, id] { return !page.tasks()->find(id)->thumbnail.isEmpty(); });
+    page.tracks()->keep(id, TaskTracks::Audio, 2, false);
+    page.tracks()->burn(id, 2);
+    page.tracks()->setOpen(id, true);
+    take(QStringLiteral("converter-tracks"));
+    m_window.converter().setConvertingListTaskFormat(id, QStringLiteral("Audio_MP3_002"));
+    take(QStringLiteral("converter-tracks-left-out"));
+    page.remove(id);
 }
 
 QObject *Screenshots::picker() const

@@ -23,6 +23,9 @@ const QLatin1String ownFormatsKey("ownFormats");
 const QLatin1String startKey("start");
 const QLatin1String endKey("end");
 const QLatin1String bytesKey("targetBytes");
+const QLatin1String audioKey("audioTracks");
+const QLatin1String subtitlesKey("subtitles");
+const QLatin1String burnedKey("burnedSubtitles");
 
 struct TextKey
 {
@@ -81,6 +84,11 @@ KeptTask taskFrom(const QJsonObject &entry)
     task.start = std::max(0.0, entry.value(startKey).toDouble());
     task.end = std::max(0.0, entry.value(endKey).toDouble());
     task.targetBytes = std::max(qint64(0), qint64(entry.value(bytesKey).toDouble()));
+    const auto choice = [&entry](QLatin1String key) {
+        return TrackChoice::fromText(entry.value(key).toString()).value_or(TrackChoice());
+    };
+    task.tracks = {choice(audioKey), choice(subtitlesKey),
+                   std::max(0, entry.value(burnedKey).toInt())};
     for (const TextKey &key : textKeys) {
         task.*key.text = entry.value(key.key).toString();
     }
@@ -103,6 +111,16 @@ QJsonObject toObject(const KeptTask &task)
     if (task.start > 0 || task.end > 0) {
         entry.insert(startKey, task.start);
         entry.insert(endKey, task.end);
+    }
+    const auto insertChoice = [&entry](QLatin1String key, const TrackChoice &choice) {
+        if (choice.kind != TrackChoice::All) {
+            entry.insert(key, choice.text());
+        }
+    };
+    insertChoice(audioKey, task.tracks.audio);
+    insertChoice(subtitlesKey, task.tracks.subtitles);
+    if (task.tracks.burnedSubtitles > 0) {
+        entry.insert(burnedKey, task.tracks.burnedSubtitles);
     }
     for (const TextKey &key : textKeys) {
         if (!(task.*key.text).isEmpty()) {

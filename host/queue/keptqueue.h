@@ -1,6 +1,7 @@
 #ifndef QUEUE_KEPTQUEUE_H
 #define QUEUE_KEPTQUEUE_H
 
+#include "host/convert/chosentracks.h"
 #include "host/error.h"
 
 #include <QByteArray>
@@ -21,6 +22,7 @@ struct KeptTask
     QString formatCaption = {};
     double start = 0; //!< seconds
     double end = 0;   //!< seconds; 0: the source's end
+    ChosenTracks tracks = {};
     Status status = Unconverted;
     QString error = {};     //!< Failed: why
     QString target = {};    //!< Converted: the new file

@@ -38,6 +38,7 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     , m_settings(settings)
     , m_formats(kind, settings, presets, m_tasks)
     , m_output(kind, settings, m_tasks, m_formats)
+    , m_tracks(m_tasks, [this](const Task &task) { return jobOf(task).settings; })
     , m_outlooks(presets, settings, [this](const Task &task) { return jobOf(task); })
     , m_runner(m_tasks, [this](const Task &task) { return jobOf(task); })
     , m_removals(m_tasks, m_inspector, m_runner)
@@ -77,7 +78,7 @@ void Page::setFolder(const QString &folder)
 }
 
 Outlook Page::outlook(int taskId, const QString & /*format*/, double /*start*/, double /*end*/,
-                      int /*version*/) const
+                      const QString & /*tracks*/, int /*version*/) const
 {
     const Task *task = m_tasks.find(taskId);
     return task == nullptr ? Outlook() : m_outlooks.of(*task);
@@ -246,6 +247,9 @@ ConversionJob Page::jobOf(const Task &task) const
     job.settings = m_formats.outputSettings(task);
     job.settings.start = task.start;
     job.settings.end = task.end;
+    job.settings.audioTracks = task.tracks.audio;
+    job.settings.subtitles = task.tracks.subtitles;
+    job.settings.burnedSubtitles = task.tracks.burnedSubtitles;
     job.target = m_output.targetFor(task);
     return job;
 }

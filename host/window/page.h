@@ -11,6 +11,7 @@
 #include "host/window/taskoutlooks.h"
 #include "host/window/taskremovals.h"
 #include "host/window/taskselection.h"
+#include "host/window/tasktracks.h"
 
 #include <QList>
 #include <QUrl>
@@ -30,6 +31,7 @@ class Page : public QObject
     Q_PROPERTY(QString folder READ folderText WRITE setFolder NOTIFY folderChanged)
     Q_PROPERTY(PageOutput *output READ output CONSTANT)
     Q_PROPERTY(TaskLogs *logs READ logs CONSTANT)
+    Q_PROPERTY(TaskTracks *tracks READ tracks CONSTANT)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY queueChanged)
     Q_PROPERTY(bool isPaused READ isPaused NOTIFY pauseChanged)
     Q_PROPERTY(bool canConvert READ canConvert NOTIFY queueChanged)
@@ -48,6 +50,7 @@ public:
     Offer *offer() { return &m_offer; }
     PageOutput *output() { return &m_output; }
     TaskLogs *logs() { return &m_logs; }
+    TaskTracks *tracks() { return &m_tracks; }
     QString globalCaption() const { return m_formats.globalCaption(); }
     QString globalIcon() const { return m_formats.globalIcon(); }
     /*! The output folder; empty: beside each source. */
@@ -81,7 +84,7 @@ public:
 
     /*! What the task's conversion will give. Bindings name all that it depends on. */
     Q_INVOKABLE Outlook outlook(int taskId, const QString &format, double start, double end,
-                                int version) const;
+                                const QString &tracks, int version) const;
     /*! The task's row; -1 if there is no such task. */
     Q_INVOKABLE int rowOf(int taskId) const { return m_tasks.rowOf(taskId); }
     /*! The task in this row; 0 if there is no such row. */
@@ -163,6 +166,7 @@ private:
     Offer m_offer;
     TaskFormats m_formats;
     PageOutput m_output;
+    TaskTracks m_tracks;
     TaskLogs m_logs;
     TaskOutlooks m_outlooks;
     int m_outlookVersion = 0;

@@ -29,6 +29,7 @@ void registerSingleton()
 int registerTypes()
 {
     qRegisterMetaType<Outlook>();
+    qRegisterMetaType<TrackLine>();
     registerSingleton<ExposedToolFun>();
     registerSingleton<ExposedDialogs>();
     registerSingleton<ExposedFileChooser>();
@@ -37,8 +38,9 @@ int registerTypes()
     registerSingleton<ExposedWindowSettings>();
     registerSingleton<ExposedConverterProxy>();
     registerSingleton<ExposedEditorProxy>();
-    qmlRegisterTypesAndRevisions<ExposedPage, ExposedPageOutput, ExposedTaskLogs, ExposedTaskList,
-                                 ExposedTaskSelection, ExposedOffer, ExposedDialogFrame>(module, 1);
+    qmlRegisterTypesAndRevisions<ExposedPage, ExposedPageOutput, ExposedTaskLogs, ExposedTaskTracks,
+                                 ExposedTaskList, ExposedTaskSelection, ExposedOffer,
+                                 ExposedDialogFrame>(module, 1);
     return qmlRegisterUncreatableMetaObject(Task::staticMetaObject, module, 1, 0,
                                             nameOf<ExposedTask>(),
                                             QStringLiteral("holds the states of a task"));

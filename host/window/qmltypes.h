@@ -102,6 +102,14 @@ struct ExposedTaskLogs
     QML_ANONYMOUS
 };
 
+struct ExposedTaskTracks
+{
+    Q_GADGET
+    QML_FOREIGN(TaskTracks)
+    QML_NAMED_ELEMENT(TaskTracks)
+    QML_UNCREATABLE("belongs to a page")
+};
+
 struct ExposedTaskList
 {
     Q_GADGET

@@ -51,6 +51,7 @@ KeptTask keptTask(const Task &task)
     kept.formatCaption = task.formatCaption;
     kept.start = task.start;
     kept.end = task.end;
+    kept.tracks = task.tracks;
     kept.status = statusOf(task.state);
     kept.error = task.error;
     kept.target = task.target;
@@ -69,6 +70,7 @@ Task restoredTask(const KeptTask &kept)
     task.formatCaption = kept.formatCaption;
     task.start = kept.start;
     task.end = kept.end;
+    task.tracks = kept.tracks;
     task.state = stateOf(kept.status);
     task.error = kept.error;
     task.target = kept.target;

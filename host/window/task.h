@@ -1,6 +1,7 @@
 #ifndef WINDOW_TASK_H
 #define WINDOW_TASK_H
 
+#include "host/convert/chosentracks.h"
 #include "host/convert/progress.h"
 #include "host/media/mediafacts.h"
 
@@ -47,7 +48,9 @@ public:
     QString note;           //!< Converted: what the new file lacks; empty if nothing
     double start = 0;
     double end = 0; //!< seconds; 0: the source's end
+    ChosenTracks tracks;
     bool isSelected = false;
+    bool isOpen = false; //!< its row shows the tracks
 
     [[nodiscard]] bool isQueued() const { return state == Waiting || state == Running; }
     [[nodiscard]] bool hasEnded() const { return state >= Converted; }

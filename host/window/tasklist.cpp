@@ -82,6 +82,12 @@ QVariant TaskList::data(const QModelIndex &index, int role) const
         return task.start;
     case EndRole:
         return task.end;
+    case TracksRole:
+        return QStringLiteral("%1 %2 %3")
+            .arg(task.tracks.audio.text(), task.tracks.subtitles.text())
+            .arg(task.tracks.burnedSubtitles);
+    case OpenRole:
+        return task.isOpen;
     case SelectedRole:
         return task.isSelected;
     }
@@ -112,6 +118,8 @@ QHash<int, QByteArray> TaskList::roleNames() const
         {NoteRole, "note"},
         {StartRole, "start"},
         {EndRole, "end"},
+        {TracksRole, "tracks"},
+        {OpenRole, "isOpen"},
         {SelectedRole, "isSelected"},
     };
 }
@@ -266,6 +274,14 @@ void TaskList::setSelected(int id, bool isSelected)
     const Task *task = find(id);
     if (task != nullptr && task->isSelected != isSelected) {
         change(id, [isSelected](Task &chosen) { chosen.isSelected = isSelected; }, {SelectedRole});
+    }
+}
+
+void TaskList::setOpen(int id, bool isOpen)
+{
+    const Task *task = find(id);
+    if (task != nullptr && task->isOpen != isOpen) {
+        change(id, [isOpen](Task &shown) { shown.isOpen = isOpen; }, {OpenRole});
     }
 }
 

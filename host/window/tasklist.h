@@ -41,6 +41,8 @@ public:
         NoteRole,
         StartRole,
         EndRole,
+        TracksRole, //!< what is chosen of them, as one text
+        OpenRole,   //!< whether the row shows the tracks
         SelectedRole,
     };
     explicit TaskList(QObject *parent = nullptr);
@@ -74,6 +76,7 @@ public:
     void setProgress(int id, const Progress &progress);
     void setThumbnail(int id, const QString &url);
     void setSelected(int id, bool isSelected);
+    void setOpen(int id, bool isOpen);
     /*! Makes an ended task ready again, unless its file can't be read. */
     void reopen(int id);
 
@@ -81,7 +84,7 @@ Q_SIGNALS:
     void countChanged();
     /*! setState() has changed a task. */
     void stateChanged();
-    /*! Anything but progress, thumbnails and the selection has changed. */
+    /*! Anything but progress, thumbnails, the selection and open rows has changed. */
     void edited();
 
 private:

@@ -55,6 +55,9 @@ QString TaskOutlooks::nearestTo(const Task &task) const
         OutputSettings settings = preset->outputSettings();
         settings.start = job.settings.start;
         settings.end = job.settings.end;
+        settings.audioTracks = job.settings.audioTracks;
+        settings.subtitles = job.settings.subtitles;
+        settings.burnedSubtitles = job.settings.burnedSubtitles;
         if (ffmpegArguments(settings, task.facts, m_encoders, job.source, QStringLiteral("part"))) {
             nearest = id;
             best = nearness;

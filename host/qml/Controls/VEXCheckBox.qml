@@ -43,7 +43,7 @@ T.CheckBox {
         leftPadding: 26
         text: root.text
         elide: Text.ElideNone
-        wrapMode: Text.WordWrap
+        wrapMode: Text.Wrap
         font.pixelSize: root.font.pixelSize
         color: root.enabled ? Theme.font_color_grade1 : Theme.font_color_disabled
         Accessible.ignored: true

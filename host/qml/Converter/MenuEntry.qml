@@ -8,12 +8,16 @@ MenuItem {
     id: root
 
     property string shortcutText
+    /*! Not whether it is visible, which no entry is before its menu opens. */
+    property bool isOffered: true
 
-    height: root.visible ? implicitHeight : 0
+    visible: root.isOffered
+    height: root.isOffered ? implicitHeight : 0
     implicitHeight: Theme.smallControlHeight
     implicitWidth: contentItem.implicitWidth + 2 * Theme.margin
     leftPadding: Theme.margin
     rightPadding: Theme.margin
+    activeFocusOnTab: root.isOffered && root.enabled // the keys pass over the others
     Accessible.name: root.text
 
     component Texts: Item {

@@ -10,12 +10,12 @@ Menu {
         let width = 160
         for (let i = 0; i < root.count; ++i) {
             const entry = root.itemAt(i)
-            width = Math.max(width, entry.visible ? entry.implicitWidth : 0)
+            width = Math.max(width, entry.isOffered ? entry.implicitWidth : 0)
         }
         return width
     }
 
-    onAboutToShow: root.width = root.widest()
+    onAboutToShow: root.width = root.widest() + root.leftPadding + root.rightPadding
     padding: 4
     delegate: MenuEntry {}
 

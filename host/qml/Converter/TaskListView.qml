@@ -110,7 +110,7 @@ ListView {
             root.page.selection.clear()
             event.accepted = true
         } else if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier) {
-            root.currentItem.menuWanted()
+            root.currentItem.openMenu()
             event.accepted = true
         }
     }
@@ -143,13 +143,15 @@ ListView {
                 root.select(row.taskId, modifiers)
             }
         }
-        onMenuWanted: {
+        onMenuWanted: function (place) {
             root.currentIndex = row.index
             if (!row.isSelected) {
                 root.page.selection.set(row.taskId)
             }
-            menu.openFor(row)
+            menu.openFor(row, place)
         }
+        // Once the row has its new height.
+        onOpened: Qt.callLater(root.positionViewAtIndex, row.index, ListView.Contain)
         onRemovalWanted: root.removeChosen(row.taskId)
         onDragged: function (y) { root.drag(y) }
         onDropped: root.drop(row.taskId)
@@ -186,16 +188,20 @@ ListView {
 
         property TaskRow row
 
-        function openFor(row) {
+        function openFor(row, place) {
             menu.row = row
             menu.taskId = row.taskId
             menu.taskState = row.taskState
             menu.hasOwnFormat = row.hasOwnFormat
+            menu.isOpen = row.isOpen
+            menu.canOpen = row.hasFacts
             menu.hasResult = row.result !== ""
-            menu.popup()
+            const there = root.mapFromItem(row, place)
+            menu.popup(root, there.x, there.y)
         }
 
         page: root.page
         onFormatWanted: menu.row.activate()
+        onTracksWanted: menu.row.setOpen(!menu.isOpen)
     }
 }

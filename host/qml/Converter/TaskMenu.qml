@@ -10,13 +10,16 @@ StyledMenu {
     property int taskState
     property bool hasOwnFormat
     property bool hasResult
+    property bool isOpen
+    property bool canOpen
     readonly property bool isQueued: root.taskState === Task.Waiting
                                      || root.taskState === Task.Running
 
     signal formatWanted()
+    signal tracksWanted()
 
     MenuEntry {
-        visible: !root.isQueued
+        isOffered: !root.isQueued
         enabled: root.taskState !== Task.Reading
         text: root.taskState === Task.Converted ? ToolFun.tr("Convert again")
                                                 : ToolFun.tr("Convert")
@@ -24,13 +27,13 @@ StyledMenu {
     }
 
     MenuEntry {
-        visible: root.isQueued
+        isOffered: root.isQueued
         text: ToolFun.tr("Stop")
         onTriggered: root.page.cancelChosen(root.taskId)
     }
 
     MenuEntry {
-        visible: root.hasResult
+        isOffered: root.hasResult
         text: ToolFun.tr("Play")
         onTriggered: root.page.play(root.taskId)
     }
@@ -41,7 +44,7 @@ StyledMenu {
     }
 
     MenuEntry {
-        visible: root.page === ConverterProxy
+        isOffered: root.page === ConverterProxy
         enabled: root.taskState !== Task.Reading
         text: ToolFun.tr("Cut in the editor")
         onTriggered: ConverterProxy.openInEditor(root.taskId)
@@ -61,10 +64,17 @@ StyledMenu {
     }
 
     MenuEntry {
-        visible: root.hasOwnFormat
+        isOffered: root.hasOwnFormat
         enabled: root.taskState !== Task.Running
         text: ToolFun.tr("Use the format for all")
         onTriggered: root.page.followChosen(root.taskId)
+    }
+
+    MenuEntry {
+        enabled: root.canOpen
+        text: root.isOpen ? ToolFun.tr("Hide tracks") : ToolFun.tr("Show tracks")
+        shortcutText: ToolFun.tr("Space")
+        onTriggered: root.tracksWanted()
     }
 
     MenuEntry {

@@ -17,8 +17,12 @@ Item {
     required property string result
     /*! What the conversion will give; null where that isn't known or no longer of interest. */
     required property var outlook
+    /*! Whether what the format leaves out is told here, not elsewhere. */
+    required property bool tellsLosses
 
     readonly property string problem: root.outlook === null ? "" : root.outlook.problem
+    readonly property string losses: root.outlook !== null && root.tellsLosses
+                                     ? root.outlook.losses : ""
     readonly property bool isBad: root.taskState === Task.Failed || root.problem !== ""
     readonly property bool isRunning: root.taskState === Task.Running
     readonly property string words: {
@@ -52,7 +56,7 @@ Item {
             return ""
         }
         const name = root.outlook.name === "" ? "" : "→ " + root.outlook.name
-        return root.joined([name, root.outlook.size, root.outlook.losses])
+        return root.joined([name, root.outlook.size, root.losses])
     }
 
     function runningWords() {
@@ -99,8 +103,7 @@ Item {
             verticalCenter: parent.verticalCenter
         }
         wrapMode: Text.Wrap
-        maximumLineCount: root.isBad || root.note !== ""
-                          || (root.outlook !== null && root.outlook.losses !== "") ? 2 : 1
+        maximumLineCount: root.isBad || root.note !== "" || root.losses !== "" ? 2 : 1
         text: root.words
         font.pixelSize: Theme.smallText
         color: root.isBad ? Theme.danger

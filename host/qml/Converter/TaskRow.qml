@@ -32,6 +32,8 @@ Rectangle {
     required property string note
     required property real start
     required property real end
+    required property string tracks
+    required property bool isOpen
     required property bool isSelected
 
     // One row of the list is a stop of the Tab key, with the controls in it.
@@ -41,20 +43,21 @@ Rectangle {
     readonly property var outlook:
         root.taskState === Task.Reading || root.isRunning || root.taskState === Task.Converted
         ? null : root.page.outlook(root.taskId, root.format, root.start, root.end,
-                                   root.page.outlookVersion)
+                                   root.tracks, root.page.outlookVersion)
 
     property bool isComplete: false
-    // The details are there once the file has been read.
-    readonly property bool lacksThumbnail: root.isComplete && root.details !== ""
+    readonly property bool hasFacts: root.details !== ""
+    readonly property bool lacksThumbnail: root.isComplete && root.hasFacts
                                            && root.thumbnail === ""
 
     signal formatClicked(Item button)
     signal pressed(int modifiers)
     signal released(int modifiers)
-    signal menuWanted()
+    signal menuWanted(point place)
     signal removalWanted()
     signal dragged(real y)
     signal dropped()
+    signal opened()
 
     function activate() {
         if (!root.isRunning) {
@@ -62,11 +65,27 @@ Rectangle {
         }
     }
 
+    /*! Shows the file's tracks, or hides them. */
+    function setOpen(isOpen) {
+        if (root.hasFacts) {
+            root.page.tracks.setOpen(root.taskId, isOpen)
+            root.opened()
+        }
+    }
+
+    /*! Opens the menu where the keyboard is, as the pointer may be anywhere. */
+    function openMenu() {
+        root.menuWanted(Qt.point(thumbnail.x + thumbnail.width / 2,
+                                 thumbnail.y + thumbnail.height / 2))
+    }
+
     function joined(texts, separator) {
         return texts.filter(Boolean).join(separator)
     }
 
-    implicitHeight: root.canCut ? 128 : 96
+    readonly property int closedHeight: root.canCut ? 128 : 96
+
+    implicitHeight: root.closedHeight + (details.active ? details.height + Theme.margin : 0)
     activeFocusOnTab: root.isCurrent || root.activeFocus
     radius: Theme.radius_2
     color: root.isSelected ? Theme.accentPale
@@ -85,9 +104,11 @@ Rectangle {
     Keys.enabled: root.activeFocus
     Keys.onReturnPressed: root.activate()
     Keys.onEnterPressed: root.activate()
-    Keys.onSpacePressed: root.activate()
+    Keys.onSpacePressed: root.setOpen(!root.isOpen)
+    Keys.onRightPressed: root.setOpen(true)
+    Keys.onLeftPressed: root.setOpen(false)
     Keys.onDeletePressed: root.removalWanted()
-    Keys.onMenuPressed: root.menuWanted()
+    Keys.onMenuPressed: root.openMenu()
 
     Component.onCompleted: root.isComplete = true
     onLacksThumbnailChanged: {
@@ -114,11 +135,13 @@ Rectangle {
     }
 
     TapHandler {
+        id: menuTap
+
         acceptedButtons: Qt.RightButton
         gesturePolicy: TapHandler.DragThreshold
         onTapped: {
             root.forceActiveFocus(Qt.MouseFocusReason)
-            root.menuWanted()
+            root.menuWanted(menuTap.point.position)
         }
     }
 
@@ -142,10 +165,27 @@ Rectangle {
         source: root.thumbnail
     }
 
-    Column {
+    VEXImageButton {
+        id: opener
+
         anchors {
             left: thumbnail.right
-            leftMargin: Theme.margin
+            leftMargin: 6
+            top: thumbnail.top
+            topMargin: 2
+        }
+        enabled: root.hasFacts
+        focusPolicy: root.isCurrent || activeFocus ? Qt.TabFocus : Qt.NoFocus
+        rotation: root.isOpen ? 0 : -90
+        iconSource: "qrc:/window/images/arrow_down.svg"
+        Accessible.name: root.isOpen ? ToolFun.tr("Hide tracks") : ToolFun.tr("Show tracks")
+        onClicked: root.setOpen(!root.isOpen)
+    }
+
+    Column {
+        anchors {
+            left: opener.right
+            leftMargin: 6
             right: formatButton.left
             rightMargin: Theme.wideMargin
             top: thumbnail.top
@@ -182,6 +222,7 @@ Rectangle {
             result: root.result
             note: root.note
             outlook: root.outlook
+            tellsLosses: !root.isOpen
         }
     }
 
@@ -253,6 +294,31 @@ Rectangle {
             end: root.end
             inTabOrder: root.isCurrent
             enabled: !root.isRunning && root.seconds > 0
+        }
+    }
+
+    Loader {
+        id: details
+
+        active: root.isOpen && root.hasFacts
+        anchors {
+            left: thumbnail.right
+            leftMargin: 28
+            right: parent.right
+            rightMargin: Theme.margin
+            top: parent.top
+            topMargin: root.closedHeight
+        }
+
+        sourceComponent: TaskDetails {
+            tracks: root.page.tracks
+            taskId: root.taskId
+            details: root.details
+            format: root.format
+            chosen: root.tracks
+            losses: root.outlook === null ? "" : root.outlook.losses
+            inTabOrder: root.isCurrent
+            enabled: !root.isRunning
         }
     }
 }

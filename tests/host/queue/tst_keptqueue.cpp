@@ -30,6 +30,8 @@ private Q_SLOTS:
     void initTestCase() { installFileNameCodec(); }
     void aTaskIsReadAsItWasWritten();
     void everyStatusIsKept();
+    void theChoiceOfTracksIsKept_data();
+    void theChoiceOfTracksIsKept();
     void pathsKeepEveryByte();
     void pagesAndTheirOrderAreKept();
     void entriesWithoutASourceAreLeftOut();
@@ -75,6 +77,30 @@ void TestKeptQueue::everyStatusIsKept()
     }
 }
 
+void TestKeptQueue::theChoiceOfTracksIsKept_data()
+{
+    QTest::addColumn<QString>("audio");
+    QTest::addColumn<QString>("subtitles");
+    QTest::addColumn<int>("burned");
+    QTest::newRow("all") << QStringLiteral("all") << QStringLiteral("all") << 0;
+    QTest::newRow("some") << QStringLiteral("1,3/3") << QStringLiteral("2/0") << 1;
+    QTest::newRow("none") << QStringLiteral("none") << QStringLiteral("none") << 0;
+}
+
+void TestKeptQueue::theChoiceOfTracksIsKept()
+{
+    QFETCH(QString, audio);
+    QFETCH(QString, subtitles);
+    QFETCH(int, burned);
+    KeptTask task;
+    task.source = QStringLiteral("/a");
+    task.tracks = {*TrackChoice::fromText(audio), *TrackChoice::fromText(subtitles), burned};
+    const ChosenTracks read = rewritten(task).tracks;
+    QCOMPARE(read.audio.text(), audio);
+    QCOMPARE(read.subtitles.text(), subtitles);
+    QCOMPARE(read.burnedSubtitles, burned);
+}
+
 void TestKeptQueue::pathsKeepEveryByte()
 {
     KeptTask task;
@@ -108,12 +134,15 @@ void TestKeptQueue::pagesAndTheirOrderAreKept()
 void TestKeptQueue::entriesWithoutASourceAreLeftOut()
 {
     const Result<KeptQueue> kept = KeptQueue::fromJson(
-        R"({"version":1,"pages":{"editor":[{},7,{"source":"/a","status":"strange","end":-1}]}})");
+        R"({"version":1,"pages":{"editor":[{},7,{"source":"/a","status":"strange","end":-1,)"
+        R"("audioTracks":"?","burnedSubtitles":-1}]}})");
     QVERIFY(kept);
     const QVector<KeptTask> tasks = kept->pages.value(QStringLiteral("editor"));
     QCOMPARE(tasks.size(), 1);
     QCOMPARE(tasks.constFirst().status, KeptTask::Unconverted);
     QCOMPARE(tasks.constFirst().end, 0.0);
+    QVERIFY(tasks.constFirst().tracks.audio == TrackChoice());
+    QCOMPARE(tasks.constFirst().tracks.burnedSubtitles, 0);
 }
 
 void TestKeptQueue::unusableFilesAreRefused_data()

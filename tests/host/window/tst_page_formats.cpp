@@ -90,7 +90,7 @@ void TestPageFormats::anImpossibleFormatIsNamedWithTheNearestPossibleOne()
     m_converter->setConverterGlobalFormat(flac);
     const int id = addReady(*m_converter, song());
     const auto outlook = [this, id] {
-        return m_converter->outlook(id, {}, 0, 0, m_converter->outlookVersion());
+        return m_converter->outlook(id, {}, 0, 0, {}, m_converter->outlookVersion());
     };
     QTRY_COMPARE_WITH_TIMEOUT(outlook().name, QStringLiteral("song.flac"), patience);
     QCOMPARE(outlook().problem, QString());

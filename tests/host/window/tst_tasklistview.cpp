@@ -1,116 +1,17 @@
-#include "host/app/languages.h"
-#include "host/window/mainwindow.h"
-#include "host/window/pageproxies.h"
-
-#include "tests/host/window/windowuser.h"
-#include "tests/support/mediaclips.h"
-#include "tests/support/patience.h"
-
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "tests/host/window/listviewtest.h"
 
 using namespace WindowUser;
 
-/*! The list of a page under mouse and keys. Its files are a.wav, b.wav and c.wav. */
-class TestTaskListView : public QObject
+/*! How rows are selected, moved and removed. */
+class TestTaskListView : public ListViewTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void aClickSelectsOneAndModifiersMore();
     void theKeysSelectMoveAndRemove();
     void aRowIsDraggedByItsGrip();
-
-private:
-    QQuickItem *row(const char *name) const;
-    void clickRow(const char *name, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    QString selected() const;
-    QString order() const;
-    ConverterProxy &page() const { return m_main->converter(); }
-
-    QTemporaryDir m_work;
-    std::unique_ptr<MainWindow> m_main;
-    QQuickWindow *m_window = nullptr;
 };
-
-void TestTaskListView::initTestCase()
-{
-    Languages::install(QStringLiteral("en"));
-    const QDir files(m_work.filePath(QStringLiteral("files")));
-    QVERIFY(files.mkpath(QStringLiteral("../results")));
-    QVERIFY(files.mkpath(QStringLiteral(".")));
-    for (const char *name : {"a.wav", "b.wav", "c.wav"}) {
-        QVERIFY(MediaClips::makeSong(files.filePath(QString::fromLatin1(name))));
-    }
-    collectWarnings();
-}
-
-void TestTaskListView::init()
-{
-    QFile::remove(m_work.filePath(QStringLiteral("config/queue.json")));
-    m_main = std::make_unique<MainWindow>(m_work.filePath(QStringLiteral("config")));
-    QVERIFY(m_main->open());
-    m_window = m_main->window();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
-    page().setFolder(m_work.filePath(QStringLiteral("results")));
-    page().addPaths({m_work.filePath(QStringLiteral("files"))});
-    QTRY_COMPARE_WITH_TIMEOUT(page().tasks()->countOf(Task::Ready), 3, patience);
-}
-
-void TestTaskListView::cleanup()
-{
-    m_main.reset();
-    QCOMPARE(takeWarnings(), QString());
-}
-
-QQuickItem *TestTaskListView::row(const char *name) const
-{
-    const QString beginning = QString::fromLatin1(name) + QStringLiteral(",");
-    const std::function<QQuickItem *(QQuickItem *)> find = [&](QQuickItem *root) -> QQuickItem * {
-        if (!root->isVisible() || nameOf(root).startsWith(beginning)) {
-            return root->isVisible() ? root : nullptr;
-        }
-        for (QQuickItem *child : root->childItems()) {
-            if (QQuickItem *found = find(child)) {
-                return found;
-            }
-        }
-        return nullptr;
-    };
-    return find(m_window->contentItem());
-}
-
-void TestTaskListView::clickRow(const char *name, Qt::KeyboardModifiers modifiers)
-{
-    QTRY_VERIFY_WITH_TIMEOUT(row(name) != nullptr, patience);
-    // On its name, which is no control.
-    const QPoint place = row(name)->mapToScene(QPointF(200, 26)).toPoint();
-    QTest::mouseClick(m_window, Qt::LeftButton, modifiers, place);
-}
-
-QString TestTaskListView::selected() const
-{
-    QString names;
-    for (const Task &task : page().tasks()->tasks()) {
-        names += task.isSelected ? QFileInfo(task.source).baseName() : QString();
-    }
-    return names;
-}
-
-QString TestTaskListView::order() const
-{
-    QString names;
-    for (const Task &task : page().tasks()->tasks()) {
-        names += QFileInfo(task.source).baseName();
-    }
-    return names;
-}
 
 void TestTaskListView::aClickSelectsOneAndModifiersMore()
 {
