@@ -30,6 +30,8 @@ int registerTypes()
 {
     qRegisterMetaType<Outlook>();
     qRegisterMetaType<TrackLine>();
+    // Otherwise QML can't call what takes one: Task is no QObject.
+    qRegisterMetaType<Task::SortKey>("Task::SortKey");
     registerSingleton<ExposedToolFun>();
     registerSingleton<ExposedDialogs>();
     registerSingleton<ExposedFileChooser>();
