@@ -1,14 +1,10 @@
 #include "host/convert/burnedsubtitles.h"
 
-#include <QCoreApplication>
+#include "host/convert/subtitleplan.h"
+
 #include <QFileInfo>
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(BurnedSubtitles)
-};
 
 QString withBackslashes(const QString &text, const QString &special)
 {
@@ -38,10 +34,8 @@ Result<QString> burnFilter(const MediaFacts &source, const OutputSettings &setti
     if (number == 0) {
         return QString();
     }
-    if (number > source.subtitleTracks.size()) {
-        return failed(Texts::tr("has %1 subtitle tracks, so no number %2; choose another one")
-                          .arg(source.subtitleTracks.size())
-                          .arg(number));
+    if (const Result<> found = checkSubtitles(source, number); !found) {
+        return failed(found);
     }
     const SubtitleTrack &track = source.subtitleTracks.at(number - 1);
     const VideoTrack *picture = source.video();

@@ -38,27 +38,23 @@ Result<> checkStreams(const VideoTrack *video, const QVector<AudioTrack> &audio,
     return {};
 }
 
+/*! The highest number that is chosen; 0: none is. */
+int highestNumber(const TrackChoice &choice)
+{
+    return choice.numbers.isEmpty() ? 0 : choice.numbers.constLast();
+}
+
 /*! Fails if a track is chosen that isn't there. */
 Result<> checkNumbers(const MediaFacts &source, const OutputSettings &settings)
 {
-    const auto missing = [](const TrackChoice &choice, int count) {
-        const bool isMissing = choice.kind == TrackChoice::Numbered && !choice.numbers.isEmpty() &&
-                               choice.numbers.constLast() > count;
-        return isMissing ? choice.numbers.constLast() : 0;
-    };
-    const int audio = missing(settings.audioTracks, source.audioTracks.size());
-    if (audio > 0) {
+    const int audio = highestNumber(settings.audioTracks);
+    if (audio > source.audioTracks.size()) {
         return failed(Texts::tr("has %1 audio tracks, so no number %2; choose another one")
                           .arg(source.audioTracks.size())
                           .arg(audio));
     }
-    const int subtitles = missing(settings.subtitles, source.subtitleTracks.size());
-    if (subtitles > 0 && settings.hasVideo) {
-        return failed(Texts::tr("has %1 subtitle tracks, so no number %2; choose another one")
-                          .arg(source.subtitleTracks.size())
-                          .arg(subtitles));
-    }
-    return {};
+    return settings.hasVideo ? checkSubtitles(source, highestNumber(settings.subtitles))
+                             : Result<>();
 }
 
 /*! For containers that store titles only as handler names. */

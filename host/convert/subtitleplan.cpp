@@ -1,8 +1,14 @@
 #include "host/convert/subtitleplan.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(SubtitlePlan)
+};
 
 /*! Text codecs that ffmpeg can convert to others. */
 bool isConvertibleText(const QString &codec)
@@ -45,6 +51,16 @@ QVector<SubtitlePlan> subtitlePlans(const MediaFacts &source, const StreamTarget
         }
     }
     return plans;
+}
+
+Result<> checkSubtitles(const MediaFacts &source, int number)
+{
+    const int count = source.subtitleTracks.size();
+    return number <= count
+               ? Result<>()
+               : failed(Texts::tr("has %1 subtitle tracks, so no number %2; choose another one")
+                            .arg(count)
+                            .arg(number));
 }
 
 QStringList SubtitlePlan::arguments(int position) const

@@ -22,4 +22,7 @@ struct SubtitlePlan
 /*! Whether the container can hold the track, as it is or converted to another text codec. */
 [[nodiscard]] bool holdsSubtitles(const SubtitleTrack &track, const Container &container);
 
+/*! Fails if the source has fewer subtitle tracks than \a number. */
+[[nodiscard]] Result<> checkSubtitles(const MediaFacts &source, int number);
+
 #endif

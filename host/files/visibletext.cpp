@@ -1,5 +1,9 @@
 #include "host/files/visibletext.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace {
 
 bool changesDirection(QChar character)
@@ -41,4 +45,19 @@ QString visibleText(const QString &text)
         }
     }
     return shown;
+}
+
+QString isolated(const QString &text)
+{
+    const bool isMixed = std::any_of(text.begin(), text.end(), [](QChar character) {
+        return character.direction() == QChar::DirR || character.direction() == QChar::DirAL;
+    });
+    constexpr ushort firstStrongIsolate = 0x2068;
+    constexpr ushort popDirectionalIsolate = 0x2069;
+    return isMixed ? QChar(firstStrongIsolate) + text + QChar(popDirectionalIsolate) : text;
+}
+
+QString visibleName(const QString &path)
+{
+    return isolated(visibleText(QFileInfo(path).fileName()));
 }

@@ -13,4 +13,11 @@
 /*! The text as a line to show, with U+FFFD for each code unit that isn't visible. */
 [[nodiscard]] QString visibleText(const QString &text);
 
+/*! A visible text for the middle of a sentence or a line of details: one in a right-to-left script
+ *  is marked as a unit, so that neither its order nor that of what follows changes. */
+[[nodiscard]] QString isolated(const QString &text);
+
+/*! The file's name without its folder, visible and isolated. */
+[[nodiscard]] QString visibleName(const QString &path);
+
 #endif

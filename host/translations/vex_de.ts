@@ -1163,6 +1163,66 @@
         <source>Use %1</source>
         <translation>%1 nehmen</translation>
     </message>
+    <message>
+        <source>Audio tracks</source>
+        <translation>Tonspuren</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>No audio tracks or subtitles</source>
+        <translation>Keine Tonspuren oder Untertitel</translation>
+    </message>
+    <message>
+        <source>Default track</source>
+        <translation>Standardspur</translation>
+    </message>
+    <message>
+        <source>Default track: %1</source>
+        <translation>Standardspur: %1</translation>
+    </message>
+    <message>
+        <source>Burn in</source>
+        <translation>Einbrennen</translation>
+    </message>
+    <message>
+        <source>Burn in: %1</source>
+        <translation>Einbrennen: %1</translation>
+    </message>
+    <message>
+        <source>Draws these subtitles onto the picture</source>
+        <translation>Zeichnet diese Untertitel ins Bild</translation>
+    </message>
+    <message>
+        <source>Show tracks</source>
+        <translation>Spuren zeigen</translation>
+    </message>
+    <message>
+        <source>Hide tracks</source>
+        <translation>Spuren ausblenden</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>not in .%1</source>
+        <translation>nicht in .%1</translation>
+    </message>
+    <message>
+        <source>forced</source>
+        <translation>erzwungen</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 Kanäle</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1181,6 +1241,14 @@
     <message>
         <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
         <translation>ist ein einzelnes Bild und ergibt keinen Film; auf der Befehlszeile zeigt --duration SECONDS es so lange</translation>
+    </message>
+    <message>
+        <source>has %1 audio tracks, so no number %2; choose another one</source>
+        <translation>enthält %1 Tonspuren, also keine Nummer %2; wählen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>none of its audio tracks is kept; keep one</source>
+        <translation>keine seiner Tonspuren wird behalten; behalten Sie eine</translation>
     </message>
 </context>
 <context>
@@ -1498,7 +1566,7 @@
     </message>
 </context>
 <context>
-    <name>BurnedSubtitles</name>
+    <name>SubtitlePlan</name>
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>enthält %1 Untertitelspuren, also keine Nummer %2; wählen Sie eine andere</translation>

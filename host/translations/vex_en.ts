@@ -1163,5 +1163,65 @@
         <source>Use %1</source>
         <translation>Use %1</translation>
     </message>
+    <message>
+        <source>Audio tracks</source>
+        <translation>Audio tracks</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>Subtitles</translation>
+    </message>
+    <message>
+        <source>No audio tracks or subtitles</source>
+        <translation>No audio tracks or subtitles</translation>
+    </message>
+    <message>
+        <source>Default track</source>
+        <translation>Default track</translation>
+    </message>
+    <message>
+        <source>Default track: %1</source>
+        <translation>Default track: %1</translation>
+    </message>
+    <message>
+        <source>Burn in</source>
+        <translation>Burn in</translation>
+    </message>
+    <message>
+        <source>Burn in: %1</source>
+        <translation>Burn in: %1</translation>
+    </message>
+    <message>
+        <source>Draws these subtitles onto the picture</source>
+        <translation>Draws these subtitles onto the picture</translation>
+    </message>
+    <message>
+        <source>Show tracks</source>
+        <translation>Show tracks</translation>
+    </message>
+    <message>
+        <source>Hide tracks</source>
+        <translation>Hide tracks</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>not in .%1</source>
+        <translation>not in .%1</translation>
+    </message>
+    <message>
+        <source>forced</source>
+        <translation>forced</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 channels</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 </TS>

@@ -1163,6 +1163,66 @@
         <source>Use %1</source>
         <translation>Usar %1</translation>
     </message>
+    <message>
+        <source>Audio tracks</source>
+        <translation>Pistas de audio</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>Subtítulos</translation>
+    </message>
+    <message>
+        <source>No audio tracks or subtitles</source>
+        <translation>Sin pistas de audio ni subtítulos</translation>
+    </message>
+    <message>
+        <source>Default track</source>
+        <translation>Predeterminada</translation>
+    </message>
+    <message>
+        <source>Default track: %1</source>
+        <translation>Predeterminada: %1</translation>
+    </message>
+    <message>
+        <source>Burn in</source>
+        <translation>Incrustar</translation>
+    </message>
+    <message>
+        <source>Burn in: %1</source>
+        <translation>Incrustar: %1</translation>
+    </message>
+    <message>
+        <source>Draws these subtitles onto the picture</source>
+        <translation>Dibuja estos subtítulos en la imagen</translation>
+    </message>
+    <message>
+        <source>Show tracks</source>
+        <translation>Mostrar pistas</translation>
+    </message>
+    <message>
+        <source>Hide tracks</source>
+        <translation>Ocultar pistas</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>not in .%1</source>
+        <translation>no cabe en .%1</translation>
+    </message>
+    <message>
+        <source>forced</source>
+        <translation>forzados</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 canales</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1181,6 +1241,14 @@
     <message>
         <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
         <translation>es una sola imagen y no da una película; en la línea de órdenes, --duration SECONDS la muestra ese tiempo</translation>
+    </message>
+    <message>
+        <source>has %1 audio tracks, so no number %2; choose another one</source>
+        <translation>tiene %1 pistas de audio, así que ninguna número %2; elija otra</translation>
+    </message>
+    <message>
+        <source>none of its audio tracks is kept; keep one</source>
+        <translation>no se conserva ninguna de sus pistas de audio; conserve una</translation>
     </message>
 </context>
 <context>
@@ -1498,7 +1566,7 @@
     </message>
 </context>
 <context>
-    <name>BurnedSubtitles</name>
+    <name>SubtitlePlan</name>
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>tiene %1 pistas de subtítulos, así que ninguna número %2; elija otra</translation>

@@ -993,11 +993,11 @@
     </message>
     <message>
         <source>%1 % smaller</source>
-        <translation>%1 % plus petit</translation>
+        <translation>%1 % plus petit</translation>
     </message>
     <message>
         <source>%1 % larger</source>
-        <translation>%1 % plus grand</translation>
+        <translation>%1 % plus grand</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1163,6 +1163,66 @@
         <source>Use %1</source>
         <translation>Utiliser %1</translation>
     </message>
+    <message>
+        <source>Audio tracks</source>
+        <translation>Pistes audio</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>Sous-titres</translation>
+    </message>
+    <message>
+        <source>No audio tracks or subtitles</source>
+        <translation>Ni pistes audio ni sous-titres</translation>
+    </message>
+    <message>
+        <source>Default track</source>
+        <translation>Piste par défaut</translation>
+    </message>
+    <message>
+        <source>Default track: %1</source>
+        <translation>Piste par défaut : %1</translation>
+    </message>
+    <message>
+        <source>Burn in</source>
+        <translation>Incruster</translation>
+    </message>
+    <message>
+        <source>Burn in: %1</source>
+        <translation>Incruster : %1</translation>
+    </message>
+    <message>
+        <source>Draws these subtitles onto the picture</source>
+        <translation>Dessine ces sous-titres sur l’image</translation>
+    </message>
+    <message>
+        <source>Show tracks</source>
+        <translation>Afficher les pistes</translation>
+    </message>
+    <message>
+        <source>Hide tracks</source>
+        <translation>Masquer les pistes</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>not in .%1</source>
+        <translation>absent de .%1</translation>
+    </message>
+    <message>
+        <source>forced</source>
+        <translation>forcés</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 canaux</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1181,6 +1241,14 @@
     <message>
         <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
         <translation>est une seule image et ne fait pas un film ; en ligne de commande, --duration SECONDS la montre aussi longtemps</translation>
+    </message>
+    <message>
+        <source>has %1 audio tracks, so no number %2; choose another one</source>
+        <translation>contient %1 pistes audio, donc pas de numéro %2 ; choisissez-en une autre</translation>
+    </message>
+    <message>
+        <source>none of its audio tracks is kept; keep one</source>
+        <translation>aucune de ses pistes audio n’est gardée ; gardez-en une</translation>
     </message>
 </context>
 <context>
@@ -1498,7 +1566,7 @@
     </message>
 </context>
 <context>
-    <name>BurnedSubtitles</name>
+    <name>SubtitlePlan</name>
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>contient %1 pistes de sous-titres, donc pas de numéro %2 ; choisissez-en une autre</translation>

@@ -1163,6 +1163,66 @@
         <source>Use %1</source>
         <translation>%1 を使う</translation>
     </message>
+    <message>
+        <source>Audio tracks</source>
+        <translation>音声トラック</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>No audio tracks or subtitles</source>
+        <translation>音声トラックも字幕もありません</translation>
+    </message>
+    <message>
+        <source>Default track</source>
+        <translation>既定のトラック</translation>
+    </message>
+    <message>
+        <source>Default track: %1</source>
+        <translation>既定のトラック: %1</translation>
+    </message>
+    <message>
+        <source>Burn in</source>
+        <translation>焼き込む</translation>
+    </message>
+    <message>
+        <source>Burn in: %1</source>
+        <translation>焼き込む: %1</translation>
+    </message>
+    <message>
+        <source>Draws these subtitles onto the picture</source>
+        <translation>この字幕を映像に描き込みます</translation>
+    </message>
+    <message>
+        <source>Show tracks</source>
+        <translation>トラックを表示</translation>
+    </message>
+    <message>
+        <source>Hide tracks</source>
+        <translation>トラックを隠す</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>not in .%1</source>
+        <translation>.%1 には入りません</translation>
+    </message>
+    <message>
+        <source>forced</source>
+        <translation>強制</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 チャンネル</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1181,6 +1241,14 @@
     <message>
         <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
         <translation>1 枚の画像なので映像になりません。コマンドラインの --duration SECONDS でその秒数だけ表示できます</translation>
+    </message>
+    <message>
+        <source>has %1 audio tracks, so no number %2; choose another one</source>
+        <translation>音声トラックは %1 本で %2 番はありません。別の番号を選んでください</translation>
+    </message>
+    <message>
+        <source>none of its audio tracks is kept; keep one</source>
+        <translation>残す音声トラックがありません。1 本を残してください</translation>
     </message>
 </context>
 <context>
@@ -1498,7 +1566,7 @@
     </message>
 </context>
 <context>
-    <name>BurnedSubtitles</name>
+    <name>SubtitlePlan</name>
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>字幕トラックは %1 本で %2 番はありません。別の番号を選んでください</translation>

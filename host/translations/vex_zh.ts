@@ -1163,6 +1163,66 @@
         <source>Use %1</source>
         <translation>使用 %1</translation>
     </message>
+    <message>
+        <source>Audio tracks</source>
+        <translation>音轨</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>No audio tracks or subtitles</source>
+        <translation>没有音轨或字幕</translation>
+    </message>
+    <message>
+        <source>Default track</source>
+        <translation>默认轨</translation>
+    </message>
+    <message>
+        <source>Default track: %1</source>
+        <translation>默认轨：%1</translation>
+    </message>
+    <message>
+        <source>Burn in</source>
+        <translation>烧录</translation>
+    </message>
+    <message>
+        <source>Burn in: %1</source>
+        <translation>烧录：%1</translation>
+    </message>
+    <message>
+        <source>Draws these subtitles onto the picture</source>
+        <translation>把此字幕绘制到画面上</translation>
+    </message>
+    <message>
+        <source>Show tracks</source>
+        <translation>显示轨道</translation>
+    </message>
+    <message>
+        <source>Hide tracks</source>
+        <translation>隐藏轨道</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>not in .%1</source>
+        <translation>不存入 .%1</translation>
+    </message>
+    <message>
+        <source>forced</source>
+        <translation>强制</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 声道</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
@@ -1181,6 +1241,14 @@
     <message>
         <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>
         <translation>是单张图片，不能成为影片；可在命令行用 --duration SECONDS 指定显示秒数</translation>
+    </message>
+    <message>
+        <source>has %1 audio tracks, so no number %2; choose another one</source>
+        <translation>有 %1 条音轨，没有第 %2 条；请选择其他音轨</translation>
+    </message>
+    <message>
+        <source>none of its audio tracks is kept; keep one</source>
+        <translation>没有保留任何音轨；请保留一条</translation>
     </message>
 </context>
 <context>
@@ -1498,7 +1566,7 @@
     </message>
 </context>
 <context>
-    <name>BurnedSubtitles</name>
+    <name>SubtitlePlan</name>
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
         <translation>有 %1 条字幕轨，没有第 %2 条；请选择其他字幕轨</translation>

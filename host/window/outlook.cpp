@@ -8,8 +8,6 @@
 #include "host/window/tasktexts.h"
 #include "host/window/toolfun.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 
 namespace {
@@ -47,8 +45,7 @@ QString nameOf(const ConversionJob &job)
     OutputTarget target = job.target;
     target.kept = nullptr; // nothing is promised yet
     OutputName name(job.source, target, job.settings.extension);
-    return name.isComplete() && name.choose() ? visibleText(QFileInfo(name.path()).fileName())
-                                              : QString();
+    return name.isComplete() && name.choose() ? visibleName(name.path()) : QString();
 }
 
 } // namespace

@@ -5,9 +5,9 @@
 #include "host/window/addedfiles.h"
 #include "host/window/openfile.h"
 #include "host/window/restoredtask.h"
+#include "host/window/tasktexts.h"
 #include "host/window/toolfun.h"
 
-#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -18,8 +18,9 @@ namespace {
 /*! "song.wav" for one file, else how many they are. */
 QString namesOf(const QStringList &paths)
 {
-    return paths.size() == 1 ? visibleText(QFileInfo(paths.constFirst()).fileName())
-                             : ToolFun::text(QStringLiteral("%1 files")).arg(paths.size());
+    return paths.size() == 1
+               ? visibleName(paths.constFirst())
+               : ToolFun::text(QStringLiteral("%1 files")).arg(countText(paths.size()));
 }
 
 QStringList pathsOf(const QVector<SourceFile> &files)

@@ -83,7 +83,8 @@ QString PageOutput::preview(const QString &nameTemplate) const
     NameTemplate name = NameTemplate::fromText(nameTemplate, nameFields())
                             .value_or(NameTemplate::literal(baseNameOf(task.source)));
     fillName(name, {task.source, m_formats.presetId(task), 1, qMax(1, all.size())});
-    return visibleText(name.text() + QLatin1Char('.') + m_formats.outputSettings(task).extension);
+    return isolated(
+        visibleText(name.text() + QLatin1Char('.') + m_formats.outputSettings(task).extension));
 }
 
 bool PageOutput::prepare(const QVector<int> &taskIds)
@@ -147,7 +148,7 @@ QStringList PageOutput::namesInUse(const QSet<int> &taskIds) const
         target.kept = nullptr; // an earlier run's
         OutputName name(task.source, target, m_formats.outputSettings(task).extension);
         if (name.isComplete() && name.choose() && isTaken(name.path())) {
-            names << visibleText(QFileInfo(name.path()).fileName());
+            names << visibleName(name.path());
         }
     }
     return names;

@@ -1,7 +1,6 @@
 #include "host/window/tasklist.h"
 
 #include "host/files/visibletext.h"
-#include "host/media/clocktext.h"
 #include "host/window/tasktexts.h"
 
 #include <QFileInfo>
@@ -66,10 +65,8 @@ QVariant TaskList::data(const QModelIndex &index, int role) const
         return int(task.state);
     case PercentRole:
         return task.progress.percent();
-    case SpeedRole:
-        return task.progress.speed;
-    case TimeLeftRole:
-        return task.progress.timeLeft() < 0 ? QString() : clockText(task.progress.timeLeft());
+    case RunningRole:
+        return runningText(task.progress);
     case ErrorRole:
         return visibleText(task.error);
     case TargetRole:
@@ -110,8 +107,7 @@ QHash<int, QByteArray> TaskList::roleNames() const
         {OwnFormatRole, "hasOwnFormat"},
         {StateRole, "taskState"},
         {PercentRole, "percent"},
-        {SpeedRole, "speed"},
-        {TimeLeftRole, "timeLeft"},
+        {RunningRole, "running"},
         {ErrorRole, "error"},
         {TargetRole, "target"},
         {ResultRole, "result"},
@@ -260,8 +256,7 @@ void TaskList::setState(int id, Task::State state)
 
 void TaskList::setProgress(int id, const Progress &progress)
 {
-    change(id, [&progress](Task &task) { task.progress = progress; },
-           {PercentRole, SpeedRole, TimeLeftRole});
+    change(id, [&progress](Task &task) { task.progress = progress; }, {PercentRole, RunningRole});
 }
 
 void TaskList::setThumbnail(int id, const QString &url)

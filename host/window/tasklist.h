@@ -33,8 +33,7 @@ public:
         OwnFormatRole, //!< whether the format was chosen for this file
         StateRole,     //!< a Task::State
         PercentRole,   //!< 0 to 100; -1 when unknown
-        SpeedRole,     //!< times real time; 0 when unknown
-        TimeLeftRole,  //!< clock text; empty when unknown
+        RunningRole,   //!< how far the conversion is, in words
         ErrorRole,
         TargetRole,
         ResultRole, //!< name and size of the new file; empty if there is none

@@ -1,6 +1,7 @@
 #include "host/window/taskrunner.h"
 
 #include "host/media/clocktext.h"
+#include "host/window/tasktexts.h"
 #include "host/window/toolfun.h"
 
 #include <algorithm>
@@ -26,8 +27,8 @@ QString TaskRunner::text() const
     if (m_progress.isEmpty()) {
         return {};
     }
-    QStringList parts = {
-        ToolFun::text(QStringLiteral("%1 of %2")).arg(m_progress.ended()).arg(m_progress.total())};
+    QStringList parts = {ToolFun::text(QStringLiteral("%1 of %2"))
+                             .arg(countText(m_progress.ended()), countText(m_progress.total()))};
     const double left = m_progress.secondsLeft();
     if (isPaused()) {
         parts << ToolFun::text(QStringLiteral("Paused"));

@@ -4,7 +4,6 @@
 #include "host/media/clocktext.h"
 #include "host/window/toolfun.h"
 
-#include <QFileInfo>
 #include <QLocale>
 
 #include <cmath>
@@ -29,7 +28,31 @@ QString comparison(double bytes, double before)
 
 QString sizeText(double bytes)
 {
-    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeTraditionalFormat);
+    QString text =
+        QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeTraditionalFormat);
+    // French writes a narrow space there, as in its numbers, at which no line ends.
+    return QLocale().language() == QLocale::French ? text.replace(QLatin1Char(' '), QChar(0x202F))
+                                                   : text;
+}
+
+QString countText(int count)
+{
+    return QLocale().toString(count);
+}
+
+QString runningText(const Progress &progress)
+{
+    const int percent = progress.percent();
+    QStringList parts = {percent < 0 ? ToolFun::text(QStringLiteral("Converting …"))
+                                     : ToolFun::text(QStringLiteral("%1 %")).arg(percent)};
+    if (progress.speed > 0) {
+        const int digits = progress.speed < 10 ? 1 : 0;
+        parts << QLocale().toString(progress.speed, 'f', digits) + QStringLiteral("×");
+    }
+    if (progress.timeLeft() >= 0) {
+        parts << ToolFun::text(QStringLiteral("%1 left")).arg(clockText(progress.timeLeft()));
+    }
+    return parts.join(separator);
 }
 
 QString detailsOf(const MediaFacts &facts)
@@ -65,7 +88,7 @@ QString resultOf(const Task &task)
     if (task.target.isEmpty()) {
         return {};
     }
-    QString result = visibleText(QFileInfo(task.target).fileName());
+    QString result = visibleName(task.target);
     if (task.targetBytes > 0) {
         result += separator + sizeText(double(task.targetBytes));
         // A part of the source can't be compared to all of it.

@@ -45,7 +45,7 @@ QString channelsOf(const AudioTrack &track)
 
 QString lineText(const Track &track, const QString &kind)
 {
-    QStringList parts = {languageName(track.language), kind, visibleText(track.title)};
+    QStringList parts = {languageName(track.language), kind, isolated(visibleText(track.title))};
     parts.removeAll(QString());
     return QStringLiteral("%1.  %2").arg(track.number).arg(parts.join(QStringLiteral("  ·  ")));
 }

@@ -16,6 +16,10 @@ Item {
         minWidth: 72
     }
 
+    function counted(number) {
+        return Number(number).toLocaleString(Qt.locale(), "f", 0)
+    }
+
     implicitHeight: 44
 
     OverallProgress {
@@ -39,9 +43,9 @@ Item {
         }
         visible: !overall.visible
         text: root.page.selection.count > 1
-              ? ToolFun.tr("%1 of %2 selected").arg(root.page.selection.count)
-                                               .arg(root.page.tasks.count)
-              : ToolFun.tr("Files: %1").arg(root.page.tasks.count)
+              ? ToolFun.tr("%1 of %2 selected").arg(root.counted(root.page.selection.count))
+                                               .arg(root.counted(root.page.tasks.count))
+              : ToolFun.tr("Files: %1").arg(root.counted(root.page.tasks.count))
         font.pixelSize: Theme.smallText
         color: Theme.font_color_grade4
     }

@@ -150,8 +150,11 @@ ListView {
             }
             menu.openFor(row, place)
         }
-        // Once the row has its new height.
-        onOpened: Qt.callLater(root.positionViewAtIndex, row.index, ListView.Contain)
+        onHeightChanged: {
+            if (row.isOpen && row.activeFocus) {
+                root.positionViewAtIndex(row.index, ListView.Contain)
+            }
+        }
         onRemovalWanted: root.removeChosen(row.taskId)
         onDragged: function (y) { root.drag(y) }
         onDropped: root.drop(row.taskId)

@@ -10,8 +10,8 @@ Item {
 
     required property int taskState
     required property int percent
-    required property real speed
-    required property string timeLeft
+    /*! How far it is, in words, while it is running. */
+    required property string running
     required property string error
     required property string note
     required property string result
@@ -42,7 +42,7 @@ Item {
         case Task.Interrupted:
             return root.joined([ToolFun.tr("Interrupted"), root.problem])
         case Task.Running:
-            return root.runningWords()
+            return root.running
         }
         return ""
     }
@@ -57,17 +57,6 @@ Item {
         }
         const name = root.outlook.name === "" ? "" : "→ " + root.outlook.name
         return root.joined([name, root.outlook.size, root.losses])
-    }
-
-    function runningWords() {
-        let words = root.percent < 0 ? ToolFun.tr("Converting …") : root.percent + " %"
-        if (root.speed > 0) {
-            words += "  ·  " + root.speed.toFixed(root.speed < 10 ? 1 : 0) + "×"
-        }
-        if (root.timeLeft !== "") {
-            words += "  ·  " + ToolFun.tr("%1 left").arg(root.timeLeft)
-        }
-        return words
     }
 
     implicitHeight: Math.max(20, wordsLabel.implicitHeight)

@@ -25,8 +25,7 @@ Rectangle {
     required property bool hasOwnFormat
     required property int taskState
     required property int percent
-    required property real speed
-    required property string timeLeft
+    required property string running
     required property string error
     required property string result
     required property string note
@@ -57,7 +56,6 @@ Rectangle {
     signal removalWanted()
     signal dragged(real y)
     signal dropped()
-    signal opened()
 
     function activate() {
         if (!root.isRunning) {
@@ -69,7 +67,6 @@ Rectangle {
     function setOpen(isOpen) {
         if (root.hasFacts) {
             root.page.tracks.setOpen(root.taskId, isOpen)
-            root.opened()
         }
     }
 
@@ -216,8 +213,7 @@ Rectangle {
             width: parent.width
             taskState: root.taskState
             percent: root.percent
-            speed: root.speed
-            timeLeft: root.timeLeft
+            running: root.running
             error: root.error
             result: root.result
             note: root.note

@@ -60,8 +60,8 @@ Item {
         Box {
             id: byDefault
 
-            purpose: ToolFun.tr("Default: %1").arg(root.line.text)
-            text: ToolFun.tr("Default")
+            purpose: ToolFun.tr("Default track: %1").arg(root.line.text)
+            text: ToolFun.tr("Default track")
             checked: root.line.isDefault
             onToggled: root.tracks.setDefault(root.taskId, root.kind,
                                               byDefault.checked ? root.line.number : 0)

@@ -9,6 +9,9 @@ class TestVisibleText : public QObject
 private Q_SLOTS:
     void invisibleCharactersAreReplaced_data();
     void invisibleCharactersAreReplaced();
+    void rightToLeftTextIsKeptTogether_data();
+    void rightToLeftTextIsKeptTogether();
+    void aNameIsVisibleAndKeptTogether();
 };
 
 void TestVisibleText::invisibleCharactersAreReplaced_data()
@@ -45,6 +48,33 @@ void TestVisibleText::invisibleCharactersAreReplaced()
     QFETCH(QString, text);
     QFETCH(QString, shown);
     QCOMPARE(visibleText(text), shown);
+}
+
+void TestVisibleText::rightToLeftTextIsKeptTogether_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isMarked");
+    QTest::newRow("Hebrew") << QStringLiteral("שלום.mp4") << true;
+    QTest::newRow("Arabic") << QStringLiteral("مرحبا") << true;
+    QTest::newRow("some in it") << QStringLiteral("film שלום") << true;
+    QTest::newRow("Latin") << QStringLiteral("film (1).mp4") << false;
+    QTest::newRow("Japanese") << QStringLiteral("映画") << false;
+    QTest::newRow("nothing") << QString() << false;
+}
+
+void TestVisibleText::rightToLeftTextIsKeptTogether()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isMarked);
+    QCOMPARE(isolated(text), isMarked ? QChar(0x2068) + text + QChar(0x2069) : text);
+}
+
+void TestVisibleText::aNameIsVisibleAndKeptTogether()
+{
+    QCOMPARE(visibleName(QStringLiteral("/films/a\n.mp4")), QStringLiteral("a\uFFFD.mp4"));
+    // A mark in the name itself can't end the unit.
+    QCOMPARE(visibleName(QStringLiteral("/שלום/ש\u2069.mp4")),
+             QStringLiteral("\u2068ש\uFFFD.mp4\u2069"));
 }
 
 QTEST_APPLESS_MAIN(TestVisibleText)

@@ -102,7 +102,7 @@ void TestTaskDetails::aBoxDropsATrackAndStaysFocused()
     QTest::keyClick(m_window, Qt::Key_Space);
     QCOMPARE(task().tracks.audio.text(), QStringLiteral("all"));
     QCOMPARE(m_window->activeFocusItem(), box);
-    QVERIFY(click(m_window, QStringLiteral("Default: ") + m_german));
+    QVERIFY(click(m_window, QStringLiteral("Default track: ") + m_german));
     QTRY_COMPARE(task().tracks.audio.text(), QStringLiteral("1,2/2"));
     QVERIFY(click(m_window, QStringLiteral("Burn in: 1.  subrip")));
     QTRY_COMPARE(task().tracks.burnedSubtitles, 1);
@@ -120,9 +120,9 @@ void TestTaskDetails::everyControlIsReachedWithTheTabKey()
         reached << nameOf(m_window->activeFocusItem());
     }
     for (const QString &name :
-         {QStringLiteral("Hide tracks"), m_german, QStringLiteral("Default: ") + m_german,
+         {QStringLiteral("Hide tracks"), m_german, QStringLiteral("Default track: ") + m_german,
           QStringLiteral("1.  subrip"), QStringLiteral("Burn in: 1.  subrip"),
-          QStringLiteral("Default: 1.  subrip")}) {
+          QStringLiteral("Default track: 1.  subrip")}) {
         QVERIFY2(reached.contains(name), qPrintable(name));
     }
 }

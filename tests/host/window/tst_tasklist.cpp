@@ -196,8 +196,7 @@ void TestTaskList::rolesReadTheTask()
     QVERIFY(value("details").contains(QStringLiteral("1280 × 720")));
     QVERIFY(value("details").contains(QStringLiteral("1:05")));
     QCOMPARE(value("percent"), QStringLiteral("20"));
-    QCOMPARE(value("speed"), QStringLiteral("2"));
-    QCOMPARE(value("timeLeft"), QStringLiteral("0:26"));
+    QCOMPARE(value("running"), QStringLiteral("20 %  ·  2.0×  ·  0:26 left"));
     QCOMPARE(value("seconds"), QStringLiteral("65"));
 }
 
