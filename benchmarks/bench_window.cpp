@@ -1,6 +1,8 @@
 // How long the window takes to respond: each figure is printed beside the delay that a person does
 // not notice, and the exit code is 1 if one exceeds it. With "--large" it does so with a catalogue
-// of 1,000 formats with 100 presets each, whose delays may be noticed but mustn't disturb.
+// of 1,000 formats with 100 presets each, whose delays may be noticed but mustn't disturb. With
+// "--scroll" it only scrolls. It runs without a screen; with QT_QPA_PLATFORM=xcb it opens real
+// windows, as under xvfb-run.
 
 #include "formats/models/formatdetailmodel.h"
 #include "formats/proxy/formatsproxy.h"
@@ -17,6 +19,7 @@
 #include <QJsonObject>
 #include <QKeyEvent>
 #include <QProcess>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -24,6 +27,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <ctime>
 
 namespace {
 
@@ -112,21 +116,24 @@ private:
     double m_longest = 0;
 };
 
+/*! Makes a clip from one of ffmpeg's test sources. */
+void makeClip(const QString &source, const QString &path)
+{
+    require(QProcess::execute(QStringLiteral("ffmpeg"),
+                              {QStringLiteral("-nostdin"), QStringLiteral("-v"),
+                               QStringLiteral("error"), QStringLiteral("-f"),
+                               QStringLiteral("lavfi"), QStringLiteral("-i"), source,
+                               QStringLiteral("-pix_fmt"), QStringLiteral("yuv420p"), path}) == 0,
+            "ffmpeg doesn't make the clips");
+}
+
 /*! A folder with a thousand short films and songs. */
 void fillFolder(const QString &folder)
 {
     const QString film = folder + QStringLiteral("/0.mp4");
     const QString song = folder + QStringLiteral("/1.wav");
-    const QStringList quiet = {QStringLiteral("-nostdin"), QStringLiteral("-v"),
-                               QStringLiteral("error"),    QStringLiteral("-f"),
-                               QStringLiteral("lavfi"),    QStringLiteral("-i")};
-    const QString ffmpeg = QStringLiteral("ffmpeg");
-    require(QProcess::execute(ffmpeg, quiet + QStringList{QStringLiteral("testsrc2=s=1280x720:d=2"),
-                                                          QStringLiteral("-pix_fmt"),
-                                                          QStringLiteral("yuv420p"), film}) == 0 &&
-                QProcess::execute(ffmpeg, quiet + QStringList{QStringLiteral("sine=d=2"), song}) ==
-                    0,
-            "ffmpeg doesn't make the clips");
+    makeClip(QStringLiteral("testsrc2=s=1280x720:d=2"), film);
+    makeClip(QStringLiteral("sine=d=2"), song);
     for (int i = 2; i < 1000; ++i) {
         const QString &source = i % 2 == 0 ? film : song;
         QFile::copy(source, QStringLiteral("%1/%2.%3").arg(folder).arg(i).arg(source.right(3)));
@@ -155,6 +162,93 @@ bool dropsFast(MainWindow &main)
     const bool isFast =
         report(QStringLiteral("Facts of 1,000 dropped files"), sinceStart(clock), 10000);
     return report(QStringLiteral("Longest block meanwhile"), block.milliseconds(), 100) && isFast;
+}
+
+double medianOf(QVector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+/*! The list of the page in sight. */
+QQuickItem *visibleList(const QQuickWindow &window)
+{
+    const QList<QQuickItem *> items = window.findChildren<QQuickItem *>();
+    const auto list = std::find_if(items.begin(), items.end(), [](const QQuickItem *item) {
+        return item->isVisible() && item->property("dropRow").isValid();
+    });
+    require(list != items.end(), "there is no list in sight");
+    return *list;
+}
+
+/*! What this thread has used of the processor so far, in ms; other programs don't count. */
+double usedMilliseconds()
+{
+    timespec used = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+    return double(used.tv_sec) * 1e3 + double(used.tv_nsec) / 1e6;
+}
+
+/*! The most memory that the program has had so far, in MB. */
+double mostMegabytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    require(status.open(QIODevice::ReadOnly), "the memory can't be read");
+    const QByteArray all = status.readAll();
+    return all.mid(all.indexOf("VmHWM:") + 6).trimmed().split(' ').constFirst().toDouble() / 1024;
+}
+
+/*! Scrolls through ten thousand films by almost a screen each frame; false if a frame takes too
+ *  long, or the program too much memory. */
+bool scrollsSmoothly(MainWindow &main)
+{
+    const QTemporaryDir folder;
+    const QString film = folder.filePath(QStringLiteral("film.mp4"));
+    makeClip(QStringLiteral("testsrc2=s=1280x720:d=2"), film);
+    Page &page = main.converter();
+    page.selection()->selectAll();
+    page.removeChosen(page.idAt(0));
+    page.addFiles({QUrl::fromLocalFile(film)});
+    TaskList &tasks = *page.tasks();
+    const auto first = [&tasks] { return tasks.tasks().constFirst(); };
+    while (tasks.count() == 0 || first().state == Task::Reading || first().thumbnail.isEmpty()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    Task task = first();
+    task.thumbnail.clear(); // each row in sight asks for its own
+    constexpr int count = 10000;
+    for (int i = 1; i < count; ++i) {
+        tasks.add(task);
+    }
+    waitForFrame(main.window());
+    QQuickItem *list = visibleList(*main.window());
+    const auto scroll = [&](double step) {
+        QVector<double> frames;
+        for (int frame = 1; frame <= 100; ++frame) {
+            const double before = usedMilliseconds();
+            list->setProperty("contentY", frame * step);
+            waitForFrame(main.window());
+            frames << usedMilliseconds() - before;
+        }
+        std::sort(frames.begin(), frames.end());
+        return frames;
+    };
+    // As fast as a flick is at most, 2,500 pixels a second, at 30 frames a second.
+    const QVector<double> flicked = scroll(2500.0 / 30);
+    const QVector<double> dragged = scroll(list->height());
+    bool isSmooth = report(QStringLiteral("Frame while flicking through 10,000 rows, median"),
+                           medianOf(flicked), 33);
+    isSmooth &= report(QStringLiteral("The slowest ten of 100 take at least"),
+                       flicked.at(flicked.size() * 9 / 10), 33);
+    isSmooth &= report(QStringLiteral("Frame while dragging the scroll bar, median"),
+                       medianOf(dragged), 100);
+    require(QMetaObject::invokeMethod(list, "positionViewAtEnd"), "the list has no end");
+    waitForFrame(main.window());
+    const double most = mostMegabytes();
+    QTextStream(stdout) << QStringLiteral("%1 %2 MB, at most 300 MB\n")
+                               .arg(QStringLiteral("Memory with 10,000 rows"), -52)
+                               .arg(most, 8, 'f', 1);
+    return isSmooth && most <= 300;
 }
 
 /*! Limits in ms. */
@@ -192,19 +286,15 @@ void writeLargeCatalogue(const QString &path)
     file.write(QJsonDocument(catalogue).toJson());
 }
 
-double medianOf(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     QElapsedTimer clock;
     clock.start();
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     qputenv("QT_QUICK_BACKEND", "software");
     QApplication app(argc, argv);
     QTemporaryDir config;
@@ -223,6 +313,9 @@ int main(int argc, char **argv)
     QQuickWindow *window = main.window();
     waitForFrame(window);
     bool isFast = report(QStringLiteral("First window"), sinceStart(clock), limits.firstWindow);
+    if (app.arguments().contains(QStringLiteral("--scroll"))) {
+        return scrollsSmoothly(main) ? 0 : 1;
+    }
 
     QObject *picker = window->property("picker").value<QObject *>();
     main.settings().setConverterGlobalId(presetOfTheBiggestClass(*FormatsProxy::getInstance()));
@@ -270,5 +363,6 @@ int main(int argc, char **argv)
                      medianOf(clicks), limits.tag);
     QMetaObject::invokeMethod(picker, "close");
     isFast &= dropsFast(main);
+    isFast &= scrollsSmoothly(main);
     return isFast ? 0 : 1;
 }
