@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -167,7 +166,7 @@ QString MediaFacts::summary() const
     if (duration > 0) {
         parts << clockText(duration);
     }
-    parts << QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+    parts << bytesText(double(bytes));
     return parts.join(QStringLiteral(", "));
 }
 

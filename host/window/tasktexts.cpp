@@ -28,8 +28,7 @@ QString comparison(double bytes, double before)
 
 QString sizeText(double bytes)
 {
-    QString text =
-        QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeTraditionalFormat);
+    QString text = QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
     // French writes a narrow space there, as in its numbers, at which no line ends.
     return QLocale().language() == QLocale::French ? text.replace(QLatin1Char(' '), QChar(0x202F))
                                                    : text;

@@ -36,7 +36,7 @@ void TestTaskTexts::numbersAreWrittenAsTheLanguageWritesThem_data()
 void TestTaskTexts::numbersAreWrittenAsTheLanguageWritesThem()
 {
     Languages::install(QString::fromLatin1(QTest::currentDataTag()));
-    QTEST(sizeText(1.5 * 1024 * 1024 * 1024), "size");
+    QTEST(sizeText(1.5e9), "size");
     QTEST(countText(10000), "count");
     Progress progress;
     progress.done = 45;
