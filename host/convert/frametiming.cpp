@@ -61,6 +61,15 @@ FrameTiming thinnedTo(const Ratio &rate)
     return timing;
 }
 
+/*! Each frame of a variable rate from its own time on: after a gap, ffmpeg's own counting would begin
+ *  one step early. */
+FrameTiming evenTiming(const Ratio &rate)
+{
+    FrameTiming timing = FrameTiming::constant(rate);
+    timing.filter = QStringLiteral("fps=%1").arg(rate.toText());
+    return timing;
+}
+
 FrameTiming variableTiming(const VideoTrack &track, const VideoCodec &codec,
                            const OutputSettings &settings)
 {
@@ -103,14 +112,15 @@ FrameTiming FrameTiming::make(const VideoTrack &track, const VideoCodec &codec,
     const Ratio rate = nearestAllowed(wanted, codec.frameRates);
     const bool isFixed = settings.frameRateMode == OutputSettings::FrameRateMode::Fixed;
     const bool isCounted = container.times == Container::Times::EveryFrame;
-    if (rate != wanted || isCounted || (isFixed && wanted != own)) {
-        return constant(rate);
-    }
+    const bool isCountedAnew = rate != wanted || isCounted || (isFixed && wanted != own);
     if (isVariable) {
         const bool canVary = container.times == Container::Times::Any && codec.frameRates.isEmpty();
-        return canVary && !isFixed && settings.keepsVariableRate
+        return canVary && !isCountedAnew && !isFixed && settings.keepsVariableRate
                    ? variableTiming(track, codec, settings)
-                   : constant(rate);
+                   : evenTiming(rate);
+    }
+    if (isCountedAnew) {
+        return constant(rate);
     }
     return rate == own ? FrameTiming() : thinnedTo(rate);
 }

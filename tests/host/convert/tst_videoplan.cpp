@@ -115,7 +115,8 @@ void TestVideoPlan::thePictureHasARateOfItsCodec_data()
                   f.videoTracks[0].frameRate = {359640, 11999};
                   f.videoTracks[0].hasSteadyRate = false;
               }),
-        "-map 0:0 -map 0:1 -c:v:0 mpeg4 -r:v:0 30000/1001 -fps_mode:v:0 cfr -pix_fmt:v:0 yuv420p "
+        "-map 0:0 -map 0:1 -c:v:0 mpeg4 -r:v:0 30000/1001 -fps_mode:v:0 cfr -filter:v:0 "
+        "fps=30000/1001 -pix_fmt:v:0 yuv420p "
         "-q:v:0 4 "
         "-c:a:0 copy -avoid_negative_ts disabled -f avi");
     row("an unknown rate is left to ffmpeg", video("mpg", "mpeg2video"),
@@ -200,6 +201,7 @@ void TestVideoPlan::aVariableRateBecomesConstantOnDemand()
                                                  *Container::find(settings.extension), settings);
     QVERIFY(timing.isConstant);
     QCOMPARE(timing.rate.toText(), QStringLiteral("24000/1001"));
+    QCOMPARE(timing.filter, QStringLiteral("fps=24000/1001"));
     const QSet<QString> encoders = usualEncoders();
     const StreamTarget target{settings, *Container::find(settings.extension), encoders};
     QVERIFY(VideoPlan::make(track, target)->encoder != QLatin1String("copy"));
