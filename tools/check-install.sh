@@ -116,11 +116,13 @@ in_bash() {
     bash -c 'source "$1"; shift; COMP_WORDS=(vexconvert "$@"); COMP_CWORD=$#; _vexconvert
         printf "%s\n" "${COMPREPLY[@]}"' - "$share/bash-completion/completions/vexconvert" "$@"
 }
+# shellcheck disable=SC2016
 in_fish() {
     fish -c 'source $argv[1]; complete -C "vexconvert $argv[2..-1]"' \
         "$share/fish/vendor_completions.d/vexconvert.fish" "$@"
 }
 # The rules of _arguments end with those for the first argument and for the others, or with one.
+# shellcheck disable=SC2016
 in_zsh() {
     zsh -fc '_arguments() {
             local rule=${@[-1]}

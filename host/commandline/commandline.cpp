@@ -3,6 +3,7 @@
 #include "host/app/console.h"
 #include "host/app/languages.h"
 #include "host/app/pager.h"
+#include "host/commandline/helptexts.h"
 #include "host/commandline/nearestword.h"
 #include "host/files/localpath.h"
 #include "host/tools/ffmpegversion.h"
@@ -105,45 +106,12 @@ bool isLanguageSpoken(const QCommandLineParser &parser)
     return language.isEmpty() || !Languages::suiting(language).isEmpty();
 }
 
-/*! The parser's list of options, without its own usage line, which names the program's path. */
-QString optionsText(const QCommandLineParser &parser)
-{
-    const QString text = parser.helpText();
-    return text.mid(text.indexOf(QLatin1Char('\n')) + 1).trimmed();
-}
-
 QString versionText()
 {
     const Result<QString> ffmpeg = ffmpegVersion();
     return QStringLiteral("vexconvert %1\nQt %2\n%3")
         .arg(QCoreApplication::applicationVersion(), QString::fromLatin1(qVersion()),
              ffmpeg ? QStringLiteral("ffmpeg %1").arg(*ffmpeg) : ffmpeg.error().text);
-}
-
-QString overviewText(const QCommandLineParser &parser)
-{
-    const QVector<Subcommand> all = subcommands();
-    QString list;
-    for (const Subcommand &subcommand : all) {
-        list += QStringLiteral("  %1 %2\n").arg(subcommand.name, -16).arg(subcommand.summary);
-    }
-    return CommandLine::tr("Usage: vexconvert [options] [FILE...]\n"
-                           "       vexconvert SUBCOMMAND [arguments] [options]\n"
-                           "\n"
-                           "Converts video and audio files with presets, in a window or with a "
-                           "subcommand.\n"
-                           "The window opens with the FILEs, and with the media files of folders "
-                           "among them. If it is\nopen already, they are added to it.\n"
-                           "\n"
-                           "Subcommands:\n"
-                           "%1"
-                           "\n"
-                           "%2\n"
-                           "\n"
-                           "\"vexconvert help SUBCOMMAND\" explains a subcommand.\n"
-                           "\n"
-                           "Exit codes: 0 success, 1 something couldn't be done, 2 wrong usage.")
-        .arg(list, optionsText(parser));
 }
 
 /*! The parser's complaint without the full stop at its end. */
@@ -163,13 +131,6 @@ QStringList namesOf(const QList<QCommandLineOption> &options)
         names += option.names();
     }
     return names;
-}
-
-QString helpText(const Subcommand &subcommand, const QCommandLineParser &parser)
-{
-    return CommandLine::tr("Usage: vexconvert %1 %2\n\n%3\n%4\n%5")
-        .arg(subcommand.name, subcommand.syntax, subcommand.summary, subcommand.details,
-             optionsText(parser));
 }
 
 Result<ExitCode> runSubcommand(const Subcommand &subcommand, const QStringList &arguments,
@@ -209,7 +170,7 @@ Result<ExitCode> runCommandLine(const QStringList &arguments)
         return Success;
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        printPaged(overviewText(parser));
+        printPaged(overviewText(subcommands(), parser));
         return Success;
     }
     if (!isParsed) {

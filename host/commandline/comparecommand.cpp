@@ -1,14 +1,10 @@
 #include "host/app/console.h"
 #include "host/commandline/mediaoptions.h"
-#include "host/convert/likeness.h"
-#include "host/files/pendingfile.h"
+#include "host/commandline/trials.h"
+#include "host/media/mediaprobe.h"
 #include "host/media/sizetext.h"
-#include "host/queue/batch.h"
 
-#include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
-#include <QFileInfo>
 
 #include <cmath>
 
@@ -17,68 +13,6 @@ namespace {
 const QLatin1String presetOption("preset");
 const QLatin1String pictureOption("picture");
 const QLatin1String jsonFlag("json");
-
-/*! A preset that is tried, and what came of it. */
-struct Trial
-{
-    FoundPreset preset;
-    ConversionOutcome outcome = {};
-    QString error = {}; //!< empty: it was converted
-    double seconds = 0; //!< that the conversion took
-    std::optional<double> ssim = {};
-    std::optional<double> vmaf = {};
-
-    [[nodiscard]] QString id() const { return preset.map.value(QStringLiteral("id")).toString(); }
-    [[nodiscard]] bool hasPicture() const { return outcome.facts.video() != nullptr; }
-    /*! Seconds of media a second. */
-    [[nodiscard]] double speed() const
-    {
-        return seconds > 0 ? outcome.facts.duration / seconds : 0;
-    }
-};
-
-/*! Takes the outcomes and times of the conversions, which are as many as the trials. */
-class TrialReport : public BatchReport
-{
-public:
-    explicit TrialReport(QVector<Trial> &trials)
-        : m_trials(trials)
-    {}
-
-    void started(const BatchJob & /*job*/) override { m_clock.start(); }
-    void progressed(const BatchJob & /*job*/, const Progress & /*progress*/) override {}
-    void logged(const BatchJob & /*job*/, const ToolCall & /*call*/,
-                const QString & /*log*/) override
-    {}
-    void finished(const BatchJob &job, const Result<ConversionOutcome> &outcome) override
-    {
-        Trial &trial = m_trials[job.number - 1];
-        if (outcome) {
-            trial.outcome = *outcome;
-        } else {
-            trial.error = outcome.error().text;
-        }
-        trial.seconds = double(m_clock.elapsed()) / 1000;
-    }
-
-private:
-    QVector<Trial> &m_trials;
-    QElapsedTimer m_clock;
-};
-
-Result<ToolRun> runTool(const QStringList &arguments)
-{
-    Tool tool;
-    QEventLoop loop;
-    Result<ToolRun> ended = failed(QString());
-    QObject::connect(&tool, &Tool::finished, &loop, [&](const Result<ToolRun> &run) {
-        ended = run;
-        loop.quit();
-    });
-    tool.start(ffmpegCall(arguments));
-    loop.exec();
-    return ended;
-}
 
 Result<MediaFacts> factsOf(const QString &path)
 {
@@ -113,44 +47,6 @@ Result<QVector<Trial>> namedPresets(const Call &call)
         trials.append({*preset});
     }
     return trials;
-}
-
-/*! Converts the part of the source with each preset, one after another, into a \a folder. */
-BatchSummary convertWithAll(QVector<Trial> &trials, const QString &source, const SamplePart &part,
-                            const QString &folder)
-{
-    TrialReport report(trials);
-    const auto next = [&, number = 0]() mutable -> std::optional<BatchJob> {
-        if (number == trials.size()) {
-            return std::nullopt;
-        }
-        ConversionJob job;
-        job.source = source;
-        job.settings = trials.at(number).preset.outputSettings();
-        job.sample = part;
-        job.target.folder = folder;
-        job.target.name = NameTemplate::literal(QString::number(number));
-        ++number;
-        return BatchJob{number, job};
-    };
-    return Batch(next, 1, report).run();
-}
-
-void measure(Trial &trial, const ViewedFile &source, double seconds)
-{
-    // A picture whose HDR is mapped is another one.
-    const bool isMapped = trial.hasPicture() && source.facts.video()->colour.isHdr() &&
-                          !trial.outcome.facts.video()->colour.isHdr();
-    if (!trial.hasPicture() || isMapped) {
-        return;
-    }
-    const ViewedFile result{trial.outcome.target, trial.outcome.facts};
-    const auto likeness = [&](LikenessMeasure what) -> std::optional<double> {
-        const Result<ToolRun> run = runTool(likenessArguments(result, source, seconds, what));
-        return run && run->exitedCleanly ? likenessIn(run->output) : std::nullopt;
-    };
-    trial.ssim = likeness(LikenessMeasure::Ssim);
-    trial.vmaf = likeness(LikenessMeasure::Vmaf);
 }
 
 void printText(const QVector<Trial> &trials)
@@ -197,48 +93,6 @@ void printJson(const QVector<Trial> &trials)
         json.append(values);
     }
     Console::printJson(json);
-}
-
-/*! Writes the label of a file into \a folder. */
-LabelledFile labelled(const ViewedFile &file, const QString &label, const WorkFolder &folder,
-                      int number)
-{
-    const QString path = folder.filePath(QStringLiteral("label%1").arg(number));
-    QFile text(path);
-    if (text.open(QIODevice::WriteOnly)) {
-        text.write(label.toUtf8());
-    }
-    return {file, path};
-}
-
-/*! Writes the frame in the middle of the part, as the source and each result have it. */
-Result<> drawPicture(const QVector<Trial> &trials, const ViewedFile &source, double seconds,
-                     const WorkFolder &folder, const QString &target)
-{
-    ViewedFile original = source;
-    original.start += seconds / 2;
-    QVector<LabelledFile> files = {labelled(original, CommandLine::tr("source"), folder, 0)};
-    for (const Trial &trial : trials) {
-        if (trial.hasPicture()) {
-            const QString label = QStringLiteral("%1, %2").arg(
-                trial.id(), bytesText(double(trial.outcome.facts.bytes)));
-            files.append(labelled({trial.outcome.target, trial.outcome.facts, seconds / 2}, label,
-                                  folder, files.size()));
-        }
-    }
-    PendingFile picture;
-    const Result<> created = picture.create(QFileInfo(target).absolutePath());
-    if (!created) {
-        return created;
-    }
-    const Result<ToolRun> run = runTool(sideBySideArguments(files, picture.path()));
-    const Result<QByteArray> drawn = cleanOutput(run);
-    if (!drawn) {
-        return failed(CommandLine::tr("the picture couldn't be drawn (%1); an ffmpeg with drawtext "
-                                      "and fonts is needed")
-                          .arg(drawn.error().text));
-    }
-    return picture.publishOver(target);
 }
 
 Result<ExitCode> runCompare(const Call &call)

@@ -1,6 +1,7 @@
 #include "host/app/console.h"
 #include "host/commandline/commandline.h"
 #include "host/commandline/nearestword.h"
+#include "host/commandline/presettable.h"
 #include "host/commandline/userpresets.h"
 
 #include "formats/models/formatdetailmodel.h"

@@ -1,5 +1,6 @@
 #include "host/commandline/presettable.h"
 
+#include "host/app/console.h"
 #include "host/commandline/commandline.h"
 
 #include <algorithm>
@@ -36,4 +37,17 @@ QVector<QStringList> presetTable(const QVector<QVariantMap> &presets)
         rows << row;
     }
     return rows;
+}
+
+void printPresets(const QVector<QVariantMap> &presets, bool asJson, const QString &none)
+{
+    if (asJson) {
+        QVariantList list;
+        std::copy(presets.begin(), presets.end(), std::back_inserter(list));
+        Console::printJson(list);
+    } else if (presets.isEmpty()) {
+        Console::print(none);
+    } else {
+        Console::printTable(presetTable(presets));
+    }
 }

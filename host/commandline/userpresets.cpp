@@ -298,16 +298,3 @@ Result<FoundPreset> findOwn(const PresetStore &store, const QString &id)
     }
     return preset;
 }
-
-void printPresets(const QVector<QVariantMap> &presets, bool asJson, const QString &none)
-{
-    if (asJson) {
-        QVariantList list;
-        std::copy(presets.begin(), presets.end(), std::back_inserter(list));
-        Console::printJson(list);
-    } else if (presets.isEmpty()) {
-        Console::print(none);
-    } else {
-        Console::printTable(presetTable(presets));
-    }
-}

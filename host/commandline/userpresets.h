@@ -29,7 +29,5 @@ struct UserAction
 [[nodiscard]] Result<ExitCode> saveAndTell(PresetStore &store, const QString &done);
 /*! The user's preset with this id; an error if there is none, or if it is the catalogue's. */
 [[nodiscard]] Result<FoundPreset> findOwn(const PresetStore &store, const QString &id);
-/*! Prints presets as a table, or as JSON. */
-void printPresets(const QVector<QVariantMap> &presets, bool asJson, const QString &none);
 
 #endif
