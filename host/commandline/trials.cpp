@@ -121,7 +121,7 @@ Result<> drawPicture(const QVector<Trial> &trials, const ViewedFile &source, dou
     PendingFile picture;
     const Result<> created = picture.create(QFileInfo(target).absolutePath());
     if (!created) {
-        return created;
+        return failed(created);
     }
     const Result<ToolRun> run = runTool(sideBySideArguments(files, picture.path()));
     const Result<QByteArray> drawn = cleanOutput(run);
