@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qint64 largestFile = 8LL * 1024 * 1024;
+constexpr qint64 largestFile = 8000000;
 
 CatalogueSource readOverlay(const QString &path)
 {
@@ -24,7 +24,7 @@ CatalogueSource readOverlay(const QString &path)
     if (!info.isFile()) {
         source.unreadable = QStringLiteral("is no file; remove it");
     } else if (info.size() > largestFile) {
-        source.unreadable = QStringLiteral("is larger than 8 MiB; split it");
+        source.unreadable = QStringLiteral("is larger than 8 MB; split it");
     } else if (!file.open(QIODevice::ReadOnly)) {
         source.unreadable =
             QStringLiteral("can't be read (%1); check its permissions").arg(file.errorString());

@@ -71,11 +71,11 @@ void TestServedCatalogue::aFileThatCannotBeReadIsNamed()
     QCOMPARE(::mkfifo(qPrintable(path(QStringLiteral("a.json"))), 0600), 0);
     QVERIFY(QFile::link(QStringLiteral("/nowhere"), path(QStringLiteral("b.json"))));
     QFile large(path(QStringLiteral("c.json")));
-    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(8 * 1024 * 1024 + 1));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(8000001));
     QVERIFY(writeFile(path(QStringLiteral("d.json"))));
     QCOMPARE(mistakes(), QStringList({QStringLiteral("a.json: is no file; remove it"),
                                       QStringLiteral("b.json: is no file; remove it"),
-                                      QStringLiteral("c.json: is larger than 8 MiB; split it"),
+                                      QStringLiteral("c.json: is larger than 8 MB; split it"),
                                       QStringLiteral("d.json:1:1: the file is empty")}));
 }
 
