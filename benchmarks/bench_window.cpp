@@ -241,7 +241,7 @@ bool scrollsSmoothly(MainWindow &main)
     isSmooth &= report(QStringLiteral("The slowest ten of 100 take at least"),
                        flicked.at(flicked.size() * 9 / 10), 33);
     isSmooth &= report(QStringLiteral("Frame while dragging the scroll bar, median"),
-                       medianOf(dragged), 100);
+                       medianOf(dragged), 33);
     require(QMetaObject::invokeMethod(list, "positionViewAtEnd"), "the list has no end");
     waitForFrame(main.window());
     const double most = mostMegabytes();

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void aClickSelectsOneAndModifiersMore();
     void theKeysSelectMoveAndRemove();
     void aRowIsDraggedByItsGrip();
+    void aButtonUnderThePointerSaysWhatItDoes();
 };
 
 void TestTaskListView::aClickSelectsOneAndModifiersMore()
@@ -65,6 +66,19 @@ void TestTaskListView::aRowIsDraggedByItsGrip()
     }
     QTest::mouseRelease(m_window, Qt::LeftButton, {}, to);
     QTRY_COMPARE(order(), QStringLiteral("bca"));
+}
+
+void TestTaskListView::aButtonUnderThePointerSaysWhatItDoes()
+{
+    clickRow("a.wav");
+    const QString name = QStringLiteral("Remove from the list");
+    const auto shown = [&] { return itemsNamed(m_window->contentItem(), name); };
+    QTRY_VERIFY(!shown().isEmpty());
+    const int buttons = shown().size();
+    QTest::mouseMove(m_window, middleOf(shown().constFirst()));
+    QTRY_VERIFY(shown().size() > buttons);
+    QTest::mouseMove(m_window, row("a.wav")->mapToScene(QPointF(200, 26)).toPoint());
+    QTRY_COMPARE(shown().size(), buttons);
 }
 
 QTEST_MAIN(TestTaskListView)
