@@ -65,6 +65,9 @@ Rectangle {
 
     /*! Shows the file's tracks, or hides them. */
     function setOpen(isOpen) {
+        if (!isOpen && details.activeFocus) {
+            root.forceActiveFocus(Qt.OtherFocusReason)
+        }
         if (root.hasFacts) {
             root.page.tracks.setOpen(root.taskId, isOpen)
         }

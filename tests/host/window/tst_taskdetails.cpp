@@ -16,6 +16,7 @@ private Q_SLOTS:
     void theKeysOpenAndCloseARow();
     void theButtonAndTheMenuOpenARow();
     void aBoxDropsATrackAndStaysFocused();
+    void aRowThatClosesTakesTheFocusOfItsBoxes();
     void everyControlIsReachedWithTheTabKey();
     void whatTheFormatLeavesOutIsSaid();
     void aLongTitleIsShownWhole();
@@ -107,6 +108,16 @@ void TestTaskDetails::aBoxDropsATrackAndStaysFocused()
     QVERIFY(click(m_window, QStringLiteral("Burn in: 1.  subrip")));
     QTRY_COMPARE(task().tracks.burnedSubtitles, 1);
     QCOMPARE(task().tracks.subtitles.text(), QStringLiteral("2"));
+}
+
+void TestTaskDetails::aRowThatClosesTakesTheFocusOfItsBoxes()
+{
+    addFilm();
+    QTest::keyClick(m_window, Qt::Key_Right);
+    QVERIFY(click(m_window, m_german));
+    QTRY_COMPARE(nameOf(m_window->activeFocusItem()), m_german);
+    QVERIFY(click(m_window, QStringLiteral("Hide tracks")));
+    QTRY_COMPARE(m_window->activeFocusItem(), row("film.mkv"));
 }
 
 void TestTaskDetails::everyControlIsReachedWithTheTabKey()
