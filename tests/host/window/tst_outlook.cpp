@@ -78,7 +78,7 @@ void TestOutlook::theSizeFollowsFromBitratesAndDuration()
     QCOMPARE(kilobytes(job("mp4", true), film()), 12500);
     QCOMPARE(kilobytes(job("mp3", false), film()), 1600);
     const Outlook outlook = outlookOf(job("mp3", false), film(), encoders);
-    QVERIFY2(outlook.size.startsWith(QStringLiteral("at most 1.5 M")), qPrintable(outlook.size));
+    QVERIFY2(outlook.size.startsWith(QStringLiteral("at most 1.6 M")), qPrintable(outlook.size));
     QCOMPARE(outlook.name, QStringLiteral("film.mp3"));
     QCOMPARE(outlook.problem, QString());
 }
