@@ -147,7 +147,10 @@ QVariantList TaskTracks::lines(int taskId, Kind kind, const QString & /*details*
                                const QString & /*format*/, const QString & /*tracks*/) const
 {
     const Task *task = m_tasks.find(taskId);
-    const OutputSettings settings = task == nullptr ? OutputSettings() : m_settingsOf(*task);
+    if (task == nullptr) {
+        return {};
+    }
+    const OutputSettings settings = m_settingsOf(*task);
     const Container *container = Container::find(settings.extension);
     if (container == nullptr) {
         return {};
