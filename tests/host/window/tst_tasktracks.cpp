@@ -119,6 +119,7 @@ void TestTaskTracks::burntInSubtitlesAreNoTrackAsWell()
     m_converter->useFormat(id, mkv);
     tracks().burn(id, 1);
     QCOMPARE(lines(id, TaskTracks::Subtitles), QStringLiteral("!k"));
+    QCOMPARE(task(*m_converter, id).tracks.subtitles.text(), QStringLiteral("2"));
     tracks().burn(id, 2);
     QCOMPARE(lines(id, TaskTracks::Subtitles), QStringLiteral("K!"));
     tracks().burn(id, 0);
