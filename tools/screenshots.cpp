@@ -222,6 +222,7 @@ void Screenshots::takeTracks()
     m_window.converter().setConvertingListTaskFormat(id, QStringLiteral("Audio_MP3_002"));
     take(QStringLiteral("converter-tracks-left-out"));
     page.remove(id);
+    page.offer()->dismiss();
 }
 
 QObject *Screenshots::picker() const
