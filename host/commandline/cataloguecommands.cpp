@@ -199,7 +199,7 @@ Result<ExitCode> runShow(const Call &call)
         return failed(preset);
     }
     const QString source = call.options.value(QStringLiteral("for"));
-    const Result<Fitness> fitness = Fitness::of(source);
+    const Result<Fitness> fitness = fitnessFor(source);
     if (!fitness && !source.isEmpty()) {
         return failed(fitness);
     }

@@ -139,7 +139,7 @@ Result<ExitCode> runSearch(const Call &call)
     const PresetMatches matches =
         index.find(query, isEverythingShown ? std::numeric_limits<int>::max() : rowsShown);
     const QString source = call.options.value(forOption);
-    const Result<Fitness> fitness = Fitness::of(source);
+    const Result<Fitness> fitness = fitnessFor(source);
     if (!fitness && !source.isEmpty()) {
         return failed(fitness);
     }

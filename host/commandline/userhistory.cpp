@@ -1,53 +1,19 @@
 #include "host/app/console.h"
 #include "host/commandline/nearestword.h"
 #include "host/commandline/userpresets.h"
-
-#include <algorithm>
+#include "host/presets/presetcomparison.h"
 
 namespace {
 
 const QLatin1String jsonFlag("json");
 
-/*! A preset of the user's beside its base. */
-struct Comparison
+Result<PresetComparison> compare(PresetStore &store, const QString &id)
 {
-    FoundPreset preset;
-    QString baseId;
-    bool hasBase = false; //!< the catalogue still has it
-    PresetValues own;
-    PresetValues base;       //!< as the catalogue has it; if it is gone, as it was
-    PresetValues formerBase; //!< as it was when the preset was made
-};
-
-Result<Comparison> compare(PresetStore &store, const QString &id)
-{
-    return findOwn(store, id).and_then([&](const FoundPreset &preset) -> Result<Comparison> {
-        const PresetNote note = store.notes().of(id);
-        if (note.base.isEmpty()) {
-            return failed(CommandLine::tr("nothing is known of the base of preset %1").arg(id));
-        }
-        const QVariantMap base = store.own().baseOf(id);
-        return Comparison{preset,
-                          note.base,
-                          !base.isEmpty(),
-                          valuesOf(preset.map),
-                          base.isEmpty() ? note.baseValues : valuesOf(base),
-                          note.baseValues};
-    });
+    return findOwn(store, id).and_then(
+        [&](const FoundPreset &) { return compareToBase(store, id); });
 }
 
-QStringList differingNames(const PresetValues &one, const PresetValues &other)
-{
-    QStringList names = valueNames();
-    names.erase(std::remove_if(names.begin(), names.end(),
-                               [&one, &other](const QString &name) {
-                                   return one.value(name) == other.value(name);
-                               }),
-                names.end());
-    return names;
-}
-
-void printJson(const Comparison &compared)
+void printJson(const PresetComparison &compared)
 {
     const auto listOf = [](const PresetValues &one, const char *oneKey, const PresetValues &other,
                            const char *otherKey) {
@@ -68,7 +34,7 @@ void printJson(const Comparison &compared)
     });
 }
 
-void printTable(const Comparison &compared, const QString &id)
+void printTable(const PresetComparison &compared, const QString &id)
 {
     const QStringList own = differingNames(compared.base, compared.own);
     const QStringList changed = differingNames(compared.formerBase, compared.base);
@@ -105,7 +71,7 @@ void printTable(const Comparison &compared, const QString &id)
 
 Result<ExitCode> diff(const Call &call, PresetStore &store, const QStringList &arguments)
 {
-    return compare(store, arguments.constFirst()).map([&](const Comparison &compared) {
+    return compare(store, arguments.constFirst()).map([&](const PresetComparison &compared) {
         if (call.options.isSet(jsonFlag)) {
             printJson(compared);
         } else {
@@ -118,27 +84,20 @@ Result<ExitCode> diff(const Call &call, PresetStore &store, const QStringList &a
 Result<ExitCode> reset(const Call &, PresetStore &store, const QStringList &arguments)
 {
     const QString &id = arguments.constFirst();
-    const Result<Comparison> compared = compare(store, id);
+    const Result<PresetComparison> compared = compare(store, id);
     if (!compared) {
         return failed(compared);
     }
     const QStringList known = valueNames();
     const QStringList names = arguments.size() > 1 ? QStringList(arguments.mid(1)) : known;
-    PresetValues values = compared->own;
     for (const QString &name : names) {
         if (!known.contains(name)) {
             return wrongUsage(CommandLine::tr("there is no setting \"%1\"; \"vexconvert user diff "
                                               "%2\" lists those that differ%3")
                                   .arg(name, id, didYouMean(name, known)));
         }
-        if (compared->base.contains(name)) {
-            values.insert(name, compared->base.value(name));
-        } else {
-            values.remove(name);
-        }
     }
-    const QString title = compared->preset.map.value(QStringLiteral("title")).toString();
-    store.own().change(compared->preset.className, id, title, values);
+    resetToBase(store, *compared, names);
     return saveAndTell(
         store, arguments.size() > 1
                    ? CommandLine::tr("%1 has the %2 of %3 again")

@@ -289,13 +289,20 @@ QStringList PresetStore::ids() const
     const FormatListModel &formats = *m_formats.formatListModel();
     QStringList ids;
     for (int row = 0; row < formats.rowCount(); ++row) {
-        QQueue<FormatDetailModelData> presets;
-        if (const FormatDetailModel *list = formats.formatDetailModel(formats.getTitle(row))) {
-            list->getModelInfo(presets);
-        }
-        for (const FormatDetailModelData &preset : qAsConst(presets)) {
-            ids << preset.id;
-        }
+        ids << idsOf(formats.getTitle(row));
+    }
+    return ids;
+}
+
+QStringList PresetStore::idsOf(const QString &className) const
+{
+    QQueue<FormatDetailModelData> presets;
+    if (const FormatDetailModel *list = m_formats.formatListModel()->formatDetailModel(className)) {
+        list->getModelInfo(presets);
+    }
+    QStringList ids;
+    for (const FormatDetailModelData &preset : qAsConst(presets)) {
+        ids << preset.id;
     }
     return ids;
 }

@@ -43,7 +43,8 @@ PresetMatches PresetIndex::find(const PresetQuery &query, int limit) const
 {
     const Reading restricted = wanted(phrasesJoined(foldedWords(query.kind)), Field::Kind) +
                                wanted(phrasesJoined(foldedWords(query.codec)), Field::Codec) +
-                               wanted(phrasesJoined(foldedWords(query.size)), Field::Size);
+                               wanted(phrasesJoined(foldedWords(query.size)), Field::Size) +
+                               wanted(foldedWords(query.category), Field::Category);
     PresetMatches matches;
     const auto tryWords = [&](const QStringList &words, WordIndex::Accept accept) {
         const Reading reading = wanted(words, {}) + restricted;

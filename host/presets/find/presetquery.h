@@ -20,9 +20,10 @@ struct PresetQuery
 {
     QString text; //!< matches any field
     // These match only the field that they are named after, and as whole words.
-    QString kind; //!< "video" or "audio"
+    QString kind; //!< "video", "audio", or "own" for the user's
     QString codec;
-    QString size; //!< "1080", "4k", "1920x1080", ...
+    QString size;          //!< "1080", "4k", "1920x1080", ...
+    QString category = {}; //!< the tag of the format: "device", ...
 };
 
 /*! A preset that was found. */
