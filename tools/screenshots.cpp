@@ -4,6 +4,7 @@
 #include "host/tools/tool.h"
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
+#include "host/window/presetactions.h"
 
 #include "formats/proxy/formatsproxy.h"
 
@@ -34,6 +35,7 @@ public:
 
 private:
     void takePickers();
+    void takeFinder();
     void takeDialogs();
     void takeTasks();
     void takeTracks();
@@ -83,6 +85,7 @@ Result<> Screenshots::takeAll(WindowSettings::ThemeChoice theme)
     take(QStringLiteral("editor-empty"));
     showPage(0);
     takePickers();
+    takeFinder();
     takeDialogs();
     takeTracks();
     takeTasks();
@@ -111,6 +114,25 @@ void Screenshots::takePickers()
     openPicker();
     take(QStringLiteral("picker-recently-used"));
     QMetaObject::invokeMethod(picker(), "close");
+}
+
+void Screenshots::takeFinder()
+{
+    PresetActions &presets = m_window.presetActions();
+    const QString own = presets.duplicate(QStringLiteral("Video_MP4_005"));
+    presets.rename(own, QStringLiteral("Holidays for the tablet"));
+    presets.setNote(own, QStringLiteral("fits on the old tablet"));
+    presets.setFavorite(QStringLiteral("Device_APPLE_001"), true);
+    QObject *finder = m_window.window()->property("finder").value<QObject *>();
+    QMetaObject::invokeMethod(finder, "open");
+    take(QStringLiteral("finder"));
+    type(QStringLiteral("hevc small"));
+    take(QStringLiteral("finder-search"));
+    QMetaObject::invokeMethod(finder, "close");
+    presets.remove(own);
+    settle();
+    take(QStringLiteral("preset-deleted"));
+    m_window.converter().offer()->dismiss();
 }
 
 void Screenshots::takeDialogs()

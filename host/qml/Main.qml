@@ -3,6 +3,7 @@ import QtQuick.Window 2.15
 import QtQuick.Controls 2.5
 import Controls 1.0
 import Converter 1.0
+import Finder 1.0
 import VexTheme 1.0
 import VexWindow 1.0
 import "qrc:/formats"
@@ -14,6 +15,7 @@ ApplicationWindow {
     readonly property TaskPage shownPage: tabs.current === 0 ? converterPage : editorPage
     property alias currentPage: tabs.current
     property alias picker: picker
+    property alias finder: finder
     readonly property PageProxy busyPage: ConverterProxy.isBusy ? ConverterProxy : EditorProxy
     property bool isClosing: false
 
@@ -68,6 +70,11 @@ ApplicationWindow {
     Shortcut {
         sequence: "Ctrl+O"
         onActivated: FileChooser.chooseFiles(root.shownPage.page)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: finder.open()
     }
 
     Rectangle {
@@ -153,6 +160,7 @@ ApplicationWindow {
             onPickerAsked: function (button, taskId, formatId) {
                 root.openPicker(button, taskId, formatId)
             }
+            onFinderAsked: finder.open()
         }
 
         TaskPage {
@@ -167,7 +175,14 @@ ApplicationWindow {
             onPickerAsked: function (button, taskId, formatId) {
                 root.openPicker(button, taskId, formatId)
             }
+            onFinderAsked: finder.open()
         }
+    }
+
+    FinderPanel {
+        id: finder
+
+        page: root.shownPage.page
     }
 
     CloseQuestion {

@@ -71,3 +71,13 @@ void Dialogs::showAbout()
                               {QStringLiteral("qt"), QString::fromLatin1(qVersion())},
                               {QStringLiteral("ffmpeg"), ffmpeg ? *ffmpeg : ffmpeg.error().text}});
 }
+
+void Dialogs::showPresetChanges(const QString &id)
+{
+    open(ownDialog("PresetChanges"), {{QStringLiteral("id"), id}});
+}
+
+void Dialogs::showImport(const QVariantMap &preview)
+{
+    open(ownDialog("ImportPresets"), preview);
+}

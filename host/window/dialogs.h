@@ -32,6 +32,10 @@ public:
     void askAboutNames(PageOutput *output, const QStringList &names);
     Q_INVOKABLE void showPreferences();
     Q_INVOKABLE void showAbout();
+    /*! Shows what PresetExchange::previewed() says, and imports it if the user wants that. */
+    void showImport(const QVariantMap &preview);
+    /*! Shows how a preset of the user's differs from its base, and takes it back. */
+    Q_INVOKABLE void showPresetChanges(const QString &id);
 
 private:
     QQmlEngine *m_engine = nullptr;

@@ -127,6 +127,13 @@ void showMediaFirst(QFileDialog *dialog)
     dialog->setNameFilters({media, all});
 }
 
+void showPresetFiles(QFileDialog *dialog)
+{
+    dialog->setNameFilters(
+        {nameFilter(QStringLiteral("Files of presets"), {QStringLiteral("*.json")}),
+         nameFilter(QStringLiteral("All files"), {QStringLiteral("*")})});
+}
+
 } // namespace
 
 void FileChooser::setUp(QWindow *window, WindowSettings *settings)
@@ -163,6 +170,30 @@ void FileChooser::chooseFolder(Page *page)
                   [page](const QString &folder) { page->setFolder(folder); });
 }
 
+void FileChooser::choosePresetFiles(QObject *receiver,
+                                    const std::function<void(const QStringList &)> &take)
+{
+    auto *dialog =
+        new FilesDialog(nullptr, ToolFun::text(QStringLiteral("Import presets")),
+                        firstFolderOf(QStringList{m_settings->lastFolder()} + usualFolders()));
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    showPresetFiles(dialog);
+    open(dialog, receiver, take);
+}
+
+void FileChooser::choosePresetTarget(const QString &name, QObject *receiver,
+                                     const std::function<void(const QString &)> &take)
+{
+    auto *dialog =
+        new QFileDialog(nullptr, ToolFun::text(QStringLiteral("Export presets")),
+                        firstFolderOf(QStringList{m_settings->lastFolder()} + usualFolders()));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("json"));
+    showPresetFiles(dialog);
+    dialog->selectFile(name);
+    open(dialog, receiver, [take](const QStringList &paths) { take(paths.constFirst()); });
+}
+
 void FileChooser::openForFolder(const QString &title, const QString &start, Page *page,
                                 const std::function<void(const QString &)> &take)
 {
@@ -174,19 +205,19 @@ void FileChooser::openForFolder(const QString &title, const QString &start, Page
     open(dialog, page, [take](const QStringList &paths) { take(paths.constFirst()); });
 }
 
-void FileChooser::open(QFileDialog *dialog, Page *page,
+void FileChooser::open(QFileDialog *dialog, QObject *receiver,
                        const std::function<void(const QStringList &)> &take)
 {
     // Native dialogs emit both signals, Qt's own one only the second.
-    connect(dialog, &QFileDialog::urlsSelected, page,
-            [dialog, page, take](const QList<QUrl> &urls) {
-                disconnect(dialog, &QFileDialog::filesSelected, page, nullptr);
+    connect(dialog, &QFileDialog::urlsSelected, receiver,
+            [dialog, receiver, take](const QList<QUrl> &urls) {
+                disconnect(dialog, &QFileDialog::filesSelected, receiver, nullptr);
                 const QStringList paths = localPaths(urls);
                 if (!paths.isEmpty()) {
                     take(paths);
                 }
             });
-    connect(dialog, &QFileDialog::filesSelected, page, take);
+    connect(dialog, &QFileDialog::filesSelected, receiver, take);
     connect(dialog, &QDialog::finished, this, [this] {
         if (m_window != nullptr) {
             m_window->requestActivate();

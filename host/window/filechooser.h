@@ -30,12 +30,19 @@ public:
     /*! Lets the user choose the page's output folder. Returns at once. */
     Q_INVOKABLE void chooseFolder(Page *page);
 
+    /*! Lets the user choose files of presets, of which \a take gets the paths. Returns at once. */
+    void choosePresetFiles(QObject *receiver, const std::function<void(const QStringList &)> &take);
+    /*! Lets the user choose a file to write presets to, of which \a take gets the path. Returns at
+     *  once. */
+    void choosePresetTarget(const QString &name, QObject *receiver,
+                            const std::function<void(const QString &)> &take);
+
 private:
     /*! \a take gets the chosen folder, as open() says. */
     void openForFolder(const QString &title, const QString &start, Page *page,
                        const std::function<void(const QString &)> &take);
-    /*! \a take gets the paths, unless the user cancels or \a page is destroyed. */
-    void open(QFileDialog *dialog, Page *page,
+    /*! \a take gets the paths, unless the user cancels or \a receiver is destroyed. */
+    void open(QFileDialog *dialog, QObject *receiver,
               const std::function<void(const QStringList &)> &take);
     void placeOverWindow(QFileDialog *dialog) const;
 

@@ -2,6 +2,9 @@
 
 #include "host/window/appearance.h"
 #include "host/window/desktopfeedback.h"
+#include "host/window/presetactions.h"
+#include "host/window/presetexchange.h"
+#include "host/window/presetfinder.h"
 #include "host/window/presets.h"
 #include "host/window/qmltypes.h"
 #include "host/window/queuekeeper.h"
@@ -88,6 +91,14 @@ Result<> MainWindow::open()
     }
     m_converter = std::make_unique<ConverterProxy>(*m_settings, *m_presets, this);
     m_editor = std::make_unique<EditorProxy>(*m_settings, *m_presets, this);
+    m_finder = std::make_unique<PresetFinder>(m_store, *m_presets, this);
+    m_actions = std::make_unique<PresetActions>(
+        m_store, *m_presets,
+        [this](const QString &id) {
+            return m_converter->checkFormatUsed(id) || m_editor->checkFormatUsed(id);
+        },
+        this);
+    m_exchange = std::make_unique<PresetExchange>(m_store, *m_presets, this);
     m_queue = std::make_unique<QueueKeeper>(
         m_store.filePath(QStringLiteral("queue.json")),
         QMap<QString, Page *>{{QStringLiteral("converter"), m_converter.get()},
@@ -95,6 +106,7 @@ Result<> MainWindow::open()
     connect(m_queue.get(), &QueueKeeper::noticed, &m_notices, &Notices::add);
     connect(m_presets.get(), &Presets::saveFailed, &m_notices, &Notices::add);
     connectPages();
+    connectPresets();
     m_queue->restore();
     publish();
     m_engine->load(QUrl(QStringLiteral("qrc:/window/Main.qml")));
@@ -176,6 +188,51 @@ void MainWindow::connectPages()
             [this](const QString &source, const QString &format) {
                 m_editor->addWithFormat(source, format);
                 window()->setProperty("currentPage", 1);
+            });
+}
+
+Page &MainWindow::shownPage() const
+{
+    // What is saved at the end is told after the window has gone.
+    const bool isEditor = window() != nullptr && window()->property("currentPage").toInt() == 1;
+    return isEditor ? static_cast<Page &>(*m_editor) : *m_converter;
+}
+
+void MainWindow::connectPresets()
+{
+    const auto tell = [this](const QString &line) { shownPage().offer()->make(line, {}, {}); };
+    const auto refuse = [this](const QString &line) {
+        m_dialogs.showMessage({{QStringLiteral("showText"), line}});
+    };
+    const auto offerUndo = [this](const QString &done) {
+        shownPage().offer()->make(done, ToolFun::text(QStringLiteral("Undo")),
+                                  [this] { m_actions->undo(); });
+    };
+    connect(m_presets.get(), &Presets::stepMade, this,
+            [offerUndo](const PresetHistory::Step &step) {
+                const QString text = PresetActions::textOf(step);
+                if (!text.isEmpty()) {
+                    offerUndo(text);
+                }
+            });
+    connect(m_actions.get(), &PresetActions::told, this, tell);
+    connect(m_actions.get(), &PresetActions::refused, this, refuse);
+    PresetExchange *exchange = m_exchange.get();
+    connect(exchange, &PresetExchange::told, this, tell);
+    connect(exchange, &PresetExchange::refused, this, refuse);
+    connect(exchange, &PresetExchange::imported, this, [offerUndo](int count) {
+        offerUndo(ToolFun::text(QStringLiteral("Presets imported: %1")).arg(count));
+    });
+    connect(exchange, &PresetExchange::previewed, &m_dialogs, &Dialogs::showImport);
+    connect(exchange, &PresetExchange::filesWanted, this, [this, exchange] {
+        m_files.choosePresetFiles(
+            exchange, [exchange](const QStringList &paths) { exchange->preview(paths); });
+    });
+    connect(exchange, &PresetExchange::targetWanted, this,
+            [this, exchange](const QStringList &ids, const QString &name) {
+                m_files.choosePresetTarget(name, exchange, [exchange, ids](const QString &path) {
+                    exchange->exportPresets(ids, path);
+                });
             });
 }
 

@@ -16,6 +16,10 @@ class Appearance;
 class ConverterProxy;
 class DesktopFeedback;
 class EditorProxy;
+class Page;
+class PresetActions;
+class PresetExchange;
+class PresetFinder;
 class Presets;
 class QueueKeeper;
 class QQuickWindow;
@@ -50,13 +54,18 @@ public:
     ConverterProxy &converter() const { return *m_converter; }
     EditorProxy &editor() const { return *m_editor; }
     WindowSettings &settings() const { return *m_settings; }
+    PresetFinder &presetFinder() const { return *m_finder; }
+    PresetActions &presetActions() const { return *m_actions; }
+    PresetExchange &presetExchange() const { return *m_exchange; }
 
 private:
     /*! Adds the files to the converter page and raises the window. */
     void present(const QStringList &paths);
     QString configFolder() const;
     void endEngine();
+    Page &shownPage() const;
     void connectPages();
+    void connectPresets();
     void publish();
     void editPreset(const QVariantMap &info);
 
@@ -70,6 +79,9 @@ private:
     std::unique_ptr<Presets> m_presets;
     std::unique_ptr<ConverterProxy> m_converter;
     std::unique_ptr<EditorProxy> m_editor;
+    std::unique_ptr<PresetFinder> m_finder;
+    std::unique_ptr<PresetActions> m_actions;
+    std::unique_ptr<PresetExchange> m_exchange;
     std::unique_ptr<QueueKeeper> m_queue; // of both pages
     std::unique_ptr<SingleInstance> m_instance;
     std::unique_ptr<DesktopFeedback> m_feedback;

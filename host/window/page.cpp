@@ -292,6 +292,45 @@ void Page::play(int taskId)
     }
 }
 
+void Page::trySample(int taskId, const QString &format)
+{
+    const Task *task = m_tasks.find(taskId);
+    if (task == nullptr) {
+        return;
+    }
+    Task tried = *task;
+    tried.format = format.isEmpty() ? tried.format : format;
+    const QString source = tried.source;
+    m_trial.disconnect(this);
+    connect(
+        &m_trial, &SampleTrial::finished, this,
+        [this, source](const Result<ConversionOutcome> &outcome) { endSample(source, outcome); });
+    m_offer.make(ToolFun::text(QStringLiteral("Trying 10 seconds of %1 …")).arg(namesOf({source})),
+                 ToolFun::text(QStringLiteral("Stop")), [this] { m_trial.stop(); });
+    m_trial.start(jobOf(tried));
+}
+
+void Page::endSample(const QString &source, const Result<ConversionOutcome> &outcome)
+{
+    m_offer.dismiss();
+    if (!outcome) {
+        Q_EMIT noticed(QStringLiteral("%1: %2").arg(namesOf({source}), outcome.error().text));
+        return;
+    }
+    const Result<> played = playFile(outcome->target);
+    if (!played) {
+        Q_EMIT noticed(played.error().text);
+    }
+    m_offer.make(ToolFun::text(QStringLiteral("All of %1 would be about %2."))
+                     .arg(namesOf({source}), sizeText(outcome->wholeBytes)),
+                 ToolFun::text(QStringLiteral("Play again")), [this, target = outcome->target] {
+                     const Result<> again = playFile(target);
+                     if (!again) {
+                         Q_EMIT noticed(again.error().text);
+                     }
+                 });
+}
+
 bool Page::checkFormatUsed(const QString &id) const
 {
     return std::any_of(m_tasks.tasks().begin(), m_tasks.tasks().end(),
@@ -322,6 +361,16 @@ void Page::offerAgain()
                      }
                      start(again);
                  });
+}
+
+void Page::useFormatForSelected(const QString &id)
+{
+    const QVector<int> selected = m_selection.ids();
+    if (selected.isEmpty()) {
+        setGlobalFormat(id);
+    } else {
+        m_formats.choose(selected, id);
+    }
 }
 
 void Page::setTaskFormat(int taskId, const QString &id)

@@ -6,6 +6,7 @@
 #include "host/window/inspector.h"
 #include "host/window/offer.h"
 #include "host/window/pageoutput.h"
+#include "host/window/sampletrial.h"
 #include "host/window/taskformats.h"
 #include "host/window/tasklogs.h"
 #include "host/window/taskoutlooks.h"
@@ -99,6 +100,8 @@ public:
     Q_INVOKABLE void clearConverted();
     /*! Puts back what was removed last. */
     Q_INVOKABLE void undoRemoval();
+    /*! When that was; null if nothing can be put back. */
+    [[nodiscard]] QDateTime lastRemoval() const { return m_removals.last(); }
     /*! Moves the chosen tasks to the place of the task \a before; 0: to the end. */
     Q_INVOKABLE void moveChosen(int taskId, int before);
     Q_INVOKABLE void sortBy(Task::SortKey key);
@@ -116,12 +119,18 @@ public:
     Q_INVOKABLE void resume() { m_runner.resume(); }
     /*! Gives this task a format of its own. */
     Q_INVOKABLE void useFormat(int taskId, const QString &id) { m_formats.choose({taskId}, id); }
+    /*! Gives the selected tasks this format or, if none is selected, all that follow the page's. */
+    Q_INVOKABLE void useFormatForSelected(const QString &id);
     /*! Lets the chosen tasks follow the page's format again. */
     Q_INVOKABLE void followChosen(int taskId);
     /*! Shows the task's result, or else its source, in the file manager. */
     Q_INVOKABLE void showInFolder(int taskId);
     /*! Opens the task's result in the default player. */
     Q_INVOKABLE void play(int taskId);
+
+    /*! Converts ten seconds of the task's file, plays them, and offers to say how large all of it
+     *  would be. An empty \a format means the task's own. */
+    Q_INVOKABLE void trySample(int taskId, const QString &format = {});
 
     /*! Whether a running or waiting task uses the preset. */
     Q_INVOKABLE bool checkFormatUsed(const QString &id) const;
@@ -154,6 +163,7 @@ private:
     /*! Converts the tasks, unless the user has to be asked about their results' names first. */
     void start(const QVector<int> &ids);
     void removeTasks(const QVector<int> &ids);
+    void endSample(const QString &source, const Result<ConversionOutcome> &outcome);
     void takeFacts(int taskId, const Result<MediaFacts> &facts);
     ConversionJob jobOf(const Task &task) const;
     void offerAgain();
@@ -173,6 +183,7 @@ private:
     Inspector m_inspector;
     TaskRunner m_runner;
     TaskRemovals m_removals;
+    SampleTrial m_trial;
 };
 
 #endif

@@ -8,7 +8,12 @@
 Presets::Presets(PresetStore &store, QObject *parent)
     : QObject(parent)
     , m_store(store)
+    , m_favorites(store.filePath(QStringLiteral("favorites.json")))
 {
+    const Result<> read = m_favorites.read();
+    if (!read) {
+        qWarning("%s", qUtf8Printable(read.error().text));
+    }
     // One user action may change several rows, which are saved together.
     m_change.setSingleShot(true);
     m_change.setInterval(0);
@@ -45,12 +50,15 @@ QString Presets::caption(const QString &id) const
     if (!preset) {
         return {};
     }
-    const QString title = preset->map.value(QStringLiteral("title")).toString();
-    const QString shown = title == QLatin1String("Same as source")
-                              ? ToolFun::text(QStringLiteral("Keep Orignal"))
-                              : ToolFun::text(title);
+    const QString shown = shownTitle(preset->map.value(QStringLiteral("title")).toString());
     return preset->className.isEmpty() ? shown
                                        : QStringLiteral("%1 - %2").arg(preset->className, shown);
+}
+
+QString Presets::shownTitle(const QString &title)
+{
+    return title == QLatin1String("Same as source") ? ToolFun::text(QStringLiteral("Keep Orignal"))
+                                                    : ToolFun::text(title);
 }
 
 QString Presets::icon(const QString &id) const
@@ -66,6 +74,28 @@ void Presets::noteUse(const QString &id)
     }
 }
 
+void Presets::setFavorite(const QString &id, bool isFavorite)
+{
+    if (isFavorite ? m_favorites.add(id) : m_favorites.remove(id)) {
+        saveFavorites();
+    }
+}
+
+void Presets::setDefault(SourceKind kind, const QString &id)
+{
+    m_favorites.setDefault(kind, id);
+    saveFavorites();
+}
+
+void Presets::saveFavorites()
+{
+    const Result<> saved = m_favorites.save();
+    if (!saved) {
+        Q_EMIT saveFailed(saved.error().text);
+    }
+    Q_EMIT favoritesChanged();
+}
+
 void Presets::flush()
 {
     if (m_change.isActive() || m_isUnsaved) {
@@ -76,12 +106,20 @@ void Presets::flush()
 
 void Presets::save()
 {
+    const auto lastStep = [this] {
+        const QVector<PresetHistory::Step> &steps = m_store.history().steps();
+        return steps.isEmpty() ? QDateTime() : steps.constFirst().when;
+    };
+    const QDateTime before = lastStep();
     const Result<> saved = m_store.save();
     m_isUnsaved = !saved;
     if (m_isUnsaved) {
         Q_EMIT saveFailed(saved.error().text);
     }
     Q_EMIT changed();
+    if (lastStep() != before) {
+        Q_EMIT stepMade(m_store.history().steps().constFirst());
+    }
 }
 
 void Presets::watch(const QAbstractItemModel *presets)

@@ -40,6 +40,9 @@ int registerTypes()
     registerSingleton<ExposedWindowSettings>();
     registerSingleton<ExposedConverterProxy>();
     registerSingleton<ExposedEditorProxy>();
+    registerSingleton<ExposedPresetFinder>();
+    registerSingleton<ExposedPresetActions>();
+    registerSingleton<ExposedPresetExchange>();
     qmlRegisterTypesAndRevisions<ExposedPage, ExposedPageOutput, ExposedTaskLogs, ExposedTaskTracks,
                                  ExposedTaskList, ExposedTaskSelection, ExposedOffer,
                                  ExposedDialogFrame>(module, 1);

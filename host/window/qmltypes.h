@@ -6,6 +6,9 @@
 #include "host/window/filechooser.h"
 #include "host/window/notices.h"
 #include "host/window/pageproxies.h"
+#include "host/window/presetactions.h"
+#include "host/window/presetexchange.h"
+#include "host/window/presetfinder.h"
 #include "host/window/toolfun.h"
 
 #include <QQmlEngine>
@@ -77,6 +80,30 @@ struct ExposedEditorProxy
     Q_GADGET
     QML_FOREIGN(EditorProxy)
     QML_NAMED_ELEMENT(EditorProxy)
+    QML_SINGLETON
+};
+
+struct ExposedPresetFinder
+{
+    Q_GADGET
+    QML_FOREIGN(PresetFinder)
+    QML_NAMED_ELEMENT(PresetFinder)
+    QML_SINGLETON
+};
+
+struct ExposedPresetActions
+{
+    Q_GADGET
+    QML_FOREIGN(PresetActions)
+    QML_NAMED_ELEMENT(PresetActions)
+    QML_SINGLETON
+};
+
+struct ExposedPresetExchange
+{
+    Q_GADGET
+    QML_FOREIGN(PresetExchange)
+    QML_NAMED_ELEMENT(PresetExchange)
     QML_SINGLETON
 };
 

@@ -19,18 +19,23 @@ QStringList TaskRemovals::remove(const QVector<int> &ids)
         std::sort(removed.begin(), removed.end(),
                   [](const auto &one, const auto &other) { return one.first < other.first; });
         m_tasks.remove(QSet<int>(ids.cbegin(), ids.cend()));
-        m_removed.append(removed);
+        m_removals.append({QDateTime::currentDateTimeUtc(), removed});
     }
     return sources;
+}
+
+QDateTime TaskRemovals::last() const
+{
+    return m_removals.isEmpty() ? QDateTime() : m_removals.constLast().when;
 }
 
 QVector<int> TaskRemovals::undo()
 {
     QVector<int> ids;
-    if (m_removed.isEmpty()) {
+    if (m_removals.isEmpty()) {
         return ids;
     }
-    const QVector<QPair<int, Task>> removed = m_removed.takeLast();
+    const QVector<QPair<int, Task>> removed = m_removals.takeLast().tasks;
     m_tasks.putBack(removed);
     for (const auto &[row, task] : removed) {
         ids << task.id;

@@ -4,6 +4,8 @@
 #include "host/window/inspector.h"
 #include "host/window/taskrunner.h"
 
+#include <QDateTime>
+
 /*! Removes tasks from a list, and puts them back. */
 class TaskRemovals
 {
@@ -16,6 +18,8 @@ public:
 
     /*! Stops those that run, and returns the sources of all. */
     QStringList remove(const QVector<int> &ids);
+    /*! When the last of those that can be undone happened; null if there is none. */
+    [[nodiscard]] QDateTime last() const;
     /*! Puts back where they were those that were removed last, and returns their ids. */
     QVector<int> undo();
 
@@ -23,7 +27,12 @@ private:
     TaskList &m_tasks;
     Inspector &m_inspector;
     TaskRunner &m_runner;
-    QVector<QVector<QPair<int, Task>>> m_removed; //!< the last ones last, each with its row
+    struct Removal
+    {
+        QDateTime when;
+        QVector<QPair<int, Task>> tasks; //!< each with its row
+    };
+    QVector<Removal> m_removals; //!< the last one last
 };
 
 #endif

@@ -16,15 +16,8 @@ int TaskSelection::count() const
         std::count_if(all.cbegin(), all.cend(), [](const Task &task) { return task.isSelected; }));
 }
 
-QVector<int> TaskSelection::with(int id) const
+QVector<int> TaskSelection::ids() const
 {
-    const Task *meant = m_tasks.find(id);
-    if (meant == nullptr) {
-        return {};
-    }
-    if (!meant->isSelected) {
-        return {id};
-    }
     QVector<int> ids;
     for (const Task &task : m_tasks.tasks()) {
         if (task.isSelected) {
@@ -32,6 +25,15 @@ QVector<int> TaskSelection::with(int id) const
         }
     }
     return ids;
+}
+
+QVector<int> TaskSelection::with(int id) const
+{
+    const Task *meant = m_tasks.find(id);
+    if (meant == nullptr) {
+        return {};
+    }
+    return meant->isSelected ? ids() : QVector<int>{id};
 }
 
 void TaskSelection::set(int id)

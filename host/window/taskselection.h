@@ -13,6 +13,8 @@ public:
     explicit TaskSelection(TaskList &tasks, QObject *parent = nullptr);
 
     [[nodiscard]] int count() const;
+    /*! The selected tasks, in the list's order. */
+    [[nodiscard]] QVector<int> ids() const;
     /*! The selected tasks if \a id is one of them, else it alone; in the list's order. */
     [[nodiscard]] QVector<int> with(int id) const;
 

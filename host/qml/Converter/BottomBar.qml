@@ -15,6 +15,7 @@ Rectangle {
     property alias formatButton: formatButton
 
     signal formatClicked()
+    signal finderClicked()
 
     function folderName(path) {
         return path === "" ? ToolFun.tr("Same folder as the source")
@@ -57,6 +58,15 @@ Rectangle {
             text: root.page.globalCaption
             iconSource: root.page.globalIcon
             onClicked: root.formatClicked()
+        }
+
+        VEXImageButton {
+            width: Theme.controlHeight
+            height: Theme.controlHeight
+            iconSize: 20
+            iconSource: "qrc:/window/images/search.svg"
+            Accessible.name: ToolFun.tr("Find a preset (Ctrl+F)")
+            onClicked: root.finderClicked()
         }
     }
 

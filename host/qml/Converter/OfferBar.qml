@@ -46,6 +46,7 @@ Rectangle {
             verticalCenter: parent.verticalCenter
         }
         implicitHeight: Theme.smallControlHeight
+        visible: root.page.offer.action !== ""
         text: root.page.offer.action
         onClicked: root.page.offer.take()
     }

@@ -16,6 +16,7 @@ Menu {
     }
 
     onAboutToShow: root.width = root.widest() + root.leftPadding + root.rightPadding
+    onOpened: root.width = root.widest() + root.leftPadding + root.rightPadding // entries of a menu that is closed aren't visible
     padding: 4
     delegate: MenuEntry {}
 

@@ -39,6 +39,12 @@ StyledMenu {
     }
 
     MenuEntry {
+        enabled: root.taskState !== Task.Reading
+        text: ToolFun.tr("Try 10 seconds")
+        onTriggered: root.page.trySample(root.taskId)
+    }
+
+    MenuEntry {
         text: ToolFun.tr("Show in folder")
         onTriggered: root.page.showInFolder(root.taskId)
     }

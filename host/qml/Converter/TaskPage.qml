@@ -17,6 +17,9 @@ Item {
     /*! The picker is wanted at \a button: for a task, or for the whole page where there is none. */
     signal pickerAsked(Item button, var taskId, var formatId)
 
+    /*! A preset is to be found for the page. */
+    signal finderAsked()
+
     EmptyList {
         anchors {
             fill: parent
@@ -69,7 +72,7 @@ Item {
     Shortcut {
         enabled: root.visible
         sequence: "Ctrl+Z"
-        onActivated: root.page.undoRemoval()
+        onActivated: PresetActions.undoLast(root.page)
     }
 
     Rectangle {
@@ -90,7 +93,7 @@ Item {
         anchors.fill: parent
         keys: ["text/uri-list"]
         onDropped: function (drag) {
-            root.page.addFiles(drag.urls)
+            root.page.addFiles(PresetExchange.takePresetFiles(drag.urls))
             drag.accept(Qt.CopyAction)
         }
     }
@@ -103,6 +106,7 @@ Item {
         page: root.page
         formatLabel: root.formatLabel
         formatLabelWidth: root.formatLabelWidth
+        onFinderClicked: root.finderAsked()
         onFormatClicked: root.pickerAsked(bottom.formatButton, null, null)
     }
 }

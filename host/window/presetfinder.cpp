@@ -1,0 +1,326 @@
+#include "host/window/presetfinder.h"
+
+#include "host/window/page.h"
+#include "host/window/presets.h"
+#include "host/window/presetsummary.h"
+#include "host/window/toolfun.h"
+
+#include "formats/models/formatdetailmodel.h"
+#include "formats/models/formatlistmodel.h"
+#include "formats/proxy/formatsproxy.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int firstRole = Qt::UserRole + 1;
+
+/*! What a word matched, in the user's language; empty where the row shows it anyway. */
+QString reasonText(const PresetMatch::Reason &reason)
+{
+    const auto named = [&reason](const QString &field) {
+        return QStringLiteral("%1: %2").arg(ToolFun::text(field), reason.text);
+    };
+    switch (reason.field) {
+    case Field::Format:
+    case Field::Title:
+        break;
+    case Field::Extension:
+        return QLatin1Char('.') + reason.text;
+    case Field::Codec:
+        return named(QStringLiteral("Encoder"));
+    case Field::Size:
+        return named(QStringLiteral("Resolution"));
+    case Field::Bitrate:
+        return named(QStringLiteral("Bitrate"));
+    case Field::FrameRate:
+        return named(QStringLiteral("Frame Rate"));
+    case Field::Note:
+        return named(QStringLiteral("Note"));
+    case Field::Kind:
+    case Field::Category:
+        return reason.text == QLatin1String("own") ? ToolFun::text(QStringLiteral("My presets"))
+                                                   : ToolFun::text(reason.text);
+    case Field::Purpose:
+        // Purposes have no names but the words that people use for them.
+        return ToolFun::text(QStringLiteral("good for “%1”")).arg(reason.typed);
+    }
+    return {};
+}
+
+bool isEmpty(const PresetQuery &query)
+{
+    return query.text.trimmed().isEmpty() && query.kind.isEmpty() && query.codec.isEmpty() &&
+           query.size.isEmpty() && query.category.isEmpty();
+}
+
+} // namespace
+
+PresetFinder::PresetFinder(PresetStore &store, Presets &presets, QObject *parent)
+    : QAbstractListModel(parent)
+    , m_store(store)
+    , m_presets(presets)
+{
+    connect(&m_presets, &Presets::changed, this, [this] {
+        forgetIndex();
+        list();
+    });
+    // A star that is set moves no row that the user looks at.
+    connect(&m_presets, &Presets::favoritesChanged, this, [this] {
+        forgetIndex();
+        renewAll();
+    });
+    connect(&m_list, &EncoderList::finished, this, &PresetFinder::takeEncoders);
+}
+
+const QVector<PresetFinder::RoleRow> &PresetFinder::roles()
+{
+    static const QVector<RoleRow> all = {
+        {"presetId", &PresetFinder::presetId},     {"title", &PresetFinder::title},
+        {"format", &PresetFinder::format},         {"icon", &PresetFinder::icon},
+        {"details", &PresetFinder::details},       {"why", &PresetFinder::why},
+        {"isFavorite", &PresetFinder::isFavorite}, {"isOwn", &PresetFinder::isOwn},
+        {"problem", &PresetFinder::problem},       {"group", &PresetFinder::group},
+    };
+    return all;
+}
+
+int PresetFinder::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows.size();
+}
+
+QVariant PresetFinder::data(const QModelIndex &index, int role) const
+{
+    const int place = role - firstRole;
+    const bool isThere =
+        checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid) &&
+        place >= 0 && place < roles().size();
+    return isThere ? (this->*roles().at(place).value)(index.row()) : QVariant();
+}
+
+QHash<int, QByteArray> PresetFinder::roleNames() const
+{
+    QHash<int, QByteArray> names;
+    for (int place = 0; place < roles().size(); ++place) {
+        names.insert(firstRole + place, roles().at(place).name);
+    }
+    return names;
+}
+
+bool PresetFinder::canFetchMore(const QModelIndex &parent) const
+{
+    return !parent.isValid() && m_rows.size() < m_count;
+}
+
+void PresetFinder::fetchMore(const QModelIndex &parent)
+{
+    if (!canFetchMore(parent)) {
+        return;
+    }
+    const QVector<PresetMatch> more =
+        presetIndex().find(m_query, m_rows.size() + batch).best.mid(m_rows.size());
+    beginInsertRows({}, m_rows.size(), m_rows.size() + more.size() - 1);
+    m_rows += more;
+    endInsertRows();
+}
+
+QString PresetFinder::remark() const
+{
+    if (m_count > 0) {
+        return {};
+    }
+    if (isEmpty(m_query)) {
+        return ToolFun::text(QStringLiteral("Type a device, a site, a codec, a size or a purpose, "
+                                            "such as “iphone 1080” or “small”."));
+    }
+    return m_unknown.isEmpty()
+               ? ToolFun::text(QStringLiteral("No preset has all of this; leave out a word or a "
+                                              "filter."))
+               : ToolFun::text(QStringLiteral("No preset is known for “%1”.")).arg(m_unknown);
+}
+
+void PresetFinder::open(Page *page)
+{
+    m_source.reset();
+    const QVector<Task> &tasks = page->tasks()->tasks();
+    const auto selected = std::find_if(tasks.begin(), tasks.end(), [](const Task &task) {
+        return task.isSelected && !task.facts.isEmpty();
+    });
+    if (selected != tasks.end()) {
+        m_source = FitnessSource{selected->source, selected->facts};
+    }
+    renewFitness();
+    m_list.start();
+    search({}, {}, {}, {});
+}
+
+void PresetFinder::search(const QString &text, const QString &kind, const QString &codec,
+                          const QString &size)
+{
+    const bool isKind = kind == QLatin1String("own") || kind == QLatin1String("video") ||
+                        kind == QLatin1String("audio");
+    m_query = {text, isKind ? kind : QString(), codec, size, isKind ? QString() : kind};
+    list();
+}
+
+void PresetFinder::list()
+{
+    beginResetModel();
+    m_rows.clear();
+    m_groups.clear();
+    m_unknown.clear();
+    if (isEmpty(m_query)) {
+        listUsual();
+    } else {
+        const PresetMatches matches = presetIndex().find(m_query, batch);
+        m_rows = matches.best;
+        m_count = matches.count;
+        m_unknown = matches.unknown;
+    }
+    endResetModel();
+    Q_EMIT found();
+}
+
+void PresetFinder::listUsual()
+{
+    append(m_presets.favorites().ids(), ToolFun::text(QStringLiteral("Favorites")));
+    QQueue<FormatDetailModelData> recent;
+    m_store.formats().recentlyFormatsModel()->getModelInfo(recent);
+    QStringList ids;
+    for (const FormatDetailModelData &preset : qAsConst(recent)) {
+        ids << preset.id;
+    }
+    append(ids, ToolFun::text(QStringLiteral("Recently used")));
+    const FormatListModel &formats = *m_store.formats().formatListModel();
+    for (int row = 0; row < formats.rowCount(); ++row) {
+        append(m_store.own().idsOf(formats.getTitle(row)),
+               ToolFun::text(QStringLiteral("My presets")));
+    }
+    m_count = m_rows.size();
+}
+
+void PresetFinder::append(const QStringList &ids, const QString &group)
+{
+    for (const QString &id : ids) {
+        const std::optional<FoundPreset> preset = m_store.find(id);
+        // The recently used list may hold presets of another catalogue.
+        if (preset && !preset->className.isEmpty() && rowOf(id) < 0) {
+            m_rows.append({id,
+                           preset->map.value(QStringLiteral("title")).toString(),
+                           preset->className,
+                           preset->tag,
+                           {}});
+            m_groups << group;
+        }
+    }
+}
+
+const PresetIndex &PresetFinder::presetIndex()
+{
+    if (!m_index) {
+        m_index.emplace(m_store.formats(),
+                        PresetExtras{m_presets.favorites().ids(), m_store.notes().texts()});
+    }
+    return *m_index;
+}
+
+void PresetFinder::forgetIndex()
+{
+    m_index.reset();
+    m_problems.clear();
+}
+
+void PresetFinder::takeEncoders(const Result<QSet<QString>> &encoders)
+{
+    m_encoders = encoders.value_or(QSet<QString>());
+    renewFitness();
+    renewAll();
+}
+
+void PresetFinder::renewFitness()
+{
+    m_problems.clear();
+    m_fitness.reset();
+    // Without ffmpeg, each conversion says so itself.
+    if (!m_encoders.isEmpty()) {
+        m_fitness.emplace(m_encoders, m_source);
+    }
+}
+
+void PresetFinder::renewAll()
+{
+    if (!m_rows.isEmpty()) {
+        Q_EMIT dataChanged(createIndex(0, 0), createIndex(m_rows.size() - 1, 0));
+    }
+}
+
+int PresetFinder::rowOf(const QString &id) const
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(),
+                                  [&id](const PresetMatch &match) { return match.id == id; });
+    return row == m_rows.end() ? -1 : int(row - m_rows.begin());
+}
+
+QString PresetFinder::problemWith(const QString &id) const
+{
+    const std::optional<FoundPreset> preset =
+        m_fitness && !m_problems.contains(id) ? m_store.find(id) : std::nullopt;
+    if (preset) {
+        m_problems.insert(id, m_fitness->problemWith(*preset));
+    }
+    return m_problems.value(id);
+}
+
+QString PresetFinder::nearestTo(const QString &id) const
+{
+    const std::optional<FoundPreset> preset = m_store.find(id);
+    return m_fitness && preset ? m_fitness->nearestTo(*preset, m_store) : QString();
+}
+
+QString PresetFinder::caption(const QString &id) const
+{
+    return m_presets.caption(id);
+}
+
+QVariant PresetFinder::title(int row) const
+{
+    return Presets::shownTitle(m_rows.at(row).title);
+}
+
+QVariant PresetFinder::icon(int row) const
+{
+    return m_presets.icon(m_rows.at(row).id);
+}
+
+QVariant PresetFinder::details(int row) const
+{
+    const QString id = m_rows.at(row).id;
+    const std::optional<FoundPreset> preset = m_store.find(id);
+    const QString summary = preset ? summaryOf(preset->map) : QString();
+    const QString note = m_store.notes().of(id).text;
+    return note.isEmpty() ? summary : QStringLiteral("%1  ·  %2").arg(note, summary);
+}
+
+QVariant PresetFinder::why(int row) const
+{
+    QStringList reasons;
+    for (const PresetMatch::Reason &reason : m_rows.at(row).why) {
+        const QString text = reasonText(reason);
+        if (!text.isEmpty() && !reasons.contains(text)) {
+            reasons << text;
+        }
+    }
+    return reasons.join(QStringLiteral(", "));
+}
+
+QVariant PresetFinder::isFavorite(int row) const
+{
+    return m_presets.favorites().ids().contains(m_rows.at(row).id);
+}
+
+QVariant PresetFinder::isOwn(int row) const
+{
+    const std::optional<FoundPreset> preset = m_store.find(m_rows.at(row).id);
+    return preset && preset->isUserDefined;
+}

@@ -1,0 +1,99 @@
+#include "host/window/presetsummary.h"
+
+#include "host/presets/presetsettings.h"
+#include "host/window/toolfun.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct SettingWords
+{
+    const char *name;  //!< of valueNames()
+    const char *group; //!< a text of the window; null: none
+    const char *label; //!< a text of the window
+};
+
+constexpr SettingWords settingWords[] = {
+    {"video-encoder", "Video", "Encoder"},   {"resolution", nullptr, "Resolution"},
+    {"frame-rate", nullptr, "Frame Rate"},   {"video-bitrate", "Video", "Bitrate"},
+    {"audio-encoder", "Audio", "Encoder"},   {"channel", nullptr, "Channel"},
+    {"sample-rate", nullptr, "Sample Rate"}, {"audio-bitrate", "Audio", "Bitrate"},
+};
+
+bool isChosen(const QString &value)
+{
+    return !value.isEmpty() && value != QLatin1String("0");
+}
+
+QString channelText(const QString &count)
+{
+    return count == QLatin1String("1")   ? ToolFun::text(QStringLiteral("mono"))
+           : count == QLatin1String("2") ? ToolFun::text(QStringLiteral("stereo"))
+           : count == QLatin1String("6") ? QStringLiteral("5.1")
+           : count == QLatin1String("8") ? QStringLiteral("7.1")
+                                         : count;
+}
+
+QString kbpsText(const QString &value)
+{
+    return QStringLiteral("%1 kbps").arg(QLocale().toString(value.toDouble(), 'g', 9));
+}
+
+/*! A value that isn't the source's. */
+QString chosenText(const QString &name, QString value)
+{
+    if (name == QLatin1String("resolution")) {
+        return value.replace(QLatin1Char('x'), QStringLiteral(" × "));
+    }
+    if (name == QLatin1String("frame-rate")) {
+        return QStringLiteral("%1 fps").arg(value);
+    }
+    if (name == QLatin1String("video-bitrate")) {
+        return ToolFun::text(QStringLiteral("at most %1")).arg(kbpsText(value));
+    }
+    if (name == QLatin1String("audio-bitrate")) {
+        return kbpsText(value);
+    }
+    if (name == QLatin1String("sample-rate")) {
+        return QStringLiteral("%1 kHz").arg(QLocale().toString(value.toDouble() / 1000));
+    }
+    return name == QLatin1String("channel") ? channelText(value) : value;
+}
+
+} // namespace
+
+QString summaryOf(const QVariantMap &preset)
+{
+    const PresetValues values = valuesOf(preset);
+    QStringList parts = {QLatin1Char('.') + preset.value(QStringLiteral("extension")).toString()};
+    for (const SettingWords &each : settingWords) {
+        const QString name = QLatin1String(each.name);
+        if (isChosen(values.value(name))) {
+            parts << chosenText(name, values.value(name));
+        }
+    }
+    return parts.join(QStringLiteral("  ·  "));
+}
+
+QString settingLabel(const QString &name)
+{
+    const auto *const words = std::find_if(
+        std::begin(settingWords), std::end(settingWords),
+        [&name](const SettingWords &each) { return name == QLatin1String(each.name); });
+    if (words == std::end(settingWords)) {
+        return name; // of an encoder, which has its own words
+    }
+    const QString label = ToolFun::text(QLatin1String(words->label));
+    return words->group == nullptr
+               ? label
+               : QStringLiteral("%1: %2").arg(ToolFun::text(QLatin1String(words->group)), label);
+}
+
+QString settingText(const QString &name, const QString &value)
+{
+    return isChosen(value) ? chosenText(name, value) : ToolFun::text(QStringLiteral("automatic"));
+}
