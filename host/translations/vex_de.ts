@@ -1223,6 +1223,302 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Found by: %1</source>
+        <translation>Gefunden über: %1</translation>
+    </message>
+    <message>
+        <source>Can’t be used: %1</source>
+        <translation>Nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>Remove from the favorites</source>
+        <translation>Aus den Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add to the favorites</source>
+        <translation>Zu den Favoriten</translation>
+    </message>
+    <message>
+        <source>More about %1</source>
+        <translation>Mehr zu %1</translation>
+    </message>
+    <message>
+        <source>Find a preset</source>
+        <translation>Voreinstellung suchen</translation>
+    </message>
+    <message>
+        <source>Find a preset (Ctrl+F)</source>
+        <translation>Voreinstellung suchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Import or export presets</source>
+        <translation>Voreinstellungen importieren oder exportieren</translation>
+    </message>
+    <message>
+        <source>Import presets …</source>
+        <translation>Voreinstellungen importieren …</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Voreinstellungen importieren</translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation>Voreinstellungen exportieren</translation>
+    </message>
+    <message>
+        <source>Export all my presets …</source>
+        <translation>Alle eigenen exportieren …</translation>
+    </message>
+    <message>
+        <source>For the selected files: %1</source>
+        <translation>Für die ausgewählten Dateien: %1</translation>
+    </message>
+    <message>
+        <source>For all files</source>
+        <translation>Für alle Dateien</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>Voreinstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Note …</source>
+        <translation>Notiz …</translation>
+    </message>
+    <message>
+        <source>Use this preset</source>
+        <translation>Diese verwenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Strg+D</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Auf</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+Ab</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>What has been changed …</source>
+        <translation>Was geändert ist …</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Default on the command line for</source>
+        <translation>Vorgabe der Befehlszeile für</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videos</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Audiodateien</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Export …</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>Try 10 seconds</source>
+        <translation>10 Sekunden ausprobieren</translation>
+    </message>
+    <message>
+        <source>Changes of %1</source>
+        <translation>Änderungen an %1</translation>
+    </message>
+    <message>
+        <source>It isn’t known what this preset was made from.</source>
+        <translation>Es ist nicht bekannt, woraus diese Voreinstellung entstand.</translation>
+    </message>
+    <message>
+        <source>It has all values of %1.</source>
+        <translation>Sie hat alle Werte von %1.</translation>
+    </message>
+    <message>
+        <source>It was made from %1, with these changes:</source>
+        <translation>Sie entstand aus %1, mit diesen Änderungen:</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Take all back</source>
+        <translation>Alles zurücknehmen</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>you have it already</source>
+        <translation>schon vorhanden</translation>
+    </message>
+    <message>
+        <source>you have another one</source>
+        <translation>anderes vorhanden</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>If you have another one of this title and format</source>
+        <translation>Wenn Titel und Format schon vergeben sind</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Trying 10 seconds of %1 …</source>
+        <translation>10 Sekunden von %1 werden ausprobiert …</translation>
+    </message>
+    <message>
+        <source>All of %1 would be about %2.</source>
+        <translation>%1 ergäbe ganz etwa %2.</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>Noch einmal abspielen</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (Kopie)</translation>
+    </message>
+    <message>
+        <source>a preset that is no longer there</source>
+        <translation>einer Voreinstellung, die es nicht mehr gibt</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>%1 presets</source>
+        <translation>%1 Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Presets changed: %1</source>
+        <translation>Geänderte Voreinstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Geändert: %1</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>Gelöscht: %1</translation>
+    </message>
+    <message>
+        <source>The temporary folder can’t be written (%1); check the disk</source>
+        <translation>In den temporären Ordner kann nicht geschrieben werden (%1); prüfen Sie den Datenträger</translation>
+    </message>
+    <message>
+        <source>good for “%1”</source>
+        <translation>gut für „%1“</translation>
+    </message>
+    <message>
+        <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
+        <translation>Geben Sie ein Gerät, eine Website, einen Codec, eine Größe oder einen Zweck ein, etwa „iphone 1080“ oder „klein“.</translation>
+    </message>
+    <message>
+        <source>No preset has all of this; leave out a word or a filter.</source>
+        <translation>Keine Voreinstellung passt zu allem; lassen Sie ein Wort oder einen Filter weg.</translation>
+    </message>
+    <message>
+        <source>No preset is known for “%1”.</source>
+        <translation>Zu „%1“ ist keine Voreinstellung bekannt.</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Recently used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>mono</source>
+        <translation>mono</translation>
+    </message>
+    <message>
+        <source>stereo</source>
+        <translation>stereo</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>%1 is lost (%2); instead: %3</source>
+        <translation>%1 geht verloren (%2); stattdessen: %3</translation>
+    </message>
+    <message>
+        <source>%1 is approximated (%2); instead: %3</source>
+        <translation>%1 wird angenähert (%2); stattdessen: %3</translation>
+    </message>
+    <message>
+        <source>You have no presets of your own yet.</source>
+        <translation>Sie haben noch keine eigenen Voreinstellungen.</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Exportiert: %1</translation>
+    </message>
+    <message>
+        <source>%1 can’t be written (%2); choose another folder</source>
+        <translation>%1 kann nicht geschrieben werden (%2); wählen Sie einen anderen Ordner</translation>
+    </message>
+    <message>
+        <source>Presets imported: %1</source>
+        <translation>Importierte Voreinstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Files of presets</source>
+        <translation>Dateien mit Voreinstellungen</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>

@@ -1223,5 +1223,301 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Found by: %1</source>
+        <translation>Found by: %1</translation>
+    </message>
+    <message>
+        <source>Can’t be used: %1</source>
+        <translation>Can’t be used: %1</translation>
+    </message>
+    <message>
+        <source>Remove from the favorites</source>
+        <translation>Remove from the favorites</translation>
+    </message>
+    <message>
+        <source>Add to the favorites</source>
+        <translation>Add to the favorites</translation>
+    </message>
+    <message>
+        <source>More about %1</source>
+        <translation>More about %1</translation>
+    </message>
+    <message>
+        <source>Find a preset</source>
+        <translation>Find a preset</translation>
+    </message>
+    <message>
+        <source>Find a preset (Ctrl+F)</source>
+        <translation>Find a preset (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Import or export presets</source>
+        <translation>Import or export presets</translation>
+    </message>
+    <message>
+        <source>Import presets …</source>
+        <translation>Import presets …</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Import presets</translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation>Export presets</translation>
+    </message>
+    <message>
+        <source>Export all my presets …</source>
+        <translation>Export all my presets …</translation>
+    </message>
+    <message>
+        <source>For the selected files: %1</source>
+        <translation>For the selected files: %1</translation>
+    </message>
+    <message>
+        <source>For all files</source>
+        <translation>For all files</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>Presets: %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Note …</source>
+        <translation>Note …</translation>
+    </message>
+    <message>
+        <source>Use this preset</source>
+        <translation>Use this preset</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Up</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+Down</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicate</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>What has been changed …</source>
+        <translation>What has been changed …</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Move up</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Move down</translation>
+    </message>
+    <message>
+        <source>Default on the command line for</source>
+        <translation>Default on the command line for</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videos</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Audio files</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Export …</source>
+        <translation>Export …</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filters</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>My presets</translation>
+    </message>
+    <message>
+        <source>Try 10 seconds</source>
+        <translation>Try 10 seconds</translation>
+    </message>
+    <message>
+        <source>Changes of %1</source>
+        <translation>Changes of %1</translation>
+    </message>
+    <message>
+        <source>It isn’t known what this preset was made from.</source>
+        <translation>It isn’t known what this preset was made from.</translation>
+    </message>
+    <message>
+        <source>It has all values of %1.</source>
+        <translation>It has all values of %1.</translation>
+    </message>
+    <message>
+        <source>It was made from %1, with these changes:</source>
+        <translation>It was made from %1, with these changes:</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Take back</translation>
+    </message>
+    <message>
+        <source>Take all back</source>
+        <translation>Take all back</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>you have it already</source>
+        <translation>you have it already</translation>
+    </message>
+    <message>
+        <source>you have another one</source>
+        <translation>you have another one</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refused</translation>
+    </message>
+    <message>
+        <source>If you have another one of this title and format</source>
+        <translation>If you have another one of this title and format</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Trying 10 seconds of %1 …</source>
+        <translation>Trying 10 seconds of %1 …</translation>
+    </message>
+    <message>
+        <source>All of %1 would be about %2.</source>
+        <translation>All of %1 would be about %2.</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>Play again</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copy)</translation>
+    </message>
+    <message>
+        <source>a preset that is no longer there</source>
+        <translation>a preset that is no longer there</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Undone: %1</translation>
+    </message>
+    <message>
+        <source>%1 presets</source>
+        <translation>%1 presets</translation>
+    </message>
+    <message>
+        <source>Presets changed: %1</source>
+        <translation>Presets changed: %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Changed: %1</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>Deleted: %1</translation>
+    </message>
+    <message>
+        <source>The temporary folder can’t be written (%1); check the disk</source>
+        <translation>The temporary folder can’t be written (%1); check the disk</translation>
+    </message>
+    <message>
+        <source>good for “%1”</source>
+        <translation>good for “%1”</translation>
+    </message>
+    <message>
+        <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
+        <translation>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</translation>
+    </message>
+    <message>
+        <source>No preset has all of this; leave out a word or a filter.</source>
+        <translation>No preset has all of this; leave out a word or a filter.</translation>
+    </message>
+    <message>
+        <source>No preset is known for “%1”.</source>
+        <translation>No preset is known for “%1”.</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favorites</translation>
+    </message>
+    <message>
+        <source>Recently used</source>
+        <translation>Recently used</translation>
+    </message>
+    <message>
+        <source>mono</source>
+        <translation>mono</translation>
+    </message>
+    <message>
+        <source>stereo</source>
+        <translation>stereo</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatic</translation>
+    </message>
+    <message>
+        <source>%1 is lost (%2); instead: %3</source>
+        <translation>%1 is lost (%2); instead: %3</translation>
+    </message>
+    <message>
+        <source>%1 is approximated (%2); instead: %3</source>
+        <translation>%1 is approximated (%2); instead: %3</translation>
+    </message>
+    <message>
+        <source>You have no presets of your own yet.</source>
+        <translation>You have no presets of your own yet.</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Exported: %1</translation>
+    </message>
+    <message>
+        <source>%1 can’t be written (%2); choose another folder</source>
+        <translation>%1 can’t be written (%2); choose another folder</translation>
+    </message>
+    <message>
+        <source>Presets imported: %1</source>
+        <translation>Presets imported: %1</translation>
+    </message>
+    <message>
+        <source>Files of presets</source>
+        <translation>Files of presets</translation>
+    </message>
 </context>
 </TS>

@@ -1223,6 +1223,302 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Found by: %1</source>
+        <translation>Encontrado por: %1</translation>
+    </message>
+    <message>
+        <source>Can’t be used: %1</source>
+        <translation>No se puede usar: %1</translation>
+    </message>
+    <message>
+        <source>Remove from the favorites</source>
+        <translation>Quitar de favoritos</translation>
+    </message>
+    <message>
+        <source>Add to the favorites</source>
+        <translation>Añadir a favoritos</translation>
+    </message>
+    <message>
+        <source>More about %1</source>
+        <translation>Más sobre %1</translation>
+    </message>
+    <message>
+        <source>Find a preset</source>
+        <translation>Buscar un ajuste</translation>
+    </message>
+    <message>
+        <source>Find a preset (Ctrl+F)</source>
+        <translation>Buscar un ajuste (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Import or export presets</source>
+        <translation>Importar o exportar ajustes</translation>
+    </message>
+    <message>
+        <source>Import presets …</source>
+        <translation>Importar ajustes …</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Importar ajustes</translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation>Exportar ajustes</translation>
+    </message>
+    <message>
+        <source>Export all my presets …</source>
+        <translation>Exportar todos los míos …</translation>
+    </message>
+    <message>
+        <source>For the selected files: %1</source>
+        <translation>Para los archivos seleccionados: %1</translation>
+    </message>
+    <message>
+        <source>For all files</source>
+        <translation>Para todos los archivos</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>Ajustes: %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Note …</source>
+        <translation>Nota …</translation>
+    </message>
+    <message>
+        <source>Use this preset</source>
+        <translation>Usar este ajuste</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Arriba</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+Abajo</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar el nombre</translation>
+    </message>
+    <message>
+        <source>What has been changed …</source>
+        <translation>Qué se ha cambiado …</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Default on the command line for</source>
+        <translation>Predeterminado en la línea de órdenes para</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Archivos de audio</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Export …</source>
+        <translation>Exportar …</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>Míos</translation>
+    </message>
+    <message>
+        <source>Try 10 seconds</source>
+        <translation>Probar 10 segundos</translation>
+    </message>
+    <message>
+        <source>Changes of %1</source>
+        <translation>Cambios de %1</translation>
+    </message>
+    <message>
+        <source>It isn’t known what this preset was made from.</source>
+        <translation>No se sabe de qué se hizo este ajuste.</translation>
+    </message>
+    <message>
+        <source>It has all values of %1.</source>
+        <translation>Tiene todos los valores de %1.</translation>
+    </message>
+    <message>
+        <source>It was made from %1, with these changes:</source>
+        <translation>Se hizo a partir de %1, con estos cambios:</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Take all back</source>
+        <translation>Deshacer todo</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nuevo</translation>
+    </message>
+    <message>
+        <source>you have it already</source>
+        <translation>ya lo tiene</translation>
+    </message>
+    <message>
+        <source>you have another one</source>
+        <translation>tiene otro</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>rechazado</translation>
+    </message>
+    <message>
+        <source>If you have another one of this title and format</source>
+        <translation>Si ya hay otro con este título y formato</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Trying 10 seconds of %1 …</source>
+        <translation>Probando 10 segundos de %1 …</translation>
+    </message>
+    <message>
+        <source>All of %1 would be about %2.</source>
+        <translation>%1 completo ocuparía unos %2.</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>Reproducir otra vez</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copia)</translation>
+    </message>
+    <message>
+        <source>a preset that is no longer there</source>
+        <translation>un ajuste que ya no existe</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Deshecho: %1</translation>
+    </message>
+    <message>
+        <source>%1 presets</source>
+        <translation>%1 ajustes</translation>
+    </message>
+    <message>
+        <source>Presets changed: %1</source>
+        <translation>Ajustes cambiados: %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Cambiado: %1</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>Eliminado: %1</translation>
+    </message>
+    <message>
+        <source>The temporary folder can’t be written (%1); check the disk</source>
+        <translation>No se puede escribir en la carpeta temporal (%1); compruebe el disco</translation>
+    </message>
+    <message>
+        <source>good for “%1”</source>
+        <translation>bueno para «%1»</translation>
+    </message>
+    <message>
+        <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
+        <translation>Escriba un dispositivo, un sitio, un códec, un tamaño o un fin, como «iphone 1080» o «pequeño».</translation>
+    </message>
+    <message>
+        <source>No preset has all of this; leave out a word or a filter.</source>
+        <translation>Ningún ajuste cumple todo; quite una palabra o un filtro.</translation>
+    </message>
+    <message>
+        <source>No preset is known for “%1”.</source>
+        <translation>No se conoce ningún ajuste para «%1».</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Recently used</source>
+        <translation>Usados recientemente</translation>
+    </message>
+    <message>
+        <source>mono</source>
+        <translation>mono</translation>
+    </message>
+    <message>
+        <source>stereo</source>
+        <translation>estéreo</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automático</translation>
+    </message>
+    <message>
+        <source>%1 is lost (%2); instead: %3</source>
+        <translation>%1 se pierde (%2); en su lugar: %3</translation>
+    </message>
+    <message>
+        <source>%1 is approximated (%2); instead: %3</source>
+        <translation>%1 se aproxima (%2); en su lugar: %3</translation>
+    </message>
+    <message>
+        <source>You have no presets of your own yet.</source>
+        <translation>Aún no tiene ajustes propios.</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Exportado: %1</translation>
+    </message>
+    <message>
+        <source>%1 can’t be written (%2); choose another folder</source>
+        <translation>No se puede escribir %1 (%2); elija otra carpeta</translation>
+    </message>
+    <message>
+        <source>Presets imported: %1</source>
+        <translation>Ajustes importados: %1</translation>
+    </message>
+    <message>
+        <source>Files of presets</source>
+        <translation>Archivos de ajustes</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>

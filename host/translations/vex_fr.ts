@@ -1223,6 +1223,302 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Found by: %1</source>
+        <translation>Trouvé par : %1</translation>
+    </message>
+    <message>
+        <source>Can’t be used: %1</source>
+        <translation>Inutilisable : %1</translation>
+    </message>
+    <message>
+        <source>Remove from the favorites</source>
+        <translation>Retirer des favoris</translation>
+    </message>
+    <message>
+        <source>Add to the favorites</source>
+        <translation>Ajouter aux favoris</translation>
+    </message>
+    <message>
+        <source>More about %1</source>
+        <translation>Plus sur %1</translation>
+    </message>
+    <message>
+        <source>Find a preset</source>
+        <translation>Chercher un préréglage</translation>
+    </message>
+    <message>
+        <source>Find a preset (Ctrl+F)</source>
+        <translation>Chercher un préréglage (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Import or export presets</source>
+        <translation>Importer ou exporter des préréglages</translation>
+    </message>
+    <message>
+        <source>Import presets …</source>
+        <translation>Importer des préréglages …</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Importer des préréglages</translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation>Exporter des préréglages</translation>
+    </message>
+    <message>
+        <source>Export all my presets …</source>
+        <translation>Exporter tous les miens …</translation>
+    </message>
+    <message>
+        <source>For the selected files: %1</source>
+        <translation>Pour les fichiers sélectionnés : %1</translation>
+    </message>
+    <message>
+        <source>For all files</source>
+        <translation>Pour tous les fichiers</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>Préréglages : %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Note …</source>
+        <translation>Note …</translation>
+    </message>
+    <message>
+        <source>Use this preset</source>
+        <translation>Utiliser ce préréglage</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Haut</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+Bas</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>What has been changed …</source>
+        <translation>Ce qui a été modifié …</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Default on the command line for</source>
+        <translation>Par défaut en ligne de commande pour</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vidéos</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>Fichiers audio</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Export …</source>
+        <translation>Exporter …</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>Les miens</translation>
+    </message>
+    <message>
+        <source>Try 10 seconds</source>
+        <translation>Essayer 10 secondes</translation>
+    </message>
+    <message>
+        <source>Changes of %1</source>
+        <translation>Modifications de %1</translation>
+    </message>
+    <message>
+        <source>It isn’t known what this preset was made from.</source>
+        <translation>On ne sait pas à partir de quoi ce préréglage a été créé.</translation>
+    </message>
+    <message>
+        <source>It has all values of %1.</source>
+        <translation>Il a toutes les valeurs de %1.</translation>
+    </message>
+    <message>
+        <source>It was made from %1, with these changes:</source>
+        <translation>Il a été créé à partir de %1, avec ces modifications :</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Take all back</source>
+        <translation>Tout annuler</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nouveau</translation>
+    </message>
+    <message>
+        <source>you have it already</source>
+        <translation>déjà présent</translation>
+    </message>
+    <message>
+        <source>you have another one</source>
+        <translation>un autre existe</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refusé</translation>
+    </message>
+    <message>
+        <source>If you have another one of this title and format</source>
+        <translation>S’il en existe un autre de ce titre et de ce format</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Trying 10 seconds of %1 …</source>
+        <translation>Essai de 10 secondes de %1 …</translation>
+    </message>
+    <message>
+        <source>All of %1 would be about %2.</source>
+        <translation>%1 ferait en entier environ %2.</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>Relire</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copie)</translation>
+    </message>
+    <message>
+        <source>a preset that is no longer there</source>
+        <translation>un préréglage qui n’existe plus</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annulé : %1</translation>
+    </message>
+    <message>
+        <source>%1 presets</source>
+        <translation>%1 préréglages</translation>
+    </message>
+    <message>
+        <source>Presets changed: %1</source>
+        <translation>Préréglages modifiés : %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Modifié : %1</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>Supprimé : %1</translation>
+    </message>
+    <message>
+        <source>The temporary folder can’t be written (%1); check the disk</source>
+        <translation>Impossible d’écrire dans le dossier temporaire (%1) ; vérifiez le disque</translation>
+    </message>
+    <message>
+        <source>good for “%1”</source>
+        <translation>bon pour « %1 »</translation>
+    </message>
+    <message>
+        <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
+        <translation>Tapez un appareil, un site, un codec, une taille ou un usage, comme « iphone 1080 » ou « petit ».</translation>
+    </message>
+    <message>
+        <source>No preset has all of this; leave out a word or a filter.</source>
+        <translation>Aucun préréglage n’a tout cela ; retirez un mot ou un filtre.</translation>
+    </message>
+    <message>
+        <source>No preset is known for “%1”.</source>
+        <translation>Aucun préréglage connu pour « %1 ».</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Recently used</source>
+        <translation>Utilisés récemment</translation>
+    </message>
+    <message>
+        <source>mono</source>
+        <translation>mono</translation>
+    </message>
+    <message>
+        <source>stereo</source>
+        <translation>stéréo</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatique</translation>
+    </message>
+    <message>
+        <source>%1 is lost (%2); instead: %3</source>
+        <translation>%1 est perdu (%2) ; à la place : %3</translation>
+    </message>
+    <message>
+        <source>%1 is approximated (%2); instead: %3</source>
+        <translation>%1 est approché (%2) ; à la place : %3</translation>
+    </message>
+    <message>
+        <source>You have no presets of your own yet.</source>
+        <translation>Vous n’avez pas encore de préréglages.</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Exporté : %1</translation>
+    </message>
+    <message>
+        <source>%1 can’t be written (%2); choose another folder</source>
+        <translation>Impossible d’écrire %1 (%2) ; choisissez un autre dossier</translation>
+    </message>
+    <message>
+        <source>Presets imported: %1</source>
+        <translation>Préréglages importés : %1</translation>
+    </message>
+    <message>
+        <source>Files of presets</source>
+        <translation>Fichiers de préréglages</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>

@@ -1223,6 +1223,302 @@
         <source>%1 %</source>
         <translation>%1%</translation>
     </message>
+    <message>
+        <source>Found by: %1</source>
+        <translation>一致：%1</translation>
+    </message>
+    <message>
+        <source>Can’t be used: %1</source>
+        <translation>使用できません：%1</translation>
+    </message>
+    <message>
+        <source>Remove from the favorites</source>
+        <translation>お気に入りから外す</translation>
+    </message>
+    <message>
+        <source>Add to the favorites</source>
+        <translation>お気に入りに追加</translation>
+    </message>
+    <message>
+        <source>More about %1</source>
+        <translation>%1 のその他の操作</translation>
+    </message>
+    <message>
+        <source>Find a preset</source>
+        <translation>プリセットを検索</translation>
+    </message>
+    <message>
+        <source>Find a preset (Ctrl+F)</source>
+        <translation>プリセットを検索 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Import or export presets</source>
+        <translation>プリセットの読み込みと書き出し</translation>
+    </message>
+    <message>
+        <source>Import presets …</source>
+        <translation>プリセットを読み込む…</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>プリセットを読み込む</translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation>プリセットを書き出す</translation>
+    </message>
+    <message>
+        <source>Export all my presets …</source>
+        <translation>自分のプリセットをすべて書き出す…</translation>
+    </message>
+    <message>
+        <source>For the selected files: %1</source>
+        <translation>選択したファイル用：%1</translation>
+    </message>
+    <message>
+        <source>For all files</source>
+        <translation>すべてのファイル用</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>プリセット：%1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>メモ</translation>
+    </message>
+    <message>
+        <source>Note …</source>
+        <translation>メモ…</translation>
+    </message>
+    <message>
+        <source>Use this preset</source>
+        <translation>このプリセットを使う</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+↑</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+↓</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>What has been changed …</source>
+        <translation>変更内容…</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Default on the command line for</source>
+        <translation>コマンドラインの既定</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>音声ファイル</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Export …</source>
+        <translation>書き出す…</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>フィルター</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>マイプリセット</translation>
+    </message>
+    <message>
+        <source>Try 10 seconds</source>
+        <translation>10 秒だけ試す</translation>
+    </message>
+    <message>
+        <source>Changes of %1</source>
+        <translation>%1 の変更</translation>
+    </message>
+    <message>
+        <source>It isn’t known what this preset was made from.</source>
+        <translation>このプリセットの元は不明です。</translation>
+    </message>
+    <message>
+        <source>It has all values of %1.</source>
+        <translation>%1 とすべて同じ値です。</translation>
+    </message>
+    <message>
+        <source>It was made from %1, with these changes:</source>
+        <translation>%1 から次の変更で作成されました：</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Take all back</source>
+        <translation>すべて元に戻す</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>新規</translation>
+    </message>
+    <message>
+        <source>you have it already</source>
+        <translation>既にあります</translation>
+    </message>
+    <message>
+        <source>you have another one</source>
+        <translation>別のものがあります</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>読み込めません</translation>
+    </message>
+    <message>
+        <source>If you have another one of this title and format</source>
+        <translation>同じ名前と形式のものがある場合</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>読み込む</translation>
+    </message>
+    <message>
+        <source>Trying 10 seconds of %1 …</source>
+        <translation>%1 を 10 秒試しています…</translation>
+    </message>
+    <message>
+        <source>All of %1 would be about %2.</source>
+        <translation>%1 全体では約 %2 になります。</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>もう一度再生</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1（コピー）</translation>
+    </message>
+    <message>
+        <source>a preset that is no longer there</source>
+        <translation>もう存在しないプリセット</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>元に戻しました：%1</translation>
+    </message>
+    <message>
+        <source>%1 presets</source>
+        <translation>%1 個のプリセット</translation>
+    </message>
+    <message>
+        <source>Presets changed: %1</source>
+        <translation>変更したプリセット：%1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>変更しました：%1</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>削除しました：%1</translation>
+    </message>
+    <message>
+        <source>The temporary folder can’t be written (%1); check the disk</source>
+        <translation>一時フォルダーに書き込めません（%1）。ディスクを確認してください</translation>
+    </message>
+    <message>
+        <source>good for “%1”</source>
+        <translation>「%1」向き</translation>
+    </message>
+    <message>
+        <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
+        <translation>「iphone 1080」や「小さい」のように、機器、サイト、コーデック、サイズ、用途を入力してください。</translation>
+    </message>
+    <message>
+        <source>No preset has all of this; leave out a word or a filter.</source>
+        <translation>すべてに合うプリセットはありません。語かフィルターを減らしてください。</translation>
+    </message>
+    <message>
+        <source>No preset is known for “%1”.</source>
+        <translation>「%1」のプリセットはありません。</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>Recently used</source>
+        <translation>最近使ったもの</translation>
+    </message>
+    <message>
+        <source>mono</source>
+        <translation>モノラル</translation>
+    </message>
+    <message>
+        <source>stereo</source>
+        <translation>ステレオ</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>%1 is lost (%2); instead: %3</source>
+        <translation>%1（%2）は失われます。代わりに：%3</translation>
+    </message>
+    <message>
+        <source>%1 is approximated (%2); instead: %3</source>
+        <translation>%1（%2）は近い値になります。代わりに：%3</translation>
+    </message>
+    <message>
+        <source>You have no presets of your own yet.</source>
+        <translation>自分のプリセットはまだありません。</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>書き出しました：%1</translation>
+    </message>
+    <message>
+        <source>%1 can’t be written (%2); choose another folder</source>
+        <translation>%1 を書き込めません（%2）。別のフォルダーを選んでください</translation>
+    </message>
+    <message>
+        <source>Presets imported: %1</source>
+        <translation>読み込んだプリセット：%1</translation>
+    </message>
+    <message>
+        <source>Files of presets</source>
+        <translation>プリセットのファイル</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>

@@ -1223,6 +1223,302 @@
         <source>%1 %</source>
         <translation>%1%</translation>
     </message>
+    <message>
+        <source>Found by: %1</source>
+        <translation>匹配：%1</translation>
+    </message>
+    <message>
+        <source>Can’t be used: %1</source>
+        <translation>无法使用：%1</translation>
+    </message>
+    <message>
+        <source>Remove from the favorites</source>
+        <translation>从收藏中移除</translation>
+    </message>
+    <message>
+        <source>Add to the favorites</source>
+        <translation>添加到收藏</translation>
+    </message>
+    <message>
+        <source>More about %1</source>
+        <translation>%1 的更多操作</translation>
+    </message>
+    <message>
+        <source>Find a preset</source>
+        <translation>查找预设</translation>
+    </message>
+    <message>
+        <source>Find a preset (Ctrl+F)</source>
+        <translation>查找预设 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Import or export presets</source>
+        <translation>导入或导出预设</translation>
+    </message>
+    <message>
+        <source>Import presets …</source>
+        <translation>导入预设…</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>导入预设</translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation>导出预设</translation>
+    </message>
+    <message>
+        <source>Export all my presets …</source>
+        <translation>导出我的全部预设…</translation>
+    </message>
+    <message>
+        <source>For the selected files: %1</source>
+        <translation>用于所选文件：%1</translation>
+    </message>
+    <message>
+        <source>For all files</source>
+        <translation>用于所有文件</translation>
+    </message>
+    <message>
+        <source>Presets: %1</source>
+        <translation>预设：%1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Note …</source>
+        <translation>备注…</translation>
+    </message>
+    <message>
+        <source>Use this preset</source>
+        <translation>使用此预设</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+↑</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+↓</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>What has been changed …</source>
+        <translation>更改内容…</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Default on the command line for</source>
+        <translation>命令行默认用于</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Audio files</source>
+        <translation>音频文件</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Export …</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>My presets</source>
+        <translation>我的预设</translation>
+    </message>
+    <message>
+        <source>Try 10 seconds</source>
+        <translation>试用 10 秒</translation>
+    </message>
+    <message>
+        <source>Changes of %1</source>
+        <translation>%1 的更改</translation>
+    </message>
+    <message>
+        <source>It isn’t known what this preset was made from.</source>
+        <translation>不知道此预设由何而来。</translation>
+    </message>
+    <message>
+        <source>It has all values of %1.</source>
+        <translation>其所有值与 %1 相同。</translation>
+    </message>
+    <message>
+        <source>It was made from %1, with these changes:</source>
+        <translation>由 %1 制成，更改如下：</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>还原</translation>
+    </message>
+    <message>
+        <source>Take all back</source>
+        <translation>全部还原</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>新</translation>
+    </message>
+    <message>
+        <source>you have it already</source>
+        <translation>已有</translation>
+    </message>
+    <message>
+        <source>you have another one</source>
+        <translation>已有另一个</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>已拒绝</translation>
+    </message>
+    <message>
+        <source>If you have another one of this title and format</source>
+        <translation>如果已有相同标题和格式的预设</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Trying 10 seconds of %1 …</source>
+        <translation>正在试用 %1 的 10 秒…</translation>
+    </message>
+    <message>
+        <source>All of %1 would be about %2.</source>
+        <translation>%1 全部约为 %2。</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>再次播放</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1（副本）</translation>
+    </message>
+    <message>
+        <source>a preset that is no longer there</source>
+        <translation>已不存在的预设</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>已撤销：%1</translation>
+    </message>
+    <message>
+        <source>%1 presets</source>
+        <translation>%1 个预设</translation>
+    </message>
+    <message>
+        <source>Presets changed: %1</source>
+        <translation>已更改预设：%1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>已更改：%1</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>已删除：%1</translation>
+    </message>
+    <message>
+        <source>The temporary folder can’t be written (%1); check the disk</source>
+        <translation>无法写入临时文件夹（%1）；请检查磁盘</translation>
+    </message>
+    <message>
+        <source>good for “%1”</source>
+        <translation>适合“%1”</translation>
+    </message>
+    <message>
+        <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
+        <translation>输入设备、网站、编解码器、尺寸或用途，例如“iphone 1080”或“小”。</translation>
+    </message>
+    <message>
+        <source>No preset has all of this; leave out a word or a filter.</source>
+        <translation>没有符合全部条件的预设；请去掉一个词或筛选。</translation>
+    </message>
+    <message>
+        <source>No preset is known for “%1”.</source>
+        <translation>没有与“%1”相关的预设。</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>Recently used</source>
+        <translation>最近使用</translation>
+    </message>
+    <message>
+        <source>mono</source>
+        <translation>单声道</translation>
+    </message>
+    <message>
+        <source>stereo</source>
+        <translation>立体声</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>%1 is lost (%2); instead: %3</source>
+        <translation>%1 丢失（%2）；替代：%3</translation>
+    </message>
+    <message>
+        <source>%1 is approximated (%2); instead: %3</source>
+        <translation>%1 为近似（%2）；替代：%3</translation>
+    </message>
+    <message>
+        <source>You have no presets of your own yet.</source>
+        <translation>您还没有自己的预设。</translation>
+    </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>已导出：%1</translation>
+    </message>
+    <message>
+        <source>%1 can’t be written (%2); choose another folder</source>
+        <translation>无法写入 %1（%2）；请选择其他文件夹</translation>
+    </message>
+    <message>
+        <source>Presets imported: %1</source>
+        <translation>已导入预设：%1</translation>
+    </message>
+    <message>
+        <source>Files of presets</source>
+        <translation>预设文件</translation>
+    </message>
 </context>
 <context>
     <name>OutputStreams</name>
