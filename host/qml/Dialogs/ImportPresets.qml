@@ -11,8 +11,9 @@ import VexWindow 1.0
 VEXContent {
     id: root
 
-    readonly property var presets: root.frame.info["presets"]
-    readonly property int importable: root.frame.info["importable"]
+    readonly property var info: root.frame.info
+    readonly property var presets: root.info["presets"]
+    readonly property int importable: root.info["importable"]
     readonly property int conflicting: root.countOf("conflict")
 
     function countOf(state) {

@@ -9,7 +9,8 @@ import VexWindow 1.0
 VEXContent {
     id: root
 
-    readonly property string presetId: root.frame.info["id"]
+    readonly property var info: root.frame.info
+    readonly property string presetId: root.info["id"]
     readonly property var differences: PresetActions.version >= 0
                                        ? PresetActions.differences(root.presetId) : []
 

@@ -16,6 +16,7 @@ T.Popup {
     readonly property FinderRow row: list.currentItem as FinderRow
     /*! What the user types about a preset: its "title", its "note" or nothing. */
     property string typing: ""
+    readonly property string offered: root.page.offer.text
 
     function search() {
         PresetFinder.search(field.text, filters.kind, filters.codec, filters.size)
@@ -53,6 +54,12 @@ T.Popup {
         PresetFinder.open(root.page)
         list.goTo(0)
     }
+    // The button that was clicked may be gone.
+    onOfferedChanged: {
+        if (root.opened && root.typing === "") {
+            field.forceActiveFocus(Qt.OtherFocusReason)
+        }
+    }
     onOpened: field.forceActiveFocus(Qt.PopupFocusReason)
     // What nobody sees needs no search when presets change.
     onClosed: PresetFinder.search("", "", "", "")
@@ -64,7 +71,9 @@ T.Popup {
         border.color: Theme.frame
     }
 
-    contentItem: Item {
+    Item {
+        width: root.availableWidth
+        height: root.availableHeight
         Accessible.role: Accessible.Dialog
         Accessible.name: ToolFun.tr("Find a preset")
 
@@ -186,6 +195,7 @@ T.Popup {
             function goTo(row) {
                 list.currentIndex = list.count > 0 ? Math.max(0, Math.min(row, list.count - 1))
                                                    : -1
+                list.lastRow = list.currentIndex
                 list.positionViewAtIndex(Math.max(0, list.currentIndex), ListView.Contain)
             }
 
@@ -201,6 +211,13 @@ T.Popup {
             function page(by) {
                 const height = root.row === null ? 1 : root.row.height
                 list.goTo(list.currentIndex + by * Math.max(1, Math.floor(list.height / height)))
+            }
+
+            /*! The list is another one: goes on where the user was. */
+            function goBack() {
+                const kept = PresetFinder.rowOf(list.keepAt)
+                list.goTo(kept >= 0 ? kept : list.lastRow)
+                list.keepAt = kept >= 0 ? "" : list.keepAt
             }
 
             function openMenu() {
@@ -228,6 +245,9 @@ T.Popup {
             Accessible.role: Accessible.List
             Accessible.name: ToolFun.tr("Presets: %1").arg(PresetFinder.count)
 
+            Component.onCompleted: PresetFinder.found.connect(list.goBack)
+            Component.onDestruction: PresetFinder.found.disconnect(list.goBack)
+
             ScrollBar.vertical: VEXScrollBar {}
 
             section.property: "group"
@@ -248,22 +268,10 @@ T.Popup {
 
                 width: list.width - 10
                 isCurrent: row.ListView.isCurrentItem
-                onPressed: list.currentIndex = row.index
+                onPressed: list.goTo(row.index)
                 onUsed: root.use(row.presetId)
                 onNearestUsed: root.use(row.nearest)
                 onMenuWanted: function (button) { root.openMenu(row, button) }
-            }
-
-            Connections {
-                target: PresetFinder
-                function onModelAboutToBeReset() {
-                    list.lastRow = list.currentIndex
-                }
-                function onFound() {
-                    const kept = PresetFinder.rowOf(list.keepAt)
-                    list.goTo(kept >= 0 ? kept : list.lastRow)
-                    list.keepAt = kept >= 0 ? "" : list.keepAt
-                }
             }
         }
 
@@ -326,16 +334,6 @@ T.Popup {
                 bottom: parent.bottom
             }
             page: root.page
-        }
-
-        Connections {
-            target: root.page.offer
-            // The button that was clicked may be gone.
-            function onChanged() {
-                if (root.opened && root.typing === "") {
-                    field.forceActiveFocus(Qt.OtherFocusReason)
-                }
-            }
         }
     }
 

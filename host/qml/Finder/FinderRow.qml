@@ -24,10 +24,9 @@ Rectangle {
     readonly property string nearest: root.isCurrent && !root.isUsable
                                       ? PresetFinder.nearestTo(root.presetId) : ""
     /*! All that the row says, for those who can't see it. */
-    readonly property string spoken: [root.title, root.format, root.details, root.why,
-                                      root.problem].filter(function (text) {
-                                          return text !== ""
-                                      }).join(", ")
+    readonly property string spoken: root.title + ", " + root.format + ", " + root.details
+                                     + (root.why === "" ? "" : ", " + root.why)
+                                     + (root.problem === "" ? "" : ", " + root.problem)
 
     signal pressed()
     signal used()
