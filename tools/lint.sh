@@ -97,7 +97,7 @@ rm -rf "$room"
 git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror || status=1
 git ls-files -z '*.qml' | xargs -0 "$qt5/qmllint" || status=1
 lint_types || status=1
-shellcheck -x run test .ci/run tools/*.sh tests/host/queue/engines/*.sh || status=1
+shellcheck -x run test .ci/run tools/*.sh tests/host/queue/engines/*.sh tests/support/*.sh || status=1
 reuse lint --quiet || status=1
 
 cmake --preset dev >/dev/null
