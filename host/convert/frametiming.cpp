@@ -61,8 +61,8 @@ FrameTiming thinnedTo(const Ratio &rate)
     return timing;
 }
 
-/*! Each frame of a variable rate from its own time on: after a gap, ffmpeg's own counting would begin
- *  one step early. */
+/*! Each frame of a variable rate from its own time on: after a gap, ffmpeg's own counting would
+ * begin one step early. */
 FrameTiming evenTiming(const Ratio &rate)
 {
     FrameTiming timing = FrameTiming::constant(rate);
