@@ -347,9 +347,11 @@ void Screenshots::take(const QString &name, QQuickWindow *window)
     QObject::connect(content.data(), &QQuickItemGrabResult::ready, &m_window,
                      [&isDrawn] { isDrawn = true; });
     waitUntil([&isDrawn] { return isDrawn; });
+    QImage drawn = content->image();
+    drawn.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied); // it calls itself opaque
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(shown->property("color").value<QColor>());
-    QPainter(&image).drawImage(0, 0, content->image());
+    image.fill(shown->color());
+    QPainter(&image).drawImage(0, 0, drawn);
 
     const QString path = m_folder.absoluteFilePath(name + QStringLiteral(".png"));
     if (!image.save(path)) {
