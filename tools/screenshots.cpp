@@ -123,7 +123,7 @@ void Screenshots::takeFinder()
     presets.rename(own, QStringLiteral("Holidays for the tablet"));
     presets.setNote(own, QStringLiteral("fits on the old tablet"));
     presets.setFavorite(QStringLiteral("Device_APPLE_001"), true);
-    QObject *finder = m_window.window()->property("finder").value<QObject *>();
+    auto *finder = m_window.window()->property("finder").value<QObject *>();
     QMetaObject::invokeMethod(finder, "open");
     take(QStringLiteral("finder"));
     type(QStringLiteral("hevc small"));
@@ -176,7 +176,7 @@ void Screenshots::takeTasks()
         });
     }
     take(QStringLiteral("converter-ready"));
-    QObject *panel = m_window.window()->findChild<QObject *>(QStringLiteral("outputPanel"));
+    auto *panel = m_window.window()->findChild<QObject *>(QStringLiteral("outputPanel"));
     QMetaObject::invokeMethod(panel, "open");
     take(QStringLiteral("output-panel"));
     QMetaObject::invokeMethod(panel, "close");

@@ -219,7 +219,7 @@ void Page::moveChosen(int taskId, int before)
 
 void Page::sortBy(Task::SortKey key)
 {
-    m_tasks.sort([key](const Task &one, const Task &other) { return one.isBefore(other, key); });
+    m_tasks.sortBy([key](const Task &one, const Task &other) { return one.isBefore(other, key); });
 }
 
 void Page::convertAll()

@@ -201,7 +201,7 @@ void TaskList::move(const QSet<int> &ids, int before)
         ++place;
     }
     const int anchor = place < count() ? m_tasks.at(place).id : 0;
-    sort([this, &ids, anchor, place](const Task &one, const Task &other) {
+    sortBy([this, &ids, anchor, place](const Task &one, const Task &other) {
         const auto key = [this, &ids, anchor, place](const Task &task) {
             const int row = rowOf(task.id);
             const bool isMoved = ids.contains(task.id);
@@ -212,7 +212,7 @@ void TaskList::move(const QSet<int> &ids, int before)
     });
 }
 
-void TaskList::sort(const std::function<bool(const Task &, const Task &)> &isLess)
+void TaskList::sortBy(const std::function<bool(const Task &, const Task &)> &isLess)
 {
     QVector<Task> sorted = m_tasks;
     std::stable_sort(sorted.begin(), sorted.end(), isLess);

@@ -66,7 +66,7 @@ public:
     void remove(const QSet<int> &ids);
     /*! Moves the tasks, in their order, to where the task \a before is; 0: to the end. */
     void move(const QSet<int> &ids, int before);
-    void sort(const std::function<bool(const Task &, const Task &)> &isLess);
+    void sortBy(const std::function<bool(const Task &, const Task &)> &isLess);
 
     /*! Calls \a change, which may change anything but the task's id. */
     void update(int id, const std::function<void(Task &)> &change);

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.5
 import QtQuick.Templates 2.15 as T
 import Controls 1.0
 import Converter 1.0
@@ -13,7 +12,7 @@ T.Popup {
 
     required property PageProxy page
 
-    readonly property FinderRow row: list.currentItem as FinderRow
+    readonly property FinderRow row: list.row
     /*! What the user types about a preset: its "title", its "note" or nothing. */
     property string typing: ""
     readonly property string offered: root.page.offer.text
@@ -130,33 +129,12 @@ T.Popup {
             }
         }
 
-        VEXImageButton {
+        ExchangeButton {
             id: exchange
 
             anchors {
                 right: parent.right
                 verticalCenter: field.verticalCenter
-            }
-            width: 28
-            height: 28
-            iconSize: 18
-            iconSource: "qrc:/window/images/more.svg"
-            Accessible.role: Accessible.ButtonMenu
-            Accessible.name: ToolFun.tr("Import or export presets")
-            onClicked: exchangeMenu.popup(exchange, 0, exchange.height)
-
-            StyledMenu {
-                id: exchangeMenu
-
-                MenuEntry {
-                    text: ToolFun.tr("Import presets …")
-                    onTriggered: PresetExchange.chooseFiles()
-                }
-
-                MenuEntry {
-                    text: ToolFun.tr("Export all my presets …")
-                    onTriggered: PresetExchange.chooseTarget()
-                }
             }
         }
 
@@ -189,46 +167,8 @@ T.Popup {
                   + ToolFun.tr("Presets: %1").arg(PresetFinder.count)
         }
 
-        ListView {
+        FinderList {
             id: list
-
-            function goTo(row) {
-                list.currentIndex = list.count > 0 ? Math.max(0, Math.min(row, list.count - 1))
-                                                   : -1
-                list.lastRow = list.currentIndex
-                list.positionViewAtIndex(Math.max(0, list.currentIndex), ListView.Contain)
-            }
-
-            function step(by, modifiers) {
-                if (!(modifiers & Qt.AltModifier)) {
-                    list.goTo(list.currentIndex + by)
-                } else if (root.row !== null) {
-                    list.keepAt = root.row.presetId
-                    PresetActions.move(root.row.presetId, by)
-                }
-            }
-
-            function page(by) {
-                const height = root.row === null ? 1 : root.row.height
-                list.goTo(list.currentIndex + by * Math.max(1, Math.floor(list.height / height)))
-            }
-
-            /*! The list is another one: goes on where the user was. */
-            function goBack() {
-                const kept = PresetFinder.rowOf(list.keepAt)
-                list.goTo(kept >= 0 ? kept : list.lastRow)
-                list.keepAt = kept >= 0 ? "" : list.keepAt
-            }
-
-            function openMenu() {
-                if (root.row !== null) {
-                    root.openMenu(root.row, root.row)
-                }
-            }
-
-            /*! The preset to go to when the list has changed. */
-            property string keepAt: ""
-            property int lastRow: 0
 
             anchors {
                 top: target.bottom
@@ -236,43 +176,8 @@ T.Popup {
                 bottom: parent.bottom
             }
             width: parent.width
-            clip: true
-            spacing: 2
-            cacheBuffer: 0 // rows made ahead would be given up at each letter
-            boundsBehavior: Flickable.StopAtBounds
-            model: PresetFinder
-            highlightMoveDuration: 0
-            Accessible.role: Accessible.List
-            Accessible.name: ToolFun.tr("Presets: %1").arg(PresetFinder.count)
-
-            Component.onCompleted: PresetFinder.found.connect(list.goBack)
-            Component.onDestruction: PresetFinder.found.disconnect(list.goBack)
-
-            ScrollBar.vertical: VEXScrollBar {}
-
-            section.property: "group"
-            section.delegate: VEXLabel {
-                required property string section
-
-                width: list.width
-                height: section === "" ? 0 : implicitHeight + 10
-                text: section
-                font.pixelSize: Theme.smallText
-                font.weight: Font.DemiBold
-                color: Theme.font_color_grade2
-                Accessible.role: Accessible.Heading
-            }
-
-            delegate: FinderRow {
-                id: row
-
-                width: list.width - 10
-                isCurrent: row.ListView.isCurrentItem
-                onPressed: list.goTo(row.index)
-                onUsed: root.use(row.presetId)
-                onNearestUsed: root.use(row.nearest)
-                onMenuWanted: function (button) { root.openMenu(row, button) }
-            }
+            onUseWanted: function (presetId) { root.use(presetId) }
+            onMenuWanted: function (row, button) { root.openMenu(row, button) }
         }
 
         VEXLineField {

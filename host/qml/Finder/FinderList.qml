@@ -1,0 +1,96 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.5
+import Public 1.0
+import VexTheme 1.0
+import VexWindow 1.0
+
+/*! The presets that are found, one of them current. It stays current when the list changes. */
+Item {
+    id: root
+
+    readonly property FinderRow row: list.currentItem as FinderRow
+    readonly property int currentIndex: list.currentIndex
+    /*! The preset to go to when the list has changed. */
+    property string keepAt: ""
+    property int lastRow: 0
+
+    signal useWanted(string presetId)
+    signal menuWanted(FinderRow row, Item button)
+
+    function goTo(row) {
+        list.currentIndex = list.count > 0 ? Math.max(0, Math.min(row, list.count - 1)) : -1
+        root.lastRow = list.currentIndex
+        list.positionViewAtIndex(Math.max(0, list.currentIndex), ListView.Contain)
+    }
+
+    function step(by, modifiers) {
+        if (!(modifiers & Qt.AltModifier)) {
+            root.goTo(list.currentIndex + by)
+        } else if (root.row !== null) {
+            root.keepAt = root.row.presetId
+            PresetActions.move(root.row.presetId, by)
+        }
+    }
+
+    function page(by) {
+        const height = root.row === null ? 1 : root.row.height
+        root.goTo(list.currentIndex + by * Math.max(1, Math.floor(list.height / height)))
+    }
+
+    /*! The list is another one: goes on where the user was. */
+    function goBack() {
+        const kept = PresetFinder.rowOf(root.keepAt)
+        root.goTo(kept >= 0 ? kept : root.lastRow)
+        root.keepAt = kept >= 0 ? "" : root.keepAt
+    }
+
+    function openMenu() {
+        if (root.row !== null) {
+            root.menuWanted(root.row, root.row)
+        }
+    }
+
+    Component.onCompleted: PresetFinder.found.connect(root.goBack)
+    Component.onDestruction: PresetFinder.found.disconnect(root.goBack)
+
+    // Not the root: its headings would then be given the view's own property "section".
+    ListView {
+        id: list
+
+        anchors.fill: parent
+        clip: true
+        spacing: 2
+        cacheBuffer: 0 // rows made ahead would be given up at each letter
+        boundsBehavior: Flickable.StopAtBounds
+        model: PresetFinder
+        highlightMoveDuration: 0
+        Accessible.role: Accessible.List
+        Accessible.name: ToolFun.tr("Presets: %1").arg(PresetFinder.count)
+
+        ScrollBar.vertical: VEXScrollBar {}
+
+        section.property: "group"
+        section.delegate: VEXLabel {
+            required property string section
+
+            width: list.width
+            height: section === "" ? 0 : implicitHeight + 10
+            text: section
+            font.pixelSize: Theme.smallText
+            font.weight: Font.DemiBold
+            color: Theme.font_color_grade2
+            Accessible.role: Accessible.Heading
+        }
+
+        delegate: FinderRow {
+            id: row
+
+            width: list.width - 10
+            isCurrent: row.ListView.isCurrentItem
+            onPressed: root.goTo(row.index)
+            onUsed: root.useWanted(row.presetId)
+            onNearestUsed: root.useWanted(row.nearest)
+            onMenuWanted: function (button) { root.menuWanted(row, button) }
+        }
+    }
+}
