@@ -1,16 +1,15 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.5
+import QtQuick.Templates 2.15 as T
 import "."
 
 /*! One tag of the tag bar, underlined. */
-TabButton {
+T.TabButton {
     id: root
 
     required property string tag
     required property bool selected
 
     implicitWidth: Math.ceil(implicitContentWidth)
-    padding: 0
     checkable: false
     text: ToolFun.tr(root.tag === "socialvideo" ? "socialVideo" : root.tag)
     hoverEnabled: true
