@@ -24,6 +24,8 @@ for library in formats/libVexConvertFormats utility/libVexMorrowUtility; do
     abidw --suppressions "$folder/public.suppr" --headers-dir "$room/include" --drop-private-types \
         --exported-interfaces-only --no-show-locs --no-corpus-path --no-comp-dir-path \
         --no-elf-needed --no-parameter-names --out-file "$room/$name.abi" "$file"
+    # Where the sources were built says nothing of the library.
+    sed -i "s|path='$PWD/|path='|" "$room/$name.abi"
     if $update; then
         cp "$room/$name.abi" "$release"
         continue
