@@ -267,11 +267,12 @@ void writeLargeCatalogue(const QString &path)
     require(builtIn.open(QIODevice::ReadOnly), "the built-in catalogue can't be read");
     QJsonObject catalogue = QJsonDocument::fromJson(builtIn.readAll()).object();
     const QJsonObject mp4 = catalogue.value(QStringLiteral("groups")).toArray().first().toObject();
-    QJsonObject preset = mp4.value(QStringLiteral("presets")).toArray().last().toObject();
+    const QJsonObject model = mp4.value(QStringLiteral("presets")).toArray().last().toObject();
     QJsonArray formats;
     for (int i = 0; i < 1000; ++i) {
         QJsonArray presets;
         for (int j = 0; j < 100; ++j) {
+            QJsonObject preset = model;
             preset.insert(QStringLiteral("id"), QStringLiteral("Video_%1_%2").arg(i).arg(j));
             presets << preset;
         }
