@@ -12,6 +12,41 @@ const std::array<QLatin1String, 5> fileKeys{QLatin1String("$schema"), QLatin1Str
 
 const QString missing = QStringLiteral("is missing from the preset and its group");
 
+const QString templateKey = QStringLiteral("template");
+
+using Blocks = QVector<QLatin1String>;
+
+/*! What presets with the same group and template start from. */
+struct PresetBase
+{
+    PresetSettings settings;
+    Blocks unfinished; //!< those that lack a setting
+};
+
+/*! The keys of the settings that a block of a preset lacks. */
+QStringList gaps(QLatin1String block, const QVariantMap &preset)
+{
+    QStringList keys;
+    const QVariantMap values = preset.value(block).toMap();
+    for (const CatalogueSetting &setting : CatalogueSetting::all()) {
+        const QLatin1String key = setting.keyIn(block);
+        if (!key.isEmpty() && !values.contains(key)) {
+            keys << key;
+        }
+    }
+    return keys;
+}
+
+PresetBase baseOf(const PresetSettings &group, const PresetSettings &named)
+{
+    PresetBase base{group, {}};
+    base.settings.add(named);
+    std::copy_if(
+        CatalogueBlock::all.begin(), CatalogueBlock::all.end(), std::back_inserter(base.unfinished),
+        [&base](QLatin1String block) { return !gaps(block, base.settings.values).isEmpty(); });
+    return base;
+}
+
 class Reader
 {
 public:
@@ -24,8 +59,8 @@ private:
     void readGroup(const QString &category, QJsonObject group, const QString &path);
     QVariantList readPresets(const QJsonArray &presets, const PresetSettings *inherited,
                              const QString &path);
-    void complete(QVariantMap &preset, const QString &path);
-    void completeBlock(QLatin1String block, const QVariantMap &preset, const QString &path);
+    void complete(QVariantMap &preset, const Blocks &unfinished, const QString &path);
+    void refuseGaps(QLatin1String block, const QVariantMap &preset, const QString &path);
 
     CatalogueInspector m_inspector{result.mistakes};
     SettingsReader m_settings{m_inspector};
@@ -86,7 +121,10 @@ void Reader::readGroup(const QString &category, QJsonObject group, const QString
     const QJsonValue presets = group.take(QStringLiteral("presets"));
     const QString presetsPath = memberPath(path, QStringLiteral("presets"));
     m_inspector.expect(QJsonValue::Array, presets, presetsPath);
-    const PresetSettings inherited = m_settings.readWithTemplate(group, path);
+    const QJsonValue templateName = group.take(templateKey);
+    const PresetSettings own = m_settings.readOwn(group, path);
+    PresetSettings inherited = m_settings.readTemplate(templateName, memberPath(path, templateKey));
+    inherited.add(own);
     const bool isValid = m_inspector.refusals() == before && !category.isEmpty();
 
     const QVariantList maps =
@@ -110,12 +148,24 @@ QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings
                                  const QString &path)
 {
     QVariantList maps;
+    QHash<QString, PresetBase> bases; // by the template's name
     for (int i = 0; i < presets.size(); ++i) {
         const int before = m_inspector.refusals();
         const QString presetPath = elementPath(path, i);
         m_inspector.expect(QJsonValue::Object, presets.at(i), presetPath);
-        PresetSettings preset = inherited == nullptr ? PresetSettings() : *inherited;
-        preset.add(m_settings.readWithTemplate(presets.at(i).toObject(), presetPath));
+        QJsonObject object = presets.at(i).toObject();
+        const QJsonValue templateName = object.take(templateKey);
+        const PresetSettings own = m_settings.readOwn(object, presetPath);
+        const PresetSettings named =
+            m_settings.readTemplate(templateName, memberPath(presetPath, templateKey));
+        auto base = bases.find(templateName.toString());
+        if (base == bases.end()) {
+            base =
+                bases.insert(templateName.toString(),
+                             baseOf(inherited == nullptr ? PresetSettings() : *inherited, named));
+        }
+        PresetSettings preset = base->settings;
+        preset.add(own);
         const QString id = preset.values.value(QStringLiteral("id")).toString();
         if (result.presetPlaces.contains(id)) {
             m_inspector.refuse(
@@ -125,7 +175,7 @@ QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings
         if (inherited == nullptr || m_inspector.refusals() != before) {
             continue;
         }
-        complete(preset.values, presetPath);
+        complete(preset.values, base->unfinished, presetPath);
         if (m_inspector.refusals() == before) {
             maps.append(preset.values);
             result.presetPlaces.insert(id, preset.places);
@@ -134,8 +184,9 @@ QVariantList Reader::readPresets(const QJsonArray &presets, const PresetSettings
     return maps;
 }
 
-/*! Adds what a preset can omit, and refuses it if something else is missing. */
-void Reader::complete(QVariantMap &preset, const QString &path)
+/*! Adds what a preset can omit, and refuses it if something else is missing. Only the blocks that
+ *  its base left unfinished can lack something. */
+void Reader::complete(QVariantMap &preset, const Blocks &unfinished, const QString &path)
 {
     using namespace CatalogueBlock;
     for (const CatalogueText &text : CatalogueText::all()) {
@@ -148,10 +199,10 @@ void Reader::complete(QVariantMap &preset, const QString &path)
     if (!hasVideo && !hasAudio) {
         m_inspector.refuse(path, QStringLiteral("has neither video nor audio settings"));
     }
-    for (const QLatin1String block : CatalogueBlock::all) {
+    for (const QLatin1String block : unfinished) {
         const bool isVideoBlock = block == videoParam || block == videoOptions;
         if (isVideoBlock ? hasVideo : hasAudio) {
-            completeBlock(block, preset, path);
+            refuseGaps(block, preset, path);
         }
     }
     if (!hasAudio) {
@@ -160,19 +211,16 @@ void Reader::complete(QVariantMap &preset, const QString &path)
     }
 }
 
-void Reader::completeBlock(QLatin1String block, const QVariantMap &preset, const QString &path)
+void Reader::refuseGaps(QLatin1String block, const QVariantMap &preset, const QString &path)
 {
     const QString blockPath = memberPath(path, block);
     if (!preset.contains(block)) {
         m_inspector.refuse(blockPath, missing);
         return;
     }
-    const QVariantMap values = preset.value(block).toMap();
-    for (const CatalogueSetting &setting : CatalogueSetting::all()) {
-        const QLatin1String key = setting.keyIn(block);
-        if (!key.isEmpty() && !values.contains(key)) {
-            m_inspector.refuse(memberPath(blockPath, key), missing);
-        }
+    const QStringList keys = gaps(block, preset);
+    for (const QString &key : keys) {
+        m_inspector.refuse(memberPath(blockPath, key), missing);
     }
 }
 

@@ -33,9 +33,7 @@ bool isPresetText(const QString &key)
 void PresetSettings::add(const PresetSettings &over)
 {
     values = merged(values, over.values);
-    for (auto it = over.places.cbegin(); it != over.places.cend(); ++it) {
-        places.insert(it.key(), *it);
-    }
+    places.add(over.places);
 }
 
 void SettingsReader::readLists(const QJsonObject &lists)
@@ -60,33 +58,22 @@ void SettingsReader::readTemplates(const QJsonObject &templates)
         const int before = m_inspector.refusals();
         const QString path = memberPath(QStringLiteral("templates"), it.key());
         m_inspector.expect(QJsonValue::Object, it.value(), path);
-        const PresetSettings settings = readSettings(it.value().toObject(), path);
+        const PresetSettings settings = readOwn(it.value().toObject(), path);
         m_templates.insert(it.key(), m_inspector.refusals() == before ? std::make_optional(settings)
                                                                       : std::nullopt);
     }
 }
 
-PresetSettings SettingsReader::readWithTemplate(QJsonObject from, const QString &path)
+PresetSettings SettingsReader::readTemplate(const QJsonValue &name, const QString &path)
 {
-    const QJsonValue base = from.take(QStringLiteral("template"));
-    PresetSettings own = readSettings(from, path);
-    if (base.isUndefined()) {
-        return own;
-    }
-    const QString basePath = memberPath(path, QStringLiteral("template"));
-    const QString name = m_inspector.text(base, basePath);
-    if (name.isEmpty()) {
-        return own;
-    }
-    PresetSettings settings =
-        named(m_templates, name, QStringLiteral("there is no template \"%1\" in \"templates\""),
-              basePath);
-    settings.add(own);
-    return settings;
+    const QString known = name.isUndefined() ? QString() : m_inspector.text(name, path);
+    return known.isEmpty()
+               ? PresetSettings()
+               : named(m_templates, known,
+                       QStringLiteral("there is no template \"%1\" in \"templates\""), path);
 }
 
-/*! The settings of a group, a template or a preset; unknown keys are passed through. */
-PresetSettings SettingsReader::readSettings(const QJsonObject &from, const QString &path)
+PresetSettings SettingsReader::readOwn(const QJsonObject &from, const QString &path)
 {
     PresetSettings settings;
     for (auto it = from.constBegin(); it != from.constEnd(); ++it) {
@@ -116,8 +103,7 @@ void SettingsReader::readBlock(QLatin1String block, const QJsonValue &value, con
     QVariantMap map = object.toVariantMap();
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         const QString valuePath = memberPath(path, it.key());
-        CataloguePlace &place = settings.places[memberPath(block, it.key())];
-        place = m_inspector.placeOf(valuePath);
+        CataloguePlace place = m_inspector.placeOf(valuePath);
         const CatalogueSetting *setting = CatalogueSetting::find(block, it.key());
         const CatalogueDetail *detail =
             block == CatalogueBlock::videoParam ? CatalogueDetail::find(it.key()) : nullptr;
@@ -139,6 +125,7 @@ void SettingsReader::readBlock(QLatin1String block, const QJsonValue &value, con
             place = options.place;
             map.insert(it.key(), shared(options.values));
         }
+        settings.places.insert(memberPath(block, it.key()), place);
     }
     settings.values.insert(block, map);
 }

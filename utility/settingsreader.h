@@ -2,14 +2,12 @@
 #define UTILITY_SETTINGSREADER_H
 
 #include "utility/catalogueinspector.h"
+#include "utility/presetplaces.h"
 
 #include <QHash>
 #include <QVariantMap>
 
 #include <optional>
-
-/*! The place of each value of a preset, inherited or not, by key ("id" or "videoParam.encoder"). */
-using PresetPlaces = QHash<QString, CataloguePlace>;
 
 /*! What a group, a template or a preset states, and where. */
 struct PresetSettings
@@ -31,8 +29,10 @@ public:
 
     void readLists(const QJsonObject &lists);
     void readTemplates(const QJsonObject &templates);
-    /*! The settings of a group or a preset, merged over those of its template. */
-    [[nodiscard]] PresetSettings readWithTemplate(QJsonObject from, const QString &path);
+    /*! The settings of a group, a template or a preset itself; unknown keys are passed through. */
+    [[nodiscard]] PresetSettings readOwn(const QJsonObject &from, const QString &path);
+    /*! The settings of the template of that name; none for an undefined name. */
+    [[nodiscard]] PresetSettings readTemplate(const QJsonValue &name, const QString &path);
 
 private:
     struct OptionList
@@ -44,7 +44,6 @@ private:
     template <typename Value>
     using Named = QHash<QString, std::optional<Value>>;
 
-    PresetSettings readSettings(const QJsonObject &from, const QString &path);
     void readBlock(QLatin1String block, const QJsonValue &value, const QString &path,
                    PresetSettings &settings);
     OptionList readOptions(const QJsonValue &value, QJsonValue::Type type, const QString &path);

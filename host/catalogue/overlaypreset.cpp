@@ -65,12 +65,14 @@ Found find(const QString &path, const QVector<OverlayGroup> &groups)
 PresetPlaces placesIn(const PresetPlaces &read, const QVector<OverlayGroup> &groups)
 {
     PresetPlaces places;
-    for (auto place = read.begin(); place != read.end(); ++place) {
-        const Found found = find(place->path, groups);
-        const bool isInherited = found.preset != nullptr && !found.preset->states(place.key()) &&
-                                 found.preset->basePlaces.contains(place.key());
-        places.insert(place.key(), isInherited ? found.preset->basePlaces.value(place.key())
-                                               : CataloguePlace{place->source, found.path});
+    const QStringList keys = read.keys();
+    for (const QString &key : keys) {
+        const CataloguePlace place = read.value(key);
+        const Found found = find(place.path, groups);
+        const bool isInherited = found.preset != nullptr && !found.preset->states(key) &&
+                                 found.preset->basePlaces.contains(key);
+        places.insert(key, isInherited ? found.preset->basePlaces.value(key)
+                                       : CataloguePlace{place.source, found.path});
     }
     return places;
 }
