@@ -170,6 +170,30 @@ double medianOf(QVector<double> values)
     return values.at(values.size() / 2);
 }
 
+/*! Types in the preset panel; false if a letter takes too long, or the panel's index keeps the
+ * window from responding. */
+bool findsFast(QQuickWindow *window)
+{
+    QObject *panel = window->property("finder").value<QObject *>();
+    LongestBlock block;
+    QMetaObject::invokeMethod(panel, "open");
+    waitUntilBuiltAhead(true);
+    const bool isSmooth = report(QStringLiteral("Longest block while the preset panel opens"),
+                                 block.milliseconds(), 100);
+    QVector<double> strokes;
+    for (const QChar letter : QStringLiteral("mp4 1080 h264 preset")) {
+        QElapsedTimer clock;
+        clock.start();
+        press(window, letter);
+        waitForFrame(window);
+        strokes << sinceStart(clock);
+    }
+    QMetaObject::invokeMethod(panel, "close");
+    return report(QStringLiteral("Keystroke in the preset panel, median of %1").arg(strokes.size()),
+                  medianOf(strokes), 33) &&
+           isSmooth;
+}
+
 /*! The list of the page in sight. */
 QQuickItem *visibleList(const QQuickWindow &window)
 {
@@ -363,6 +387,8 @@ int main(int argc, char **argv)
     isFast &= report(QStringLiteral("Click on a tag, median of %1").arg(clicks.size()),
                      medianOf(clicks), limits.tag);
     QMetaObject::invokeMethod(picker, "close");
+    waitForFrame(window);
+    isFast &= findsFast(window);
     isFast &= dropsFast(main);
     isFast &= scrollsSmoothly(main);
     return isFast ? 0 : 1;

@@ -69,11 +69,14 @@ constexpr Offered offered[] = {
 
 QVector<FormatDetailModelData> ownIn(const FormatDetailModel &list)
 {
-    QQueue<FormatDetailModelData> presets;
-    list.getModelInfo(presets);
     QVector<FormatDetailModelData> own;
-    std::copy_if(presets.begin(), presets.end(), std::back_inserter(own),
-                 [](const FormatDetailModelData &preset) { return preset.userDefine; });
+    for (int row = 0; row < list.rowCount(); ++row) {
+        FormatDetailModelData preset;
+        if (list.data(list.index(row), FormatDetailModel::UserDefineRole).toBool() &&
+            list.getModelInfoByIndex(row, preset)) {
+            own << preset;
+        }
+    }
     return own;
 }
 

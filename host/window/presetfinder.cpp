@@ -67,8 +67,20 @@ PresetFinder::PresetFinder(PresetStore &store, Presets &presets, QObject *parent
     });
     // A star that is set moves no row that the user looks at.
     connect(&m_presets, &Presets::favoritesChanged, this, [this] {
-        forgetIndex();
+        if (m_index) {
+            m_index->prefer(m_presets.favorites().ids(), m_store.formats());
+        } else {
+            forgetIndex();
+        }
         renewAll();
+    });
+    m_nextPart.setSingleShot(true);
+    m_nextPart.setInterval(0);
+    connect(&m_nextPart, &QTimer::timeout, this, [this] {
+        buildIndex();
+        if (m_index && !isEmpty(m_query)) {
+            list();
+        }
     });
     connect(&m_list, &EncoderList::finished, this, &PresetFinder::takeEncoders);
 }
@@ -115,11 +127,12 @@ bool PresetFinder::canFetchMore(const QModelIndex &parent) const
 
 void PresetFinder::fetchMore(const QModelIndex &parent)
 {
-    if (!canFetchMore(parent)) {
+    buildIndex();
+    if (!m_index || !canFetchMore(parent)) {
         return;
     }
     const QVector<PresetMatch> more =
-        presetIndex().find(m_query, m_rows.size() + batch).best.mid(m_rows.size());
+        m_index->find(m_query, m_rows.size() + batch).best.mid(m_rows.size());
     beginInsertRows({}, m_rows.size(), m_rows.size() + more.size() - 1);
     m_rows += more;
     endInsertRows();
@@ -153,6 +166,7 @@ void PresetFinder::open(Page *page)
     renewFitness();
     m_list.start();
     search({}, {}, {}, {});
+    buildIndex();
 }
 
 void PresetFinder::search(const QString &text, const QString &kind, const QString &codec,
@@ -166,17 +180,24 @@ void PresetFinder::search(const QString &text, const QString &kind, const QStrin
 
 void PresetFinder::list()
 {
+    const bool isSearch = !isEmpty(m_query);
+    if (isSearch) {
+        buildIndex();
+        if (!m_index) {
+            return; // until the index is complete
+        }
+    }
     beginResetModel();
     m_rows.clear();
     m_groups.clear();
     m_unknown.clear();
-    if (isEmpty(m_query)) {
-        listUsual();
-    } else {
-        const PresetMatches matches = presetIndex().find(m_query, batch);
+    if (isSearch) {
+        const PresetMatches matches = m_index->find(m_query, batch);
         m_rows = matches.best;
         m_count = matches.count;
         m_unknown = matches.unknown;
+    } else {
+        listUsual();
     }
     endResetModel();
     Q_EMIT found();
@@ -216,17 +237,30 @@ void PresetFinder::append(const QStringList &ids, const QString &group)
     }
 }
 
-const PresetIndex &PresetFinder::presetIndex()
+/*! Builds the next part of the index, unless it is complete. The presets of most catalogues are one
+ *  part; those of a large one would keep the window from responding. */
+void PresetFinder::buildIndex()
 {
-    if (!m_index) {
-        m_index.emplace(m_store.formats(),
-                        PresetExtras{m_presets.favorites().ids(), m_store.notes().texts()});
+    constexpr int part = 1000;
+    if (m_index) {
+        return;
     }
-    return *m_index;
+    if (!m_builder) {
+        m_builder = std::make_unique<PresetIndexBuilder>(
+            m_store.formats(), PresetExtras{m_presets.favorites().ids(), m_store.notes().texts()});
+    }
+    if (m_builder->addSome(part)) {
+        m_nextPart.start();
+    } else {
+        m_index = m_builder->finish();
+        m_builder.reset();
+    }
 }
 
 void PresetFinder::forgetIndex()
 {
+    m_nextPart.stop();
+    m_builder.reset();
     m_index.reset();
     m_problems.clear();
 }

@@ -1,12 +1,16 @@
 #ifndef WINDOW_PRESETFINDER_H
 #define WINDOW_PRESETFINDER_H
 
-#include "host/presets/find/presetindex.h"
+#include "host/presets/find/presetindexbuilder.h"
 #include "host/presets/fitness.h"
 #include "host/tools/encoderlist.h"
 
 #include <QAbstractListModel>
 #include <QHash>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
 
 class Page;
 class Presets;
@@ -80,7 +84,7 @@ private:
     [[nodiscard]] QVariant problem(int row) const { return problemWith(m_rows.at(row).id); }
     [[nodiscard]] QVariant group(int row) const { return m_groups.value(row); }
 
-    const PresetIndex &presetIndex();
+    void buildIndex();
     void list();
     void listUsual();
     void append(const QStringList &ids, const QString &group);
@@ -91,7 +95,9 @@ private:
 
     PresetStore &m_store;
     Presets &m_presets;
-    std::optional<PresetIndex> m_index; // made when it is needed
+    std::unique_ptr<PresetIndexBuilder> m_builder; // while the index isn't complete
+    std::optional<PresetIndex> m_index;
+    QTimer m_nextPart; // of the index
     PresetQuery m_query;
     QVector<PresetMatch> m_rows;
     QStringList m_groups; // the headings of the rows, without a search

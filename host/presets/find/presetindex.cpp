@@ -4,6 +4,9 @@
 #include "host/presets/find/presetindexbuilder.h"
 #include "host/presets/find/synonyms.h"
 
+#include "formats/models/formatdetailmodel.h"
+#include "formats/proxy/formatsproxy.h"
+
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -35,8 +38,25 @@ QStringList telling(const QStringList &words)
 } // namespace
 
 PresetIndex::PresetIndex(FormatsProxy &formats, const PresetExtras &extras)
+    : PresetIndex(PresetIndexBuilder(formats, extras).finish())
+{}
+
+void PresetIndex::prefer(const QStringList &favorites, FormatsProxy &formats)
 {
-    PresetIndexBuilder(*this, Synonyms::builtIn(), extras).build(formats);
+    QStringList ids = favorites;
+    const FormatDetailModel &recent = *formats.recentlyFormatsModel();
+    for (int row = 0; row < recent.rowCount(); ++row) {
+        ids << recent.getId(row);
+    }
+    m_preferred.clear();
+    for (const QString &id : qAsConst(ids)) {
+        const auto found = std::find_if(m_presets.cbegin(), m_presets.cend(),
+                                        [&id](const Preset &preset) { return preset.id == id; });
+        const int preset = int(found - m_presets.cbegin());
+        if (found != m_presets.cend() && !m_preferred.contains(preset)) {
+            m_preferred.append(preset);
+        }
+    }
 }
 
 PresetMatches PresetIndex::find(const PresetQuery &query, int limit) const

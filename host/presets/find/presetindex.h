@@ -33,8 +33,13 @@ public:
     /*! All words that find something, folded. */
     [[nodiscard]] QStringList words() const { return m_words.words(); }
 
+    /*! Ranks these favourites, and then the recently used presets, before all others. */
+    void prefer(const QStringList &favorites, FormatsProxy &formats);
+
 private:
     friend class PresetIndexBuilder;
+
+    PresetIndex() = default;
 
     // A value of a field. All presets that have it share it.
     struct Term

@@ -7,6 +7,7 @@
 #include "formats/proxy/formatsproxy.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -25,13 +26,12 @@ QStringList wordsOf(const Synonym &synonym)
 
 } // namespace
 
-PresetIndexBuilder::PresetIndexBuilder(PresetIndex &index, const Synonyms &synonyms,
-                                       const PresetExtras &extras)
-    : m_index(index)
-    , m_synonyms(synonyms)
+PresetIndexBuilder::PresetIndexBuilder(FormatsProxy &formats, const PresetExtras &extras)
+    : m_formats(formats)
     , m_extras(extras)
+    , m_synonyms(Synonyms::builtIn())
 {
-    for (const Synonym &synonym : synonyms.all) {
+    for (const Synonym &synonym : m_synonyms.all) {
         for (const QStringList &keys : synonym.fits) {
             for (const QString &key : keys) {
                 if (key.startsWith(titleKey)) {
@@ -42,44 +42,39 @@ PresetIndexBuilder::PresetIndexBuilder(PresetIndex &index, const Synonyms &synon
     }
 }
 
-void PresetIndexBuilder::build(FormatsProxy &formats)
+bool PresetIndexBuilder::addSome(int count)
 {
-    const FormatListModel &list = *formats.formatListModel();
-    for (int row = 0; row < list.rowCount(); ++row) {
-        FormatListModelData format;
-        list.getModelInfoByIndex(row, format);
-        QQueue<FormatDetailModelData> presets;
-        if (const FormatDetailModel *ofFormat = list.formatDetailModel(format.title)) {
-            ofFormat->getModelInfo(presets);
-        }
-        for (const FormatDetailModelData &preset : qAsConst(presets)) {
-            addPreset(preset, format);
-        }
+    const int formats = m_formats.formatListModel()->rowCount();
+    const qint64 enough = qint64(m_index.m_presets.size()) + count;
+    while (m_nextFormat < formats && m_index.m_presets.size() < enough) {
+        addFormat(m_nextFormat++);
     }
-    m_index.m_words = WordIndex(std::move(m_entries), m_index.m_terms.size());
+    return m_nextFormat < formats;
+}
 
-    for (const QString &id : m_extras.favorites) {
-        prefer(id);
-    }
-    const FormatDetailModel &recent = *formats.recentlyFormatsModel();
-    for (int row = 0; row < recent.rowCount(); ++row) {
-        prefer(recent.getId(row));
-    }
+PresetIndex PresetIndexBuilder::finish()
+{
+    addSome(std::numeric_limits<int>::max());
+    m_index.m_words = WordIndex(std::move(m_entries), m_index.m_terms.size());
+    m_index.prefer(m_extras.favorites, m_formats);
     m_index.m_terms.squeeze();
     m_index.m_presets.squeeze();
     m_index.m_profileTerms.squeeze();
     m_index.m_profileStarts.squeeze();
+    return std::move(m_index);
 }
 
-/*! Ranks the preset after those that are preferred already. */
-void PresetIndexBuilder::prefer(const QString &id)
+void PresetIndexBuilder::addFormat(int row)
 {
-    const auto found =
-        std::find_if(m_index.m_presets.cbegin(), m_index.m_presets.cend(),
-                     [&id](const PresetIndex::Preset &preset) { return preset.id == id; });
-    const int preset = int(found - m_index.m_presets.cbegin());
-    if (found != m_index.m_presets.cend() && !m_index.m_preferred.contains(preset)) {
-        m_index.m_preferred.append(preset);
+    const FormatListModel &list = *m_formats.formatListModel();
+    FormatListModelData format;
+    list.getModelInfoByIndex(row, format);
+    QQueue<FormatDetailModelData> presets;
+    if (const FormatDetailModel *ofFormat = list.formatDetailModel(format.title)) {
+        ofFormat->getModelInfo(presets);
+    }
+    for (const FormatDetailModelData &preset : qAsConst(presets)) {
+        addPreset(preset, format);
     }
 }
 

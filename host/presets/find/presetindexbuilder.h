@@ -9,13 +9,18 @@
 #include <QPair>
 #include <QSet>
 
-/*! Fills a PresetIndex; what only this needs is gone afterwards. */
+/*! Makes a PresetIndex, in parts if need be: a large catalogue takes about a second. What only this
+ *  needs is gone with it. */
 class PresetIndexBuilder
 {
 public:
-    PresetIndexBuilder(PresetIndex &index, const Synonyms &synonyms, const PresetExtras &extras);
+    /*! \a formats outlives this object and doesn't change. */
+    explicit PresetIndexBuilder(FormatsProxy &formats, const PresetExtras &extras = {});
 
-    void build(FormatsProxy &formats);
+    /*! Adds at least \a count presets, those of whole formats. False if none are left then. */
+    bool addSome(int count);
+    /*! Adds what is left. Call it once. */
+    [[nodiscard]] PresetIndex finish();
 
 private:
     struct Title
@@ -24,16 +29,18 @@ private:
         QStringList keys; // "title/voice" for each word that a synonym names
     };
 
+    void addFormat(int row);
     void addPreset(const FormatDetailModelData &preset, const FormatListModelData &format);
-    void prefer(const QString &id);
     Title title(const QString &text);
     quint32 profile(const QVector<Facet> &facets, const QStringList &titleKeys);
     void addSynonyms(const QSet<QString> &keys);
     quint32 addTerm(const QString &key, const PresetIndex::Term &term, const QStringList &words);
 
-    PresetIndex &m_index;
+    FormatsProxy &m_formats;
+    const PresetExtras m_extras;
     const Synonyms &m_synonyms;
-    const PresetExtras &m_extras;
+    PresetIndex m_index;
+    int m_nextFormat = 0;      // its row
     QSet<QString> m_titleKeys; // all that synonyms name
     QHash<QString, Title> m_titles;
     QHash<QString, quint32> m_terms;    // by a key of each

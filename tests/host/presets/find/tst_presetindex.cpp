@@ -1,4 +1,4 @@
-#include "host/presets/find/presetindex.h"
+#include "host/presets/find/presetindexbuilder.h"
 
 #include "formats/proxy/formatsproxy.h"
 
@@ -28,6 +28,7 @@ private Q_SLOTS:
     void everyWordSaysWhatItMatched();
     void onlyAsManyAsAskedForAreDescribed();
     void theFirstUnknownWordIsNamed();
+    void anIndexMadeInPartsFindsTheSame();
     void oddTextFindsNothing_data();
     void oddTextFindsNothing();
 
@@ -346,6 +347,25 @@ void TestPresetIndex::theFirstUnknownWordIsNamed()
     QCOMPARE(find(QStringLiteral("iphone Qqq.qq zzzzz")).unknown, QStringLiteral("qqqqq"));
     // Each is known, but no preset has both.
     QCOMPARE(find(QStringLiteral("iphone flac")).unknown, QString());
+}
+
+void TestPresetIndex::anIndexMadeInPartsFindsTheSame()
+{
+    PresetIndexBuilder builder(*m_formats);
+    int parts = 1;
+    while (builder.addSome(20)) {
+        ++parts;
+    }
+    QVERIFY(parts > 5);
+    const PresetIndex index = builder.finish();
+    const PresetQuery query = {QStringLiteral("1080"), {}, {}, {}};
+    const PresetMatches expected = find(query);
+    const PresetMatches found = index.find(query, expected.count);
+    QCOMPARE(found.count, expected.count);
+    for (int place = 0; place < expected.best.size(); ++place) {
+        QCOMPARE(found.best.at(place).id, expected.best.at(place).id);
+    }
+    QCOMPARE(index.words(), PresetIndex(*m_formats).words());
 }
 
 void TestPresetIndex::oddTextFindsNothing_data()
