@@ -5,6 +5,7 @@
 #include "host/convert/encoderchoice.h"
 #include "host/convert/ffmpegarguments.h"
 
+#include <algorithm>
 #include <cmath>
 #include <tuple>
 
@@ -45,9 +46,22 @@ QString Fitness::problemWith(const FoundPreset &preset) const
 
 QString Fitness::nearestTo(const FoundPreset &preset, const PresetStore &store) const
 {
-    // Few presets have the format, and a large catalogue has many others.
-    const QString ofFormat = closest(store.idsOf(preset.className), preset, store);
-    return ofFormat.isEmpty() ? closest(store.ids(), preset, store) : ofFormat;
+    QString ofFormat = closest(store.idsOf(preset.className), preset, store);
+    if (!ofFormat.isEmpty()) {
+        return ofFormat;
+    }
+    // Of a large catalogue's other formats, the first presets tell which suits.
+    const std::optional<FoundPreset> other = store.find(closest(store.firstIds(), preset, store));
+    return other ? closest(store.idsOf(other->className), preset, store) : QString();
+}
+
+QString Fitness::firstUsable(const QStringList &ids, const PresetStore &store) const
+{
+    const auto usable = std::find_if(ids.begin(), ids.end(), [this, &store](const QString &id) {
+        const std::optional<FoundPreset> preset = store.find(id);
+        return preset && problemWith(*preset).isEmpty();
+    });
+    return usable == ids.end() ? QString() : *usable;
 }
 
 QString Fitness::closest(const QStringList &ids, const FoundPreset &preset,

@@ -32,6 +32,9 @@ public:
      *  of its tag, in its size and codec where possible. Empty if there is none. */
     [[nodiscard]] QString nearestTo(const FoundPreset &preset, const PresetStore &store) const;
 
+    /*! The first of \a ids whose preset can be used; empty if there is none. */
+    [[nodiscard]] QString firstUsable(const QStringList &ids, const PresetStore &store) const;
+
 private:
     [[nodiscard]] QString closest(const QStringList &ids, const FoundPreset &preset,
                                   const PresetStore &store) const;

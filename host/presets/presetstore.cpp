@@ -296,13 +296,23 @@ QStringList PresetStore::ids() const
 
 QStringList PresetStore::idsOf(const QString &className) const
 {
-    QQueue<FormatDetailModelData> presets;
-    if (const FormatDetailModel *list = m_formats.formatListModel()->formatDetailModel(className)) {
-        list->getModelInfo(presets);
-    }
+    const FormatDetailModel *presets = m_formats.formatListModel()->formatDetailModel(className);
     QStringList ids;
-    for (const FormatDetailModelData &preset : qAsConst(presets)) {
-        ids << preset.id;
+    for (int row = 0; presets != nullptr && row < presets->rowCount(); ++row) {
+        ids << presets->getId(row);
+    }
+    return ids;
+}
+
+QStringList PresetStore::firstIds() const
+{
+    const FormatListModel &formats = *m_formats.formatListModel();
+    QStringList ids;
+    for (int row = 0; row < formats.rowCount(); ++row) {
+        const FormatDetailModel *presets = formats.formatDetailModel(formats.getTitle(row));
+        if (presets != nullptr && presets->rowCount() > 0) {
+            ids << presets->getId(0);
+        }
     }
     return ids;
 }

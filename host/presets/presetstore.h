@@ -87,6 +87,8 @@ public:
     [[nodiscard]] QStringList ids() const;
     /*! Those of the format of this title. */
     [[nodiscard]] QStringList idsOf(const QString &className) const;
+    /*! The first one of each format that has any. */
+    [[nodiscard]] QStringList firstIds() const;
     /*! The id itself if a preset has it, else the one that the preset has now which had it once. */
     [[nodiscard]] QString idNow(const QString &id) const;
     /*! The preset with this id now of the catalogue or the user, else of the recently used list. */

@@ -1,5 +1,6 @@
 #include "host/window/presets.h"
 
+#include "host/presets/fitness.h"
 #include "host/window/defaultpreset.h"
 #include "host/window/toolfun.h"
 
@@ -35,13 +36,19 @@ QString Presets::usable(const QString &id, const QString &standIn) const
     }
     // A custom catalogue may lack the default preset.
     const FormatListModel &formats = *m_store.formats().formatListModel();
-    FormatDetailModelData first;
-    for (int row = 0; row < formats.rowCount(); ++row) {
-        if (formats.formatDetailModel(formats.getTitle(row))->getModelInfoByIndex(0, first)) {
-            break;
-        }
+    QString first;
+    for (int row = 0; first.isEmpty() && row < formats.rowCount(); ++row) {
+        first = formats.formatDetailModel(formats.getTitle(row))->getId(0);
     }
-    return first.id;
+    return first;
+}
+
+QString Presets::nearestTo(const std::optional<FoundPreset> &preset, const Fitness &fitness,
+                           const QStringList &standIns) const
+{
+    const QString nearest = preset ? fitness.nearestTo(*preset, m_store) : QString();
+    return nearest.isEmpty() ? fitness.firstUsable(standIns + m_store.firstIds(), m_store)
+                             : nearest;
 }
 
 QString Presets::caption(const QString &id) const

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+class Fitness;
 class QAbstractItemModel;
 
 /*! Presets for the window's pages. Saves each change that the user makes. */
@@ -22,8 +23,10 @@ public:
     {
         return m_store.find(id);
     }
-    /*! The ids of all presets of the catalogue and of the user. */
-    [[nodiscard]] QStringList ids() const { return m_store.ids(); }
+    /*! What Fitness::nearestTo() finds for the preset, else the first that can be used of
+     *  \a standIns and of the formats; empty if none can. */
+    [[nodiscard]] QString nearestTo(const std::optional<FoundPreset> &preset,
+                                    const Fitness &fitness, const QStringList &standIns) const;
     /*! The first preset that exists of \a id, \a standIn, the default preset and the catalogue's
      *  first one, by the id that it has now; empty if there is none. */
     [[nodiscard]] QString usable(const QString &id, const QString &standIn) const;

@@ -1,10 +1,8 @@
 #include "host/window/taskoutlooks.h"
 
-#include "host/convert/ffmpegarguments.h"
+#include "host/presets/fitness.h"
 #include "host/window/presets.h"
 #include "host/window/windowsettings.h"
-
-#include <algorithm>
 
 TaskOutlooks::TaskOutlooks(const Presets &presets, const WindowSettings &settings,
                            const JobMaker &jobOf, QObject *parent)
@@ -34,34 +32,15 @@ Outlook TaskOutlooks::of(const Task &task) const
     return outlook;
 }
 
-/*! The first preset that works, of the same format, else of the same kind, else of any; one that
- *  was chosen last comes before the others. */
+/*! The nearest preset that suits the file, else one of another kind, the last chosen first; empty
+ *  where the format isn't what is wrong. */
 QString TaskOutlooks::nearestTo(const Task &task) const
 {
+    const Fitness fitness(m_encoders, FitnessSource{task.source, task.facts});
     const std::optional<FoundPreset> chosen = m_presets.find(task.format);
-    const ConversionJob job = m_jobOf(task);
-    QString nearest;
-    int best = -1;
-    const QStringList ids =
-        QStringList{m_settings.lastId(true), m_settings.lastId(false)} + m_presets.ids();
-    for (const QString &id : ids) {
-        const std::optional<FoundPreset> preset = m_presets.find(id);
-        const bool isSameFormat = preset && chosen && preset->className == chosen->className;
-        const bool isSameKind = preset && chosen && preset->tag == chosen->tag;
-        const int nearness = isSameFormat ? 2 : isSameKind ? 1 : 0;
-        if (!preset || nearness <= best) {
-            continue;
-        }
-        OutputSettings settings = preset->outputSettings();
-        settings.start = job.settings.start;
-        settings.end = job.settings.end;
-        settings.audioTracks = job.settings.audioTracks;
-        settings.subtitles = job.settings.subtitles;
-        settings.burnedSubtitles = job.settings.burnedSubtitles;
-        if (ffmpegArguments(settings, task.facts, m_encoders, job.source, QStringLiteral("part"))) {
-            nearest = id;
-            best = nearness;
-        }
+    if (chosen && fitness.problemWith(*chosen).isEmpty()) {
+        return {};
     }
-    return nearest;
+    return m_presets.nearestTo(chosen, fitness,
+                               {m_settings.lastId(true), m_settings.lastId(false)});
 }

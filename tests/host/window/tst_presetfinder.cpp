@@ -101,7 +101,7 @@ void TestPresetFinder::filtersLeaveOutTheOthers()
     QFETCH(QString, expected);
     PresetFinder finder(*m_store, *m_presets);
     finder.search({}, {}, {}, QStringLiteral("1080"));
-    const int ofAll = int(m_presets->ids().size());
+    const int ofAll = int(m_store->ids().size());
     finder.search({}, kind, codec, size);
     while (finder.canFetchMore({})) {
         finder.fetchMore({});
