@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QItemSelectionModel>
+#include <QLineEdit>
 #include <QListView>
 #include <QScreen>
 #include <QSortFilterProxyModel>
@@ -18,8 +19,9 @@
 namespace {
 
 /*!
- * While the user types a path, Qt's own dialog selects each folder on the way. Return would then
- * open one of them instead of choosing the file.
+ * Qt's own dialog takes what is selected in its list, where it selects what the user types: each
+ * folder on the way, too, and of several files only those that the list shows already. Here, what
+ * is typed counts.
  */
 class FilesDialog : public QFileDialog
 {
@@ -28,24 +30,31 @@ public:
 
     void accept() override
     {
-        // Native dialogs have no such list.
-        if (const auto *list = findChild<QListView *>(QStringLiteral("listView"))) {
-            deselectFoldersElsewhere(*list);
+        auto *list = findChild<QListView *>(QStringLiteral("listView"));
+        const auto *field = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        // Native dialogs have neither.
+        if (list != nullptr && field != nullptr && isTyped(field->text(), *list)) {
+            list->clearSelection();
         }
         QFileDialog::accept();
     }
 
 private:
-    static void deselectFoldersElsewhere(const QListView &list)
+    /*! Whether the text isn't the one that the dialog wrote for the files that were clicked. */
+    static bool isTyped(const QString &text, const QListView &list)
     {
+        QStringList names;
         const QModelIndexList rows = list.selectionModel()->selectedRows();
         for (const QModelIndex &row : rows) {
-            const QString path = row.data(QFileSystemModel::FilePathRole).toString();
-            if (row.parent() != list.rootIndex() && QFileInfo(path).isDir()) {
-                list.selectionModel()->select(row, QItemSelectionModel::Deselect |
-                                                       QItemSelectionModel::Rows);
+            if (!QFileInfo(row.data(QFileSystemModel::FilePathRole).toString()).isDir()) {
+                names << row.data().toString();
+            } else if (row.parent() == list.rootIndex()) {
+                return false; // the folder is to be opened
             }
         }
+        return text != (names.size() > 1
+                            ? QStringLiteral("\"%1\"").arg(names.join(QLatin1String("\" \"")))
+                            : names.join(QString()));
     }
 };
 

@@ -100,6 +100,7 @@ private Q_SLOTS:
     void filesChosenByMouseAreAddedOnce();
     void filesTypedByKeyboardAreAddedOnce_data();
     void filesTypedByKeyboardAreAddedOnce();
+    void aFolderClickedAfterTypingIsOpened();
     void theCurrentPageGetsTheFiles();
     void cancelAddsNothing_data();
     void cancelAddsNothing();
@@ -202,6 +203,8 @@ void TestFileChooser::filesTypedByKeyboardAreAddedOnce_data()
     const QString two = QStringLiteral("two.WAV");
     QTest::newRow("one") << one << QStringList{one};
     QTest::newRow("several") << QStringLiteral("\"one.wav\" \"two.WAV\"") << QStringList{one, two};
+    QTest::newRow("several, one not in the list")
+        << QStringLiteral("\"one.wav\" \"take\"") << QStringList{one, QStringLiteral("take")};
     QTest::newRow("with its path") << QStringLiteral("%1/one.wav") << QStringList{one};
 }
 
@@ -212,6 +215,8 @@ void TestFileChooser::filesTypedByKeyboardAreAddedOnce()
     if (typed.contains(QStringLiteral("%1"))) {
         typed = typed.arg(m_home->path());
     }
+    QVERIFY(
+        QFile::copy(homePath("one.wav"), homePath("take"))); // its name isn't that of a media file
     QTest::keyClick(m_window, Qt::Key_O, Qt::ControlModifier);
     QFileDialog *dialog = openDialog();
     QVERIFY(dialog != nullptr);
@@ -221,6 +226,18 @@ void TestFileChooser::filesTypedByKeyboardAreAddedOnce()
     QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     QCOMPARE(names(), chosen);
+}
+
+void TestFileChooser::aFolderClickedAfterTypingIsOpened()
+{
+    QTest::keyClick(m_window, Qt::Key_O, Qt::ControlModifier);
+    QFileDialog *dialog = openDialog();
+    QVERIFY(dialog != nullptr);
+    type(dialog->windowHandle(), QStringLiteral("elsewhere")); // completed to nothing
+    QVERIFY(clickFile(dialog, QStringLiteral("results"), Qt::NoModifier));
+    clickButton(dialog, QDialogButtonBox::Open);
+    QTRY_COMPARE_WITH_TIMEOUT(dialog->directory().path(), homePath("results"), patience);
+    QCOMPARE(names(), QStringList());
 }
 
 void TestFileChooser::theCurrentPageGetsTheFiles()
