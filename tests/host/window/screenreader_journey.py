@@ -13,23 +13,17 @@ import pathlib
 import subprocess
 import sys
 import tempfile
-import time
 
-import gi
-
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, Gio, GLib  # noqa: E402 (the version has to be set first)
-
-PATIENCE = 60
-
-
-def described(accessible):
-    """The role and the name that it has now; "nothing" when it has gone meanwhile."""
-    try:
-        accessible.clear_cache()
-        return f"{accessible.get_role_name()}: {accessible.get_name()}"
-    except GLib.GError:
-        return "nothing"
+sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "support"))
+from desktopuser import (  # noqa: E402 (found only now)
+    Atspi,
+    announce_reader,
+    check,
+    described,
+    press,
+    run,
+    wait_for,
+)
 
 
 class Reader:
@@ -62,34 +56,6 @@ class Reader:
     def has(self, state):
         self.focus.clear_cache()
         return self.focus.get_state_set().contains(state)
-
-
-def wait_for(condition):
-    """Whether it comes true, while events are handled."""
-    end = time.monotonic() + PATIENCE
-    while not condition():
-        if time.monotonic() > end:
-            return False
-        GLib.MainContext.default().iteration(False)
-        time.sleep(0.005)
-    return True
-
-
-def run(*command):
-    """Runs a command while events are handled: the program waits for this reader with each key."""
-    process = subprocess.Popen(command, stdout=subprocess.PIPE, text=True)
-    if not wait_for(lambda: process.poll() is not None) or process.returncode != 0:
-        sys.exit(f"{' '.join(command)} failed")
-    return process.stdout.read()
-
-
-def press(key):
-    run("xdotool", "key", key)
-
-
-def check(is_right, words):
-    if not is_right:
-        sys.exit(words)
 
 
 def expect(reader, words):
@@ -170,22 +136,6 @@ def expect_in_name(reader, words):
     )
 
 
-def announce_reader():
-    """Says that a screen reader is running, as one does: programs stay silent for anything less."""
-    session = Gio.bus_get_sync(Gio.BusType.SESSION)
-    is_running = ("org.a11y.Status", "ScreenReaderEnabled", GLib.Variant("b", True))
-    session.call_sync(
-        "org.a11y.Bus",
-        "/org/a11y/bus",
-        "org.freedesktop.DBus.Properties",
-        "Set",
-        GLib.Variant("(ssv)", is_running),
-        None,
-        Gio.DBusCallFlags.NONE,
-        -1,
-    )
-
-
 def main():
     with tempfile.TemporaryDirectory() as name:
         work = pathlib.Path(name)
@@ -197,7 +147,15 @@ def main():
             env={**os.environ, "QT_QPA_PLATFORM": "xcb"},
         )
         try:
-            run("xdotool", "search", "--sync", "--onlyvisible", "--name", "^VexConvert$", "windowfocus")
+            run(
+                "xdotool",
+                "search",
+                "--sync",
+                "--onlyvisible",
+                "--name",
+                "^VexConvert$",
+                "windowfocus",
+            )
             convert_two_files(reader)
             check((work / "song.flac").exists(), "There is no song.flac")
             press("ctrl+q")
