@@ -43,7 +43,7 @@ run_packages=(
     qml-module-qtgraphicaleffects qttranslations5-l10n
 )
 test_packages=(
-    qml-module-qttest xvfb xdotool libgl1-mesa-dri python3-jsonschema
+    qml-module-qttest xvfb openbox xdotool libgl1-mesa-dri python3-jsonschema
     parallel rsync openssh-client openssh-server slurm-client slurmctld slurmd munge
     dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi desktop-file-utils appstream
     man-db zsh fish handbrake-cli
