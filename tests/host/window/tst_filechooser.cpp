@@ -22,17 +22,21 @@ namespace {
 
 constexpr int patience = 60000; // ms, on a busy machine
 
-/*! The dialog that is open and has the focus; null when there is none in time. */
+/*!
+ * The dialog that is open and has the focus; null when there is none in time. To
+ * QTest::qWaitForWindowActive() a dialog is active while its window still has the focus, and what
+ * is typed then gets selected when the dialog takes it.
+ */
 QFileDialog *openDialog()
 {
     QFileDialog *dialog = nullptr;
-    const bool isOpen = QTest::qWaitFor(
+    const bool hasFocus = QTest::qWaitFor(
         [&dialog] {
             dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-            return dialog != nullptr;
+            return dialog != nullptr && QApplication::activeWindow() == dialog;
         },
         patience);
-    return isOpen && QTest::qWaitForWindowActive(dialog) ? dialog : nullptr;
+    return hasFocus ? dialog : nullptr;
 }
 
 void clickWidget(const QFileDialog *dialog, const QWidget *widget, const QPoint &place,
