@@ -153,8 +153,10 @@ QVector<KeptTask> Page::kept() const
 
 void Page::restore(const QVector<KeptTask> &tasks)
 {
-    for (const KeptTask &task : tasks) {
-        addTask(restoredTask(task));
+    for (const KeptTask &kept : tasks) {
+        Task task = restoredTask(kept);
+        task.formatIcon = m_formats.iconOf(task.format);
+        addTask(task);
     }
 }
 
@@ -164,13 +166,17 @@ void Page::takeFacts(int taskId, const Result<MediaFacts> &facts)
     if (task == nullptr) {
         return;
     }
-    m_tasks.update(taskId, [&facts](Task &read) { read.facts = facts.value_or(MediaFacts()); });
+    m_tasks.update(taskId, [&facts](Task &read) {
+        read.facts = facts.value_or(MediaFacts());
+        read.isRead = true;
+    });
     if (task->state == Task::Reading) {
         m_tasks.setState(taskId, facts ? Task::Ready : Task::Failed);
         m_tasks.update(
             taskId, [&facts](Task &read) { read.error = facts ? QString() : facts.error().text; });
     }
     m_formats.assign(taskId);
+    m_runner.startNext();
 }
 
 void Page::requestThumbnail(int taskId)

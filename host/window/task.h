@@ -34,7 +34,8 @@ public:
     QString source;
     QString subfolder; //!< of the source, below the folder that was added; empty: directly in it
     MediaFacts facts;
-    QString thumbnail; //!< URL; empty until there is one
+    bool isRead = false; //!< the facts are there, or the file can't be read
+    QString thumbnail;   //!< URL; empty until there is one
     /*! Ids of the presets chosen for this file, the last choice last; none: it follows the page. */
     QStringList ownFormats;
     QString format; //!< id of the preset

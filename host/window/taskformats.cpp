@@ -24,6 +24,11 @@ QString TaskFormats::globalIcon() const
     return m_presets.icon(m_presets.usable(globalId(), {}));
 }
 
+QString TaskFormats::iconOf(const QString &id) const
+{
+    return m_presets.icon(id);
+}
+
 void TaskFormats::chooseGlobal(const QString &id)
 {
     m_settings.setGlobalId(m_page, id);
@@ -116,6 +121,10 @@ QString TaskFormats::formatOf(const Task &task, const Followed &followed) const
                                   [this](const QString &id) { return m_presets.find(id); });
     if (own != task.ownFormats.crend()) {
         return m_presets.usable(*own, {});
+    }
+    // One that was restored is what it was, until its file tells otherwise.
+    if (!task.isRead && m_presets.find(task.format)) {
+        return task.format;
     }
     if (task.facts.isEmpty()) {
         return followed.usual;

@@ -20,6 +20,8 @@ public:
 
     [[nodiscard]] QString globalCaption() const;
     [[nodiscard]] QString globalIcon() const;
+    /*! URL; empty where there is no such preset any more. */
+    [[nodiscard]] QString iconOf(const QString &id) const;
 
     /*! Gives the task its format, or another one that suits what is now known of its file. */
     void assign(int taskId) { assign(taskId, followed()); }

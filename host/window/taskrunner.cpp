@@ -68,8 +68,13 @@ void TaskRunner::startNext()
 {
     while (m_tasks.countOf(Task::Waiting) > 0 && m_queue.hasRoom()) {
         const QVector<Task> &all = m_tasks.tasks();
-        const auto next = std::find_if(
-            all.cbegin(), all.cend(), [](const Task &task) { return task.state == Task::Waiting; });
+        // What a file holds may change its format.
+        const auto next = std::find_if(all.cbegin(), all.cend(), [](const Task &task) {
+            return task.state == Task::Waiting && task.isRead;
+        });
+        if (next == all.cend()) {
+            return;
+        }
         const int id = next->id;
         m_tasks.setState(id, Task::Running);
         m_queue.add(id, [job = m_jobOf(*m_tasks.find(id))] { return job; });

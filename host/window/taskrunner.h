@@ -25,6 +25,8 @@ public:
     void setMaxRunning(int count) { m_queue.setMaxRunning(count); }
     /*! Converts those of the tasks that aren't waiting or running. */
     void convert(const QVector<int> &ids);
+    /*! Starts what there is room for, except tasks whose files are still being read. */
+    void startNext();
     void cancel(int id);
     void cancelAll();
     /*! Stops the task and forgets it: it is about to leave the list. */
@@ -56,7 +58,6 @@ Q_SIGNALS:
     void ended(int converted, int failed);
 
 private:
-    void startNext();
     void takeProgress(int id, const Progress &progress);
     void takeOutcome(int id, const Result<ConversionOutcome> &outcome);
     void noteEnd();

@@ -15,6 +15,7 @@ class TestPageConversions : public PageTest
 private Q_SLOTS:
     void tasksRunWhileCoresAreIdle();
     void tasksRunInTheOrderOfTheList();
+    void aFileIsReadBeforeItIsConverted();
     void aRunningTaskIsNotRestarted();
     void allTracksAreKeptIfThePresetKeepsThem();
     void aPausedPageGoesOnWhereItWas();
@@ -145,6 +146,20 @@ void TestPageConversions::tasksRunInTheOrderOfTheList()
     m_converter->convertAll();
     QTRY_VERIFY_WITH_TIMEOUT(!m_converter->isBusy(), patience);
     QCOMPARE(m_runs, QVector<int>({first, second, third}));
+}
+
+void TestPageConversions::aFileIsReadBeforeItIsConverted()
+{
+    m_converter->setConverterGlobalFormat(flac);
+    m_converter->setConverterGlobalFormat(mp4);
+    m_converter->addFiles({song(), noMedia()});
+    m_converter->convertAll();
+    const QVector<Task> &tasks = m_converter->tasks()->tasks();
+    QCOMPARE(tasks.at(0).state, Task::Waiting);
+    QCOMPARE(tasks.at(1).state, Task::Waiting);
+    QTRY_COMPARE_WITH_TIMEOUT(tasks.at(0).state, Task::Converted, patience);
+    QCOMPARE(tasks.at(0).format, flac);
+    QTRY_COMPARE_WITH_TIMEOUT(tasks.at(1).state, Task::Failed, patience);
 }
 
 void TestPageConversions::aRunningTaskIsNotRestarted()

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void whatIsEditedIsKeptWithoutAFlush();
     void bothPagesComeBack();
     void aResultComesBackWithItsFormat();
+    void aSongKeepsItsFormatWhileItIsReadAgain();
     void aRunningTaskComesBackAsInterruptedAndGoesOn();
     void aWaitingTaskComesBackReady();
     void aDamagedFileIsReportedAndTheWindowStartsEmpty();
@@ -83,6 +84,21 @@ void TestQueueKeeper::aResultComesBackWithItsFormat()
     QCOMPARE(kept.target, before.target);
     QCOMPARE(kept.targetBytes, QFileInfo(before.target).size());
     QCOMPARE(kept.formatCaption, before.formatCaption);
+    QCOMPARE(kept.formatIcon, before.formatIcon);
+}
+
+void TestQueueKeeper::aSongKeepsItsFormatWhileItIsReadAgain()
+{
+    m_converter->setConverterGlobalFormat(flac);
+    m_converter->setConverterGlobalFormat(mp4);
+    const Task before = task(*m_converter, addReady(*m_converter, song()));
+    QCOMPARE(before.format, flac);
+    restart();
+    const Task &kept = m_converter->tasks()->tasks().constFirst();
+    QCOMPARE(kept.state, Task::Reading);
+    QCOMPARE(kept.format, flac);
+    QCOMPARE(kept.formatCaption, before.formatCaption);
+    QCOMPARE(kept.formatIcon, before.formatIcon);
 }
 
 void TestQueueKeeper::aRunningTaskComesBackAsInterruptedAndGoesOn()
