@@ -15,9 +15,12 @@
 
 namespace {
 
+/*! Whether it is named like a file of presets of ours, HandBrake or Kdenlive; one of Shotcut has no
+ *  suffix. */
 bool isPresetFile(const QUrl &url)
 {
-    return url.path().endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+    const QString suffix = QFileInfo(url.path()).suffix().toLower();
+    return suffix == QLatin1String("json") || suffix == QLatin1String("xml");
 }
 
 QString stateName(PlannedImport::State state)
@@ -35,23 +38,21 @@ QString stateName(PlannedImport::State state)
     return QStringLiteral("refused");
 }
 
-/*! What is to be known of the preset, one line each. */
-QStringList remarksOn(const PlannedImport &plan)
+/*! The settings that become something else, a line each. */
+QStringList findingsOn(const PortablePreset &preset, Finding::Verdict verdict)
 {
-    QStringList remarks;
-    if (!plan.reason.isEmpty()) {
-        remarks << plan.reason;
-    }
-    for (const Finding &finding : plan.preset.findings) {
-        if (finding.verdict != Finding::Kept) {
-            const QString form =
-                finding.verdict == Finding::Lost
-                    ? ToolFun::text(QStringLiteral("%1 is lost (%2); instead: %3"))
-                    : ToolFun::text(QStringLiteral("%1 is approximated (%2); instead: %3"));
-            remarks << form.arg(finding.setting, finding.value.left(40), finding.text);
+    constexpr int longestValue = 40;
+    QStringList lines;
+    for (const Finding &finding : preset.findings) {
+        if (finding.verdict == verdict) {
+            const QString asked = finding.value.isEmpty()
+                                      ? finding.setting
+                                      : QStringLiteral("%1: %2").arg(
+                                            finding.setting, finding.value.left(longestValue));
+            lines << visibleText(QStringLiteral("%1  →  %2").arg(asked, finding.text));
         }
     }
-    return remarks;
+    return lines;
 }
 
 bool isImportable(const PlannedImport &plan)
@@ -114,7 +115,9 @@ void PresetExchange::preview(const QStringList &paths)
             {QStringLiteral("title"), visibleText(plan.preset.title.left(200))},
             {QStringLiteral("format"), plan.className},
             {QStringLiteral("state"), stateName(plan.state)},
-            {QStringLiteral("remarks"), visibleText(remarksOn(plan).join(QLatin1Char('\n')))}});
+            {QStringLiteral("reason"), visibleText(plan.reason)},
+            {QStringLiteral("approximated"), findingsOn(plan.preset, Finding::Approximated)},
+            {QStringLiteral("lost"), findingsOn(plan.preset, Finding::Lost)}});
     }
     Q_EMIT previewed({{QStringLiteral("presets"), list},
                       {QStringLiteral("importable"),
@@ -130,7 +133,9 @@ void PresetExchange::importPresets(Conflict conflict)
     const Result<QStringList> ids = ::importPresets(m_store, wanted, meant[conflict]);
     if (!ids) {
         Q_EMIT refused(ids.error().text);
-    } else if (!ids->isEmpty()) {
+    } else if (ids->isEmpty()) {
+        Q_EMIT told(ToolFun::text(QStringLiteral("No preset was imported.")));
+    } else {
         m_presets.saveSoon();
         Q_EMIT imported(ids->size());
     }

@@ -45,7 +45,8 @@ Q_SIGNALS:
     /*! \a name is the proposed one of the file. */
     void targetWanted(const QStringList &ids, const QString &name);
     /*! "presets" holds each preset's "title", "format", "state" ("new", "same", "conflict" or
-     *  "refused") and "remarks"; "importable" is how many are new or conflicting. */
+     *  "refused"), its "reason" or "", and what is "approximated" and "lost", a line each;
+     *  "importable" is how many are new or conflicting. */
     void previewed(const QVariantMap &info);
     void imported(int count);
     /*! One line for the user about what has been done. */

@@ -139,15 +139,18 @@ Result<PortablePresets> readPresets(const QByteArray &content, const QString &na
     if (start == "{" || start == "[") {
         return readJson(content, name);
     }
+    PortablePresets presets;
     if (start == "<") {
-        return readKdenlive(content);
+        presets = readKdenlive(content);
+    } else if (content.contains("acodec=") || content.contains("vcodec=")) {
+        presets = readShotcut(content, QFileInfo(name).completeBaseName());
     }
-    if (!content.contains("acodec=") && !content.contains("vcodec=")) {
+    if (presets.presets.isEmpty() && presets.refused.isEmpty()) {
         return failed(Texts::tr("%1 is no file of presets of vexconvert, HandBrake, Kdenlive or "
                                 "Shotcut")
                           .arg(name));
     }
-    return readShotcut(content, QFileInfo(name).completeBaseName());
+    return presets;
 }
 
 QByteArray presetFile(const QVector<PortablePreset> &presets)

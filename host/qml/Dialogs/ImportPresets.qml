@@ -35,6 +35,11 @@ VEXContent {
     Accessible.role: Accessible.Dialog
     Accessible.name: titleBar.text
     Keys.onEscapePressed: root.frame.cancelClicked()
+    onActiveFocusChanged: {
+        if (root.activeFocus) {
+            (root.importable > 0 ? importButton : closeButton).forceActiveFocus()
+        }
+    }
 
     VEXPopupsTitleBar {
         id: titleBar
@@ -43,70 +48,85 @@ VEXContent {
         text: ToolFun.tr("Import presets")
     }
 
-    ListView {
-        id: list
+    VEXLabel {
+        id: summary
 
         anchors {
             left: parent.left
             right: parent.right
             top: titleBar.bottom
-            bottom: conflict.top
             margins: Theme.margin
         }
+        elide: Text.ElideNone
+        wrapMode: Text.WordWrap
+        font.pixelSize: Theme.smallText
+        color: Theme.font_color_grade4
+        text: ["new", "conflict", "same", "refused"].filter(function (state) {
+            return root.countOf(state) > 0
+        }).map(function (state) {
+            return root.stateText(state) + ": "
+                    + root.countOf(state).toLocaleString(Qt.locale(), "f", 0)
+        }).join("  ·  ")
+    }
+
+    ListView {
+        id: list
+
+        // A single preset has room for all that is to be said.
+        property var openRows: root.presets.length === 1 ? [0] : []
+
+        function toggle(row) {
+            list.openRows = list.openRows.includes(row) ? list.openRows.filter(function (each) {
+                return each !== row
+            }) : list.openRows.concat(row)
+            list.currentIndex = row
+            list.positionViewAtIndex(row, ListView.Contain)
+        }
+
+        function page(by) {
+            const rows = Math.max(1, Math.floor(list.height / list.currentItem.height))
+            list.currentIndex = Math.max(0, Math.min(list.currentIndex + by * rows, list.count - 1))
+        }
+
+        anchors {
+            left: parent.left
+            leftMargin: Theme.spacing
+            right: parent.right
+            rightMargin: Theme.spacing
+            top: summary.bottom
+            topMargin: Theme.spacing
+            bottom: conflict.top
+            bottomMargin: Theme.spacing
+        }
         clip: true
-        spacing: Theme.spacing
+        spacing: 2
         boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
         activeFocusOnTab: true
         model: root.presets
         Accessible.role: Accessible.List
-        Accessible.name: titleBar.text
+        Accessible.name: titleBar.text + ", " + summary.text
+        Keys.onSpacePressed: list.toggle(list.currentIndex)
+        Keys.onReturnPressed: list.toggle(list.currentIndex)
+        Keys.onEnterPressed: list.toggle(list.currentIndex)
+        Keys.onPressed: function (event) {
+            const isDown = event.key === Qt.Key_PageDown
+            if (isDown || event.key === Qt.Key_PageUp) {
+                list.page(isDown ? 1 : -1)
+                event.accepted = true
+            }
+        }
 
         ScrollBar.vertical: VEXScrollBar {}
 
-        delegate: Column {
+        delegate: ImportRow {
             id: row
 
-            required property var modelData
-
-            width: list.width - 12
-            spacing: 2
-            Accessible.role: Accessible.ListItem
-            Accessible.name: [row.modelData.title, row.modelData.format, state.text,
-                              row.modelData.remarks].join(", ")
-
-            Row {
-                width: parent.width
-                spacing: Theme.spacing
-
-                VEXLabel {
-                    width: Math.min(implicitWidth, parent.width - state.width - parent.spacing)
-                    text: row.modelData.title + (row.modelData.format === ""
-                                                 ? "" : "  ·  " + row.modelData.format)
-                    Accessible.ignored: true
-                }
-
-                VEXLabel {
-                    id: state
-
-                    text: root.stateText(row.modelData.state)
-                    color: row.modelData.state === "refused" ? Theme.danger
-                                                             : row.modelData.state === "new"
-                                                               ? Theme.success
-                                                               : Theme.font_color_grade4
-                    Accessible.ignored: true
-                }
-            }
-
-            VEXLabel {
-                width: parent.width
-                visible: text !== ""
-                elide: Text.ElideNone
-                wrapMode: Text.Wrap
-                font.pixelSize: Theme.smallText
-                color: Theme.font_color_grade4
-                text: row.modelData.remarks
-                Accessible.ignored: true
-            }
+            width: list.width - 10
+            isCurrent: row.ListView.isCurrentItem && list.activeFocus
+            isOpen: list.openRows.includes(row.index)
+            stateText: root.stateText(row.modelData.state)
+            onToggled: list.toggle(row.index)
         }
     }
 
@@ -158,6 +178,8 @@ VEXContent {
         spacing: 12
 
         VEXButton {
+            id: closeButton
+
             implicitHeight: Theme.smallControlHeight
             font.pixelSize: Theme.smallText
             text: root.importable > 0 ? ToolFun.tr("Cancel") : ToolFun.tr("Close")
@@ -165,10 +187,11 @@ VEXContent {
         }
 
         VEXButton {
+            id: importButton
+
             implicitHeight: Theme.smallControlHeight
             font.pixelSize: Theme.smallText
             primary: true
-            focus: true
             visible: root.importable > 0
             text: ToolFun.tr("Import")
             onClicked: {

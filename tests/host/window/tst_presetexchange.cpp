@@ -101,7 +101,7 @@ void TestPresetExchange::aFileThatIsNoneOfPresetsIsRefusedWithItsReason()
     const QVariantMap refused = firstOf(previews);
     QCOMPARE(refused.value(QStringLiteral("state")), QVariant(QStringLiteral("refused")));
     QCOMPARE(refused.value(QStringLiteral("title")), QVariant(QStringLiteral("other.json")));
-    QVERIFY(!refused.value(QStringLiteral("remarks")).toString().isEmpty());
+    QVERIFY(!refused.value(QStringLiteral("reason")).toString().isEmpty());
 }
 
 QTEST_MAIN(TestPresetExchange)
