@@ -118,6 +118,18 @@ void PresetActions::move(const QString &id, int step)
     }
 }
 
+void PresetActions::moveBeside(const QString &id, const QString &other, bool isBelow)
+{
+    const std::optional<FoundPreset> preset = ownPreset(id);
+    QStringList ids = preset ? m_store.own().idsOf(preset->className) : QStringList();
+    if (id == other || !ids.contains(other)) {
+        return;
+    }
+    ids.removeOne(id);
+    ids.insert(ids.indexOf(other) + (isBelow ? 1 : 0), id);
+    m_store.own().sort(preset->className, ids);
+}
+
 QString PresetActions::duplicate(const QString &id)
 {
     const std::optional<FoundPreset> preset = m_store.find(id);
@@ -161,6 +173,19 @@ void PresetActions::resetToBase(const QString &id, const QStringList &names)
     if (ownPreset(id) && compared && !names.isEmpty()) {
         ::resetToBase(m_store, *compared, names);
     }
+}
+
+int PresetActions::sampleTask(Page *page) const
+{
+    const QVector<Task> &tasks = page->tasks()->tasks();
+    const auto isRead = [](const Task &task) { return !task.facts.isEmpty(); };
+    auto found = std::find_if(tasks.begin(), tasks.end(), [&isRead](const Task &task) {
+        return task.isSelected && isRead(task);
+    });
+    if (found == tasks.end()) {
+        found = std::find_if(tasks.begin(), tasks.end(), isRead);
+    }
+    return found == tasks.end() ? -1 : found->id;
 }
 
 void PresetActions::undoLast(Page *page)

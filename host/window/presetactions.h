@@ -46,6 +46,8 @@ public:
     Q_INVOKABLE void remove(const QString &id);
     /*! Moves the preset by one place among the user's of its format. */
     Q_INVOKABLE void move(const QString &id, int step);
+    /*! Moves the preset above or below another one of its format. */
+    Q_INVOKABLE void moveBeside(const QString &id, const QString &other, bool isBelow);
     /*! Makes a copy of any preset that is the user's, and returns its id; empty if there is no such
      *  preset. */
     Q_INVOKABLE QString duplicate(const QString &id);
@@ -56,6 +58,10 @@ public:
     Q_INVOKABLE QVariantList differences(const QString &id);
     /*! Takes the base's values of these settings again. */
     Q_INVOKABLE void resetToBase(const QString &id, const QStringList &names);
+
+    /*! The id of the task whose file presets are tried with: the first selected one that has been
+     *  read or else the first one of all; -1 if there is none. */
+    Q_INVOKABLE int sampleTask(Page *page) const;
 
     /*! Undoes what was done last: to the presets, or to the page's list. */
     Q_INVOKABLE void undoLast(Page *page);

@@ -31,6 +31,7 @@ MenuItem {
 
             anchors.verticalCenter: parent.verticalCenter
             font.pixelSize: Theme.text
+            color: root.enabled ? Theme.font_color_grade1 : Theme.font_color_disabled
         }
 
         VEXLabel {

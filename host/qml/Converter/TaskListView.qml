@@ -71,9 +71,7 @@ ListView {
                                : y > item.y + item.height / 2 ? row + 1 : row
         root.dropY = row < 0 ? (y <= 0 ? 0 : root.contentHeight)
                              : y > item.y + item.height / 2 ? item.y + item.height : item.y
-        const margin = 32
-        scroller.step = y < root.contentY + margin ? -12
-                                                   : y > root.contentY + root.height - margin ? 12 : 0
+        scroller.follow(y)
     }
 
     function drop(taskId) {
@@ -160,18 +158,10 @@ ListView {
         onDropped: root.drop(row.taskId)
     }
 
-    Timer {
+    DragScroller {
         id: scroller
 
-        property int step: 0
-
-        running: scroller.step !== 0
-        interval: 16
-        repeat: true
-        onTriggered: {
-            const last = Math.max(0, root.contentHeight - root.height)
-            root.contentY = Math.max(0, Math.min(last, root.contentY + scroller.step))
-        }
+        view: root
     }
 
     Rectangle {

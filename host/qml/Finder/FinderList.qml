@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.5
+import Converter 1.0
 import Public 1.0
 import VexTheme 1.0
 import VexWindow 1.0
@@ -13,6 +14,11 @@ Item {
     /*! The preset to go to when the list has changed. */
     property string keepAt: ""
     property int lastRow: 0
+
+    /*! The row beside which what is dragged would land; null: nowhere. */
+    property FinderRow dropRow: null
+    property bool isBelow: false
+    property bool isDragging: false
 
     signal useWanted(string presetId)
     signal menuWanted(FinderRow row, Item button)
@@ -37,8 +43,36 @@ Item {
         root.goTo(list.currentIndex + by * Math.max(1, Math.floor(list.height / height)))
     }
 
+    /*! The user's own presets stand in the order of their formats, so each stays in its own. */
+    function drag(row, y) {
+        if (!root.isDragging) {
+            return
+        }
+        const other = list.itemAtIndex(list.indexAt(list.width / 2, y)) as FinderRow
+        const isPlace = other !== null && other.canMove && other.format === row.format
+        root.dropRow = isPlace ? other : null
+        root.isBelow = isPlace && y > other.y + other.height / 2
+        scroller.follow(y)
+    }
+
+    function endDrag() {
+        root.isDragging = false
+        root.dropRow = null
+        scroller.step = 0
+    }
+
+    function drop(row) {
+        const other = root.dropRow
+        root.endDrag()
+        if (other !== null && other !== row) {
+            root.keepAt = row.presetId
+            PresetActions.moveBeside(row.presetId, other.presetId, root.isBelow)
+        }
+    }
+
     /*! The list is another one: goes on where the user was. */
     function goBack() {
+        root.endDrag()
         const kept = PresetFinder.rowOf(root.keepAt)
         root.goTo(kept >= 0 ? kept : root.lastRow)
         root.keepAt = kept >= 0 ? "" : root.keepAt
@@ -87,10 +121,33 @@ Item {
 
             width: list.width - 10
             isCurrent: row.ListView.isCurrentItem
+            opacity: root.isDragging && row.isCurrent ? 0.6 : 1
             onPressed: root.goTo(row.index)
             onUsed: root.useWanted(row.presetId)
             onNearestUsed: root.useWanted(row.nearest)
             onMenuWanted: function (button) { root.menuWanted(row, button) }
+            onDragBegun: root.isDragging = true
+            onDragged: function (y) { root.drag(row, y) }
+            onDropped: root.drop(row)
+        }
+
+        DragScroller {
+            id: scroller
+
+            view: list
+        }
+
+        Rectangle {
+            objectName: "dropLine"
+            parent: list.contentItem
+            y: root.dropRow === null ? 0 : root.dropRow.y + (root.isBelow ? root.dropRow.height : 0)
+                                           - height / 2
+            z: 2
+            width: list.width - 10
+            height: 3
+            radius: 1
+            visible: root.dropRow !== null
+            color: Theme.font_color_grade3
         }
     }
 }

@@ -6,15 +6,19 @@ import VexWindow 1.0
 StyledMenu {
     id: root
 
+    required property PageProxy page
     property string presetId
     property bool isFavorite
     property bool isOwn
     property bool isUsable
+    property int sampleTask: -1
 
     signal useWanted()
     /*! The user wants to type a "title" or a "note". */
     signal typingWanted(string what)
     signal duplicated(string id)
+
+    onAboutToShow: root.sampleTask = PresetActions.sampleTask(root.page)
 
     component DefaultEntry: MenuEntry {
         id: entry
@@ -37,6 +41,13 @@ StyledMenu {
     }
 
     MenuEntry {
+        enabled: root.isUsable && root.sampleTask >= 0
+        text: ToolFun.tr("Try 10 seconds")
+        shortcutText: root.sampleTask < 0 ? ToolFun.tr("no file yet") : ""
+        onTriggered: root.page.trySample(root.sampleTask, root.presetId)
+    }
+
+    MenuEntry {
         text: root.isFavorite ? ToolFun.tr("Remove from the favorites")
                               : ToolFun.tr("Add to the favorites")
         shortcutText: ToolFun.tr("Ctrl+D")
@@ -49,33 +60,33 @@ StyledMenu {
     }
 
     MenuEntry {
-        visible: root.isOwn
+        isOffered: root.isOwn
         text: ToolFun.tr("Rename")
         shortcutText: ToolFun.tr("F2")
         onTriggered: root.typingWanted("title")
     }
 
     MenuEntry {
-        visible: root.isOwn
+        isOffered: root.isOwn
         text: ToolFun.tr("Note …")
         onTriggered: root.typingWanted("note")
     }
 
     MenuEntry {
-        visible: root.isOwn
+        isOffered: root.isOwn
         text: ToolFun.tr("What has been changed …")
         onTriggered: Dialogs.showPresetChanges(root.presetId)
     }
 
     MenuEntry {
-        visible: root.isOwn
+        isOffered: root.isOwn
         text: ToolFun.tr("Move up")
         shortcutText: ToolFun.tr("Alt+Up")
         onTriggered: PresetActions.move(root.presetId, -1)
     }
 
     MenuEntry {
-        visible: root.isOwn
+        isOffered: root.isOwn
         text: ToolFun.tr("Move down")
         shortcutText: ToolFun.tr("Alt+Down")
         onTriggered: PresetActions.move(root.presetId, 1)
@@ -101,13 +112,13 @@ StyledMenu {
     }
 
     MenuEntry {
-        visible: root.isOwn
+        isOffered: root.isOwn
         text: ToolFun.tr("Export …")
         onTriggered: PresetExchange.chooseTarget([root.presetId])
     }
 
     MenuEntry {
-        visible: root.isOwn
+        isOffered: root.isOwn
         text: ToolFun.tr("Delete")
         onTriggered: PresetActions.remove(root.presetId)
     }

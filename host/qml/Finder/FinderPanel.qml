@@ -43,9 +43,10 @@ T.Popup {
     y: Theme.margin
     padding: Theme.margin
     focus: true
-    // While something is typed about a preset, Escape gives that up.
-    closePolicy: root.typing === "" ? T.Popup.CloseOnPressOutside | T.Popup.CloseOnEscape
-                                    : T.Popup.CloseOnPressOutside
+    // While something is typed about a preset or dragged, Escape gives that up.
+    closePolicy: root.typing === "" && !list.isDragging
+                 ? T.Popup.CloseOnPressOutside | T.Popup.CloseOnEscape
+                 : T.Popup.CloseOnPressOutside
     onAboutToShow: {
         root.typing = ""
         field.clear()
@@ -75,6 +76,10 @@ T.Popup {
         height: root.availableHeight
         Accessible.role: Accessible.Dialog
         Accessible.name: ToolFun.tr("Find a preset")
+        Keys.onEscapePressed: function (event) {
+            event.accepted = list.isDragging
+            list.endDrag()
+        }
 
         VEXTextField {
             id: field
@@ -173,7 +178,8 @@ T.Popup {
             anchors {
                 top: target.bottom
                 topMargin: 6
-                bottom: parent.bottom
+                bottom: offer.visible ? offer.top : parent.bottom
+                bottomMargin: offer.visible ? Theme.spacing : 0
             }
             width: parent.width
             onUseWanted: function (presetId) { root.use(presetId) }
@@ -234,6 +240,8 @@ T.Popup {
         }
 
         OfferBar {
+            id: offer
+
             anchors {
                 horizontalCenter: parent.horizontalCenter
                 bottom: parent.bottom
@@ -247,6 +255,7 @@ T.Popup {
 
         objectName: "presetMenu"
 
+        page: root.page
         onUseWanted: root.use(menu.presetId)
         onTypingWanted: function (what) { root.typing = what }
         onDuplicated: function (id) { list.keepAt = id }

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import Controls 1.0
+import Converter 1.0
 import Public 1.0
 import VexTheme 1.0
 import VexWindow 1.0
@@ -18,8 +19,11 @@ Rectangle {
     required property bool isFavorite
     required property bool isOwn
     required property string problem
+    required property string group
 
     required property bool isCurrent
+    /*! Only among the user's own, in their order, a row can be dragged. */
+    readonly property bool canMove: root.isOwn && root.group === ToolFun.tr("My presets")
     readonly property bool isUsable: root.problem === ""
     readonly property string nearest: root.isCurrent && !root.isUsable
                                       ? PresetFinder.nearestTo(root.presetId) : ""
@@ -32,6 +36,10 @@ Rectangle {
     signal used()
     signal nearestUsed()
     signal menuWanted(Item button)
+    signal dragBegun()
+    /*! The row's grip is dragged over this height of the list's content. */
+    signal dragged(real y)
+    signal dropped()
 
     implicitHeight: words.implicitHeight + 2 * 7
     radius: Theme.radius_1
@@ -62,12 +70,23 @@ Rectangle {
         }
     }
 
+    TaskGrip {
+        height: parent.height
+        visible: root.canMove
+        onPressed: {
+            root.pressed()
+            root.dragBegun()
+        }
+        onDragged: function (place) { root.dragged(root.y + place.y) }
+        onDropped: root.dropped()
+    }
+
     VEXIcon {
         id: picture
 
         anchors {
             left: parent.left
-            leftMargin: 10
+            leftMargin: 18
             top: parent.top
             topMargin: 10
         }
@@ -119,6 +138,8 @@ Rectangle {
 
         Words {
             text: root.details
+            elide: Text.ElideNone
+            wrapMode: Text.Wrap
         }
 
         Words {

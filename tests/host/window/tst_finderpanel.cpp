@@ -1,32 +1,16 @@
 #include "host/app/languages.h"
-#include "host/window/mainwindow.h"
-#include "host/window/pageproxies.h"
-#include "host/window/presetactions.h"
-#include "host/window/presetfinder.h"
 
 #include "formats/proxy/formatsproxy.h"
-#include "tests/host/window/windowuser.h"
-#include "tests/support/mediaclips.h"
-#include "tests/support/patience.h"
-
-#include <QDir>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "tests/host/window/findertest.h"
 
 using namespace WindowUser;
 
-/*! The panel that finds presets, under mouse and keys. Its files are a.wav and b.wav. */
-class TestFinderPanel : public QObject
+/*! The panel that finds presets. */
+class TestFinderPanel : public FinderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void enterGivesThePresetToAllFiles();
     void withASelectionOnlyThatGetsIt();
     void aDoubleClickIsAChoiceAndTheArrowsWalk();
@@ -41,144 +25,7 @@ private Q_SLOTS:
     void changesAreShownAndTakenBack();
     void nothingIsCutOffAtTheSmallestSize_data();
     void nothingIsCutOffAtTheSmallestSize();
-
-private:
-    void openWindow();
-    /*! Opens the panel and types this. */
-    void find(const QString &text);
-    bool isShown(const QString &text) const;
-    bool isOpen() const;
-    /*! Until rows and entries have found their places. */
-    void waitForDrawing();
-    /*! Chooses an entry of the menu of the current row. */
-    void choose(const char *entry);
-    QString makeOwn(const QString &title);
-    QStringList ownIds() const;
-    QStringList ownTitles() const;
-    ConverterProxy &page() const { return m_main->converter(); }
-    QString formatOf(int row) const { return page().tasks()->tasks().at(row).format; }
-
-    const QString mp3 = QStringLiteral("Audio_MP3_003");
-    QTemporaryDir m_work;
-    std::unique_ptr<MainWindow> m_main;
-    QQuickWindow *m_window = nullptr;
 };
-
-void TestFinderPanel::initTestCase()
-{
-    Languages::install(QStringLiteral("en"));
-    const QDir files(m_work.filePath(QStringLiteral("files")));
-    QVERIFY(files.mkpath(QStringLiteral(".")));
-    for (const char *name : {"a.wav", "b.wav"}) {
-        QVERIFY(MediaClips::makeSong(files.filePath(QString::fromLatin1(name))));
-    }
-    collectWarnings();
-}
-
-void TestFinderPanel::init()
-{
-    QDir(m_work.filePath(QStringLiteral("config"))).removeRecursively();
-    openWindow();
-    page().setConverterGlobalFormat(mp3);
-    page().addPaths({m_work.filePath(QStringLiteral("files"))});
-    QTRY_COMPARE_WITH_TIMEOUT(page().tasks()->countOf(Task::Ready), 2, patience);
-}
-
-void TestFinderPanel::openWindow()
-{
-    m_main.reset();
-    m_main = std::make_unique<MainWindow>(m_work.filePath(QStringLiteral("config")));
-    QVERIFY(m_main->open());
-    m_window = m_main->window();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
-}
-
-void TestFinderPanel::cleanup()
-{
-    // The library keeps them for the next window of this process.
-    for (const QString &id : ownIds()) {
-        m_main->presetActions().remove(id);
-    }
-    m_main.reset();
-    QCOMPARE(takeWarnings(), QString());
-}
-
-bool TestFinderPanel::isOpen() const
-{
-    return m_window->property("finder").value<QObject *>()->property("opened").toBool();
-}
-
-bool TestFinderPanel::isShown(const QString &text) const
-{
-    return !itemsNamed(m_window->contentItem(), text).isEmpty();
-}
-
-void TestFinderPanel::find(const QString &text)
-{
-    QTest::keyClick(m_window, Qt::Key_F, Qt::ControlModifier);
-    QTRY_VERIFY_WITH_TIMEOUT(isOpen(), patience);
-    type(m_window, text);
-    waitForDrawing();
-}
-
-void TestFinderPanel::waitForDrawing()
-{
-    for (int frame = 0; frame < 2; ++frame) {
-        QSignalSpy drawn(m_window, &QQuickWindow::afterRendering);
-        m_window->update();
-        QTRY_VERIFY_WITH_TIMEOUT(!drawn.isEmpty(), patience);
-    }
-}
-
-void TestFinderPanel::choose(const char *entry)
-{
-    waitForDrawing();
-    QTest::keyClick(m_window, Qt::Key_F10, Qt::ShiftModifier);
-    const auto *menu = m_window->findChild<QObject *>(QStringLiteral("presetMenu"));
-    QTRY_VERIFY_WITH_TIMEOUT(menu->property("opened").toBool(), patience);
-    waitForDrawing();
-    // The page below has texts like those of the menu.
-    auto *entries = menu->property("contentItem").value<QQuickItem *>();
-    const QList<QQuickItem *> found = itemsNamed(entries, QString::fromUtf8(entry));
-    QVERIFY2(!found.isEmpty(), entry);
-    QTest::mouseClick(m_window, Qt::LeftButton, {}, middleOf(found.constFirst()));
-}
-
-QString TestFinderPanel::makeOwn(const QString &title)
-{
-    PresetActions &actions = m_main->presetActions();
-    const QString own = actions.duplicate(QStringLiteral("Video_MP4_005"));
-    actions.rename(own, title);
-    QTest::qWait(0); // until it is saved
-    return own;
-}
-
-QStringList TestFinderPanel::ownIds() const
-{
-    const FormatListModel &formats = *FormatsProxy::getInstance()->formatListModel();
-    QStringList ids;
-    for (int row = 0; row < formats.rowCount(); ++row) {
-        QQueue<FormatDetailModelData> presets;
-        if (const auto *list = formats.formatDetailModel(formats.getTitle(row))) {
-            list->getModelInfo(presets);
-        }
-        for (const FormatDetailModelData &preset : qAsConst(presets)) {
-            if (preset.userDefine) {
-                ids << preset.id;
-            }
-        }
-    }
-    return ids;
-}
-
-QStringList TestFinderPanel::ownTitles() const
-{
-    QStringList titles;
-    for (const QString &id : ownIds()) {
-        titles << m_main->presetActions().title(id);
-    }
-    return titles;
-}
 
 void TestFinderPanel::enterGivesThePresetToAllFiles()
 {
@@ -389,7 +236,8 @@ void TestFinderPanel::nothingIsCutOffAtTheSmallestSize()
     QFETCH(QString, language);
     Languages::install(language);
     openWindow();
-    makeOwn(QStringLiteral("Mine"));
+    m_main->presetActions().setNote(makeOwn(QStringLiteral("Mine")),
+                                    QStringLiteral("fits on the old tablet"));
     m_window->resize(m_window->minimumSize());
     find({});
     const QObject *panel = m_window->property("finder").value<QObject *>();
@@ -398,15 +246,12 @@ void TestFinderPanel::nothingIsCutOffAtTheSmallestSize()
         if (!item->isVisible()) {
             return;
         }
-        const bool mayBeCut = item->inherits("QQuickListView");
         if (item->inherits("QQuickText")) {
             QVERIFY2(!item->property("truncated").toBool(),
                      qPrintable(item->property("text").toString()));
         }
-        if (!mayBeCut) {
-            for (const QQuickItem *child : item->childItems()) {
-                check(child);
-            }
+        for (const QQuickItem *child : item->childItems()) {
+            check(child);
         }
     };
     QTRY_VERIFY_WITH_TIMEOUT(content->isVisible(), patience);
