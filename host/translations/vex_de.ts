@@ -1492,14 +1492,6 @@
         <translation>automatisch</translation>
     </message>
     <message>
-        <source>%1 is lost (%2); instead: %3</source>
-        <translation>%1 geht verloren (%2); stattdessen: %3</translation>
-    </message>
-    <message>
-        <source>%1 is approximated (%2); instead: %3</source>
-        <translation>%1 wird angenähert (%2); stattdessen: %3</translation>
-    </message>
-    <message>
         <source>You have no presets of your own yet.</source>
         <translation>Sie haben noch keine eigenen Voreinstellungen.</translation>
     </message>
@@ -1518,6 +1510,22 @@
     <message>
         <source>Files of presets</source>
         <translation>Dateien mit Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>angenähert</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>entfällt</translation>
+    </message>
+    <message>
+        <source>No preset was imported.</source>
+        <translation>Keine Voreinstellung wurde importiert.</translation>
+    </message>
+    <message>
+        <source>no file yet</source>
+        <translation>noch keine Datei</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1897,386 @@
     <message>
         <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
         <translation>Die Dateiliste lässt sich nicht in %1 sichern (%2); schaffen Sie Platz oder prüfen Sie die Rechte des Ordners</translation>
+    </message>
+</context>
+<context>
+    <name>CodecWords</name>
+    <message>
+        <source>more than 8 bits only where the source has them</source>
+        <translation>mehr als 8 Bit nur, wo die Quelle sie hat</translation>
+    </message>
+    <message>
+        <source>%1 is written without the graphics card</source>
+        <translation>%1 wird ohne die Grafikkarte geschrieben</translation>
+    </message>
+    <message>
+        <source>audio of another codec is encoded</source>
+        <translation>Ton mit anderem Codec wird neu codiert</translation>
+    </message>
+    <message>
+        <source>AAC without its high-efficiency extension</source>
+        <translation>AAC ohne die High-Efficiency-Erweiterung</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s usual speed</source>
+        <translation>die übliche Geschwindigkeit des Encoders</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t tuned so</source>
+        <translation>%1 wird nicht so abgestimmt</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the profile</source>
+        <translation>der Encoder wählt das Profil</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the level</source>
+        <translation>der Encoder wählt den Level</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the key frames</source>
+        <translation>der Encoder wählt die Keyframes</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrake</name>
+    <message>
+        <source>h264</source>
+        <translation>h264</translation>
+    </message>
+    <message>
+        <source>the same number for another encoder</source>
+        <translation>dieselbe Zahl für einen anderen Encoder</translation>
+    </message>
+    <message>
+        <source>the average bitrate is reached in one pass</source>
+        <translation>die mittlere Bitrate wird in einem Durchgang erreicht</translation>
+    </message>
+    <message>
+        <source>a variable rate stays variable where the format has it</source>
+        <translation>eine variable Bildrate bleibt variabel, wo das Format sie kennt</translation>
+    </message>
+    <message>
+        <source>the rate is a limit; slower sources keep theirs</source>
+        <translation>die Bildrate ist eine Obergrenze; langsamere Quellen behalten ihre</translation>
+    </message>
+    <message>
+        <source>each source&apos;s track is written once</source>
+        <translation>jede Spur der Quelle wird einmal geschrieben</translation>
+    </message>
+    <message>
+        <source>all tracks; &quot;convert --audio&quot; chooses</source>
+        <translation>alle Spuren; wählen Sie in der Zeile der Datei</translation>
+    </message>
+    <message>
+        <source>the source&apos;s codec</source>
+        <translation>der Codec der Quelle</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>die gute Qualität des Encoders</translation>
+    </message>
+    <message>
+        <source>plain stereo</source>
+        <translation>einfaches Stereo</translation>
+    </message>
+    <message>
+        <source>the source&apos;s channels</source>
+        <translation>die Kanäle der Quelle</translation>
+    </message>
+    <message>
+        <source>the loudness stays as it is</source>
+        <translation>die Lautstärke bleibt, wie sie ist</translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation>ein Ordner</translation>
+    </message>
+    <message>
+        <source>folders are nested too deeply</source>
+        <translation>die Ordner sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>has no &quot;VideoEncoder&quot; or no &quot;FileFormat&quot;</source>
+        <translation>hat kein „VideoEncoder“ oder kein „FileFormat“</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>ist eine von mehr als %L1</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own value</source>
+        <translation>der eigene Wert des Encoders</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrakeLeftovers</name>
+    <message>
+        <source>the source&apos;s delays are kept</source>
+        <translation>Verzögerungen der Quelle bleiben</translation>
+    </message>
+    <message>
+        <source>parameters stand only at the file&apos;s start</source>
+        <translation>Parameter stehen nur am Anfang der Datei</translation>
+    </message>
+    <message>
+        <source>the source&apos;s tags are kept</source>
+        <translation>die Metadaten der Quelle bleiben</translation>
+    </message>
+    <message>
+        <source>the file isn&apos;t marked for the first iPods</source>
+        <translation>die Datei wird nicht für die ersten iPods gekennzeichnet</translation>
+    </message>
+    <message>
+        <source>small pictures stay small</source>
+        <translation>kleine Bilder bleiben klein</translation>
+    </message>
+    <message>
+        <source>colours aren&apos;t smoothed</source>
+        <translation>Farben werden nicht geglättet</translation>
+    </message>
+    <message>
+        <source>the source&apos;s colours are kept</source>
+        <translation>die Farben der Quelle bleiben</translation>
+    </message>
+    <message>
+        <source>blocks aren&apos;t smoothed</source>
+        <translation>Blöcke werden nicht geglättet</translation>
+    </message>
+    <message>
+        <source>sources that say they are interlaced are deinterlaced</source>
+        <translation>Quellen, die sich als Halbbilder ausweisen, werden zu Vollbildern</translation>
+    </message>
+    <message>
+        <source>noise isn&apos;t removed</source>
+        <translation>Rauschen wird nicht entfernt</translation>
+    </message>
+    <message>
+        <source>telecine isn&apos;t undone</source>
+        <translation>Telecine wird nicht rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>the source&apos;s pixel shape is used</source>
+        <translation>die Pixelform der Quelle wird benutzt</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t distorted</source>
+        <translation>das Bild wird nicht verzerrt</translation>
+    </message>
+    <message>
+        <source>square pixels in a picture of the same shape</source>
+        <translation>quadratische Pixel in einem Bild derselben Form</translation>
+    </message>
+    <message>
+        <source>no borders are added</source>
+        <translation>keine Ränder kommen hinzu</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t turned</source>
+        <translation>das Bild wird nicht gedreht</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t sharpened</source>
+        <translation>das Bild wird nicht geschärft</translation>
+    </message>
+    <message>
+        <source>the height follows from the picture&apos;s shape</source>
+        <translation>die Höhe folgt aus der Form des Bildes</translation>
+    </message>
+    <message>
+        <source>the width follows from the picture&apos;s shape</source>
+        <translation>die Breite folgt aus der Form des Bildes</translation>
+    </message>
+    <message>
+        <source>closed captions aren&apos;t taken</source>
+        <translation>Closed Captions werden nicht übernommen</translation>
+    </message>
+    <message>
+        <source>&quot;convert --burn-subtitles&quot; chooses a track</source>
+        <translation>wählen Sie die Spur zum Einbrennen in der Zeile der Datei</translation>
+    </message>
+    <message>
+        <source>&quot;convert --subtitles&quot; chooses tracks</source>
+        <translation>wählen Sie Spuren in der Zeile der Datei</translation>
+    </message>
+    <message>
+        <source>all that the format holds; &quot;convert --subtitles&quot; chooses</source>
+        <translation>alle, die das Format fasst; wählen Sie in der Zeile der Datei</translation>
+    </message>
+    <message>
+        <source>the picture stays in colour</source>
+        <translation>das Bild bleibt farbig</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own values</source>
+        <translation>die eigenen Werte des Encoders</translation>
+    </message>
+    <message>
+        <source>nothing is cut off</source>
+        <translation>nichts wird abgeschnitten</translation>
+    </message>
+    <message>
+        <source>black borders stay</source>
+        <translation>schwarze Ränder bleiben</translation>
+    </message>
+    <message>
+        <source>isn&apos;t known</source>
+        <translation>ist unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>Melt</name>
+    <message>
+        <source>isn&apos;t used</source>
+        <translation>wird nicht benutzt</translation>
+    </message>
+    <message>
+        <source>as many bits and colours as the codec keeps</source>
+        <translation>so viele Bits und Farben, wie der Codec behält</translation>
+    </message>
+    <message>
+        <source>isn&apos;t used; the converter has a way of its own</source>
+        <translation>wird nicht benutzt; der Konverter macht es auf seine Weise</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>die gute Qualität des Encoders</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %L1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a known key</source>
+        <translation>„%1“ ist kein bekannter Schlüssel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>„%1“ muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>„%1“ muss ein Text sein</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; is not a known key</source>
+        <translation>„settings.%1“ ist kein bekannter Schlüssel</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; must be a text</source>
+        <translation>„settings.%1“ muss ein Text sein</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>ist eine von mehr als %L1</translation>
+    </message>
+    <message>
+        <source>%1: %2 at byte %3</source>
+        <translation>%1: %2 bei Byte %L3</translation>
+    </message>
+    <message>
+        <source>%1 has neither a list &quot;presets&quot; nor a list &quot;PresetList&quot;; it is no file of presets</source>
+        <translation>%1 hat weder eine Liste „presets“ noch eine Liste „PresetList“ und ist keine Datei mit Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>%1 has the version %2, and only version %3 can be read; export it again with this version of vexconvert</source>
+        <translation>%1 hat die Version %2, lesbar ist nur Version %3; exportieren Sie die Datei erneut mit dieser Version von vexconvert</translation>
+    </message>
+    <message>
+        <source>%1 is no file of presets of vexconvert, HandBrake, Kdenlive or Shotcut</source>
+        <translation>%1 ist keine Datei mit Voreinstellungen von vexconvert, HandBrake, Kdenlive oder Shotcut</translation>
+    </message>
+</context>
+<context>
+    <name>PresetImport</name>
+    <message>
+        <source>its title must have 1 to %1 characters that can be seen</source>
+        <translation>der Titel muss 1 bis %L1 sichtbare Zeichen haben</translation>
+    </message>
+    <message>
+        <source>its note is longer than %1 characters</source>
+        <translation>die Notiz ist länger als %L1 Zeichen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t possible for %2</source>
+        <translation>„%1“ ist für %2 nicht möglich</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written into .%2 files</source>
+        <translation>%1 kann nicht in .%2-Dateien geschrieben werden</translation>
+    </message>
+    <message>
+        <source>no format here writes video into .%1 files</source>
+        <translation>kein Format schreibt hier Video in .%1-Dateien</translation>
+    </message>
+    <message>
+        <source>no format here writes audio alone into .%1 files</source>
+        <translation>kein Format schreibt hier nur Ton in .%1-Dateien</translation>
+    </message>
+    <message>
+        <source>its base %1 isn&apos;t in this catalogue; %2 stands in for it</source>
+        <translation>die Vorlage %1 gibt es hier nicht; %2 vertritt sie</translation>
+    </message>
+    <message>
+        <source>nothing is imported, as %1 of %2 presets are refused; leave them out with --skip-refused</source>
+        <translation>nichts wird importiert, da %1 von %2 Voreinstellungen abgelehnt sind; --skip-refused lässt sie weg</translation>
+    </message>
+    <message>
+        <source>preset %1 isn&apos;t yours; only your own can be exported</source>
+        <translation>die Voreinstellung %1 ist keine eigene; nur eigene können exportiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigList</name>
+    <message>
+        <source>%1 is no file; name another one</source>
+        <translation>%1 ist keine Datei; wählen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>there is no file %1; check its name</source>
+        <translation>es gibt keine Datei %1; prüfen Sie den Namen</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read</source>
+        <translation>%1 hat %2; mehr als %3 werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>%1 kann nicht gelesen werden (%2); prüfen Sie die Rechte</translation>
+    </message>
+</context>
+<context>
+    <name>PresetHistory</name>
+    <message>
+        <source>added &quot;%1&quot; (%2)</source>
+        <translation>„%1“ (%2) hinzugefügt</translation>
+    </message>
+    <message>
+        <source>deleted &quot;%1&quot; (%2)</source>
+        <translation>„%1“ (%2) gelöscht</translation>
+    </message>
+    <message>
+        <source>changed &quot;%1&quot; (%2)</source>
+        <translation>„%1“ (%2) geändert</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%L1 weitere</translation>
+    </message>
+    <message>
+        <source>there is nothing to undo</source>
+        <translation>es gibt nichts rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>what was done last (%1) can&apos;t be undone: another program has changed these presets since</source>
+        <translation>das Letzte (%1) kann nicht rückgängig gemacht werden: Ein anderes Programm hat diese Voreinstellungen seitdem geändert</translation>
     </message>
 </context>
 </TS>

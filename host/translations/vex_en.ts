@@ -1492,14 +1492,6 @@
         <translation>automatic</translation>
     </message>
     <message>
-        <source>%1 is lost (%2); instead: %3</source>
-        <translation>%1 is lost (%2); instead: %3</translation>
-    </message>
-    <message>
-        <source>%1 is approximated (%2); instead: %3</source>
-        <translation>%1 is approximated (%2); instead: %3</translation>
-    </message>
-    <message>
         <source>You have no presets of your own yet.</source>
         <translation>You have no presets of your own yet.</translation>
     </message>
@@ -1518,6 +1510,44 @@
     <message>
         <source>Files of presets</source>
         <translation>Files of presets</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>approximated</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>lost</translation>
+    </message>
+    <message>
+        <source>No preset was imported.</source>
+        <translation>No preset was imported.</translation>
+    </message>
+    <message>
+        <source>no file yet</source>
+        <translation>no file yet</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrake</name>
+    <message>
+        <source>all tracks; &quot;convert --audio&quot; chooses</source>
+        <translation>all tracks; choose in the file’s row</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrakeLeftovers</name>
+    <message>
+        <source>&quot;convert --burn-subtitles&quot; chooses a track</source>
+        <translation>choose a track in the file’s row to burn it in</translation>
+    </message>
+    <message>
+        <source>&quot;convert --subtitles&quot; chooses tracks</source>
+        <translation>choose tracks in the file’s row</translation>
+    </message>
+    <message>
+        <source>all that the format holds; &quot;convert --subtitles&quot; chooses</source>
+        <translation>all that the format holds; choose in the file’s row</translation>
     </message>
 </context>
 </TS>

@@ -1492,14 +1492,6 @@
         <translation>automático</translation>
     </message>
     <message>
-        <source>%1 is lost (%2); instead: %3</source>
-        <translation>%1 se pierde (%2); en su lugar: %3</translation>
-    </message>
-    <message>
-        <source>%1 is approximated (%2); instead: %3</source>
-        <translation>%1 se aproxima (%2); en su lugar: %3</translation>
-    </message>
-    <message>
         <source>You have no presets of your own yet.</source>
         <translation>Aún no tiene ajustes propios.</translation>
     </message>
@@ -1518,6 +1510,22 @@
     <message>
         <source>Files of presets</source>
         <translation>Archivos de ajustes</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>aproximado</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>se pierde</translation>
+    </message>
+    <message>
+        <source>No preset was imported.</source>
+        <translation>No se ha importado ningún preajuste.</translation>
+    </message>
+    <message>
+        <source>no file yet</source>
+        <translation>aún sin archivos</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1897,386 @@
     <message>
         <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
         <translation>La lista de archivos no se puede guardar en %1 (%2); libera espacio o revisa los permisos de la carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>CodecWords</name>
+    <message>
+        <source>more than 8 bits only where the source has them</source>
+        <translation>más de 8 bits solo si el origen los tiene</translation>
+    </message>
+    <message>
+        <source>%1 is written without the graphics card</source>
+        <translation>%1 se escribe sin la tarjeta gráfica</translation>
+    </message>
+    <message>
+        <source>audio of another codec is encoded</source>
+        <translation>el audio de otro códec se vuelve a codificar</translation>
+    </message>
+    <message>
+        <source>AAC without its high-efficiency extension</source>
+        <translation>AAC sin su extensión de alta eficiencia</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s usual speed</source>
+        <translation>la velocidad habitual del codificador</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t tuned so</source>
+        <translation>%1 no se ajusta así</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the profile</source>
+        <translation>el codificador elige el perfil</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the level</source>
+        <translation>el codificador elige el nivel</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the key frames</source>
+        <translation>el codificador elige los fotogramas clave</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrake</name>
+    <message>
+        <source>h264</source>
+        <translation>h264</translation>
+    </message>
+    <message>
+        <source>the same number for another encoder</source>
+        <translation>el mismo número para otro codificador</translation>
+    </message>
+    <message>
+        <source>the average bitrate is reached in one pass</source>
+        <translation>la tasa media se alcanza en una sola pasada</translation>
+    </message>
+    <message>
+        <source>a variable rate stays variable where the format has it</source>
+        <translation>una frecuencia variable sigue siéndolo si el formato lo permite</translation>
+    </message>
+    <message>
+        <source>the rate is a limit; slower sources keep theirs</source>
+        <translation>la frecuencia es un límite; los orígenes más lentos conservan la suya</translation>
+    </message>
+    <message>
+        <source>each source&apos;s track is written once</source>
+        <translation>cada pista del origen se escribe una vez</translation>
+    </message>
+    <message>
+        <source>all tracks; &quot;convert --audio&quot; chooses</source>
+        <translation>todas las pistas; se eligen en la fila del archivo</translation>
+    </message>
+    <message>
+        <source>the source&apos;s codec</source>
+        <translation>el códec del origen</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>la calidad buena del codificador</translation>
+    </message>
+    <message>
+        <source>plain stereo</source>
+        <translation>estéreo simple</translation>
+    </message>
+    <message>
+        <source>the source&apos;s channels</source>
+        <translation>los canales del origen</translation>
+    </message>
+    <message>
+        <source>the loudness stays as it is</source>
+        <translation>el volumen queda como está</translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation>una carpeta</translation>
+    </message>
+    <message>
+        <source>folders are nested too deeply</source>
+        <translation>las carpetas están demasiado anidadas</translation>
+    </message>
+    <message>
+        <source>has no &quot;VideoEncoder&quot; or no &quot;FileFormat&quot;</source>
+        <translation>no tiene «VideoEncoder» o «FileFormat»</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>es uno de más de %L1</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own value</source>
+        <translation>el valor propio del codificador</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrakeLeftovers</name>
+    <message>
+        <source>the source&apos;s delays are kept</source>
+        <translation>se conservan los retardos del origen</translation>
+    </message>
+    <message>
+        <source>parameters stand only at the file&apos;s start</source>
+        <translation>los parámetros solo están al inicio del archivo</translation>
+    </message>
+    <message>
+        <source>the source&apos;s tags are kept</source>
+        <translation>se conservan las etiquetas del origen</translation>
+    </message>
+    <message>
+        <source>the file isn&apos;t marked for the first iPods</source>
+        <translation>el archivo no se marca para los primeros iPod</translation>
+    </message>
+    <message>
+        <source>small pictures stay small</source>
+        <translation>las imágenes pequeñas siguen pequeñas</translation>
+    </message>
+    <message>
+        <source>colours aren&apos;t smoothed</source>
+        <translation>los colores no se suavizan</translation>
+    </message>
+    <message>
+        <source>the source&apos;s colours are kept</source>
+        <translation>se conservan los colores del origen</translation>
+    </message>
+    <message>
+        <source>blocks aren&apos;t smoothed</source>
+        <translation>los bloques no se suavizan</translation>
+    </message>
+    <message>
+        <source>sources that say they are interlaced are deinterlaced</source>
+        <translation>se desentrelazan los orígenes que se declaran entrelazados</translation>
+    </message>
+    <message>
+        <source>noise isn&apos;t removed</source>
+        <translation>no se elimina el ruido</translation>
+    </message>
+    <message>
+        <source>telecine isn&apos;t undone</source>
+        <translation>no se deshace el telecine</translation>
+    </message>
+    <message>
+        <source>the source&apos;s pixel shape is used</source>
+        <translation>se usa la forma de píxel del origen</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t distorted</source>
+        <translation>la imagen no se deforma</translation>
+    </message>
+    <message>
+        <source>square pixels in a picture of the same shape</source>
+        <translation>píxeles cuadrados en una imagen de la misma forma</translation>
+    </message>
+    <message>
+        <source>no borders are added</source>
+        <translation>no se añaden bordes</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t turned</source>
+        <translation>la imagen no se gira</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t sharpened</source>
+        <translation>la imagen no se enfoca</translation>
+    </message>
+    <message>
+        <source>the height follows from the picture&apos;s shape</source>
+        <translation>la altura resulta de la forma de la imagen</translation>
+    </message>
+    <message>
+        <source>the width follows from the picture&apos;s shape</source>
+        <translation>la anchura resulta de la forma de la imagen</translation>
+    </message>
+    <message>
+        <source>closed captions aren&apos;t taken</source>
+        <translation>no se toman los subtítulos ocultos</translation>
+    </message>
+    <message>
+        <source>&quot;convert --burn-subtitles&quot; chooses a track</source>
+        <translation>la pista que se incrusta se elige en la fila del archivo</translation>
+    </message>
+    <message>
+        <source>&quot;convert --subtitles&quot; chooses tracks</source>
+        <translation>las pistas se eligen en la fila del archivo</translation>
+    </message>
+    <message>
+        <source>all that the format holds; &quot;convert --subtitles&quot; chooses</source>
+        <translation>todos los que admite el formato; se eligen en la fila del archivo</translation>
+    </message>
+    <message>
+        <source>the picture stays in colour</source>
+        <translation>la imagen sigue en color</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own values</source>
+        <translation>los valores propios del codificador</translation>
+    </message>
+    <message>
+        <source>nothing is cut off</source>
+        <translation>no se recorta nada</translation>
+    </message>
+    <message>
+        <source>black borders stay</source>
+        <translation>los bordes negros se quedan</translation>
+    </message>
+    <message>
+        <source>isn&apos;t known</source>
+        <translation>es desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>Melt</name>
+    <message>
+        <source>isn&apos;t used</source>
+        <translation>no se usa</translation>
+    </message>
+    <message>
+        <source>as many bits and colours as the codec keeps</source>
+        <translation>tantos bits y colores como conserva el códec</translation>
+    </message>
+    <message>
+        <source>isn&apos;t used; the converter has a way of its own</source>
+        <translation>no se usa; el conversor lo hace a su manera</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>la calidad buena del codificador</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %L1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a known key</source>
+        <translation>«%1» no es una clave conocida</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>«%1» debe ser un objeto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>«%1» debe ser un texto</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; is not a known key</source>
+        <translation>«settings.%1» no es una clave conocida</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; must be a text</source>
+        <translation>«settings.%1» debe ser un texto</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>debe ser un objeto</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>es uno de más de %L1</translation>
+    </message>
+    <message>
+        <source>%1: %2 at byte %3</source>
+        <translation>%1: %2 en el byte %L3</translation>
+    </message>
+    <message>
+        <source>%1 has neither a list &quot;presets&quot; nor a list &quot;PresetList&quot;; it is no file of presets</source>
+        <translation>%1 no tiene una lista «presets» ni «PresetList»; no es un archivo de preajustes</translation>
+    </message>
+    <message>
+        <source>%1 has the version %2, and only version %3 can be read; export it again with this version of vexconvert</source>
+        <translation>%1 tiene la versión %2 y solo se puede leer la versión %3; vuelva a exportarlo con esta versión de vexconvert</translation>
+    </message>
+    <message>
+        <source>%1 is no file of presets of vexconvert, HandBrake, Kdenlive or Shotcut</source>
+        <translation>%1 no es un archivo de preajustes de vexconvert, HandBrake, Kdenlive ni Shotcut</translation>
+    </message>
+</context>
+<context>
+    <name>PresetImport</name>
+    <message>
+        <source>its title must have 1 to %1 characters that can be seen</source>
+        <translation>el título debe tener de 1 a %L1 caracteres visibles</translation>
+    </message>
+    <message>
+        <source>its note is longer than %1 characters</source>
+        <translation>la nota tiene más de %L1 caracteres</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t possible for %2</source>
+        <translation>«%1» no es posible para %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written into .%2 files</source>
+        <translation>%1 no se puede escribir en archivos .%2</translation>
+    </message>
+    <message>
+        <source>no format here writes video into .%1 files</source>
+        <translation>ningún formato escribe aquí vídeo en archivos .%1</translation>
+    </message>
+    <message>
+        <source>no format here writes audio alone into .%1 files</source>
+        <translation>ningún formato escribe aquí solo audio en archivos .%1</translation>
+    </message>
+    <message>
+        <source>its base %1 isn&apos;t in this catalogue; %2 stands in for it</source>
+        <translation>su base %1 no está en este catálogo; la sustituye %2</translation>
+    </message>
+    <message>
+        <source>nothing is imported, as %1 of %2 presets are refused; leave them out with --skip-refused</source>
+        <translation>no se importa nada, pues %1 de %2 preajustes se rechazan; omítalos con --skip-refused</translation>
+    </message>
+    <message>
+        <source>preset %1 isn&apos;t yours; only your own can be exported</source>
+        <translation>el preajuste %1 no es suyo; solo se exportan los propios</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigList</name>
+    <message>
+        <source>%1 is no file; name another one</source>
+        <translation>%1 no es un archivo; indique otro</translation>
+    </message>
+    <message>
+        <source>there is no file %1; check its name</source>
+        <translation>no existe el archivo %1; compruebe el nombre</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read</source>
+        <translation>%1 tiene %2 y no se leen más de %3</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>%1 no se puede leer (%2); compruebe sus permisos</translation>
+    </message>
+</context>
+<context>
+    <name>PresetHistory</name>
+    <message>
+        <source>added &quot;%1&quot; (%2)</source>
+        <translation>se añadió «%1» (%2)</translation>
+    </message>
+    <message>
+        <source>deleted &quot;%1&quot; (%2)</source>
+        <translation>se eliminó «%1» (%2)</translation>
+    </message>
+    <message>
+        <source>changed &quot;%1&quot; (%2)</source>
+        <translation>se cambió «%1» (%2)</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%L1 más</translation>
+    </message>
+    <message>
+        <source>there is nothing to undo</source>
+        <translation>no hay nada que deshacer</translation>
+    </message>
+    <message>
+        <source>what was done last (%1) can&apos;t be undone: another program has changed these presets since</source>
+        <translation>lo último (%1) no se puede deshacer: otro programa ha cambiado estos preajustes desde entonces</translation>
     </message>
 </context>
 </TS>

@@ -1492,14 +1492,6 @@
         <translation>automatique</translation>
     </message>
     <message>
-        <source>%1 is lost (%2); instead: %3</source>
-        <translation>%1 est perdu (%2) ; à la place : %3</translation>
-    </message>
-    <message>
-        <source>%1 is approximated (%2); instead: %3</source>
-        <translation>%1 est approché (%2) ; à la place : %3</translation>
-    </message>
-    <message>
         <source>You have no presets of your own yet.</source>
         <translation>Vous n’avez pas encore de préréglages.</translation>
     </message>
@@ -1518,6 +1510,22 @@
     <message>
         <source>Files of presets</source>
         <translation>Fichiers de préréglages</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>approché</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>perdu</translation>
+    </message>
+    <message>
+        <source>No preset was imported.</source>
+        <translation>Aucun préréglage n’a été importé.</translation>
+    </message>
+    <message>
+        <source>no file yet</source>
+        <translation>pas encore de fichier</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1897,386 @@
     <message>
         <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
         <translation>La liste de fichiers ne peut pas être conservée dans %1 (%2) ; libérez de la place ou vérifiez les droits du dossier</translation>
+    </message>
+</context>
+<context>
+    <name>CodecWords</name>
+    <message>
+        <source>more than 8 bits only where the source has them</source>
+        <translation>plus de 8 bits seulement si la source les a</translation>
+    </message>
+    <message>
+        <source>%1 is written without the graphics card</source>
+        <translation>%1 est écrit sans la carte graphique</translation>
+    </message>
+    <message>
+        <source>audio of another codec is encoded</source>
+        <translation>l’audio d’un autre codec est réencodé</translation>
+    </message>
+    <message>
+        <source>AAC without its high-efficiency extension</source>
+        <translation>AAC sans son extension haute efficacité</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s usual speed</source>
+        <translation>la vitesse habituelle de l’encodeur</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t tuned so</source>
+        <translation>%1 n’est pas réglé ainsi</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the profile</source>
+        <translation>l’encodeur choisit le profil</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the level</source>
+        <translation>l’encodeur choisit le niveau</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the key frames</source>
+        <translation>l’encodeur choisit les images clés</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrake</name>
+    <message>
+        <source>h264</source>
+        <translation>h264</translation>
+    </message>
+    <message>
+        <source>the same number for another encoder</source>
+        <translation>le même nombre pour un autre encodeur</translation>
+    </message>
+    <message>
+        <source>the average bitrate is reached in one pass</source>
+        <translation>le débit moyen est atteint en une seule passe</translation>
+    </message>
+    <message>
+        <source>a variable rate stays variable where the format has it</source>
+        <translation>une fréquence variable le reste si le format le permet</translation>
+    </message>
+    <message>
+        <source>the rate is a limit; slower sources keep theirs</source>
+        <translation>la fréquence est une limite ; les sources plus lentes gardent la leur</translation>
+    </message>
+    <message>
+        <source>each source&apos;s track is written once</source>
+        <translation>chaque piste de la source est écrite une fois</translation>
+    </message>
+    <message>
+        <source>all tracks; &quot;convert --audio&quot; chooses</source>
+        <translation>toutes les pistes ; on les choisit dans la ligne du fichier</translation>
+    </message>
+    <message>
+        <source>the source&apos;s codec</source>
+        <translation>le codec de la source</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>la bonne qualité de l’encodeur</translation>
+    </message>
+    <message>
+        <source>plain stereo</source>
+        <translation>stéréo simple</translation>
+    </message>
+    <message>
+        <source>the source&apos;s channels</source>
+        <translation>les canaux de la source</translation>
+    </message>
+    <message>
+        <source>the loudness stays as it is</source>
+        <translation>le volume reste tel quel</translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation>un dossier</translation>
+    </message>
+    <message>
+        <source>folders are nested too deeply</source>
+        <translation>les dossiers sont imbriqués trop profondément</translation>
+    </message>
+    <message>
+        <source>has no &quot;VideoEncoder&quot; or no &quot;FileFormat&quot;</source>
+        <translation>n’a pas de « VideoEncoder » ou de « FileFormat »</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>en est un parmi plus de %L1</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own value</source>
+        <translation>la valeur propre de l’encodeur</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrakeLeftovers</name>
+    <message>
+        <source>the source&apos;s delays are kept</source>
+        <translation>les décalages de la source sont conservés</translation>
+    </message>
+    <message>
+        <source>parameters stand only at the file&apos;s start</source>
+        <translation>les paramètres ne sont qu’au début du fichier</translation>
+    </message>
+    <message>
+        <source>the source&apos;s tags are kept</source>
+        <translation>les métadonnées de la source sont conservées</translation>
+    </message>
+    <message>
+        <source>the file isn&apos;t marked for the first iPods</source>
+        <translation>le fichier n’est pas marqué pour les premiers iPod</translation>
+    </message>
+    <message>
+        <source>small pictures stay small</source>
+        <translation>les petites images restent petites</translation>
+    </message>
+    <message>
+        <source>colours aren&apos;t smoothed</source>
+        <translation>les couleurs ne sont pas lissées</translation>
+    </message>
+    <message>
+        <source>the source&apos;s colours are kept</source>
+        <translation>les couleurs de la source sont conservées</translation>
+    </message>
+    <message>
+        <source>blocks aren&apos;t smoothed</source>
+        <translation>les blocs ne sont pas lissés</translation>
+    </message>
+    <message>
+        <source>sources that say they are interlaced are deinterlaced</source>
+        <translation>les sources déclarées entrelacées sont désentrelacées</translation>
+    </message>
+    <message>
+        <source>noise isn&apos;t removed</source>
+        <translation>le bruit n’est pas retiré</translation>
+    </message>
+    <message>
+        <source>telecine isn&apos;t undone</source>
+        <translation>le télécinéma n’est pas annulé</translation>
+    </message>
+    <message>
+        <source>the source&apos;s pixel shape is used</source>
+        <translation>la forme des pixels de la source est utilisée</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t distorted</source>
+        <translation>l’image n’est pas déformée</translation>
+    </message>
+    <message>
+        <source>square pixels in a picture of the same shape</source>
+        <translation>des pixels carrés dans une image de même forme</translation>
+    </message>
+    <message>
+        <source>no borders are added</source>
+        <translation>aucune bordure n’est ajoutée</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t turned</source>
+        <translation>l’image n’est pas tournée</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t sharpened</source>
+        <translation>l’image n’est pas accentuée</translation>
+    </message>
+    <message>
+        <source>the height follows from the picture&apos;s shape</source>
+        <translation>la hauteur découle de la forme de l’image</translation>
+    </message>
+    <message>
+        <source>the width follows from the picture&apos;s shape</source>
+        <translation>la largeur découle de la forme de l’image</translation>
+    </message>
+    <message>
+        <source>closed captions aren&apos;t taken</source>
+        <translation>les sous-titres codés ne sont pas repris</translation>
+    </message>
+    <message>
+        <source>&quot;convert --burn-subtitles&quot; chooses a track</source>
+        <translation>la piste à incruster se choisit dans la ligne du fichier</translation>
+    </message>
+    <message>
+        <source>&quot;convert --subtitles&quot; chooses tracks</source>
+        <translation>les pistes se choisissent dans la ligne du fichier</translation>
+    </message>
+    <message>
+        <source>all that the format holds; &quot;convert --subtitles&quot; chooses</source>
+        <translation>tous ceux que le format admet ; on les choisit dans la ligne du fichier</translation>
+    </message>
+    <message>
+        <source>the picture stays in colour</source>
+        <translation>l’image reste en couleur</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own values</source>
+        <translation>les valeurs propres de l’encodeur</translation>
+    </message>
+    <message>
+        <source>nothing is cut off</source>
+        <translation>rien n’est rogné</translation>
+    </message>
+    <message>
+        <source>black borders stay</source>
+        <translation>les bordures noires restent</translation>
+    </message>
+    <message>
+        <source>isn&apos;t known</source>
+        <translation>est inconnu</translation>
+    </message>
+</context>
+<context>
+    <name>Melt</name>
+    <message>
+        <source>isn&apos;t used</source>
+        <translation>n’est pas utilisé</translation>
+    </message>
+    <message>
+        <source>as many bits and colours as the codec keeps</source>
+        <translation>autant de bits et de couleurs que le codec en garde</translation>
+    </message>
+    <message>
+        <source>isn&apos;t used; the converter has a way of its own</source>
+        <translation>n’est pas utilisé ; le convertisseur a sa propre méthode</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>la bonne qualité de l’encodeur</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>ligne %L1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a known key</source>
+        <translation>« %1 » n’est pas une clé connue</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>« %1 » doit être un objet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>« %1 » doit être un texte</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; is not a known key</source>
+        <translation>« settings.%1 » n’est pas une clé connue</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; must be a text</source>
+        <translation>« settings.%1 » doit être un texte</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>doit être un objet</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>en est un parmi plus de %L1</translation>
+    </message>
+    <message>
+        <source>%1: %2 at byte %3</source>
+        <translation>%1 : %2 à l’octet %L3</translation>
+    </message>
+    <message>
+        <source>%1 has neither a list &quot;presets&quot; nor a list &quot;PresetList&quot;; it is no file of presets</source>
+        <translation>%1 n’a ni liste « presets » ni liste « PresetList » ; ce n’est pas un fichier de préréglages</translation>
+    </message>
+    <message>
+        <source>%1 has the version %2, and only version %3 can be read; export it again with this version of vexconvert</source>
+        <translation>%1 est de version %2, et seule la version %3 peut être lue ; exportez-le à nouveau avec cette version de vexconvert</translation>
+    </message>
+    <message>
+        <source>%1 is no file of presets of vexconvert, HandBrake, Kdenlive or Shotcut</source>
+        <translation>%1 n’est pas un fichier de préréglages de vexconvert, HandBrake, Kdenlive ou Shotcut</translation>
+    </message>
+</context>
+<context>
+    <name>PresetImport</name>
+    <message>
+        <source>its title must have 1 to %1 characters that can be seen</source>
+        <translation>le titre doit avoir de 1 à %L1 caractères visibles</translation>
+    </message>
+    <message>
+        <source>its note is longer than %1 characters</source>
+        <translation>la note dépasse %L1 caractères</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t possible for %2</source>
+        <translation>« %1 » n’est pas possible pour %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written into .%2 files</source>
+        <translation>%1 ne peut pas être écrit dans des fichiers .%2</translation>
+    </message>
+    <message>
+        <source>no format here writes video into .%1 files</source>
+        <translation>aucun format n’écrit ici de vidéo dans des fichiers .%1</translation>
+    </message>
+    <message>
+        <source>no format here writes audio alone into .%1 files</source>
+        <translation>aucun format n’écrit ici l’audio seul dans des fichiers .%1</translation>
+    </message>
+    <message>
+        <source>its base %1 isn&apos;t in this catalogue; %2 stands in for it</source>
+        <translation>sa base %1 n’est pas dans ce catalogue ; %2 la remplace</translation>
+    </message>
+    <message>
+        <source>nothing is imported, as %1 of %2 presets are refused; leave them out with --skip-refused</source>
+        <translation>rien n’est importé, car %1 préréglages sur %2 sont refusés ; omettez-les avec --skip-refused</translation>
+    </message>
+    <message>
+        <source>preset %1 isn&apos;t yours; only your own can be exported</source>
+        <translation>le préréglage %1 n’est pas le vôtre ; seuls les vôtres peuvent être exportés</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigList</name>
+    <message>
+        <source>%1 is no file; name another one</source>
+        <translation>%1 n’est pas un fichier ; choisissez-en un autre</translation>
+    </message>
+    <message>
+        <source>there is no file %1; check its name</source>
+        <translation>il n’y a pas de fichier %1 ; vérifiez son nom</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read</source>
+        <translation>%1 fait %2, et pas plus de %3 sont lus</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>%1 ne peut pas être lu (%2) ; vérifiez ses droits</translation>
+    </message>
+</context>
+<context>
+    <name>PresetHistory</name>
+    <message>
+        <source>added &quot;%1&quot; (%2)</source>
+        <translation>« %1 » (%2) ajouté</translation>
+    </message>
+    <message>
+        <source>deleted &quot;%1&quot; (%2)</source>
+        <translation>« %1 » (%2) supprimé</translation>
+    </message>
+    <message>
+        <source>changed &quot;%1&quot; (%2)</source>
+        <translation>« %1 » (%2) modifié</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%L1 de plus</translation>
+    </message>
+    <message>
+        <source>there is nothing to undo</source>
+        <translation>il n’y a rien à annuler</translation>
+    </message>
+    <message>
+        <source>what was done last (%1) can&apos;t be undone: another program has changed these presets since</source>
+        <translation>la dernière action (%1) ne peut pas être annulée : un autre programme a modifié ces préréglages depuis</translation>
     </message>
 </context>
 </TS>

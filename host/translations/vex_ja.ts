@@ -1492,14 +1492,6 @@
         <translation>自動</translation>
     </message>
     <message>
-        <source>%1 is lost (%2); instead: %3</source>
-        <translation>%1（%2）は失われます。代わりに：%3</translation>
-    </message>
-    <message>
-        <source>%1 is approximated (%2); instead: %3</source>
-        <translation>%1（%2）は近い値になります。代わりに：%3</translation>
-    </message>
-    <message>
         <source>You have no presets of your own yet.</source>
         <translation>自分のプリセットはまだありません。</translation>
     </message>
@@ -1518,6 +1510,22 @@
     <message>
         <source>Files of presets</source>
         <translation>プリセットのファイル</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>近似</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>失われる</translation>
+    </message>
+    <message>
+        <source>No preset was imported.</source>
+        <translation>プリセットは読み込まれませんでした。</translation>
+    </message>
+    <message>
+        <source>no file yet</source>
+        <translation>ファイルなし</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1897,386 @@
     <message>
         <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
         <translation>ファイルのリストを %1 に残せません (%2)。空きを増やすか、フォルダーの権限を確かめてください</translation>
+    </message>
+</context>
+<context>
+    <name>CodecWords</name>
+    <message>
+        <source>more than 8 bits only where the source has them</source>
+        <translation>8ビットを超えるのはソースがそうである場合のみ</translation>
+    </message>
+    <message>
+        <source>%1 is written without the graphics card</source>
+        <translation>%1はグラフィックカードを使わずに書き出されます</translation>
+    </message>
+    <message>
+        <source>audio of another codec is encoded</source>
+        <translation>別のコーデックの音声はエンコードされます</translation>
+    </message>
+    <message>
+        <source>AAC without its high-efficiency extension</source>
+        <translation>高効率拡張なしのAAC</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s usual speed</source>
+        <translation>エンコーダーの通常の速度</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t tuned so</source>
+        <translation>%1にはこの調整がありません</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the profile</source>
+        <translation>プロファイルはエンコーダーが選びます</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the level</source>
+        <translation>レベルはエンコーダーが選びます</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the key frames</source>
+        <translation>キーフレームはエンコーダーが選びます</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrake</name>
+    <message>
+        <source>h264</source>
+        <translation>h264</translation>
+    </message>
+    <message>
+        <source>the same number for another encoder</source>
+        <translation>同じ数値を別のエンコーダーに使います</translation>
+    </message>
+    <message>
+        <source>the average bitrate is reached in one pass</source>
+        <translation>平均ビットレートには1パスで到達します</translation>
+    </message>
+    <message>
+        <source>a variable rate stays variable where the format has it</source>
+        <translation>可変フレームレートは形式が対応していれば可変のままです</translation>
+    </message>
+    <message>
+        <source>the rate is a limit; slower sources keep theirs</source>
+        <translation>フレームレートは上限で、それより遅いソースはそのままです</translation>
+    </message>
+    <message>
+        <source>each source&apos;s track is written once</source>
+        <translation>ソースの各トラックは一度だけ書き出されます</translation>
+    </message>
+    <message>
+        <source>all tracks; &quot;convert --audio&quot; chooses</source>
+        <translation>すべてのトラック（ファイルの行で選択できます）</translation>
+    </message>
+    <message>
+        <source>the source&apos;s codec</source>
+        <translation>ソースのコーデック</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>エンコーダーの高品質</translation>
+    </message>
+    <message>
+        <source>plain stereo</source>
+        <translation>通常のステレオ</translation>
+    </message>
+    <message>
+        <source>the source&apos;s channels</source>
+        <translation>ソースのチャンネル</translation>
+    </message>
+    <message>
+        <source>the loudness stays as it is</source>
+        <translation>音量はそのままです</translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>folders are nested too deeply</source>
+        <translation>フォルダーの階層が深すぎます</translation>
+    </message>
+    <message>
+        <source>has no &quot;VideoEncoder&quot; or no &quot;FileFormat&quot;</source>
+        <translation>「VideoEncoder」または「FileFormat」がありません</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>%L1件を超えています</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own value</source>
+        <translation>エンコーダー自身の値</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrakeLeftovers</name>
+    <message>
+        <source>the source&apos;s delays are kept</source>
+        <translation>ソースの遅延は保たれます</translation>
+    </message>
+    <message>
+        <source>parameters stand only at the file&apos;s start</source>
+        <translation>パラメーターはファイルの先頭だけにあります</translation>
+    </message>
+    <message>
+        <source>the source&apos;s tags are kept</source>
+        <translation>ソースのタグは保たれます</translation>
+    </message>
+    <message>
+        <source>the file isn&apos;t marked for the first iPods</source>
+        <translation>初期のiPod用の印は付きません</translation>
+    </message>
+    <message>
+        <source>small pictures stay small</source>
+        <translation>小さい映像は小さいままです</translation>
+    </message>
+    <message>
+        <source>colours aren&apos;t smoothed</source>
+        <translation>色は平滑化されません</translation>
+    </message>
+    <message>
+        <source>the source&apos;s colours are kept</source>
+        <translation>ソースの色が保たれます</translation>
+    </message>
+    <message>
+        <source>blocks aren&apos;t smoothed</source>
+        <translation>ブロックは平滑化されません</translation>
+    </message>
+    <message>
+        <source>sources that say they are interlaced are deinterlaced</source>
+        <translation>インターレースと示されたソースは解除されます</translation>
+    </message>
+    <message>
+        <source>noise isn&apos;t removed</source>
+        <translation>ノイズは除去されません</translation>
+    </message>
+    <message>
+        <source>telecine isn&apos;t undone</source>
+        <translation>テレシネは解除されません</translation>
+    </message>
+    <message>
+        <source>the source&apos;s pixel shape is used</source>
+        <translation>ソースの画素の形が使われます</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t distorted</source>
+        <translation>映像はゆがみません</translation>
+    </message>
+    <message>
+        <source>square pixels in a picture of the same shape</source>
+        <translation>同じ形の映像で正方形の画素</translation>
+    </message>
+    <message>
+        <source>no borders are added</source>
+        <translation>余白は加わりません</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t turned</source>
+        <translation>映像は回転されません</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t sharpened</source>
+        <translation>映像は鮮鋭化されません</translation>
+    </message>
+    <message>
+        <source>the height follows from the picture&apos;s shape</source>
+        <translation>高さは映像の形から決まります</translation>
+    </message>
+    <message>
+        <source>the width follows from the picture&apos;s shape</source>
+        <translation>幅は映像の形から決まります</translation>
+    </message>
+    <message>
+        <source>closed captions aren&apos;t taken</source>
+        <translation>クローズドキャプションは取り込まれません</translation>
+    </message>
+    <message>
+        <source>&quot;convert --burn-subtitles&quot; chooses a track</source>
+        <translation>焼き込むトラックはファイルの行で選びます</translation>
+    </message>
+    <message>
+        <source>&quot;convert --subtitles&quot; chooses tracks</source>
+        <translation>トラックはファイルの行で選びます</translation>
+    </message>
+    <message>
+        <source>all that the format holds; &quot;convert --subtitles&quot; chooses</source>
+        <translation>形式に入るものすべて（ファイルの行で選択できます）</translation>
+    </message>
+    <message>
+        <source>the picture stays in colour</source>
+        <translation>映像はカラーのままです</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own values</source>
+        <translation>エンコーダー自身の値</translation>
+    </message>
+    <message>
+        <source>nothing is cut off</source>
+        <translation>何も切り取られません</translation>
+    </message>
+    <message>
+        <source>black borders stay</source>
+        <translation>黒い余白は残ります</translation>
+    </message>
+    <message>
+        <source>isn&apos;t known</source>
+        <translation>不明です</translation>
+    </message>
+</context>
+<context>
+    <name>Melt</name>
+    <message>
+        <source>isn&apos;t used</source>
+        <translation>使われません</translation>
+    </message>
+    <message>
+        <source>as many bits and colours as the codec keeps</source>
+        <translation>コーデックが保てるだけのビット数と色</translation>
+    </message>
+    <message>
+        <source>isn&apos;t used; the converter has a way of its own</source>
+        <translation>使われません（変換機能が独自の方法で行います）</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>エンコーダーの高品質</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>%L1行目</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a known key</source>
+        <translation>「%1」は不明なキーです</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>「%1」はオブジェクトである必要があります</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>「%1」は文字列である必要があります</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; is not a known key</source>
+        <translation>「settings.%1」は不明なキーです</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; must be a text</source>
+        <translation>「settings.%1」は文字列である必要があります</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>オブジェクトである必要があります</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>%L1件を超えています</translation>
+    </message>
+    <message>
+        <source>%1: %2 at byte %3</source>
+        <translation>%1: %2（%L3バイト目）</translation>
+    </message>
+    <message>
+        <source>%1 has neither a list &quot;presets&quot; nor a list &quot;PresetList&quot;; it is no file of presets</source>
+        <translation>%1には「presets」も「PresetList」もないため、プリセットのファイルではありません</translation>
+    </message>
+    <message>
+        <source>%1 has the version %2, and only version %3 can be read; export it again with this version of vexconvert</source>
+        <translation>%1のバージョンは%2ですが、読めるのはバージョン%3だけです。このバージョンのvexconvertで書き出し直してください</translation>
+    </message>
+    <message>
+        <source>%1 is no file of presets of vexconvert, HandBrake, Kdenlive or Shotcut</source>
+        <translation>%1はvexconvert、HandBrake、Kdenlive、Shotcutのプリセットファイルではありません</translation>
+    </message>
+</context>
+<context>
+    <name>PresetImport</name>
+    <message>
+        <source>its title must have 1 to %1 characters that can be seen</source>
+        <translation>タイトルは表示できる1～%L1文字である必要があります</translation>
+    </message>
+    <message>
+        <source>its note is longer than %1 characters</source>
+        <translation>メモが%L1文字を超えています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t possible for %2</source>
+        <translation>%2に「%1」は使えません</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written into .%2 files</source>
+        <translation>%1は.%2ファイルに書き出せません</translation>
+    </message>
+    <message>
+        <source>no format here writes video into .%1 files</source>
+        <translation>.%1ファイルに映像を書き出す形式がありません</translation>
+    </message>
+    <message>
+        <source>no format here writes audio alone into .%1 files</source>
+        <translation>.%1ファイルに音声だけを書き出す形式がありません</translation>
+    </message>
+    <message>
+        <source>its base %1 isn&apos;t in this catalogue; %2 stands in for it</source>
+        <translation>元の%1はこのカタログにないため、%2が代わりになります</translation>
+    </message>
+    <message>
+        <source>nothing is imported, as %1 of %2 presets are refused; leave them out with --skip-refused</source>
+        <translation>%2件中%1件のプリセットが拒否されたため、何も読み込みません。--skip-refusedで除外できます</translation>
+    </message>
+    <message>
+        <source>preset %1 isn&apos;t yours; only your own can be exported</source>
+        <translation>プリセット%1はユーザーのものではありません。書き出せるのはユーザーのものだけです</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigList</name>
+    <message>
+        <source>%1 is no file; name another one</source>
+        <translation>%1はファイルではありません。別のものを選んでください</translation>
+    </message>
+    <message>
+        <source>there is no file %1; check its name</source>
+        <translation>ファイル%1がありません。名前を確認してください</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read</source>
+        <translation>%1は%2ですが、%3までしか読めません</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>%1を読めません（%2）。アクセス権を確認してください</translation>
+    </message>
+</context>
+<context>
+    <name>PresetHistory</name>
+    <message>
+        <source>added &quot;%1&quot; (%2)</source>
+        <translation>「%1」（%2）を追加</translation>
+    </message>
+    <message>
+        <source>deleted &quot;%1&quot; (%2)</source>
+        <translation>「%1」（%2）を削除</translation>
+    </message>
+    <message>
+        <source>changed &quot;%1&quot; (%2)</source>
+        <translation>「%1」（%2）を変更</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>ほか%L1件</translation>
+    </message>
+    <message>
+        <source>there is nothing to undo</source>
+        <translation>元に戻すものはありません</translation>
+    </message>
+    <message>
+        <source>what was done last (%1) can&apos;t be undone: another program has changed these presets since</source>
+        <translation>最後の操作（%1）は元に戻せません。別のプログラムがその後これらのプリセットを変更しました</translation>
     </message>
 </context>
 </TS>

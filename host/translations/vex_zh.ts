@@ -1492,14 +1492,6 @@
         <translation>自动</translation>
     </message>
     <message>
-        <source>%1 is lost (%2); instead: %3</source>
-        <translation>%1 丢失（%2）；替代：%3</translation>
-    </message>
-    <message>
-        <source>%1 is approximated (%2); instead: %3</source>
-        <translation>%1 为近似（%2）；替代：%3</translation>
-    </message>
-    <message>
         <source>You have no presets of your own yet.</source>
         <translation>您还没有自己的预设。</translation>
     </message>
@@ -1518,6 +1510,22 @@
     <message>
         <source>Files of presets</source>
         <translation>预设文件</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>近似</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>丢失</translation>
+    </message>
+    <message>
+        <source>No preset was imported.</source>
+        <translation>没有导入任何预设。</translation>
+    </message>
+    <message>
+        <source>no file yet</source>
+        <translation>还没有文件</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1897,386 @@
     <message>
         <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
         <translation>无法将文件列表保存在 %1（%2）；请释放空间或检查文件夹权限</translation>
+    </message>
+</context>
+<context>
+    <name>CodecWords</name>
+    <message>
+        <source>more than 8 bits only where the source has them</source>
+        <translation>只有源文件超过 8 位时才超过 8 位</translation>
+    </message>
+    <message>
+        <source>%1 is written without the graphics card</source>
+        <translation>%1 不使用显卡写入</translation>
+    </message>
+    <message>
+        <source>audio of another codec is encoded</source>
+        <translation>其他编解码器的音频会重新编码</translation>
+    </message>
+    <message>
+        <source>AAC without its high-efficiency extension</source>
+        <translation>不带高效扩展的 AAC</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s usual speed</source>
+        <translation>编码器的常用速度</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t tuned so</source>
+        <translation>%1 没有这种调整</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the profile</source>
+        <translation>由编码器选择配置</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the level</source>
+        <translation>由编码器选择级别</translation>
+    </message>
+    <message>
+        <source>the encoder chooses the key frames</source>
+        <translation>由编码器选择关键帧</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrake</name>
+    <message>
+        <source>h264</source>
+        <translation>h264</translation>
+    </message>
+    <message>
+        <source>the same number for another encoder</source>
+        <translation>相同的数值用于另一个编码器</translation>
+    </message>
+    <message>
+        <source>the average bitrate is reached in one pass</source>
+        <translation>一次编码即达到平均比特率</translation>
+    </message>
+    <message>
+        <source>a variable rate stays variable where the format has it</source>
+        <translation>格式支持时，可变帧率保持可变</translation>
+    </message>
+    <message>
+        <source>the rate is a limit; slower sources keep theirs</source>
+        <translation>帧率是上限；较慢的源保持原帧率</translation>
+    </message>
+    <message>
+        <source>each source&apos;s track is written once</source>
+        <translation>源的每条轨道只写一次</translation>
+    </message>
+    <message>
+        <source>all tracks; &quot;convert --audio&quot; chooses</source>
+        <translation>全部轨道；可在文件所在行选择</translation>
+    </message>
+    <message>
+        <source>the source&apos;s codec</source>
+        <translation>源的编解码器</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>编码器的良好质量</translation>
+    </message>
+    <message>
+        <source>plain stereo</source>
+        <translation>普通立体声</translation>
+    </message>
+    <message>
+        <source>the source&apos;s channels</source>
+        <translation>源的声道</translation>
+    </message>
+    <message>
+        <source>the loudness stays as it is</source>
+        <translation>响度保持不变</translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation>一个文件夹</translation>
+    </message>
+    <message>
+        <source>folders are nested too deeply</source>
+        <translation>文件夹嵌套过深</translation>
+    </message>
+    <message>
+        <source>has no &quot;VideoEncoder&quot; or no &quot;FileFormat&quot;</source>
+        <translation>缺少“VideoEncoder”或“FileFormat”</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>超过 %L1 个</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own value</source>
+        <translation>编码器自己的值</translation>
+    </message>
+</context>
+<context>
+    <name>HandBrakeLeftovers</name>
+    <message>
+        <source>the source&apos;s delays are kept</source>
+        <translation>保留源的延迟</translation>
+    </message>
+    <message>
+        <source>parameters stand only at the file&apos;s start</source>
+        <translation>参数只在文件开头</translation>
+    </message>
+    <message>
+        <source>the source&apos;s tags are kept</source>
+        <translation>保留源的标签</translation>
+    </message>
+    <message>
+        <source>the file isn&apos;t marked for the first iPods</source>
+        <translation>不会为最早的 iPod 作标记</translation>
+    </message>
+    <message>
+        <source>small pictures stay small</source>
+        <translation>小画面保持原大小</translation>
+    </message>
+    <message>
+        <source>colours aren&apos;t smoothed</source>
+        <translation>不平滑颜色</translation>
+    </message>
+    <message>
+        <source>the source&apos;s colours are kept</source>
+        <translation>保留源的颜色</translation>
+    </message>
+    <message>
+        <source>blocks aren&apos;t smoothed</source>
+        <translation>不平滑块效应</translation>
+    </message>
+    <message>
+        <source>sources that say they are interlaced are deinterlaced</source>
+        <translation>标明隔行的源会去隔行</translation>
+    </message>
+    <message>
+        <source>noise isn&apos;t removed</source>
+        <translation>不去除噪点</translation>
+    </message>
+    <message>
+        <source>telecine isn&apos;t undone</source>
+        <translation>不还原胶片过带</translation>
+    </message>
+    <message>
+        <source>the source&apos;s pixel shape is used</source>
+        <translation>使用源的像素形状</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t distorted</source>
+        <translation>画面不变形</translation>
+    </message>
+    <message>
+        <source>square pixels in a picture of the same shape</source>
+        <translation>相同形状的画面使用方形像素</translation>
+    </message>
+    <message>
+        <source>no borders are added</source>
+        <translation>不加边框</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t turned</source>
+        <translation>画面不旋转</translation>
+    </message>
+    <message>
+        <source>the picture isn&apos;t sharpened</source>
+        <translation>画面不锐化</translation>
+    </message>
+    <message>
+        <source>the height follows from the picture&apos;s shape</source>
+        <translation>高度由画面形状决定</translation>
+    </message>
+    <message>
+        <source>the width follows from the picture&apos;s shape</source>
+        <translation>宽度由画面形状决定</translation>
+    </message>
+    <message>
+        <source>closed captions aren&apos;t taken</source>
+        <translation>不采用隐藏字幕</translation>
+    </message>
+    <message>
+        <source>&quot;convert --burn-subtitles&quot; chooses a track</source>
+        <translation>在文件所在行选择要烧录的轨道</translation>
+    </message>
+    <message>
+        <source>&quot;convert --subtitles&quot; chooses tracks</source>
+        <translation>在文件所在行选择轨道</translation>
+    </message>
+    <message>
+        <source>all that the format holds; &quot;convert --subtitles&quot; chooses</source>
+        <translation>格式可容纳的全部；可在文件所在行选择</translation>
+    </message>
+    <message>
+        <source>the picture stays in colour</source>
+        <translation>画面保持彩色</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s own values</source>
+        <translation>编码器自己的值</translation>
+    </message>
+    <message>
+        <source>nothing is cut off</source>
+        <translation>不裁剪</translation>
+    </message>
+    <message>
+        <source>black borders stay</source>
+        <translation>保留黑边</translation>
+    </message>
+    <message>
+        <source>isn&apos;t known</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
+    <name>Melt</name>
+    <message>
+        <source>isn&apos;t used</source>
+        <translation>不使用</translation>
+    </message>
+    <message>
+        <source>as many bits and colours as the codec keeps</source>
+        <translation>编解码器能保留的位数和颜色</translation>
+    </message>
+    <message>
+        <source>isn&apos;t used; the converter has a way of its own</source>
+        <translation>不使用；转换器有自己的方法</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s good quality</source>
+        <translation>编码器的良好质量</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %L1 行</translation>
+    </message>
+</context>
+<context>
+    <name>PresetFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a known key</source>
+        <translation>“%1”不是已知的键</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>“%1”必须是对象</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>“%1”必须是文本</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; is not a known key</source>
+        <translation>“settings.%1”不是已知的键</translation>
+    </message>
+    <message>
+        <source>&quot;settings.%1&quot; must be a text</source>
+        <translation>“settings.%1”必须是文本</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>is one of more than %1</source>
+        <translation>超过 %L1 个</translation>
+    </message>
+    <message>
+        <source>%1: %2 at byte %3</source>
+        <translation>%1：%2（第 %L3 字节）</translation>
+    </message>
+    <message>
+        <source>%1 has neither a list &quot;presets&quot; nor a list &quot;PresetList&quot;; it is no file of presets</source>
+        <translation>%1 既没有“presets”列表也没有“PresetList”列表，不是预设文件</translation>
+    </message>
+    <message>
+        <source>%1 has the version %2, and only version %3 can be read; export it again with this version of vexconvert</source>
+        <translation>%1 的版本为 %2，只能读取版本 %3；请用此版本的 vexconvert 重新导出</translation>
+    </message>
+    <message>
+        <source>%1 is no file of presets of vexconvert, HandBrake, Kdenlive or Shotcut</source>
+        <translation>%1 不是 vexconvert、HandBrake、Kdenlive 或 Shotcut 的预设文件</translation>
+    </message>
+</context>
+<context>
+    <name>PresetImport</name>
+    <message>
+        <source>its title must have 1 to %1 characters that can be seen</source>
+        <translation>标题必须有 1 到 %L1 个可见字符</translation>
+    </message>
+    <message>
+        <source>its note is longer than %1 characters</source>
+        <translation>备注超过 %L1 个字符</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t possible for %2</source>
+        <translation>%2 不能是“%1”</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written into .%2 files</source>
+        <translation>%1 不能写入 .%2 文件</translation>
+    </message>
+    <message>
+        <source>no format here writes video into .%1 files</source>
+        <translation>这里没有格式能将视频写入 .%1 文件</translation>
+    </message>
+    <message>
+        <source>no format here writes audio alone into .%1 files</source>
+        <translation>这里没有格式能只将音频写入 .%1 文件</translation>
+    </message>
+    <message>
+        <source>its base %1 isn&apos;t in this catalogue; %2 stands in for it</source>
+        <translation>它的基础 %1 不在此目录中，由 %2 代替</translation>
+    </message>
+    <message>
+        <source>nothing is imported, as %1 of %2 presets are refused; leave them out with --skip-refused</source>
+        <translation>未导入任何内容，因为 %2 个预设中有 %1 个被拒绝；可用 --skip-refused 跳过</translation>
+    </message>
+    <message>
+        <source>preset %1 isn&apos;t yours; only your own can be exported</source>
+        <translation>预设 %1 不是您的；只能导出您自己的</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigList</name>
+    <message>
+        <source>%1 is no file; name another one</source>
+        <translation>%1 不是文件；请选择其他文件</translation>
+    </message>
+    <message>
+        <source>there is no file %1; check its name</source>
+        <translation>没有文件 %1；请检查名称</translation>
+    </message>
+    <message>
+        <source>%1 has %2, and no more than %3 are read</source>
+        <translation>%1 有 %2，最多读取 %3</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read (%2); check its permissions</source>
+        <translation>无法读取 %1（%2）；请检查权限</translation>
+    </message>
+</context>
+<context>
+    <name>PresetHistory</name>
+    <message>
+        <source>added &quot;%1&quot; (%2)</source>
+        <translation>添加了“%1”（%2）</translation>
+    </message>
+    <message>
+        <source>deleted &quot;%1&quot; (%2)</source>
+        <translation>删除了“%1”（%2）</translation>
+    </message>
+    <message>
+        <source>changed &quot;%1&quot; (%2)</source>
+        <translation>更改了“%1”（%2）</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另外 %L1 个</translation>
+    </message>
+    <message>
+        <source>there is nothing to undo</source>
+        <translation>没有可撤销的操作</translation>
+    </message>
+    <message>
+        <source>what was done last (%1) can&apos;t be undone: another program has changed these presets since</source>
+        <translation>无法撤销上一步（%1）：其他程序此后更改了这些预设</translation>
     </message>
 </context>
 </TS>
