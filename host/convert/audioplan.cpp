@@ -182,6 +182,7 @@ Result<AudioPlan> AudioPlan::make(const AudioTrack &track, const StreamTarget &t
     plan.layout = layoutToWrite(track, codec, channels);
     plan.kbps =
         encodedKbps(codec, sufficientKbps(track, target.settings, channels), sampleRate, channels);
+    plan.isConstant = plan.kbps > 0 && codec.hasConstantBitrate;
     plan.quality = codec.quality;
     plan.isPadded = target.container.hasAudioInFrames;
     return plan;

@@ -8,11 +8,12 @@
 /*! How ffmpeg writes an audio track. */
 struct AudioPlan
 {
-    QString encoder;     //!< "copy" copies the stream
-    int sampleRate = 0;  //!< Hz; 0: the source's
-    int channels = 0;    //!< 0: the source's
-    QString layout = {}; //!< empty: the source's, or the default one
-    double kbps = 0;     //!< 0: set by the quality
+    QString encoder;         //!< "copy" copies the stream
+    int sampleRate = 0;      //!< Hz; 0: the source's
+    int channels = 0;        //!< 0: the source's
+    QString layout = {};     //!< empty: the source's, or the default one
+    double kbps = 0;         //!< 0: set by the quality
+    bool isConstant = false; //!< each frame has just that bitrate
     ToolOptions quality = {};
     bool isPadded = false; //!< starts a frame early and ends with silence
 

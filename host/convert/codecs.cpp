@@ -124,6 +124,11 @@ public:
         hasPalette = true;
         return *this;
     }
+    Video keyedAfter(int most)
+    {
+        keyFrameInterval = most;
+        return *this;
+    }
     Video keepingBusy(int cores)
     {
         busyCores = cores;
@@ -170,7 +175,12 @@ public:
     Audio withBitrates(const QVector<double> &kbps)
     {
         bitrates = kbps;
-        return withAnyBitrate();
+        return withAnyBitrate().constant();
+    }
+    Audio constant()
+    {
+        hasConstantBitrate = true;
+        return *this;
     }
     /*! Good quality, for where no bitrate is asked for. */
     Audio goodAt(int kbpsOfAChannel)
@@ -220,19 +230,19 @@ QVector<VideoCodec> makeVideoCodecs()
             .inPixels("yuv420p").atAnyTime().keepingBusy(8).inDeepPixels("yuv420p10le"),
         Video("vp8").writtenBy("libvpx").with("deadline", "good").with("cpu-used", "4")
             .goodAt("crf", 10, -3, 4).keepsBelow(Ceiling::Targeted).orElse("b", "8M").inTwoPasses()
-            .inPixels("yuv420p").atAnyTime().keepingBusy(2).inAlphaPixels("yuva420p", flatAlpha),
+            .keyedAfter(128).inPixels("yuv420p").atAnyTime().keepingBusy(2).inAlphaPixels("yuva420p", flatAlpha),
         Video("vp9").writtenBy("libvpx-vp9").with("deadline", "good").with("cpu-used", "5")
             .with("row-mt", "1").with("max-intra-rate", "200")
             .goodAt("crf", 31, -4, 0).keepsBelow(Ceiling::Targeted)
             .orElse("b", "0").inTwoPasses().lookingPoorBelow(0.02)
-            .inPixels("yuv420p").atAnyTime().keepingBusy(4)
+            .keyedAfter(128).inPixels("yuv420p").atAnyTime().keepingBusy(4)
             .inDeepPixels("yuv420p10le").inAlphaPixels("yuva420p", flatAlpha),
         Video("av1").writtenBy("libsvtav1").with("preset", "9").goodAt("crf", 32, -5, 1)
             .keepsBelow(Ceiling::Capped)
             .writtenBy("libaom-av1").with("cpu-used", "7").with("row-mt", "1")
             .goodAt("crf", 30, -5, 0).keepsBelow(Ceiling::Targeted).orElse("b", "0")
             .inTwoPasses().lookingPoorBelow(0.016)
-            .inPixels("yuv420p").atAnyTime().keepingBusy(8).inDeepPixels("yuv420p10le"),
+            .keyedAfter(161).inPixels("yuv420p").atAnyTime().keepingBusy(8).inDeepPixels("yuv420p10le"),
         Video("mpeg4").writtenLikeMpegBy("mpeg4").inPixels("yuv420p"),
         Video("mpeg2video").writtenLikeMpegBy("mpeg2video").inPixels("yuv420p").atRates(mpeg)
             .keepingFieldsWith("+ildct+ilme"),
@@ -284,7 +294,7 @@ QVector<AudioCodec> makeAudioCodecs()
         Audio("mp2").writtenBy("mp2").upTo(2).at(from32000).withBitrates(layer2Kbps).goodAt(128),
         Audio("ac3").writtenBy("ac3").upTo(6).at(from32000).withBitrates(ac3Kbps).goodAt(96)
             .bitsPerSampleAtLeast(0.35, 0.35),
-        Audio("eac3").writtenBy("eac3").upTo(6).at(from32000).withAnyBitrate().goodAt(96)
+        Audio("eac3").writtenBy("eac3").upTo(6).at(from32000).withAnyBitrate().constant().goodAt(96)
             .bitsPerSampleAtLeast(0.35, 0.35),
         // Outside of these limits the encoder refuses to start.
         Audio("vorbis").writtenBy("libvorbis").at(upTo48000).withAnyBitrate().goodWith("q", "6")

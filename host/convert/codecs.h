@@ -69,6 +69,7 @@ struct VideoCodec
     bool hasPalette = false;         //!< its colours are few, and chosen for each film
     QVector<Frame> frames = {};      //!< the only ones allowed
     double leastBitsPerPixel = 0.06; //!< with fewer a film looks poor
+    int keyFrameInterval = 250;      //!< frames at most, where none is asked for
     int busyCores = 1;               //!< that its encoder keeps busy with a film in HD
 
     /*! The encoders' names for ffmpeg, the best first. */
@@ -86,7 +87,8 @@ struct AudioCodec
     int kbpsPerChannel = 0;        //!< good quality; 0: \a quality says it, or it's lossless
     ToolOptions quality = {};      //!< given when no bitrate is asked for
     bool takesBitrate = false;
-    QVector<double> bitrates = {}; //!< kbps, ascending
+    QVector<double> bitrates = {};   //!< kbps, ascending
+    bool hasConstantBitrate = false; //!< its encoder fills each frame to the bitrate
     double maxBitsPerSample = 32;
     double minBitsPerSample = 0;
     double minBitsUnlessStereo = 0; //!< the same for audio of other than two channels

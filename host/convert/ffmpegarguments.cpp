@@ -64,6 +64,37 @@ ToolOptions muxerOptions(const StreamTarget &target)
     return options;
 }
 
+/*! What ffmpeg reads, and the streams that it makes of it. */
+struct Encoding
+{
+    QStringList input;
+    OutputStreams streams;
+};
+
+Result<Encoding> encodingOf(const MediaFacts &source, const QString &sourcePath,
+                            StreamTarget target)
+{
+    const OutputSettings &settings = target.settings;
+    const Result<QString> burned = burnFilter(source, settings, sourcePath);
+    if (!burned) {
+        return failed(burned);
+    }
+    target.burnFilter = *burned;
+    if (source.isStill()) {
+        target.allowed = {false, false, target.allowed.subtitles};
+    }
+    const Result<OutputStreams> streams = OutputStreams::make(source, target);
+    if (!streams) {
+        return failed(streams);
+    }
+    QStringList input = cutArguments(settings, source.isStill()) +
+                        timeArguments(source, copiesIn(streams->arguments));
+    if (!streams->decoder.isEmpty()) {
+        input << QStringLiteral("-c:v") << streams->decoder;
+    }
+    return Encoding{input + inputArguments(sourcePath, source.container), *streams};
+}
+
 } // namespace
 
 Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaFacts &source,
@@ -76,36 +107,48 @@ Result<QStringList> ffmpegArguments(const OutputSettings &settings, const MediaF
         return tl::make_unexpected(possible.error());
     }
     const Container &container = *Container::find(settings.extension);
-    const Result<QString> burned = burnFilter(source, settings, sourcePath);
-    if (!burned) {
-        return failed(burned);
+    const StreamTarget target{settings, container, encoders, allowed, {}, pass};
+    const Result<Encoding> encoding = encodingOf(source, sourcePath, target);
+    if (!encoding) {
+        return failed(encoding);
     }
-    const Copies copies = source.isStill() ? Copies{false, false, allowed.subtitles} : allowed;
-    const StreamTarget target{settings, container, encoders, copies, *burned, pass};
-    const Result<OutputStreams> streams = OutputStreams::make(source, target);
-    if (!streams) {
-        return failed(streams);
-    }
-    QStringList input = cutArguments(settings, source.isStill()) +
-                        timeArguments(source, copiesIn(streams->arguments));
-    if (!streams->decoder.isEmpty()) {
-        input << QStringLiteral("-c:v") << streams->decoder;
-    }
-    input += inputArguments(sourcePath, source.container);
-    const QStringList head = {QStringLiteral("-progress"), QStringLiteral("pipe:1"),
-                              QStringLiteral("-y")};
+    const QStringList head =
+        QStringList{QStringLiteral("-progress"), QStringLiteral("pipe:1"), QStringLiteral("-y")} +
+        encoding->input;
     if (pass.number == 1) {
-        return head + input + streams->arguments +
+        return head + encoding->streams.arguments +
                QStringList{QStringLiteral("-f"), QStringLiteral("null"), QStringLiteral("-")};
     }
-    const QStringList palette = streams->needsPalette
+    const QStringList palette = encoding->streams.needsPalette
                                     ? QStringList{QStringLiteral("-f"), QStringLiteral("png_pipe"),
                                                   QStringLiteral("-i"), fileArgument(pass.file)}
                                     : QStringList();
     const QStringList file = metadataArguments(source) + toArguments(muxerOptions(target)) +
                              toArguments({{QStringLiteral("f"), container.muxer}}) +
                              QStringList{fileArgument(targetPath)};
-    return head + input + palette + streams->arguments + file;
+    return head + palette + encoding->streams.arguments + file;
+}
+
+Result<QStringList> packetArguments(const OutputSettings &settings, const MediaFacts &source,
+                                    const QSet<QString> &encoders, const QString &sourcePath)
+{
+    const Result<> possible = settings.validate();
+    if (!possible) {
+        return tl::make_unexpected(possible.error());
+    }
+    OutputSettings bare = settings;
+    bare.subtitles = {TrackChoice::None};
+    MediaFacts shown = source;
+    shown.attachments.clear();
+    shown.videoTracks.erase(std::remove_if(shown.videoTracks.begin(), shown.videoTracks.end(),
+                                           [](const VideoTrack &track) { return track.isCover; }),
+                            shown.videoTracks.end());
+    return encodingOf(shown, sourcePath, {bare, *Container::find(bare.extension), encoders})
+        .map([](const Encoding &encoding) {
+            return encoding.input + encoding.streams.arguments +
+                   QStringList{QStringLiteral("-f"), QStringLiteral("framecrc"),
+                               QStringLiteral("-")};
+        });
 }
 
 Copies copiesIn(const QStringList &arguments)

@@ -20,6 +20,15 @@ ffmpegArguments(const OutputSettings &settings, const MediaFacts &source,
                 const QSet<QString> &encoders, const QString &sourcePath, const QString &targetPath,
                 Copies allowed = {}, const EncodingPass &pass = {});
 
+/*!
+ * The arguments for ffmpegCall() that encode the video and the audio in the same way, in one pass,
+ * and print a line per packet instead of writing a file; see PieceSizes.
+ */
+[[nodiscard]] Result<QStringList> packetArguments(const OutputSettings &settings,
+                                                  const MediaFacts &source,
+                                                  const QSet<QString> &encoders,
+                                                  const QString &sourcePath);
+
 /*! Which streams these arguments copy. */
 [[nodiscard]] Copies copiesIn(const QStringList &arguments);
 

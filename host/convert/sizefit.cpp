@@ -1,6 +1,6 @@
 #include "host/convert/sizefit.h"
 
-#include "host/convert/audioplan.h"
+#include "host/convert/audiorate.h"
 #include "host/convert/outputstreams.h"
 #include "host/convert/videoplan.h"
 
@@ -21,49 +21,18 @@ constexpr double shareOfStreams = 0.99;
 
 constexpr int mostAttempts = 8;
 
-/*! Of PCM; 0 for other codecs. */
-double pcmKbps(const AudioTrack &track, const AudioPlan &plan, const QString &codec)
-{
-    const int bits = codec.contains(QLatin1String("24"))   ? 24
-                     : codec.contains(QLatin1String("32")) ? 32
-                                                           : 16;
-    const int channels = plan.channels > 0 ? plan.channels : track.channels;
-    const int rate = plan.sampleRate > 0 ? plan.sampleRate : track.sampleRate;
-    return codec.startsWith(QLatin1String("pcm_")) ? double(bits) * channels * rate / 1000 : 0;
-}
-
 /*! The most that the audio has, in kbps; nothing where its encoder's quality decides. */
 std::optional<double> audioKbps(const MediaFacts &source, const StreamTarget &target)
 {
-    double sum = 0;
-    for (const AudioTrack &track : chosenAudio(source, target)) {
-        const Result<AudioPlan> plan = AudioPlan::make(track, target);
-        const bool isCopied = plan && plan->encoder == QLatin1String("copy");
-        const double own = track.kbps > 0 ? track.kbps : pcmKbps(track, {}, track.codec);
-        const double kbps = !plan      ? 0
-                            : isCopied ? own
-                                       : std::max(plan->kbps, pcmKbps(track, *plan, plan->encoder));
-        if (kbps <= 0) {
-            return std::nullopt;
-        }
-        sum += kbps;
-    }
-    return sum;
-}
-
-/*! The codec that the video is encoded with. */
-VideoCodec codecFor(const VideoTrack &track, const StreamTarget &target)
-{
-    return videoCodec(codecToWrite(target.settings.videoCodec, track.codec,
-                                   videoCodec(track.codec).encoderNames(),
-                                   target.container.videoCodecs, target));
+    const std::optional<AudioRate> rate = audioRate(source, target);
+    return rate ? std::make_optional(rate->kbps) : std::nullopt;
 }
 
 Result<OutputSettings> withVideoKbps(const MediaFacts &source, const StreamTarget &target,
                                      double kbps)
 {
     const VideoTrack *track = source.video();
-    const VideoCodec codec = track == nullptr ? VideoCodec() : codecFor(*track, target);
+    const VideoCodec codec = track == nullptr ? VideoCodec() : codecToEncode(*track, target);
     if (!codec.takesBitrate) {
         return failed(Texts::tr("can't have a size that is asked for: %1 has no bitrate to choose; "
                                 "choose a preset with another encoder")
@@ -210,7 +179,7 @@ double mostBytes(const MediaFacts &source, const StreamTarget &target)
     if (track != nullptr) {
         const Result<VideoPlan> plan = VideoPlan::make(*track, target);
         const bool isCopied = plan && plan->encoder == QLatin1String("copy");
-        const bool isLimited = settings.videoKbps > 0 && codecFor(*track, target).takesBitrate;
+        const bool isLimited = settings.videoKbps > 0 && codecToEncode(*track, target).takesBitrate;
         const double video = isCopied ? track->kbps : isLimited ? settings.videoKbps : 0;
         if (!plan || video <= 0) {
             return 0;

@@ -182,11 +182,7 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
 {
     const OutputSettings &settings = target.settings;
     const bool isCopied = canBeCopied(track, target);
-    const VideoCodec codec =
-        videoCodec(isCopied ? track.codec
-                            : codecToWrite(settings.videoCodec, track.codec,
-                                           videoCodec(track.codec).encoderNames(),
-                                           target.container.videoCodecs, target));
+    const VideoCodec codec = isCopied ? videoCodec(track.codec) : codecToEncode(track, target);
     VideoPlan plan{QStringLiteral("copy"), track.displaySize()};
     if (!isCopied) {
         const Result<QString> encoder = availableEncoder(codec.encoderNames(), codec.name, target);
@@ -210,6 +206,13 @@ Result<VideoPlan> VideoPlan::make(const VideoTrack &track, const StreamTarget &t
         plan.tag = QStringLiteral("hvc1");
     }
     return plan;
+}
+
+VideoCodec codecToEncode(const VideoTrack &track, const StreamTarget &target)
+{
+    return videoCodec(codecToWrite(target.settings.videoCodec, track.codec,
+                                   videoCodec(track.codec).encoderNames(),
+                                   target.container.videoCodecs, target));
 }
 
 bool VideoPlan::hasGraph() const

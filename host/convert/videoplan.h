@@ -1,6 +1,7 @@
 #ifndef CONVERT_VIDEOPLAN_H
 #define CONVERT_VIDEOPLAN_H
 
+#include "host/convert/codecs.h"
 #include "host/convert/encoderchoice.h"
 #include "host/convert/frametiming.h"
 #include "host/convert/tooloptions.h"
@@ -39,5 +40,8 @@ struct VideoPlan
 private:
     [[nodiscard]] QString chain(int track) const;
 };
+
+/*! The codec that \a track gets unless it is copied. */
+[[nodiscard]] VideoCodec codecToEncode(const VideoTrack &track, const StreamTarget &target);
 
 #endif

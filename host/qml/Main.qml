@@ -18,6 +18,8 @@ ApplicationWindow {
     property alias finder: finder
     readonly property PageProxy busyPage: ConverterProxy.isBusy ? ConverterProxy : EditorProxy
     property bool isClosing: false
+    /*! Something is open that the user is choosing from. */
+    readonly property bool isAsking: picker.visible || finder.visible || closeQuestion.visible
 
     /*! Opens the picker at \a button, above it where there is room. */
     function openPicker(button, taskId, formatId) {

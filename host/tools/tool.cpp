@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include <sys/resource.h>
+
 #ifdef Q_OS_LINUX
 #include <csignal>
 #include <sys/prctl.h>
@@ -93,6 +95,7 @@ void Tool::start(const ToolCall &call, const ToolLimits &limits)
     }
     m_process.setProcessEnvironment(environment);
     m_group.emplace();
+    m_process.givesWay = call.givesWay;
     m_process.setStandardInputFile(call.takesInput ? QString() : QProcess::nullDevice());
     m_process.start(call.program, call.arguments,
                     call.takesInput ? QIODevice::ReadWrite : QIODevice::ReadOnly);
@@ -147,6 +150,10 @@ void Tool::write(const QByteArray &input)
 void Tool::Process::setupChildProcess()
 {
     ProcessGroup::lead();
+    if (givesWay) {
+        constexpr int most = 19;
+        setpriority(PRIO_PROCESS, 0, most);
+    }
 #ifdef Q_OS_LINUX
     // A host that is killed can no longer stop the tool.
     prctl(PR_SET_PDEATHSIG, SIGKILL);

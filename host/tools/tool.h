@@ -81,6 +81,9 @@ Q_SIGNALS:
 private:
     class Process : public QProcess
     {
+    public:
+        bool givesWay = false; //!< the next program that it starts
+
     protected:
         void setupChildProcess() override;
     };

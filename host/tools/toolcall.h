@@ -11,6 +11,7 @@ struct ToolCall
     QStringList arguments;
     bool takesInput = false; //!< from Tool::write(); else its standard input is empty
     QString report = {};     //!< the file that ffmpeg writes its whole log to; empty: none
+    bool givesWay = false;   //!< to everything else that wants the processor
 };
 
 /*! ffmpeg with \a arguments, printing only errors and reading no input from the terminal. */

@@ -9,6 +9,7 @@
 #include "host/window/qmltypes.h"
 #include "host/window/queuekeeper.h"
 #include "host/window/singleinstance.h"
+#include "host/window/sizesampler.h"
 #include "host/window/windowplace.h"
 #include "host/window/windowsettings.h"
 
@@ -52,6 +53,7 @@ MainWindow::MainWindow(const QString &configFolder, QObject *parent)
 
 MainWindow::~MainWindow()
 {
+    m_sampler.reset();
     m_feedback.reset();
     m_place.reset();
     endEngine();
@@ -118,6 +120,8 @@ Result<> MainWindow::open()
     m_dialogs.setUp(m_engine.get(), window());
     m_feedback = std::make_unique<DesktopFeedback>(
         QVector<Page *>{m_converter.get(), m_editor.get()}, *window(), *m_settings);
+    m_sampler = std::make_unique<SizeSampler>(QVector<Page *>{m_converter.get(), m_editor.get()},
+                                              *window(), *m_settings);
     // Another program may cancel the logout, so the window only saves and stays open.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
@@ -140,6 +144,7 @@ bool MainWindow::handOver(const QStringList &paths, int patience) const
 void MainWindow::stopWork()
 {
     m_instance.reset();
+    m_sampler.reset();
     m_feedback.reset();
     m_presets->flush();
     m_queue->flush();

@@ -26,6 +26,7 @@ class QQuickWindow;
 class WindowPlace;
 class WindowSettings;
 class SingleInstance;
+class SizeSampler;
 
 /*! The window with its two pages, and all objects that its QML files use. */
 class MainWindow : public QObject
@@ -88,6 +89,7 @@ private:
     // Destroyed before all of the above, which it uses.
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     std::unique_ptr<WindowPlace> m_place; // of the engine's window
+    std::unique_ptr<SizeSampler> m_sampler;
 };
 
 #endif

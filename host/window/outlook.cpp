@@ -1,9 +1,10 @@
 #include "host/window/outlook.h"
 
-#include "host/convert/audioplan.h"
+#include "host/convert/audiorate.h"
 #include "host/convert/ffmpegarguments.h"
 #include "host/convert/losses.h"
 #include "host/convert/outputstreams.h"
+#include "host/convert/sizesample.h"
 #include "host/files/visibletext.h"
 #include "host/window/tasktexts.h"
 #include "host/window/toolfun.h"
@@ -14,29 +15,18 @@ namespace {
 
 constexpr double bytesPerKilobit = 125;
 
-double videoKbps(const OutputSettings &settings, const MediaFacts &source, bool isCopied)
+/*! Of a video that is copied; 0: unknown. */
+double copiedKbps(const MediaFacts &source)
 {
-    if (!isCopied || source.video() == nullptr) {
-        return settings.videoKbps;
+    if (source.video()->kbps > 0 || source.duration <= 0) {
+        return source.video()->kbps;
     }
     // Many containers only tell the bitrate of the whole file.
-    const double whole =
-        source.duration > 0 ? double(source.bytes) / bytesPerKilobit / source.duration : 0;
-    return source.video()->kbps > 0 ? source.video()->kbps : whole;
-}
-
-/*! 0: unknown. */
-double audioKbps(const OutputSettings &settings, const QVector<AudioTrack> &tracks, bool isCopied)
-{
-    double sum = 0;
-    for (const AudioTrack &track : tracks) {
-        const double kbps = isCopied ? track.kbps : sufficientKbps(track, settings, track.channels);
-        if (kbps <= 0) {
-            return 0;
-        }
-        sum += kbps;
+    double kbps = double(source.bytes) / bytesPerKilobit / source.duration;
+    for (const AudioTrack &track : source.audioTracks) {
+        kbps -= track.kbps;
     }
-    return sum;
+    return std::max(0.0, kbps);
 }
 
 /*! The name that the new file would get now; empty if the picture's size is part of it. */
@@ -50,32 +40,35 @@ QString nameOf(const ConversionJob &job)
 
 } // namespace
 
-double expectedBytes(const OutputSettings &settings, const MediaFacts &source,
-                     const QStringList &arguments)
+ExpectedSize expectedSize(const MediaFacts &source, const StreamTarget &target)
 {
+    const OutputSettings &settings = target.settings;
     const double seconds = settings.cutDuration(source.duration);
-    const Copies copies = copiesIn(arguments);
-    const QSet<QString> encoders;
-    const StreamTarget target{settings, *Container::find(settings.extension), encoders};
-    const QVector<AudioTrack> tracks = chosenAudio(source, target);
-    const bool isAllCopied =
-        (copies.video || !settings.hasVideo) && (copies.audio || tracks.isEmpty());
-    if (isAllCopied && source.duration > 0) {
-        return double(source.bytes) * seconds / source.duration;
+    const Copies &copies = target.allowed;
+    const bool hasAudio = !chosenAudio(source, target).isEmpty();
+    if ((copies.video || !settings.hasVideo) && (copies.audio || !hasAudio) &&
+        source.duration > 0) {
+        return {double(source.bytes) * seconds / source.duration, true};
     }
-    const double video = settings.hasVideo ? videoKbps(settings, source, copies.video) : 0;
-    const double audio = audioKbps(settings, tracks, copies.audio);
-    const bool isKnown =
-        (video > 0 || !settings.hasVideo) && (audio > 0 || tracks.isEmpty()) && seconds > 0;
+    const bool copiesVideo = settings.hasVideo && copies.video && source.video() != nullptr;
+    const double video = !settings.hasVideo ? 0
+                         : copiesVideo      ? copiedKbps(source)
+                                            : settings.videoKbps;
+    const std::optional<AudioRate> audio = audioRate(source, target);
+    const bool isKnown = (video > 0 || !settings.hasVideo) && audio && seconds > 0;
     constexpr double containerShare = 1.01;
-    const double bytes = isKnown ? (video + audio) * bytesPerKilobit * seconds * containerShare : 0;
+    const double bytes =
+        isKnown ? (video + audio->kbps) * bytesPerKilobit * seconds * containerShare : 0;
     if (settings.targetBytes > 0) {
-        return isKnown ? std::min(bytes, settings.targetBytes) : settings.targetBytes;
+        return {isKnown ? std::min(bytes, settings.targetBytes) : settings.targetBytes};
     }
-    return bytes;
+    const bool isConstant =
+        settings.hasVideo ? copiesVideo || settings.averagesBitrate : audio && audio->isConstant;
+    return {bytes, isKnown && isConstant};
 }
 
-Outlook outlookOf(const ConversionJob &job, const MediaFacts &facts, const QSet<QString> &encoders)
+Outlook outlookOf(const ConversionJob &job, const MediaFacts &facts, const QSet<QString> &encoders,
+                  double sampledBytes)
 {
     Outlook outlook;
     const Result<QStringList> arguments =
@@ -85,11 +78,19 @@ Outlook outlookOf(const ConversionJob &job, const MediaFacts &facts, const QSet<
         return outlook;
     }
     outlook.name = nameOf(job);
-    const double bytes = expectedBytes(job.settings, facts, *arguments);
-    if (bytes > 0) {
-        outlook.size = ToolFun::text(QStringLiteral("at most %1")).arg(sizeText(bytes));
+    const StreamTarget target{job.settings, *Container::find(job.settings.extension), encoders,
+                              copiesIn(*arguments)};
+    const ExpectedSize size = expectedSize(facts, target);
+    if (sampledBytes > 0) {
+        const double likely = size.bytes > 0 ? std::min(size.bytes, sampledBytes) : sampledBytes;
+        outlook.size = ToolFun::text(QStringLiteral("about %1")).arg(sizeText(likely));
+    } else if (size.bytes > 0) {
+        outlook.size = (size.isLikely ? ToolFun::text(QStringLiteral("about %1"))
+                                      : ToolFun::text(QStringLiteral("at most %1")))
+                           .arg(sizeText(size.bytes));
     }
-    outlook.losses = lossesIn(facts, {job.settings, *Container::find(job.settings.extension),
-                                      encoders, copiesIn(*arguments)});
+    outlook.needsSample =
+        !size.isLikely && sampledBytes == 0 && SizeSample::isUseful(facts, target);
+    outlook.losses = lossesIn(facts, target);
     return outlook;
 }

@@ -20,20 +20,27 @@ public:
     QString problem; //!< why it isn't possible; empty if it is
     QString nearest; //!< id of a preset with which it is, if there is a problem; empty: none is
     QString nearestCaption;
-    QString name;   //!< of the new file
-    QString size;   //!< "at most 120.0 MB"; empty if nothing is known
-    QString losses; //!< what will be left out; empty if nothing
+    QString name;             //!< of the new file
+    QString size;             //!< "at most 120.0 MB", "about 80.0 MB"; empty if nothing is known
+    QString losses;           //!< what will be left out; empty if nothing
+    bool needsSample = false; //!< a SizeSample would tell the size better
 };
 
 Q_DECLARE_METATYPE(Outlook)
 
-/*! How many bytes the new file will have at most, or about; 0: unknown. \a arguments are those of
- *  ffmpegArguments(). */
-[[nodiscard]] double expectedBytes(const OutputSettings &settings, const MediaFacts &source,
-                                   const QStringList &arguments);
+/*! How large a new file will be. */
+struct ExpectedSize
+{
+    double bytes = 0;      //!< 0: unknown
+    bool isLikely = false; //!< about so many; else that is the most
+};
 
-/*! The outlook of a job with the source \a facts, without a nearest preset. */
+/*! That of the result of \a source. */
+[[nodiscard]] ExpectedSize expectedSize(const MediaFacts &source, const StreamTarget &target);
+
+/*! The outlook of a job with the source \a facts, without a nearest preset. \a sampledBytes are
+ *  those that a sample has foretold; 0: none has. */
 [[nodiscard]] Outlook outlookOf(const ConversionJob &job, const MediaFacts &facts,
-                                const QSet<QString> &encoders);
+                                const QSet<QString> &encoders, double sampledBytes = 0);
 
 #endif

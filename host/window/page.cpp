@@ -8,6 +8,7 @@
 #include "host/window/tasktexts.h"
 #include "host/window/toolfun.h"
 
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -89,6 +90,19 @@ void Page::renewOutlooks()
 {
     ++m_outlookVersion;
     Q_EMIT outlookChanged();
+}
+
+const Task *Page::nextToSample() const
+{
+    constexpr int mostRows = 50;
+    const QVector<Task> &all = m_tasks.tasks();
+    const int first = std::clamp(m_firstInSight, 0, all.size());
+    const auto end = all.cbegin() + std::min(all.size(), first + mostRows);
+    const auto next = std::find_if(all.cbegin() + first, end, [this](const Task &task) {
+        return task.state == Task::Ready && m_outlooks.needsSample(task) &&
+               QFileInfo::exists(task.source);
+    });
+    return next == end ? nullptr : &*next;
 }
 
 bool Page::canConvert() const

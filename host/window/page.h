@@ -40,6 +40,7 @@ class Page : public QObject
     Q_PROPERTY(QString overall READ overall NOTIFY overallChanged)
     Q_PROPERTY(QString outcome READ outcome NOTIFY overallChanged)
     Q_PROPERTY(int overallPercent READ overallPercent NOTIFY overallChanged)
+    Q_PROPERTY(int firstInSight MEMBER m_firstInSight NOTIFY scrolled)
     Q_PROPERTY(int outlookVersion READ outlookVersion NOTIFY outlookChanged)
 
 public:
@@ -86,6 +87,12 @@ public:
     /*! What the task's conversion will give. Bindings name all that it depends on. */
     Q_INVOKABLE Outlook outlook(int taskId, const QString &format, double start, double end,
                                 const QString &tracks, int version) const;
+    /*! The next file whose size a sample would tell better: of those in sight and a few below them.
+     *  Null if there is none. */
+    [[nodiscard]] const Task *nextToSample() const;
+    /*! What its conversion would be. */
+    [[nodiscard]] ConversionJob jobOf(const Task &task) const;
+    TaskOutlooks &outlooks() { return m_outlooks; }
     /*! The task's row; -1 if there is no such task. */
     Q_INVOKABLE int rowOf(int taskId) const { return m_tasks.rowOf(taskId); }
     /*! The task in this row; 0 if there is no such row. */
@@ -142,6 +149,8 @@ Q_SIGNALS:
     void pauseChanged();
     void overallChanged();
     void outlookChanged();
+    /*! Other rows are in sight. */
+    void scrolled();
     /*! A conversion has begun. */
     void started(int taskId);
     /*! No conversion is left. Those that were stopped count as neither. */
@@ -165,7 +174,6 @@ private:
     void removeTasks(const QVector<int> &ids);
     void endSample(const QString &source, const Result<ConversionOutcome> &outcome);
     void takeFacts(int taskId, const Result<MediaFacts> &facts);
-    ConversionJob jobOf(const Task &task) const;
     void offerAgain();
     void renewOutlooks();
 
@@ -180,6 +188,7 @@ private:
     TaskLogs m_logs;
     TaskOutlooks m_outlooks;
     int m_outlookVersion = 0;
+    int m_firstInSight = 0; // row
     Inspector m_inspector;
     TaskRunner m_runner;
     TaskRemovals m_removals;

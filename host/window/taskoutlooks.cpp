@@ -4,6 +4,8 @@
 #include "host/window/presets.h"
 #include "host/window/windowsettings.h"
 
+#include <algorithm>
+
 TaskOutlooks::TaskOutlooks(const Presets &presets, const WindowSettings &settings,
                            const JobMaker &jobOf, QObject *parent)
     : QObject(parent)
@@ -24,12 +26,37 @@ Outlook TaskOutlooks::of(const Task &task) const
     if (task.facts.isEmpty() || m_encoders.isEmpty()) {
         return {};
     }
-    Outlook outlook = outlookOf(m_jobOf(task), task.facts, m_encoders);
+    const ConversionJob job = m_jobOf(task);
+    const Sample *sample = sampleOf(job);
+    Outlook outlook = outlookOf(job, task.facts, m_encoders, sample == nullptr ? 0 : sample->bytes);
     if (!outlook.problem.isEmpty()) {
         outlook.nearest = nearestTo(task);
         outlook.nearestCaption = m_presets.caption(outlook.nearest);
     }
     return outlook;
+}
+
+bool TaskOutlooks::needsSample(const Task &task) const
+{
+    return sampleOf(m_jobOf(task)) == nullptr && of(task).needsSample;
+}
+
+void TaskOutlooks::keepSample(const ConversionJob &job, double bytes)
+{
+    m_samples[job.source] << Sample{job.settings, bytes};
+    Q_EMIT known();
+}
+
+const TaskOutlooks::Sample *TaskOutlooks::sampleOf(const ConversionJob &job) const
+{
+    const auto samples = m_samples.constFind(job.source);
+    if (samples == m_samples.cend()) {
+        return nullptr;
+    }
+    const auto found =
+        std::find_if(samples->cbegin(), samples->cend(),
+                     [&job](const Sample &sample) { return sample.settings == job.settings; });
+    return found == samples->cend() ? nullptr : &*found;
 }
 
 /*! The nearest preset that suits the file, else one of another kind, the last chosen first; empty

@@ -166,6 +166,17 @@ void WindowSettings::setNotifying(bool isNotifying)
     Q_EMIT notifyingChanged();
 }
 
+bool WindowSettings::isSampling() const
+{
+    return m_file.value(QStringLiteral("samples"), true).toBool();
+}
+
+void WindowSettings::setSampling(bool isSampling)
+{
+    write(QStringLiteral("samples"), isSampling);
+    Q_EMIT samplingChanged();
+}
+
 QString WindowSettings::lastFolder() const
 {
     return m_file.value(QStringLiteral("lastFolder")).toString();

@@ -21,6 +21,7 @@ class WindowSettings : public QObject
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
     Q_PROPERTY(int jobs READ jobs WRITE setJobs NOTIFY jobsChanged)
     Q_PROPERTY(bool isNotifying READ isNotifying WRITE setNotifying NOTIFY notifyingChanged)
+    Q_PROPERTY(bool isSampling READ isSampling WRITE setSampling NOTIFY samplingChanged)
     Q_PROPERTY(bool isStill READ isStill WRITE setStill NOTIFY stillChanged)
 
 public:
@@ -77,6 +78,9 @@ public:
     /*! Whether the desktop tells when a run has ended. */
     bool isNotifying() const;
     void setNotifying(bool isNotifying);
+    /*! Whether short samples of the files tell how large their results will be. */
+    bool isSampling() const;
+    void setSampling(bool isSampling);
     /*! The folder that files were last added from. */
     QString lastFolder() const;
     void setLastFolder(const QString &folder);
@@ -98,6 +102,7 @@ Q_SIGNALS:
     void languageChanged();
     void jobsChanged();
     void notifyingChanged();
+    void samplingChanged();
 
 private:
     void write(const QString &key, const QVariant &value);

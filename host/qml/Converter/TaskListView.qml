@@ -113,6 +113,16 @@ ListView {
         }
     }
 
+    Binding {
+        target: root.page
+        property: "firstInSight"
+        value: {
+            root.contentHeight
+            return Math.max(0, root.indexAt(root.width / 2, root.contentY),
+                            root.indexAt(root.width / 2, root.contentY + root.spacing))
+        }
+    }
+
     Component.onCompleted: root.page.started.connect(root.showStarted)
     Component.onDestruction: root.page.started.disconnect(root.showStarted)
 

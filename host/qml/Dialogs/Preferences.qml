@@ -102,6 +102,15 @@ VEXContent {
         }
 
         VEXCheckBox {
+            id: sampling
+
+            width: parent.width
+            text: ToolFun.tr("Estimate sizes from short samples")
+            checked: Settings.isSampling
+            onToggled: Settings.isSampling = sampling.checked
+        }
+
+        VEXCheckBox {
             id: still
 
             width: parent.width

@@ -18,7 +18,7 @@ class PageTest : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
