@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>No preset was imported.</source>
-        <translation>No se ha importado ningún preajuste.</translation>
+        <translation>No se ha importado ningún ajuste.</translation>
     </message>
     <message>
         <source>no file yet</source>
@@ -2183,15 +2183,15 @@
     </message>
     <message>
         <source>%1 has neither a list &quot;presets&quot; nor a list &quot;PresetList&quot;; it is no file of presets</source>
-        <translation>%1 no tiene una lista «presets» ni «PresetList»; no es un archivo de preajustes</translation>
+        <translation>%1 no tiene una lista «presets» ni «PresetList»; no es un archivo de ajustes</translation>
     </message>
     <message>
         <source>%1 has the version %2, and only version %3 can be read; export it again with this version of vexconvert</source>
-        <translation>%1 tiene la versión %2 y solo se puede leer la versión %3; vuelva a exportarlo con esta versión de vexconvert</translation>
+        <translation>%1 tiene la versión %2 y solo se puede leer la versión %3; vuelve a exportarlo con esta versión de vexconvert</translation>
     </message>
     <message>
         <source>%1 is no file of presets of vexconvert, HandBrake, Kdenlive or Shotcut</source>
-        <translation>%1 no es un archivo de preajustes de vexconvert, HandBrake, Kdenlive ni Shotcut</translation>
+        <translation>%1 no es un archivo de ajustes de vexconvert, HandBrake, Kdenlive ni Shotcut</translation>
     </message>
 </context>
 <context>
@@ -2226,22 +2226,22 @@
     </message>
     <message>
         <source>nothing is imported, as %1 of %2 presets are refused; leave them out with --skip-refused</source>
-        <translation>no se importa nada, pues %1 de %2 preajustes se rechazan; omítalos con --skip-refused</translation>
+        <translation>no se importa nada, pues %1 de %2 ajustes se rechazan; omítelos con --skip-refused</translation>
     </message>
     <message>
         <source>preset %1 isn&apos;t yours; only your own can be exported</source>
-        <translation>el preajuste %1 no es suyo; solo se exportan los propios</translation>
+        <translation>el ajuste %1 no es tuyo; solo se exportan los propios</translation>
     </message>
 </context>
 <context>
     <name>ConfigList</name>
     <message>
         <source>%1 is no file; name another one</source>
-        <translation>%1 no es un archivo; indique otro</translation>
+        <translation>%1 no es un archivo; elige otro</translation>
     </message>
     <message>
         <source>there is no file %1; check its name</source>
-        <translation>no existe el archivo %1; compruebe el nombre</translation>
+        <translation>no existe el archivo %1; comprueba el nombre</translation>
     </message>
     <message>
         <source>%1 has %2, and no more than %3 are read</source>
@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>%1 can&apos;t be read (%2); check its permissions</source>
-        <translation>%1 no se puede leer (%2); compruebe sus permisos</translation>
+        <translation>%1 no se puede leer (%2); comprueba sus permisos</translation>
     </message>
 </context>
 <context>
@@ -2276,7 +2276,7 @@
     </message>
     <message>
         <source>what was done last (%1) can&apos;t be undone: another program has changed these presets since</source>
-        <translation>lo último (%1) no se puede deshacer: otro programa ha cambiado estos preajustes desde entonces</translation>
+        <translation>lo último (%1) no se puede deshacer: otro programa ha cambiado estos ajustes desde entonces</translation>
     </message>
 </context>
 </TS>

@@ -40,7 +40,7 @@ QString channelText(const QString &count)
 
 QString kbpsText(const QString &value)
 {
-    return QStringLiteral("%1 kbps").arg(QLocale().toString(value.toDouble(), 'g', 9));
+    return QStringLiteral("%1\u00A0kbps").arg(QLocale().toString(value.toDouble(), 'g', 9));
 }
 
 /*! A value that isn't the source's. */
@@ -50,7 +50,7 @@ QString chosenText(const QString &name, QString value)
         return value.replace(QLatin1Char('x'), QStringLiteral(" × "));
     }
     if (name == QLatin1String("frame-rate")) {
-        return QStringLiteral("%1 fps").arg(value);
+        return QStringLiteral("%1\u00A0fps").arg(QLocale().toString(value.toDouble(), 'g', 6));
     }
     if (name == QLatin1String("video-bitrate")) {
         return ToolFun::text(QStringLiteral("at most %1")).arg(kbpsText(value));
@@ -59,7 +59,7 @@ QString chosenText(const QString &name, QString value)
         return kbpsText(value);
     }
     if (name == QLatin1String("sample-rate")) {
-        return QStringLiteral("%1 kHz").arg(QLocale().toString(value.toDouble() / 1000));
+        return QStringLiteral("%1\u00A0kHz").arg(QLocale().toString(value.toDouble() / 1000));
     }
     return name == QLatin1String("channel") ? channelText(value) : value;
 }
