@@ -12,6 +12,7 @@ VEXContent {
     id: root
 
     readonly property var info: root.frame.info
+    readonly property var states: ["new", "conflict", "same", "refused"]
     readonly property var presets: root.info["presets"]
     readonly property int importable: root.info["importable"]
     readonly property int conflicting: root.countOf("conflict")
@@ -61,7 +62,7 @@ VEXContent {
         wrapMode: Text.WordWrap
         font.pixelSize: Theme.smallText
         color: Theme.font_color_grade4
-        text: ["new", "conflict", "same", "refused"].filter(function (state) {
+        text: root.states.filter(function (state) {
             return root.countOf(state) > 0
         }).map(function (state) {
             return root.stateText(state) + ": "
