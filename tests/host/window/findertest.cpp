@@ -98,7 +98,7 @@ void FinderTest::choose(const char *entry)
 QString FinderTest::makeOwn(const QString &title)
 {
     PresetActions &actions = m_main->presetActions();
-    const QString own = actions.duplicate(QStringLiteral("Video_MP4_005"));
+    QString own = actions.duplicate(QStringLiteral("Video_MP4_005"));
     actions.rename(own, title);
     QTest::qWait(0); // until it is saved
     return own;
