@@ -1,10 +1,15 @@
 #include "host/files/visibletext.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QVector>
 
 #include <algorithm>
 
 namespace {
+
+constexpr ushort firstStrongIsolate = 0x2068;
+constexpr ushort popDirectionalIsolate = 0x2069;
 
 bool changesDirection(QChar character)
 {
@@ -47,13 +52,31 @@ QString visibleText(const QString &text)
     return shown;
 }
 
+QString visibleLine(const QString &line)
+{
+    QString shown = visibleText(line);
+    QVector<int> begun;
+    for (int i = 0; i < line.size(); ++i) {
+        if (line.at(i).unicode() == firstStrongIsolate) {
+            begun << i;
+        } else if (line.at(i).unicode() == popDirectionalIsolate && !begun.isEmpty()) {
+            shown[begun.takeLast()] = QChar(firstStrongIsolate);
+            shown[i] = QChar(popDirectionalIsolate);
+        }
+    }
+    return shown;
+}
+
+QString visiblePath(const QString &path)
+{
+    return isolated(visibleText(QDir::toNativeSeparators(path)));
+}
+
 QString isolated(const QString &text)
 {
     const bool isMixed = std::any_of(text.begin(), text.end(), [](QChar character) {
         return character.direction() == QChar::DirR || character.direction() == QChar::DirAL;
     });
-    constexpr ushort firstStrongIsolate = 0x2068;
-    constexpr ushort popDirectionalIsolate = 0x2069;
     return isMixed ? QChar(firstStrongIsolate) + text + QChar(popDirectionalIsolate) : text;
 }
 

@@ -17,6 +17,12 @@
  *  is marked as a unit, so that neither its order nor that of what follows changes. */
 [[nodiscard]] QString isolated(const QString &text);
 
+/*! The same as visibleText(), but what isolated() has marked in it stays so. */
+[[nodiscard]] QString visibleLine(const QString &line);
+
+/*! The path as the system writes it, visible and isolated. */
+[[nodiscard]] QString visiblePath(const QString &path);
+
 /*! The file's name without its folder, visible and isolated. */
 [[nodiscard]] QString visibleName(const QString &path);
 

@@ -1,9 +1,9 @@
 #include "host/window/addedfiles.h"
 
 #include "host/files/localpath.h"
+#include "host/files/visibletext.h"
 #include "host/window/toolfun.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -43,7 +43,7 @@ AddedFiles AddedFiles::of(const QStringList &paths, const QSet<QString> &present
             isEmpty = false;
             const QString refusal = refusalOf(file.path);
             if (!refusal.isEmpty()) {
-                added.notices << refusal.arg(QFileInfo(file.path).fileName());
+                added.notices << refusal.arg(visibleName(file.path));
             } else if (seen.contains(file.path)) {
                 added.known << file;
             } else {
@@ -55,7 +55,7 @@ AddedFiles AddedFiles::of(const QStringList &paths, const QSet<QString> &present
             added.notices << ToolFun::text(
                                  QStringLiteral("There are no video or audio files in the "
                                                 "folder %1; add the files themselves"))
-                                 .arg(QDir::toNativeSeparators(path));
+                                 .arg(visiblePath(path));
         }
     }
     return added;
@@ -68,7 +68,7 @@ QStringList noticesOfRemote(const QList<QUrl> &urls)
         if (localPath(url).isEmpty()) {
             notices << ToolFun::text(QStringLiteral("%1 is not on this computer; download it first "
                                                     "and add the file"))
-                           .arg(url.toDisplayString());
+                           .arg(isolated(visibleText(url.toDisplayString())));
         }
     }
     return notices;

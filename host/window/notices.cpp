@@ -4,7 +4,7 @@
 
 void Notices::add(const QString &line)
 {
-    const QString shown = visibleText(line);
+    const QString shown = visibleLine(line);
     if (m_lines.contains(shown)) {
         return;
     }

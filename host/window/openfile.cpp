@@ -1,13 +1,13 @@
 #include "host/window/openfile.h"
 
 #include "host/files/localpath.h"
+#include "host/files/visibletext.h"
 #include "host/window/toolfun.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
-#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -19,7 +19,7 @@ Result<> openFolder(const QString &folder)
     }
     return failed(ToolFun::text(QStringLiteral("No file manager could be started to show the "
                                                "folder %1; open it by hand"))
-                      .arg(QDir::toNativeSeparators(folder)));
+                      .arg(visiblePath(folder)));
 }
 
 } // namespace
@@ -59,12 +59,12 @@ Result<> playFile(const QString &path)
     if (!QFileInfo::exists(path)) {
         return failed(
             ToolFun::text(QStringLiteral("There is no file %1 any more; convert it again"))
-                .arg(QDir::toNativeSeparators(path)));
+                .arg(visiblePath(path)));
     }
     if (!QDesktopServices::openUrl(localUrl(path))) {
         return failed(ToolFun::text(QStringLiteral("No player could be started for %1; open it by "
                                                    "hand"))
-                          .arg(QDir::toNativeSeparators(path)));
+                          .arg(visiblePath(path)));
     }
     return {};
 }

@@ -12,6 +12,9 @@ private Q_SLOTS:
     void rightToLeftTextIsKeptTogether_data();
     void rightToLeftTextIsKeptTogether();
     void aNameIsVisibleAndKeptTogether();
+    void aPathIsVisibleAndKeptTogether();
+    void aLineKeepsItsNamesTogether_data();
+    void aLineKeepsItsNamesTogether();
 };
 
 void TestVisibleText::invisibleCharactersAreReplaced_data()
@@ -75,6 +78,31 @@ void TestVisibleText::aNameIsVisibleAndKeptTogether()
     // A mark in the name itself can't end the unit.
     QCOMPARE(visibleName(QStringLiteral("/שלום/ש\u2069.mp4")),
              QStringLiteral("\u2068ש\uFFFD.mp4\u2069"));
+}
+
+void TestVisibleText::aPathIsVisibleAndKeptTogether()
+{
+    QCOMPARE(visiblePath(QStringLiteral("/films/a\n.mp4")), QStringLiteral("/films/a\uFFFD.mp4"));
+    QCOMPARE(visiblePath(QStringLiteral("/שלום/a.mp4")), QStringLiteral("\u2068/שלום/a.mp4\u2069"));
+}
+
+void TestVisibleText::aLineKeepsItsNamesTogether_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("shown");
+    const QString name = QStringLiteral("\u2068שלום\u2069");
+    QTest::newRow("a name") << name + QStringLiteral(" is 2") << name + QStringLiteral(" is 2");
+    QTest::newRow("a unit without end") << QStringLiteral("\u2068a") << QStringLiteral("\uFFFDa");
+    QTest::newRow("an end without unit") << QStringLiteral("a\u2069") << QStringLiteral("a\uFFFD");
+    QTest::newRow("another direction")
+        << QStringLiteral("\u2068a\u202E\u2069") << QStringLiteral("\u2068a\uFFFD\u2069");
+    QTest::newRow("a line break") << name + QStringLiteral("\n") << name + QStringLiteral("\uFFFD");
+}
+
+void TestVisibleText::aLineKeepsItsNamesTogether()
+{
+    QFETCH(QString, line);
+    QTEST(visibleLine(line), "shown");
 }
 
 QTEST_APPLESS_MAIN(TestVisibleText)

@@ -49,6 +49,9 @@ void TestPageList::whatIsNoMediaFileIsNamed_data()
     QTest::newRow("playlist")
         << QStringLiteral("file:///music/best.m3u8")
         << QStringLiteral("best.m3u8 is a playlist; add the files that it names instead");
+    QTest::newRow("a name from right to left")
+        << QStringLiteral("file:///photos/ים.jpg")
+        << QStringLiteral("\u2068ים.jpg\u2069 is a picture; add video or audio files");
     QTest::newRow("web address") << QStringLiteral("https://example.org/a.mp4")
                                  << QStringLiteral("https://example.org/a.mp4 is not on this "
                                                    "computer; download it first and add the file");
