@@ -936,6 +936,10 @@
         <translation>Protokoll zeigen</translation>
     </message>
     <message>
+        <source>Estimate sizes from short samples</source>
+        <translation>Größen mit kurzen Proben schätzen</translation>
+    </message>
+    <message>
         <source>Show no animations</source>
         <translation>Keine Animationen zeigen</translation>
     </message>
@@ -1058,6 +1062,10 @@
     <message>
         <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
         <translation>VexConvert wurde beim Umwandeln beendet; „Alle umwandeln“ macht mit dem Rest weiter</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>etwa %1</translation>
     </message>
     <message>
         <source>at most %1</source>

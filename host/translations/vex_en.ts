@@ -936,6 +936,10 @@
         <translation>Show log</translation>
     </message>
     <message>
+        <source>Estimate sizes from short samples</source>
+        <translation>Estimate sizes from short samples</translation>
+    </message>
+    <message>
         <source>Show no animations</source>
         <translation>Show no animations</translation>
     </message>
@@ -1058,6 +1062,10 @@
     <message>
         <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
         <translation>VexConvert was closed while it converted; Convert All goes on with what is left</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>about %1</translation>
     </message>
     <message>
         <source>at most %1</source>

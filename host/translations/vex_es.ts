@@ -936,6 +936,10 @@
         <translation>Mostrar el registro</translation>
     </message>
     <message>
+        <source>Estimate sizes from short samples</source>
+        <translation>Estimar los tamaños con muestras breves</translation>
+    </message>
+    <message>
         <source>Show no animations</source>
         <translation>No mostrar animaciones</translation>
     </message>
@@ -1058,6 +1062,10 @@
     <message>
         <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
         <translation>VexConvert se cerró mientras convertía; «Convertir todo» continúa con lo que falta</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>unos %1</translation>
     </message>
     <message>
         <source>at most %1</source>

@@ -936,6 +936,10 @@
         <translation>Afficher le journal</translation>
     </message>
     <message>
+        <source>Estimate sizes from short samples</source>
+        <translation>Estimer les tailles avec de courts extraits</translation>
+    </message>
+    <message>
         <source>Show no animations</source>
         <translation>Ne pas afficher d’animations</translation>
     </message>
@@ -1058,6 +1062,10 @@
     <message>
         <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
         <translation>VexConvert a été fermé pendant la conversion ; « Tout convertir » reprend ce qui reste</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>environ %1</translation>
     </message>
     <message>
         <source>at most %1</source>

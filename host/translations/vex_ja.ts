@@ -936,6 +936,10 @@
         <translation>ログを表示</translation>
     </message>
     <message>
+        <source>Estimate sizes from short samples</source>
+        <translation>短いサンプルからサイズを見積もる</translation>
+    </message>
+    <message>
         <source>Show no animations</source>
         <translation>アニメーションを表示しない</translation>
     </message>
@@ -1058,6 +1062,10 @@
     <message>
         <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
         <translation>変換中に VexConvert が終了しました。「すべて変換」で残りを続けられます</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>約 %1</translation>
     </message>
     <message>
         <source>at most %1</source>

@@ -936,6 +936,10 @@
         <translation>显示日志</translation>
     </message>
     <message>
+        <source>Estimate sizes from short samples</source>
+        <translation>用短样本估算大小</translation>
+    </message>
+    <message>
         <source>Show no animations</source>
         <translation>不显示动画</translation>
     </message>
@@ -1058,6 +1062,10 @@
     <message>
         <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
         <translation>VexConvert 在转换时被关闭；“全部转换”会继续其余的文件</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>约 %1</translation>
     </message>
     <message>
         <source>at most %1</source>

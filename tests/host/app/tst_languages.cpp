@@ -168,6 +168,7 @@ void TestLanguages::everyKeyIsTranslated()
              QStringLiteral(
                  "VexConvert was closed while it converted; Convert All goes on with what is left"),
              QStringLiteral("at most %1"),
+             QStringLiteral("about %1"),
              QStringLiteral("Files converted: %1"),
              QStringLiteral("failed: %1"),
              QStringLiteral("There are no video or audio files in the folder %1; add the files "
