@@ -15,6 +15,13 @@ ListView {
     property int dropRow: -1
     property real dropY: 0
 
+    readonly property int firstInSight: {
+        const isFilled = root.contentHeight > 0
+        const middle = root.width / 2
+        return isFilled ? Math.max(0, root.indexAt(middle, root.contentY),
+                                   root.indexAt(middle, root.contentY + root.spacing)) : 0
+    }
+
     signal pickerAsked(Item button, var taskId, var formatId)
 
     function select(taskId, modifiers) {
@@ -113,16 +120,7 @@ ListView {
         }
     }
 
-    Binding {
-        target: root.page
-        property: "firstInSight"
-        value: {
-            root.contentHeight
-            return Math.max(0, root.indexAt(root.width / 2, root.contentY),
-                            root.indexAt(root.width / 2, root.contentY + root.spacing))
-        }
-    }
-
+    onFirstInSightChanged: root.page.firstInSight = root.firstInSight
     Component.onCompleted: root.page.started.connect(root.showStarted)
     Component.onDestruction: root.page.started.disconnect(root.showStarted)
 

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void theKeysSelectMoveAndRemove();
     void aRowIsDraggedByItsGrip();
     void aButtonUnderThePointerSaysWhatItDoes();
+    void thePageKnowsTheFirstRowInSight();
 };
 
 void TestTaskListView::aClickSelectsOneAndModifiersMore()
@@ -79,6 +80,18 @@ void TestTaskListView::aButtonUnderThePointerSaysWhatItDoes()
     QTRY_VERIFY(shown().size() > buttons);
     QTest::mouseMove(m_window, row("a.wav")->mapToScene(QPointF(200, 26)).toPoint());
     QTRY_COMPARE(shown().size(), buttons);
+}
+
+void TestTaskListView::thePageKnowsTheFirstRowInSight()
+{
+    const auto first = [this] { return page().property("firstInSight").toInt(); };
+    m_window->setMinimumSize({1, 1});
+    m_window->resize(1040, 320); // little more than a row
+    clickRow("a.wav");
+    QTest::keyClick(m_window, Qt::Key_End);
+    QTRY_VERIFY(first() > 0);
+    QTest::keyClick(m_window, Qt::Key_Home);
+    QTRY_COMPARE(first(), 0);
 }
 
 QTEST_MAIN(TestTaskListView)
