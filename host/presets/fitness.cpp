@@ -44,7 +44,8 @@ QString Fitness::problemWith(const FoundPreset &preset) const
     return ofVideo.isEmpty() ? problem(settings.audioCodec, audio) : ofVideo;
 }
 
-QString Fitness::nearestTo(const FoundPreset &preset, const PresetStore &store) const
+QString Fitness::nearestTo(const FoundPreset &preset, const PresetStore &store,
+                           const QStringList &standIns) const
 {
     QString ofFormat = closest(store.idsOf(preset.className), preset, store);
     if (!ofFormat.isEmpty()) {
@@ -52,7 +53,8 @@ QString Fitness::nearestTo(const FoundPreset &preset, const PresetStore &store) 
     }
     // Of a large catalogue's other formats, the first presets tell which suits.
     const std::optional<FoundPreset> other = store.find(closest(store.firstIds(), preset, store));
-    return other ? closest(store.idsOf(other->className), preset, store) : QString();
+    return other ? closest(store.idsOf(other->className), preset, store)
+                 : firstUsable(standIns + store.firstIds(), store);
 }
 
 QString Fitness::firstUsable(const QStringList &ids, const PresetStore &store) const

@@ -29,9 +29,10 @@ public:
     /*! Why the preset can't be used; empty if it can. */
     [[nodiscard]] QString problemWith(const FoundPreset &preset) const;
     /*! The id of the preset that is closest to \a preset and can be used: of its format, or else
-     *  of its tag, in its size and codec where possible. Empty if there is none. */
-    [[nodiscard]] QString nearestTo(const FoundPreset &preset, const PresetStore &store) const;
-
+     *  of its tag, in its size and codec where possible; or else the first that can be used of
+     *  \a standIns and of the formats. Empty if there is none. */
+    [[nodiscard]] QString nearestTo(const FoundPreset &preset, const PresetStore &store,
+                                    const QStringList &standIns = {}) const;
     /*! The first of \a ids whose preset can be used; empty if there is none. */
     [[nodiscard]] QString firstUsable(const QStringList &ids, const PresetStore &store) const;
 

@@ -46,6 +46,15 @@ Result<> firstError(const Result<> &one, const Result<> &other)
     return one ? other : one;
 }
 
+QStringList idsIn(const FormatDetailModel &presets)
+{
+    QStringList ids;
+    for (int row = 0; row < presets.rowCount(); ++row) {
+        ids << presets.getId(row);
+    }
+    return ids;
+}
+
 } // namespace
 
 OutputSettings FoundPreset::outputSettings() const
@@ -297,11 +306,12 @@ QStringList PresetStore::ids() const
 QStringList PresetStore::idsOf(const QString &className) const
 {
     const FormatDetailModel *presets = m_formats.formatListModel()->formatDetailModel(className);
-    QStringList ids;
-    for (int row = 0; presets != nullptr && row < presets->rowCount(); ++row) {
-        ids << presets->getId(row);
-    }
-    return ids;
+    return presets == nullptr ? QStringList() : idsIn(*presets);
+}
+
+QStringList PresetStore::recentIds() const
+{
+    return idsIn(*m_formats.recentlyFormatsModel());
 }
 
 QStringList PresetStore::firstIds() const

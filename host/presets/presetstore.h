@@ -89,6 +89,8 @@ public:
     [[nodiscard]] QStringList idsOf(const QString &className) const;
     /*! The first one of each format that has any. */
     [[nodiscard]] QStringList firstIds() const;
+    /*! Those of the recently used list, the latest first; not all are of this catalogue. */
+    [[nodiscard]] QStringList recentIds() const;
     /*! The id itself if a preset has it, else the one that the preset has now which had it once. */
     [[nodiscard]] QString idNow(const QString &id) const;
     /*! The preset with this id now of the catalogue or the user, else of the recently used list. */

@@ -206,13 +206,7 @@ void PresetFinder::list()
 void PresetFinder::listUsual()
 {
     append(m_presets.favorites().ids(), ToolFun::text(QStringLiteral("Favorites")));
-    QQueue<FormatDetailModelData> recent;
-    m_store.formats().recentlyFormatsModel()->getModelInfo(recent);
-    QStringList ids;
-    for (const FormatDetailModelData &preset : qAsConst(recent)) {
-        ids << preset.id;
-    }
-    append(ids, ToolFun::text(QStringLiteral("Recently used")));
+    append(m_store.recentIds(), ToolFun::text(QStringLiteral("Recently used")));
     const FormatListModel &formats = *m_store.formats().formatListModel();
     for (int row = 0; row < formats.rowCount(); ++row) {
         append(m_store.own().idsOf(formats.getTitle(row)),
@@ -309,7 +303,8 @@ QString PresetFinder::problemWith(const QString &id) const
 QString PresetFinder::nearestTo(const QString &id) const
 {
     const std::optional<FoundPreset> preset = m_store.find(id);
-    return m_fitness && preset ? m_fitness->nearestTo(*preset, m_store) : QString();
+    return m_fitness && preset ? m_fitness->nearestTo(*preset, m_store, m_store.recentIds())
+                               : QString();
 }
 
 QString PresetFinder::caption(const QString &id) const

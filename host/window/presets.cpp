@@ -46,9 +46,8 @@ QString Presets::usable(const QString &id, const QString &standIn) const
 QString Presets::nearestTo(const std::optional<FoundPreset> &preset, const Fitness &fitness,
                            const QStringList &standIns) const
 {
-    const QString nearest = preset ? fitness.nearestTo(*preset, m_store) : QString();
-    return nearest.isEmpty() ? fitness.firstUsable(standIns + m_store.firstIds(), m_store)
-                             : nearest;
+    return preset ? fitness.nearestTo(*preset, m_store, standIns)
+                  : fitness.firstUsable(standIns + m_store.firstIds(), m_store);
 }
 
 QString Presets::caption(const QString &id) const

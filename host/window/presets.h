@@ -23,8 +23,8 @@ public:
     {
         return m_store.find(id);
     }
-    /*! What Fitness::nearestTo() finds for the preset, else the first that can be used of
-     *  \a standIns and of the formats; empty if none can. */
+    /*! What Fitness::nearestTo() finds; for a preset that is gone, one of those that suit at all.
+     */
     [[nodiscard]] QString nearestTo(const std::optional<FoundPreset> &preset,
                                     const Fitness &fitness, const QStringList &standIns) const;
     /*! The first preset that exists of \a id, \a standIn, the default preset and the catalogue's

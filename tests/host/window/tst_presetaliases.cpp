@@ -40,7 +40,7 @@ void TestPresetAliases::initTestCase()
 
 void TestPresetAliases::theOldIdFindsThePresetByItsNewOne()
 {
-    QVERIFY(!m_presets->ids().contains(m_oldId));
+    QVERIFY(!m_store->ids().contains(m_oldId));
     QCOMPARE(m_presets->usable(m_oldId, {}), m_newId);
     QVERIFY(!m_presets->caption(m_newId).isEmpty());
     QCOMPARE(m_presets->caption(m_oldId), m_presets->caption(m_newId));
