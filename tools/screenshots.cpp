@@ -5,6 +5,7 @@
 #include "host/window/mainwindow.h"
 #include "host/window/pageproxies.h"
 #include "host/window/presetactions.h"
+#include "host/window/presetexchange.h"
 
 #include "formats/proxy/formatsproxy.h"
 
@@ -37,6 +38,7 @@ private:
     void takePickers();
     void takeFinder();
     void takeDialogs();
+    void takeOwnDialogs();
     void takeTasks();
     void takeTracks();
 
@@ -54,6 +56,8 @@ private:
     /*! Lets animations and late bindings come to rest. */
     void settle(int pause = 500);
     void take(const QString &name, QQuickWindow *window = nullptr);
+    /*! Takes the open dialog, and closes it. */
+    void takeDialog(const QString &name);
 
     const QDir m_folder;
     const WorkFolder &m_work;
@@ -87,6 +91,7 @@ Result<> Screenshots::takeAll(WindowSettings::ThemeChoice theme)
     takePickers();
     takeFinder();
     takeDialogs();
+    takeOwnDialogs();
     takeTracks();
     takeTasks();
     return m_result;
@@ -128,6 +133,9 @@ void Screenshots::takeFinder()
     take(QStringLiteral("finder"));
     type(QStringLiteral("hevc small"));
     take(QStringLiteral("finder-search"));
+    press(Qt::Key_Menu);
+    take(QStringLiteral("finder-menu"));
+    press(Qt::Key_Escape);
     QMetaObject::invokeMethod(finder, "close");
     presets.remove(own);
     settle();
@@ -138,18 +146,41 @@ void Screenshots::takeFinder()
 void Screenshots::takeDialogs()
 {
     editPreset(QStringLiteral("video"), QStringLiteral("MP4"), QStringLiteral("Video_MP4_004"));
-    take(QStringLiteral("dialog-video"), m_window.dialog()->window());
-    m_window.dialog()->cancelClicked();
+    takeDialog(QStringLiteral("dialog-video"));
     editPreset(QStringLiteral("audio"), QStringLiteral("MP3"), QStringLiteral("Audio_MP3_002"));
-    take(QStringLiteral("dialog-audio"), m_window.dialog()->window());
-    m_window.dialog()->cancelClicked();
+    takeDialog(QStringLiteral("dialog-audio"));
     m_window.converter().openSelectFormatMsgBox(
         {{QStringLiteral("showText"),
           ToolFun::text(
               QStringLiteral("The selected format cannot be deleted because it is in use."))}});
-    settle();
-    take(QStringLiteral("message"), m_window.dialog()->window());
-    m_window.dialog()->cancelClicked();
+    takeDialog(QStringLiteral("message"));
+}
+
+void Screenshots::takeOwnDialogs()
+{
+    Dialogs &dialogs = m_window.dialogs();
+    dialogs.showPreferences();
+    takeDialog(QStringLiteral("preferences"));
+    dialogs.showAbout();
+    takeDialog(QStringLiteral("about"));
+    dialogs.showLog(QStringLiteral("ffmpeg -i Holidays.mkv Holidays.mp4\n"
+                                   "Holidays.mkv: Invalid data found when processing input"));
+    takeDialog(QStringLiteral("log"));
+    dialogs.askAboutNames(m_window.converter().output(),
+                          {QStringLiteral("Holidays.mp4"), QStringLiteral("Lake at dawn.mp4")});
+    takeDialog(QStringLiteral("names-in-use"));
+
+    PresetActions &presets = m_window.presetActions();
+    const QString own = presets.duplicate(QStringLiteral("Video_MP4_005"));
+    presets.rename(own, QStringLiteral("Holidays for the tablet"));
+    dialogs.showPresetChanges(own);
+    takeDialog(QStringLiteral("preset-changes"));
+    const QString exported = m_work.filePath(QStringLiteral("presets.json"));
+    m_window.presetExchange().exportPresets({own}, exported);
+    m_window.presetExchange().preview({exported});
+    takeDialog(QStringLiteral("import"));
+    presets.remove(own);
+    m_window.converter().offer()->dismiss();
 }
 
 void Screenshots::takeTasks()
@@ -193,6 +224,9 @@ void Screenshots::takeTasks()
                                                      QStringLiteral("Video_MP4_004"));
     page.remove(tasks.tasks().at(3).id);
     take(QStringLiteral("converter-problem"));
+    press(Qt::Key_Menu);
+    take(QStringLiteral("task-menu"));
+    press(Qt::Key_Escape);
     page.undoRemoval();
     page.selection()->clear();
     const QString results = m_work.filePath(QStringLiteral("Converted"));
@@ -357,6 +391,13 @@ void Screenshots::take(const QString &name, QQuickWindow *window)
     if (!image.save(path)) {
         m_result = failed(QStringLiteral("can't write %1; name another folder").arg(path));
     }
+}
+
+void Screenshots::takeDialog(const QString &name)
+{
+    settle();
+    take(name, m_window.dialog()->window());
+    m_window.dialog()->cancelClicked();
 }
 
 } // namespace

@@ -52,6 +52,7 @@ public:
     QQuickWindow *window() const;
     /*! The open dialog; null if there is none. */
     DialogFrame *dialog() const { return m_dialogs.current(); }
+    Dialogs &dialogs() { return m_dialogs; }
     ConverterProxy &converter() const { return *m_converter; }
     EditorProxy &editor() const { return *m_editor; }
     WindowSettings &settings() const { return *m_settings; }
