@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListView>
@@ -173,10 +174,10 @@ void FileChooser::chooseMediaFolder(Page *page)
                   });
 }
 
-void FileChooser::chooseFolder(Page *page)
+void FileChooser::chooseFolder(OutputChoice *output)
 {
-    openForFolder(QStringLiteral("Choose folder"), page->folder(), page,
-                  [page](const QString &folder) { page->setFolder(folder); });
+    openForFolder(QStringLiteral("Choose folder"), output->folder(), output,
+                  [output](const QString &folder) { output->setFolder(folder); });
 }
 
 void FileChooser::choosePresetFiles(QObject *receiver,
@@ -203,7 +204,7 @@ void FileChooser::choosePresetTarget(const QString &name, QObject *receiver,
     open(dialog, receiver, [take](const QStringList &paths) { take(paths.constFirst()); });
 }
 
-void FileChooser::openForFolder(const QString &title, const QString &start, Page *page,
+void FileChooser::openForFolder(const QString &title, const QString &start, QObject *receiver,
                                 const std::function<void(const QString &)> &take)
 {
     auto *dialog = new QFileDialog(
@@ -211,7 +212,7 @@ void FileChooser::openForFolder(const QString &title, const QString &start, Page
         firstFolderOf(QStringList{start, m_settings->lastFolder()} + usualFolders()));
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    open(dialog, page, [take](const QStringList &paths) { take(paths.constFirst()); });
+    open(dialog, receiver, [take](const QStringList &paths) { take(paths.constFirst()); });
 }
 
 void FileChooser::open(QFileDialog *dialog, QObject *receiver,
@@ -227,27 +228,28 @@ void FileChooser::open(QFileDialog *dialog, QObject *receiver,
                 }
             });
     connect(dialog, &QFileDialog::filesSelected, receiver, take);
-    connect(dialog, &QDialog::finished, this, [this] {
-        if (m_window != nullptr) {
-            m_window->requestActivate();
+    QWindow *modal = QGuiApplication::modalWindow(); // such as the preferences
+    const QPointer<QWindow> window = modal == nullptr ? m_window.data() : modal;
+    connect(dialog, &QDialog::finished, this, [window] {
+        if (window != nullptr) {
+            window->requestActivate();
         }
     });
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::ApplicationModal);
-    placeOverWindow(dialog);
+    if (window != nullptr) {
+        placeOver(window, dialog);
+    }
     dialog->show();
 }
 
-void FileChooser::placeOverWindow(QFileDialog *dialog) const
+void FileChooser::placeOver(QWindow *window, QFileDialog *dialog)
 {
-    if (m_window == nullptr) {
-        return;
-    }
     dialog->winId(); // creates the dialog's QWindow
-    dialog->windowHandle()->setTransientParent(m_window);
-    const QRect screen = m_window->screen()->availableGeometry();
+    dialog->windowHandle()->setTransientParent(window);
+    const QRect screen = window->screen()->availableGeometry();
     QRect place(QPoint(), dialog->size().boundedTo(screen.size()));
-    place.moveCenter(m_window->geometry().center());
+    place.moveCenter(window->geometry().center());
     place.moveLeft(qBound(screen.left(), place.left(), screen.right() - place.width() + 1));
     place.moveTop(qBound(screen.top(), place.top(), screen.bottom() - place.height() + 1));
     dialog->setGeometry(place);

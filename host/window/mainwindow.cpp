@@ -2,6 +2,7 @@
 
 #include "host/window/appearance.h"
 #include "host/window/desktopfeedback.h"
+#include "host/window/outputchoice.h"
 #include "host/window/presetactions.h"
 #include "host/window/presetexchange.h"
 #include "host/window/presetfinder.h"
@@ -82,6 +83,7 @@ Result<> MainWindow::open()
     }
     m_settings =
         std::make_unique<WindowSettings>(m_store.filePath(QStringLiteral("vexconvert.ini")), this);
+    m_output = std::make_unique<OutputChoice>(*m_settings, std::nullopt, this);
     m_appearance = std::make_unique<Appearance>(*m_settings, this);
     m_presets = std::make_unique<Presets>(m_store);
     for (const PageKind page : {PageKind::Converter, PageKind::Editor}) {

@@ -16,6 +16,7 @@ class Appearance;
 class ConverterProxy;
 class DesktopFeedback;
 class EditorProxy;
+class OutputChoice;
 class Page;
 class PresetActions;
 class PresetExchange;
@@ -77,6 +78,7 @@ private:
     FileChooser m_files{this};
     Dialogs m_dialogs{this};
     std::unique_ptr<WindowSettings> m_settings;
+    std::unique_ptr<OutputChoice> m_output; // of both pages
     std::unique_ptr<Appearance> m_appearance;
     std::unique_ptr<Presets> m_presets;
     std::unique_ptr<ConverterProxy> m_converter;

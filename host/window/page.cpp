@@ -36,7 +36,6 @@ QStringList pathsOf(const QVector<SourceFile> &files)
 
 Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *parent)
     : QObject(parent)
-    , m_kind(kind)
     , m_settings(settings)
     , m_formats(kind, settings, presets, m_tasks)
     , m_output(kind, settings, m_tasks, m_formats)
@@ -51,7 +50,6 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     connect(&m_inspector, &Inspector::read, this, &Page::takeFacts);
     connect(&m_inspector, &Inspector::thumbnailReady, &m_tasks, &TaskList::setThumbnail);
     connect(&m_outlooks, &TaskOutlooks::known, this, &Page::renewOutlooks);
-    connect(this, &Page::folderChanged, this, &Page::renewOutlooks);
     connect(&m_output, &PageOutput::changed, this, &Page::renewOutlooks);
     connect(&m_output, &PageOutput::answered, &m_runner, &TaskRunner::convert);
     connect(&m_runner, &TaskRunner::started, &m_logs, &TaskLogs::begin);
@@ -66,17 +64,6 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     if (!folder().isEmpty()) {
         WorkFolder::sweep(folder());
     }
-}
-
-QString Page::folderText() const
-{
-    return visibleText(folder());
-}
-
-void Page::setFolder(const QString &folder)
-{
-    m_settings.setFolder(m_kind, folder);
-    Q_EMIT folderChanged();
 }
 
 Outlook Page::outlook(int taskId, const QString & /*format*/, double /*start*/, double /*end*/,

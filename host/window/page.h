@@ -29,7 +29,6 @@ class Page : public QObject
     Q_PROPERTY(Offer *offer READ offer CONSTANT)
     Q_PROPERTY(QString globalCaption READ globalCaption NOTIFY globalFormatChanged)
     Q_PROPERTY(QString globalIcon READ globalIcon NOTIFY globalFormatChanged)
-    Q_PROPERTY(QString folder READ folderText WRITE setFolder NOTIFY folderChanged)
     Q_PROPERTY(PageOutput *output READ output CONSTANT)
     Q_PROPERTY(TaskLogs *logs READ logs CONSTANT)
     Q_PROPERTY(TaskTracks *tracks READ tracks CONSTANT)
@@ -56,10 +55,8 @@ public:
     QString globalCaption() const { return m_formats.globalCaption(); }
     QString globalIcon() const { return m_formats.globalIcon(); }
     /*! The output folder; empty: beside each source. */
-    QString folder() const { return m_settings.folder(m_kind); }
-    /*! The same, for display. */
-    QString folderText() const;
-    void setFolder(const QString &folder);
+    QString folder() const { return m_output.folder(); }
+    void setFolder(const QString &folder) { m_output.setFolder(folder); }
     /*! Whether any task is running or waiting. */
     bool isBusy() const { return m_runner.isBusy(); }
     bool isPaused() const { return m_runner.isPaused(); }
@@ -144,7 +141,6 @@ public:
 
 Q_SIGNALS:
     void globalFormatChanged();
-    void folderChanged();
     void queueChanged();
     void pauseChanged();
     void overallChanged();
@@ -177,7 +173,6 @@ private:
     void offerAgain();
     void renewOutlooks();
 
-    const PageKind m_kind;
     WindowSettings &m_settings;
     TaskList m_tasks;
     TaskSelection m_selection{m_tasks};

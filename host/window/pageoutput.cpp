@@ -31,48 +31,10 @@ OutputTarget::IfExists ifExistsOf(WindowSettings::IfInUse ifInUse)
 
 PageOutput::PageOutput(PageKind page, WindowSettings &settings, const TaskList &tasks,
                        const TaskFormats &formats)
-    : m_page(page)
-    , m_settings(settings)
+    : OutputChoice(settings, page)
     , m_tasks(tasks)
     , m_formats(formats)
 {}
-
-void PageOutput::setNameTemplate(const QString &nameTemplate)
-{
-    if (mistakeIn(nameTemplate).isEmpty()) {
-        m_settings.setNameTemplate(m_page, nameTemplate);
-        Q_EMIT changed();
-    }
-}
-
-void PageOutput::setIfInUse(int ifInUse)
-{
-    m_settings.setIfInUse(m_page, WindowSettings::IfInUse(ifInUse));
-    Q_EMIT changed();
-}
-
-void PageOutput::setKeepsTree(bool keepsTree)
-{
-    m_settings.setKeepsTree(m_page, keepsTree);
-    Q_EMIT changed();
-}
-
-QString PageOutput::fields() const
-{
-    return QStringLiteral("{%1}").arg(nameFields().join(QStringLiteral("} {")));
-}
-
-QString PageOutput::mistakeIn(const QString &nameTemplate) const
-{
-    if (nameTemplate.contains(QLatin1Char('/'))) {
-        return ToolFun::text(
-            QStringLiteral("A name has no \"/\"; choose the folder in \"Save to\""));
-    }
-    const QString unknown = NameTemplate::unknownField(nameTemplate, nameFields());
-    return unknown.isNull() ? QString()
-                            : ToolFun::text(QStringLiteral("There is no field {%1}; use %2"))
-                                  .arg(visibleText(unknown), fields());
-}
 
 QString PageOutput::preview(const QString &nameTemplate) const
 {
@@ -90,14 +52,14 @@ QString PageOutput::preview(const QString &nameTemplate) const
 bool PageOutput::prepare(const QVector<int> &taskIds)
 {
     const QSet<int> ids(taskIds.begin(), taskIds.end());
-    const WindowSettings::IfInUse ifInUse = m_settings.ifInUse(m_page);
-    const QStringList inUse = ifInUse == WindowSettings::Ask ? namesInUse(ids) : QStringList();
+    const auto wanted = WindowSettings::IfInUse(ifInUse());
+    const QStringList inUse = wanted == WindowSettings::Ask ? namesInUse(ids) : QStringList();
     if (!inUse.isEmpty()) {
         m_asked = taskIds;
         Q_EMIT asked(inUse);
         return false;
     }
-    begin(ids, ifInUse);
+    begin(ids, wanted);
     return true;
 }
 
@@ -110,14 +72,13 @@ void PageOutput::answer(int ifInUse)
 
 OutputTarget PageOutput::targetFor(const Task &task) const
 {
-    return targetOf(task, m_ifInUse.value(task.id, m_settings.ifInUse(m_page)));
+    return targetOf(task, m_ifInUse.value(task.id, WindowSettings::IfInUse(ifInUse())));
 }
 
 QString PageOutput::folderFor(const Task &task) const
 {
-    const QString folder = m_settings.folder(m_page);
-    const bool isBelow = !folder.isEmpty() && keepsTree() && !task.subfolder.isEmpty();
-    return isBelow ? folder + QLatin1Char('/') + task.subfolder : folder;
+    const bool isBelow = !folder().isEmpty() && keepsTree() && !task.subfolder.isEmpty();
+    return isBelow ? folder() + QLatin1Char('/') + task.subfolder : folder();
 }
 
 OutputTarget PageOutput::targetOf(const Task &task, WindowSettings::IfInUse ifInUse) const
@@ -125,7 +86,7 @@ OutputTarget PageOutput::targetOf(const Task &task, WindowSettings::IfInUse ifIn
     OutputTarget target;
     target.folder = folderFor(task);
     // A folder that is gone, such as one of a drive that was removed, isn't made again.
-    target.makesFolder = QFileInfo(m_settings.folder(m_page)).isDir();
+    target.makesFolder = QFileInfo(folder()).isDir();
     const Result<NameTemplate> name = NameTemplate::fromText(nameTemplate(), nameFields());
     if (name) {
         target.name = *name;

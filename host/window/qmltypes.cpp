@@ -38,6 +38,7 @@ int registerTypes()
     registerSingleton<ExposedNotices>();
     registerSingleton<ExposedAppearance>();
     registerSingleton<ExposedWindowSettings>();
+    registerSingleton<ExposedOutputChoice>();
     registerSingleton<ExposedConverterProxy>();
     registerSingleton<ExposedEditorProxy>();
     registerSingleton<ExposedPresetFinder>();

@@ -67,6 +67,15 @@ struct ExposedWindowSettings
     QML_SINGLETON
 };
 
+/*! The one for both pages; the pages' own ones have the same type. */
+struct ExposedOutputChoice
+{
+    Q_GADGET
+    QML_FOREIGN(OutputChoice)
+    QML_NAMED_ELEMENT(OutputChoice)
+    QML_SINGLETON
+};
+
 struct ExposedConverterProxy
 {
     Q_GADGET

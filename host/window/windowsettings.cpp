@@ -10,6 +10,11 @@ QString key(PageKind page, const char *name)
            QLatin1String(name);
 }
 
+QString outputKey(const char *name)
+{
+    return QLatin1String("output/") + QLatin1String(name);
+}
+
 QString lastKey(bool hasVideo)
 {
     return hasVideo ? QStringLiteral("lastVideoId") : QStringLiteral("lastAudioId");
@@ -69,45 +74,46 @@ void WindowSettings::setLastId(bool hasVideo, const QString &id)
     }
 }
 
-QString WindowSettings::folder(PageKind page) const
+QString WindowSettings::folder(std::optional<PageKind> page) const
 {
-    return m_file.value(key(page, "folder")).toString();
+    return output(page, "folder").toString();
 }
 
-void WindowSettings::setFolder(PageKind page, const QString &folder)
+void WindowSettings::setFolder(std::optional<PageKind> page, const QString &folder)
 {
-    write(key(page, "folder"), folder);
+    setOutput(page, "folder", folder);
 }
 
-QString WindowSettings::nameTemplate(PageKind page) const
+QString WindowSettings::nameTemplate(std::optional<PageKind> page) const
 {
-    return m_file.value(key(page, "names")).toString();
+    return output(page, "names").toString();
 }
 
-void WindowSettings::setNameTemplate(PageKind page, const QString &nameTemplate)
+void WindowSettings::setNameTemplate(std::optional<PageKind> page, const QString &nameTemplate)
 {
-    write(key(page, "names"), nameTemplate);
+    setOutput(page, "names", nameTemplate);
 }
 
-WindowSettings::IfInUse WindowSettings::ifInUse(PageKind page) const
+WindowSettings::IfInUse WindowSettings::ifInUse(std::optional<PageKind> page) const
 {
-    const int known = ifInUseWords().indexOf(m_file.value(key(page, "ifExists")).toString());
+    const int known = ifInUseWords().indexOf(output(page, "ifExists").toString());
     return known < 0 ? Rename : IfInUse(known);
 }
 
-void WindowSettings::setIfInUse(PageKind page, IfInUse ifInUse)
+void WindowSettings::setIfInUse(std::optional<PageKind> page, IfInUse ifInUse)
 {
-    write(key(page, "ifExists"), ifInUseWords().at(int(ifInUse)));
+    setOutput(page, "ifExists", ifInUseWords().at(int(ifInUse)));
 }
 
-bool WindowSettings::keepsTree(PageKind page) const
+bool WindowSettings::keepsTree(std::optional<PageKind> page) const
 {
-    return m_file.value(key(page, "keepTree"), true).toBool();
+    const QVariant keepsTree = output(page, "keepTree");
+    return keepsTree.isNull() || keepsTree.toBool();
 }
 
-void WindowSettings::setKeepsTree(PageKind page, bool keepsTree)
+void WindowSettings::setKeepsTree(std::optional<PageKind> page, bool keepsTree)
 {
-    write(key(page, "keepTree"), keepsTree);
+    setOutput(page, "keepTree", keepsTree);
 }
 
 WindowSettings::ThemeChoice WindowSettings::theme() const
@@ -201,6 +207,23 @@ void WindowSettings::setPlace(const QRect &place, bool isMaximised)
 {
     m_file.setValue(QStringLiteral("window/place"), place);
     write(QStringLiteral("window/maximised"), isMaximised);
+}
+
+QVariant WindowSettings::output(std::optional<PageKind> page, const char *name) const
+{
+    const QVariant ofBoth = m_file.value(outputKey(name));
+    return page ? m_file.value(key(*page, name), ofBoth) : ofBoth;
+}
+
+void WindowSettings::setOutput(std::optional<PageKind> page, const char *name,
+                               const QVariant &value)
+{
+    if (!page) {
+        m_file.remove(key(PageKind::Converter, name));
+        m_file.remove(key(PageKind::Editor, name));
+    }
+    write(page ? key(*page, name) : outputKey(name), value);
+    Q_EMIT outputChanged();
 }
 
 void WindowSettings::write(const QString &key, const QVariant &value)

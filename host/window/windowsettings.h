@@ -7,6 +7,8 @@
 #include <QSettings>
 #include <QString>
 
+#include <optional>
+
 enum class PageKind { Converter, Editor };
 
 /*! The window's persistent settings; the library's screens call it "O_Setting". */
@@ -46,22 +48,25 @@ public:
     /*! Takes the place of a preset that this catalogue lacks until another is chosen. Not kept, as
      *  the next start may find the preset. */
     void standIn(PageKind page, const QString &id) { m_standIns.insert(page, id); }
-    /*! The page's output folder; empty: beside each source. */
-    QString folder(PageKind page) const;
-    void setFolder(PageKind page, const QString &folder);
 
     /*! The preset chosen last of those for video, or of those for audio alone. */
     QString lastId(bool hasVideo) const;
     void setLastId(bool hasVideo, const QString &id);
 
-    /*! The names of the page's results, with nameFields(); empty: the source's. */
-    QString nameTemplate(PageKind page) const;
-    void setNameTemplate(PageKind page, const QString &nameTemplate);
-    IfInUse ifInUse(PageKind page) const;
-    void setIfInUse(PageKind page, IfInUse ifInUse);
-    /*! Whether the page's output folder gets the subfolders of an added folder. */
-    bool keepsTree(PageKind page) const;
-    void setKeepsTree(PageKind page, bool keepsTree);
+    // The output of a page or, without one, of both pages: what is set for both replaces what the
+    // pages had of their own.
+
+    /*! The output folder; empty: beside each source. */
+    QString folder(std::optional<PageKind> page) const;
+    void setFolder(std::optional<PageKind> page, const QString &folder);
+    /*! The names of the results, with nameFields(); empty: the source's. */
+    QString nameTemplate(std::optional<PageKind> page) const;
+    void setNameTemplate(std::optional<PageKind> page, const QString &nameTemplate);
+    IfInUse ifInUse(std::optional<PageKind> page) const;
+    void setIfInUse(std::optional<PageKind> page, IfInUse ifInUse);
+    /*! Whether the output folder gets the subfolders of an added folder. */
+    bool keepsTree(std::optional<PageKind> page) const;
+    void setKeepsTree(std::optional<PageKind> page, bool keepsTree);
 
     ThemeChoice theme() const;
     void setTheme(ThemeChoice theme);
@@ -97,6 +102,8 @@ public:
 Q_SIGNALS:
     void converterGlobalIdChanged();
     void editorGlobalIdChanged();
+    /*! Of any page. */
+    void outputChanged();
     void themeChanged();
     void stillChanged();
     void languageChanged();
@@ -105,6 +112,9 @@ Q_SIGNALS:
     void samplingChanged();
 
 private:
+    /*! A page without a value of its own has that of both. */
+    QVariant output(std::optional<PageKind> page, const char *name) const;
+    void setOutput(std::optional<PageKind> page, const char *name, const QVariant &value);
     void write(const QString &key, const QVariant &value);
 
     QSettings m_file;

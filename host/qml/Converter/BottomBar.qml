@@ -17,11 +17,6 @@ Rectangle {
     signal formatClicked()
     signal finderClicked()
 
-    function folderName(path) {
-        return path === "" ? ToolFun.tr("Same folder as the source")
-                           : path.slice(path.lastIndexOf("/") + 1)
-    }
-
     readonly property bool isNarrow: root.width < 960
 
     implicitHeight: 72
@@ -84,7 +79,7 @@ Rectangle {
         color: Theme.font_color_grade4
     }
 
-    VEXButton {
+    FolderButton {
         id: folderButton
 
         anchors {
@@ -94,17 +89,7 @@ Rectangle {
         }
         width: Math.min(320, root.width - x - buttons.width - convertButton.width
                              - Theme.spacing - 2 * Theme.wideMargin)
-        minWidth: 0
-        leftPadding: Theme.spacing
-        rightPadding: Theme.spacing
-        text: root.folderName(root.page.folder)
-        Accessible.name: folderLabel.text + " " + folderButton.text
-        onClicked: FileChooser.chooseFolder(root.page)
-
-        VEXHint {
-            shown: folderButton.hovered
-            text: root.page.folder
-        }
+        output: root.page.output
     }
 
     Row {
@@ -120,10 +105,10 @@ Rectangle {
         VEXImageButton {
             width: 24
             height: 24
-            visible: root.page.folder !== ""
+            visible: root.page.output.folder !== ""
             iconSource: "qrc:/window/images/close.svg"
             Accessible.name: ToolFun.tr("Same folder as the source")
-            onClicked: root.page.folder = ""
+            onClicked: root.page.output.folder = ""
         }
 
         VEXImageButton {

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import Controls 1.0
+import Converter 1.0
 import MessageBox 1.0
 import Public 1.0
 import VexTheme 1.0
@@ -13,7 +14,15 @@ VEXContent {
     readonly property var languages: [""].concat(root.info["codes"])
     readonly property var jobs: [0, 1, 2, 3, 4, 6, 8]
 
-    component Choice: Row {
+    readonly property int columnWidth: 324
+
+    component Caption: VEXLabel {
+        width: root.columnWidth
+        font.pixelSize: Theme.smallText
+        color: Theme.font_color_grade4
+    }
+
+    component Choice: Column {
         id: choice
 
         required property string caption
@@ -22,29 +31,26 @@ VEXContent {
 
         signal chosen(int index)
 
-        spacing: Theme.spacing
+        spacing: 4
 
-        VEXLabel {
-            width: 190
-            height: Theme.smallControlHeight
+        Caption {
             text: choice.caption
-            wrapMode: Text.WordWrap
-            maximumLineCount: 2
-            font.pixelSize: Theme.smallText
         }
 
         VEXComboBox {
             id: box
 
-            width: 240
+            width: root.columnWidth
             model: choice.words
             Accessible.name: choice.caption
             onActivated: choice.chosen(box.currentIndex)
         }
     }
 
-    width: 190 + 240 + Theme.spacing + 2 * Theme.wideMargin
-    height: 40 + 24 + content.implicitHeight + 24 + 56
+    width: 2 * root.columnWidth + columns.spacing + 2 * Theme.wideMargin
+    height: titleBar.height + columns.implicitHeight + 2 * Theme.margin + 52
+    // What is wrong with a name may need another line.
+    onHeightChanged: root.frame.resizeWinSize(root.width, root.height)
     focus: true
     Accessible.role: Accessible.Dialog
     Accessible.name: titleBar.text
@@ -57,66 +63,124 @@ VEXContent {
         text: ToolFun.tr("Preferences")
     }
 
-    Column {
-        id: content
+    Row {
+        id: columns
 
         anchors {
             left: parent.left
-            right: parent.right
-            margins: Theme.wideMargin
+            leftMargin: Theme.wideMargin
             top: titleBar.bottom
+            topMargin: Theme.margin
         }
-        spacing: Theme.spacing
+        spacing: Theme.wideMargin
 
-        Choice {
-            caption: ToolFun.tr("Theme")
-            // In the order of Settings.ThemeChoice.
-            words: [ToolFun.tr("As the desktop"), ToolFun.tr("Light"), ToolFun.tr("Dark")]
-            current: Settings.theme
-            onChosen: function (index) { Settings.theme = index }
+        Column {
+            spacing: Theme.spacing
+
+            Choice {
+                caption: ToolFun.tr("Theme")
+                // In the order of Settings.ThemeChoice.
+                words: [ToolFun.tr("As the desktop"), ToolFun.tr("Light"), ToolFun.tr("Dark")]
+                current: Settings.theme
+                onChosen: function (index) { Settings.theme = index }
+            }
+
+            Choice {
+                caption: ToolFun.tr("Language (from the next start)")
+                words: [ToolFun.tr("As the desktop")].concat(root.info["names"])
+                current: Math.max(0, root.languages.indexOf(Settings.language))
+                onChosen: function (index) { Settings.language = root.languages[index] }
+            }
+
+            Choice {
+                caption: ToolFun.tr("Conversions at a time")
+                words: root.jobs.map(function (count) {
+                    return count === 0 ? ToolFun.tr("As many as suit this machine") : String(count)
+                })
+                current: Math.max(0, root.jobs.indexOf(Settings.jobs))
+                onChosen: function (index) { Settings.jobs = root.jobs[index] }
+            }
+
+            VEXCheckBox {
+                id: notifying
+
+                width: root.columnWidth
+                text: ToolFun.tr("Tell me when all files are converted")
+                checked: Settings.isNotifying
+                onToggled: Settings.isNotifying = notifying.checked
+            }
+
+            VEXCheckBox {
+                id: sampling
+
+                width: root.columnWidth
+                text: ToolFun.tr("Estimate sizes from short samples")
+                checked: Settings.isSampling
+                onToggled: Settings.isSampling = sampling.checked
+            }
+
+            VEXCheckBox {
+                id: still
+
+                width: root.columnWidth
+                text: ToolFun.tr("Show no animations")
+                checked: Settings.isStill
+                onToggled: Settings.isStill = still.checked
+            }
         }
 
-        Choice {
-            caption: ToolFun.tr("Language (from the next start)")
-            words: [ToolFun.tr("As the desktop")].concat(root.info["names"])
-            current: Math.max(0, root.languages.indexOf(Settings.language))
-            onChosen: function (index) { Settings.language = root.languages[index] }
-        }
+        Column {
+            spacing: 4
 
-        Choice {
-            caption: ToolFun.tr("Conversions at a time")
-            words: root.jobs.map(function (count) {
-                return count === 0 ? ToolFun.tr("As many as suit this machine") : String(count)
-            })
-            current: Math.max(0, root.jobs.indexOf(Settings.jobs))
-            onChosen: function (index) { Settings.jobs = root.jobs[index] }
-        }
+            Caption {
+                elide: Text.ElideNone
+                wrapMode: Text.WordWrap
+                text: ToolFun.tr("For both pages; below its list, each can have its own")
+            }
 
-        VEXCheckBox {
-            id: notifying
+            Caption {
+                topPadding: Theme.spacing - 4
+                text: ToolFun.tr("Save to")
+            }
 
-            width: parent.width
-            text: ToolFun.tr("Tell me when all files are converted")
-            checked: Settings.isNotifying
-            onToggled: Settings.isNotifying = notifying.checked
-        }
+            Row {
+                spacing: Theme.spacing
 
-        VEXCheckBox {
-            id: sampling
+                FolderButton {
+                    width: root.columnWidth - (sameFolder.visible
+                                               ? sameFolder.width + parent.spacing : 0)
+                    implicitHeight: Theme.smallControlHeight
+                    font.pixelSize: Theme.smallText
+                    output: OutputChoice
+                }
 
-            width: parent.width
-            text: ToolFun.tr("Estimate sizes from short samples")
-            checked: Settings.isSampling
-            onToggled: Settings.isSampling = sampling.checked
-        }
+                VEXImageButton {
+                    id: sameFolder
 
-        VEXCheckBox {
-            id: still
+                    width: 24
+                    height: Theme.smallControlHeight
+                    visible: OutputChoice.folder !== ""
+                    iconSource: "qrc:/window/images/close.svg"
+                    Accessible.name: ToolFun.tr("Same folder as the source")
+                    onClicked: OutputChoice.folder = ""
+                }
+            }
 
-            width: parent.width
-            text: ToolFun.tr("Show no animations")
-            checked: Settings.isStill
-            onToggled: Settings.isStill = still.checked
+            Caption {
+                visible: text !== ""
+                elide: Text.ElideNone
+                wrapMode: Text.WordWrap
+                text: OutputChoice.folderMistake
+                color: Theme.danger
+            }
+
+            OutputFields {
+                topPadding: Theme.spacing - 4
+                width: root.columnWidth
+                output: OutputChoice
+                page: ConverterProxy
+                Component.onCompleted: renew()
+            }
         }
     }
 

@@ -30,10 +30,10 @@ void PageTest::cleanup()
     m_converter.reset();
     m_editor.reset();
     m_files.reset();
-    m_settings->setFolder(PageKind::Converter, QString());
-    m_settings->setNameTemplate(PageKind::Converter, QString());
-    m_settings->setIfInUse(PageKind::Converter, WindowSettings::Rename);
-    m_settings->setKeepsTree(PageKind::Converter, true);
+    m_settings->setFolder(std::nullopt, QString());
+    m_settings->setNameTemplate(std::nullopt, QString());
+    m_settings->setIfInUse(std::nullopt, WindowSettings::Rename);
+    m_settings->setKeepsTree(std::nullopt, true);
 }
 
 QUrl PageTest::song(const QString &name)

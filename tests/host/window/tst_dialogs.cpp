@@ -28,6 +28,9 @@ private Q_SLOTS:
     void cleanup();
 
     void preferencesHoldAtOnce();
+    void preferencesNameTheResultsOfBothPages();
+    void preferencesFitTheSmallestScreen_data();
+    void preferencesFitTheSmallestScreen();
     void aboutNamesVersionsAndLicences();
     void aFailedRowShowsItsLog();
     void namesInUseAreAskedAbout();
@@ -69,6 +72,7 @@ void TestDialogs::cleanup()
 {
     m_main.reset();
     QFile::remove(path("song.mp3"));
+    Languages::install(QStringLiteral("en"));
     QCOMPARE(takeWarnings(), QString());
 }
 
@@ -107,6 +111,59 @@ void TestDialogs::preferencesHoldAtOnce()
     QVERIFY(m_window->property("color").value<QColor>().lightness() < 128);
     QVERIFY(click(preferences, QStringLiteral("Close")));
     QTRY_VERIFY(m_main->dialog() == nullptr);
+}
+
+void TestDialogs::preferencesNameTheResultsOfBothPages()
+{
+    m_main->converter().output()->setNameTemplate(QStringLiteral("{name} large"));
+    QQuickWindow *preferences = openBy(Qt::Key_Comma);
+    QVERIFY(preferences != nullptr);
+    QCOMPARE(m_main->converter().output()->nameTemplate(), QStringLiteral("{name} large"));
+    QVERIFY(click(preferences, QStringLiteral("Names"), 1)); // after its caption
+    type(preferences, QStringLiteral("{n} {siz"));
+    type(preferences, QStringLiteral("e}"));
+    QTRY_VERIFY(allTexts(preferences->contentItem())
+                    .contains(QStringLiteral("There is no field {size}; use {name}")));
+    QCOMPARE(m_main->editor().output()->nameTemplate(), QStringLiteral("{n} {size"));
+    for (int i = 0; i < 6; ++i) {
+        QTest::keyClick(preferences, Qt::Key_Backspace);
+    }
+    type(preferences, QStringLiteral("{name}"));
+    QTRY_VERIFY(allTexts(preferences->contentItem()).contains(QStringLiteral("1 Holidays.")));
+    QCOMPARE(m_main->converter().output()->nameTemplate(), QStringLiteral("{n} {name}"));
+    QCOMPARE(m_main->editor().output()->nameTemplate(), QStringLiteral("{n} {name}"));
+
+    QVERIFY(click(preferences, QStringLiteral("If a name is in use"), 1));
+    QTest::keyClick(preferences, Qt::Key_Down);
+    QTest::keyClick(preferences, Qt::Key_Return);
+    QTRY_COMPARE(m_main->editor().output()->ifInUse(), int(WindowSettings::Ask));
+    QCOMPARE(m_main->converter().output()->ifInUse(), int(WindowSettings::Ask));
+}
+
+void TestDialogs::preferencesFitTheSmallestScreen_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : Languages::all()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+void TestDialogs::preferencesFitTheSmallestScreen()
+{
+    QFETCH(QString, language);
+    Languages::install(language);
+    m_main->settings().setFolder(std::nullopt, path("gone"));
+    QQuickWindow *preferences = openBy(Qt::Key_Comma);
+    QVERIFY(preferences != nullptr);
+    QVERIFY(click(preferences, ToolFun::text(QStringLiteral("Names")), 1));
+    type(preferences, QStringLiteral("{resolution}"));
+    const OutputChoice &output = *m_main->converter().output();
+    for (const QString &mistake :
+         {output.folderMistake(), output.mistakeIn(QStringLiteral("{resolution}"))}) {
+        QTRY_VERIFY2(allTexts(preferences->contentItem()).contains(mistake), qPrintable(mistake));
+    }
+    QVERIFY(preferences->width() <= 760);
+    QVERIFY(preferences->height() <= 480);
 }
 
 void TestDialogs::aboutNamesVersionsAndLicences()

@@ -115,6 +115,7 @@ private Q_SLOTS:
     void theOutputFolderIsChosenByMouse();
     void theOutputFolderIsTypedByKeyboard();
     void theFolderDialogStartsInTheCurrentFolder();
+    void theFolderOfBothPagesIsChosenInThePreferences();
 
 private:
     QStringList names() const;
@@ -406,6 +407,28 @@ void TestFileChooser::theFolderDialogStartsInTheCurrentFolder()
     dialog = openDialog();
     QVERIFY(dialog != nullptr);
     QCOMPARE(dialog->directory().path(), m_home->path());
+}
+
+void TestFileChooser::theFolderOfBothPagesIsChosenInThePreferences()
+{
+    QVERIFY(click(m_window, QStringLiteral("Preferences")));
+    QTRY_VERIFY_WITH_TIMEOUT(m_main->dialog() != nullptr, patience);
+    QQuickWindow *preferences = m_main->dialog()->window();
+    QVERIFY(QTest::qWaitForWindowActive(preferences));
+    QVERIFY(click(preferences, QStringLiteral("Save to: Same folder as the source")));
+    const QFileDialog *dialog = openDialog();
+    QVERIFY(dialog != nullptr);
+    QCOMPARE(dialog->windowHandle()->transientParent(), preferences);
+    QVERIFY(clickFile(dialog, QStringLiteral("results"), Qt::NoModifier));
+    clickButton(dialog, QDialogButtonBox::Open);
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->editor().folder(), homePath("results"), patience);
+    QCOMPARE(m_main->converter().folder(), homePath("results"));
+    QTRY_VERIFY_WITH_TIMEOUT(QApplication::activeModalWidget() == nullptr, patience);
+    QVERIFY(QTest::qWaitForWindowActive(preferences));
+
+    QVERIFY(click(preferences, QStringLiteral("Same folder as the source")));
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->editor().folder(), QString(), patience);
+    QCOMPARE(m_main->converter().folder(), QString());
 }
 
 QTEST_MAIN(TestFileChooser)
