@@ -828,6 +828,14 @@
         <translation>%1 ist der späteste mögliche Zeitpunkt</translation>
     </message>
     <message>
+        <source>For both pages; below its list, each can have its own</source>
+        <translation>Für beide Seiten; unter ihrer Liste kann jede etwas anderes wählen</translation>
+    </message>
+    <message>
+        <source>This folder isn&apos;t there; choose another one</source>
+        <translation>Diesen Ordner gibt es nicht; wählen Sie einen anderen</translation>
+    </message>
+    <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
         <translation>Ein Name enthält kein „/“; wählen Sie den Ordner bei „Speichern in“</translation>
     </message>

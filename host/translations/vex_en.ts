@@ -828,6 +828,14 @@
         <translation>%1 is the latest possible time</translation>
     </message>
     <message>
+        <source>For both pages; below its list, each can have its own</source>
+        <translation>For both pages; below its list, each can have its own</translation>
+    </message>
+    <message>
+        <source>This folder isn&apos;t there; choose another one</source>
+        <translation>This folder isn’t there; choose another one</translation>
+    </message>
+    <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
         <translation>A name has no “/”; choose the folder in “Save to”</translation>
     </message>

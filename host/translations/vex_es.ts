@@ -828,6 +828,14 @@
         <translation>%1 es el último momento posible</translation>
     </message>
     <message>
+        <source>For both pages; below its list, each can have its own</source>
+        <translation>Para ambas páginas; cada una puede tener otros ajustes bajo su lista</translation>
+    </message>
+    <message>
+        <source>This folder isn&apos;t there; choose another one</source>
+        <translation>Esta carpeta no existe; elija otra</translation>
+    </message>
+    <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
         <translation>Un nombre no contiene «/»; elija la carpeta en «Guardar en»</translation>
     </message>

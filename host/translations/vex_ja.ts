@@ -828,6 +828,14 @@
         <translation>%1 が最も遅い時刻です</translation>
     </message>
     <message>
+        <source>For both pages; below its list, each can have its own</source>
+        <translation>両方のページに適用されます。各ページのリストの下で個別に変更できます</translation>
+    </message>
+    <message>
+        <source>This folder isn&apos;t there; choose another one</source>
+        <translation>このフォルダーはありません。別のフォルダーを選んでください</translation>
+    </message>
+    <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
         <translation>名前に「/」は使えません。フォルダは「保存先」で選んでください</translation>
     </message>

@@ -828,6 +828,14 @@
         <translation>最晚可用时间是 %1</translation>
     </message>
     <message>
+        <source>For both pages; below its list, each can have its own</source>
+        <translation>适用于两个页面；每个页面可在其列表下方单独设置</translation>
+    </message>
+    <message>
+        <source>This folder isn&apos;t there; choose another one</source>
+        <translation>此文件夹不存在；请选择其他文件夹</translation>
+    </message>
+    <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
         <translation>名称中不能有“/”；请在“保存到”中选择文件夹</translation>
     </message>
