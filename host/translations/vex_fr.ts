@@ -1021,23 +1021,23 @@
     </message>
     <message>
         <source>%1 is a picture; add video or audio files</source>
-        <translation>%1 est une image ; ajoutez des fichiers vidéo ou audio</translation>
+        <translation>%1 est une image ; ajoutez des fichiers vidéo ou audio</translation>
     </message>
     <message>
         <source>%1 is a playlist; add the files that it names instead</source>
-        <translation>%1 est une liste de lecture ; ajoutez plutôt les fichiers qu’elle contient</translation>
+        <translation>%1 est une liste de lecture ; ajoutez plutôt les fichiers qu’elle contient</translation>
     </message>
     <message>
         <source>%1 is not on this computer; download it first and add the file</source>
-        <translation>%1 n’est pas sur cet ordinateur ; téléchargez-le d’abord, puis ajoutez le fichier</translation>
+        <translation>%1 n’est pas sur cet ordinateur ; téléchargez-le d’abord, puis ajoutez le fichier</translation>
     </message>
     <message>
         <source>There is no file %1 any more; convert it again</source>
-        <translation>Le fichier %1 n’existe plus ; convertissez-le à nouveau</translation>
+        <translation>Le fichier %1 n’existe plus ; convertissez-le à nouveau</translation>
     </message>
     <message>
         <source>No player could be started for %1; open it by hand</source>
-        <translation>Aucun lecteur n’a pu être lancé pour %1 ; ouvrez-le à la main</translation>
+        <translation>Aucun lecteur n’a pu être lancé pour %1 ; ouvrez-le à la main</translation>
     </message>
     <message>
         <source>%1 files</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Already in the list: %1</source>
-        <translation>Déjà dans la liste : %1</translation>
+        <translation>Déjà dans la liste : %1</translation>
     </message>
     <message>
         <source>Add again</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Removed: %1</source>
-        <translation>Retiré : %1</translation>
+        <translation>Retiré : %1</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Converted already: %1</source>
-        <translation>Déjà converti : %1</translation>
+        <translation>Déjà converti : %1</translation>
     </message>
     <message>
         <source>Convert again</source>
@@ -1069,7 +1069,7 @@
     </message>
     <message>
         <source>VexConvert was closed while it converted; Convert All goes on with what is left</source>
-        <translation>VexConvert a été fermé pendant la conversion ; « Tout convertir » reprend ce qui reste</translation>
+        <translation>VexConvert a été fermé pendant la conversion ; « Tout convertir » reprend ce qui reste</translation>
     </message>
     <message>
         <source>about %1</source>
@@ -1081,11 +1081,11 @@
     </message>
     <message>
         <source>Files converted: %1</source>
-        <translation>Fichiers convertis : %1</translation>
+        <translation>Fichiers convertis : %1</translation>
     </message>
     <message>
         <source>failed: %1</source>
-        <translation>en échec : %1</translation>
+        <translation>en échec : %1</translation>
     </message>
     <message>
         <source>Interrupted</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Choose a format …</source>
-        <translation>Choisir un format …</translation>
+        <translation>Choisir un format…</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -1145,7 +1145,7 @@
     </message>
     <message>
         <source>Files: %1</source>
-        <translation>Fichiers : %1</translation>
+        <translation>Fichiers : %1</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -1161,11 +1161,11 @@
     </message>
     <message>
         <source>Stop converting?</source>
-        <translation>Arrêter la conversion ?</translation>
+        <translation>Arrêter la conversion ?</translation>
     </message>
     <message>
         <source>The list is kept: you can convert the rest the next time.</source>
-        <translation>La liste est conservée : vous pourrez convertir le reste la prochaine fois.</translation>
+        <translation>La liste est conservée : vous pourrez convertir le reste la prochaine fois.</translation>
     </message>
     <message>
         <source>Stop and close</source>
@@ -1241,11 +1241,11 @@
     </message>
     <message>
         <source>Found by: %1</source>
-        <translation>Trouvé par : %1</translation>
+        <translation>Trouvé par : %1</translation>
     </message>
     <message>
         <source>Can’t be used: %1</source>
-        <translation>Inutilisable : %1</translation>
+        <translation>Inutilisable : %1</translation>
     </message>
     <message>
         <source>Remove from the favorites</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>Import presets …</source>
-        <translation>Importer des préréglages …</translation>
+        <translation>Importer des préréglages…</translation>
     </message>
     <message>
         <source>Import presets</source>
@@ -1285,11 +1285,11 @@
     </message>
     <message>
         <source>Export all my presets …</source>
-        <translation>Exporter tous les miens …</translation>
+        <translation>Exporter tous les miens…</translation>
     </message>
     <message>
         <source>For the selected files: %1</source>
-        <translation>Pour les fichiers sélectionnés : %1</translation>
+        <translation>Pour les fichiers sélectionnés : %1</translation>
     </message>
     <message>
         <source>For all files</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Presets: %1</source>
-        <translation>Préréglages : %1</translation>
+        <translation>Préréglages : %1</translation>
     </message>
     <message>
         <source>Note</source>
@@ -1305,7 +1305,7 @@
     </message>
     <message>
         <source>Note …</source>
-        <translation>Note …</translation>
+        <translation>Note…</translation>
     </message>
     <message>
         <source>Use this preset</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message>
         <source>What has been changed …</source>
-        <translation>Ce qui a été modifié …</translation>
+        <translation>Ce qui a été modifié…</translation>
     </message>
     <message>
         <source>Move up</source>
@@ -1365,7 +1365,7 @@
     </message>
     <message>
         <source>Export …</source>
-        <translation>Exporter …</translation>
+        <translation>Exporter…</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
-        <translation>Il a été créé à partir de %1, avec ces modifications :</translation>
+        <translation>Il a été créé à partir de %1, avec ces modifications :</translation>
     </message>
     <message>
         <source>Take back</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>Trying 10 seconds of %1 …</source>
-        <translation>Essai de 10 secondes de %1 …</translation>
+        <translation>Essai de 10 secondes de %1…</translation>
     </message>
     <message>
         <source>All of %1 would be about %2.</source>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Undone: %1</source>
-        <translation>Annulé : %1</translation>
+        <translation>Annulé : %1</translation>
     </message>
     <message>
         <source>%1 presets</source>
@@ -1457,35 +1457,35 @@
     </message>
     <message>
         <source>Presets changed: %1</source>
-        <translation>Préréglages modifiés : %1</translation>
+        <translation>Préréglages modifiés : %1</translation>
     </message>
     <message>
         <source>Changed: %1</source>
-        <translation>Modifié : %1</translation>
+        <translation>Modifié : %1</translation>
     </message>
     <message>
         <source>Deleted: %1</source>
-        <translation>Supprimé : %1</translation>
+        <translation>Supprimé : %1</translation>
     </message>
     <message>
         <source>The temporary folder can’t be written (%1); check the disk</source>
-        <translation>Impossible d’écrire dans le dossier temporaire (%1) ; vérifiez le disque</translation>
+        <translation>Impossible d’écrire dans le dossier temporaire (%1) ; vérifiez le disque</translation>
     </message>
     <message>
         <source>good for “%1”</source>
-        <translation>bon pour « %1 »</translation>
+        <translation>bon pour « %1 »</translation>
     </message>
     <message>
         <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
-        <translation>Tapez un appareil, un site, un codec, une taille ou un usage, comme « iphone 1080 » ou « petit ».</translation>
+        <translation>Tapez un appareil, un site, un codec, une taille ou un usage, comme « iphone 1080 » ou « petit ».</translation>
     </message>
     <message>
         <source>No preset has all of this; leave out a word or a filter.</source>
-        <translation>Aucun préréglage n’a tout cela ; retirez un mot ou un filtre.</translation>
+        <translation>Aucun préréglage n’a tout cela ; retirez un mot ou un filtre.</translation>
     </message>
     <message>
         <source>No preset is known for “%1”.</source>
-        <translation>Aucun préréglage connu pour « %1 ».</translation>
+        <translation>Aucun préréglage connu pour « %1 ».</translation>
     </message>
     <message>
         <source>Favorites</source>
@@ -1513,15 +1513,15 @@
     </message>
     <message>
         <source>Exported: %1</source>
-        <translation>Exporté : %1</translation>
+        <translation>Exporté : %1</translation>
     </message>
     <message>
         <source>%1 can’t be written (%2); choose another folder</source>
-        <translation>Impossible d’écrire %1 (%2) ; choisissez un autre dossier</translation>
+        <translation>Impossible d’écrire %1 (%2) ; choisissez un autre dossier</translation>
     </message>
     <message>
         <source>Presets imported: %1</source>
-        <translation>Préréglages importés : %1</translation>
+        <translation>Préréglages importés : %1</translation>
     </message>
     <message>
         <source>Files of presets</source>
@@ -1564,11 +1564,11 @@
     </message>
     <message>
         <source>has %1 audio tracks, so no number %2; choose another one</source>
-        <translation>contient %1 pistes audio, donc pas de numéro %2 ; choisissez-en une autre</translation>
+        <translation>contient %1 pistes audio, donc pas de numéro %2 ; choisissez-en une autre</translation>
     </message>
     <message>
         <source>none of its audio tracks is kept; keep one</source>
-        <translation>aucune de ses pistes audio n’est gardée ; gardez-en une</translation>
+        <translation>aucune de ses pistes audio n’est gardée ; gardez-en une</translation>
     </message>
 </context>
 <context>
@@ -1586,7 +1586,7 @@
     <name>RateControl</name>
     <message>
         <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
-        <translation>n&apos;indique pas de durée, si bien qu&apos;aucun débit ne donne la taille voulue ; choisissez plutôt un débit</translation>
+        <translation>n’indique pas de durée, si bien qu’aucun débit ne donne la taille voulue ; choisissez plutôt un débit</translation>
     </message>
     <message>
         <source>is too long for the asked size; choose a larger size or less audio</source>
@@ -1624,7 +1624,7 @@
     </message>
     <message>
         <source>the encoder refuses these settings</source>
-        <translation>l&apos;encodeur refuse ces réglages</translation>
+        <translation>l’encodeur refuse ces réglages</translation>
     </message>
     <message>
         <source>this kind of file can&apos;t hold one of the streams</source>
@@ -1643,7 +1643,7 @@
     </message>
     <message>
         <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
-        <translation>désigne une séquence d’images ; renommez le fichier et ses dossiers sans % * ? [ ] { }</translation>
+        <translation>désigne une séquence d’images ; renommez le fichier et ses dossiers sans % * ? [ ] { }</translation>
     </message>
     <message>
         <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
@@ -1866,7 +1866,7 @@
     </message>
     <message>
         <source>subtitle tracks: %1 (%2; they can&apos;t be written into this .%3)</source>
-        <translation>pistes de sous-titres : %1 (%2 ; impossibles à écrire dans ce .%3)</translation>
+        <translation>pistes de sous-titres : %1 (%2 ; impossibles à écrire dans ce .%3)</translation>
     </message>
     <message>
         <source>more video tracks: %1 (a result has one)</source>
@@ -1882,7 +1882,7 @@
     </message>
     <message>
         <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>
-        <translation>la pochette (.%1 ne l&apos;accepte pas, .%2 si)</translation>
+        <translation>la pochette (.%1 ne l’accepte pas, .%2 si)</translation>
     </message>
 </context>
 <context>
@@ -1904,15 +1904,15 @@
     </message>
     <message>
         <source>The list of files of the last time can&apos;t be read (%1); it is now %2, and the window starts empty</source>
-        <translation>La liste de fichiers de la dernière fois est illisible (%1) ; elle s’appelle maintenant %2 et la fenêtre est vide au départ</translation>
+        <translation>La liste de fichiers de la dernière fois est illisible (%1) ; elle s’appelle maintenant %2 et la fenêtre est vide au départ</translation>
     </message>
     <message>
         <source>The list of files of the last time can&apos;t be read (%1); remove %2 to let a new one be kept</source>
-        <translation>La liste de fichiers de la dernière fois est illisible (%1) ; supprimez %2 pour qu’une nouvelle puisse être conservée</translation>
+        <translation>La liste de fichiers de la dernière fois est illisible (%1) ; supprimez %2 pour qu’une nouvelle puisse être conservée</translation>
     </message>
     <message>
         <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
-        <translation>La liste de fichiers ne peut pas être conservée dans %1 (%2) ; libérez de la place ou vérifiez les droits du dossier</translation>
+        <translation>La liste de fichiers ne peut pas être conservée dans %1 (%2) ; libérez de la place ou vérifiez les droits du dossier</translation>
     </message>
 </context>
 <context>
@@ -1974,7 +1974,7 @@
     </message>
     <message>
         <source>the rate is a limit; slower sources keep theirs</source>
-        <translation>la fréquence est une limite ; les sources plus lentes gardent la leur</translation>
+        <translation>la fréquence est une limite ; les sources plus lentes gardent la leur</translation>
     </message>
     <message>
         <source>each source&apos;s track is written once</source>
@@ -1982,7 +1982,7 @@
     </message>
     <message>
         <source>all tracks; &quot;convert --audio&quot; chooses</source>
-        <translation>toutes les pistes ; on les choisit dans la ligne du fichier</translation>
+        <translation>toutes les pistes ; on les choisit dans la ligne du fichier</translation>
     </message>
     <message>
         <source>the source&apos;s codec</source>
@@ -2014,7 +2014,7 @@
     </message>
     <message>
         <source>has no &quot;VideoEncoder&quot; or no &quot;FileFormat&quot;</source>
-        <translation>n’a pas de « VideoEncoder » ou de « FileFormat »</translation>
+        <translation>n’a pas de « VideoEncoder » ou de « FileFormat »</translation>
     </message>
     <message>
         <source>is one of more than %1</source>
@@ -2117,7 +2117,7 @@
     </message>
     <message>
         <source>all that the format holds; &quot;convert --subtitles&quot; chooses</source>
-        <translation>tous ceux que le format admet ; on les choisit dans la ligne du fichier</translation>
+        <translation>tous ceux que le format admet ; on les choisit dans la ligne du fichier</translation>
     </message>
     <message>
         <source>the picture stays in colour</source>
@@ -2152,7 +2152,7 @@
     </message>
     <message>
         <source>isn&apos;t used; the converter has a way of its own</source>
-        <translation>n’est pas utilisé ; le convertisseur a sa propre méthode</translation>
+        <translation>n’est pas utilisé ; le convertisseur a sa propre méthode</translation>
     </message>
     <message>
         <source>the encoder&apos;s good quality</source>
@@ -2167,23 +2167,23 @@
     <name>PresetFile</name>
     <message>
         <source>&quot;%1&quot; is not a known key</source>
-        <translation>« %1 » n’est pas une clé connue</translation>
+        <translation>« %1 » n’est pas une clé connue</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be an object</source>
-        <translation>« %1 » doit être un objet</translation>
+        <translation>« %1 » doit être un objet</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be a text</source>
-        <translation>« %1 » doit être un texte</translation>
+        <translation>« %1 » doit être un texte</translation>
     </message>
     <message>
         <source>&quot;settings.%1&quot; is not a known key</source>
-        <translation>« settings.%1 » n’est pas une clé connue</translation>
+        <translation>« settings.%1 » n’est pas une clé connue</translation>
     </message>
     <message>
         <source>&quot;settings.%1&quot; must be a text</source>
-        <translation>« settings.%1 » doit être un texte</translation>
+        <translation>« settings.%1 » doit être un texte</translation>
     </message>
     <message>
         <source>must be an object</source>
@@ -2195,15 +2195,15 @@
     </message>
     <message>
         <source>%1: %2 at byte %3</source>
-        <translation>%1 : %2 à l’octet %L3</translation>
+        <translation>%1 : %2 à l’octet %L3</translation>
     </message>
     <message>
         <source>%1 has neither a list &quot;presets&quot; nor a list &quot;PresetList&quot;; it is no file of presets</source>
-        <translation>%1 n’a ni liste « presets » ni liste « PresetList » ; ce n’est pas un fichier de préréglages</translation>
+        <translation>%1 n’a ni liste « presets » ni liste « PresetList » ; ce n’est pas un fichier de préréglages</translation>
     </message>
     <message>
         <source>%1 has the version %2, and only version %3 can be read; export it again with this version of vexconvert</source>
-        <translation>%1 est de version %2, et seule la version %3 peut être lue ; exportez-le à nouveau avec cette version de vexconvert</translation>
+        <translation>%1 est de version %2, et seule la version %3 peut être lue ; exportez-le à nouveau avec cette version de vexconvert</translation>
     </message>
     <message>
         <source>%1 is no file of presets of vexconvert, HandBrake, Kdenlive or Shotcut</source>
@@ -2222,7 +2222,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; isn&apos;t possible for %2</source>
-        <translation>« %1 » n’est pas possible pour %2</translation>
+        <translation>« %1 » n’est pas possible pour %2</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written into .%2 files</source>
@@ -2238,26 +2238,26 @@
     </message>
     <message>
         <source>its base %1 isn&apos;t in this catalogue; %2 stands in for it</source>
-        <translation>sa base %1 n’est pas dans ce catalogue ; %2 la remplace</translation>
+        <translation>sa base %1 n’est pas dans ce catalogue ; %2 la remplace</translation>
     </message>
     <message>
         <source>nothing is imported, as %1 of %2 presets are refused; leave them out with --skip-refused</source>
-        <translation>rien n’est importé, car %1 préréglages sur %2 sont refusés ; omettez-les avec --skip-refused</translation>
+        <translation>rien n’est importé, car %1 préréglages sur %2 sont refusés ; omettez-les avec --skip-refused</translation>
     </message>
     <message>
         <source>preset %1 isn&apos;t yours; only your own can be exported</source>
-        <translation>le préréglage %1 n’est pas le vôtre ; seuls les vôtres peuvent être exportés</translation>
+        <translation>le préréglage %1 n’est pas le vôtre ; seuls les vôtres peuvent être exportés</translation>
     </message>
 </context>
 <context>
     <name>ConfigList</name>
     <message>
         <source>%1 is no file; name another one</source>
-        <translation>%1 n’est pas un fichier ; choisissez-en un autre</translation>
+        <translation>%1 n’est pas un fichier ; choisissez-en un autre</translation>
     </message>
     <message>
         <source>there is no file %1; check its name</source>
-        <translation>il n’y a pas de fichier %1 ; vérifiez son nom</translation>
+        <translation>il n’y a pas de fichier %1 ; vérifiez son nom</translation>
     </message>
     <message>
         <source>%1 has %2, and no more than %3 are read</source>
@@ -2265,22 +2265,22 @@
     </message>
     <message>
         <source>%1 can&apos;t be read (%2); check its permissions</source>
-        <translation>%1 ne peut pas être lu (%2) ; vérifiez ses droits</translation>
+        <translation>%1 ne peut pas être lu (%2) ; vérifiez ses droits</translation>
     </message>
 </context>
 <context>
     <name>PresetHistory</name>
     <message>
         <source>added &quot;%1&quot; (%2)</source>
-        <translation>« %1 » (%2) ajouté</translation>
+        <translation>« %1 » (%2) ajouté</translation>
     </message>
     <message>
         <source>deleted &quot;%1&quot; (%2)</source>
-        <translation>« %1 » (%2) supprimé</translation>
+        <translation>« %1 » (%2) supprimé</translation>
     </message>
     <message>
         <source>changed &quot;%1&quot; (%2)</source>
-        <translation>« %1 » (%2) modifié</translation>
+        <translation>« %1 » (%2) modifié</translation>
     </message>
     <message>
         <source>%1 more</source>
@@ -2292,7 +2292,7 @@
     </message>
     <message>
         <source>what was done last (%1) can&apos;t be undone: another program has changed these presets since</source>
-        <translation>la dernière action (%1) ne peut pas être annulée : un autre programme a modifié ces préréglages depuis</translation>
+        <translation>la dernière action (%1) ne peut pas être annulée : un autre programme a modifié ces préréglages depuis</translation>
     </message>
 </context>
 </TS>
