@@ -1854,7 +1854,7 @@
     </message>
     <message>
         <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
-        <translation>%1 pistes audio sur %2 (.%3 en contient %4, .%5 toutes)</translation>
+        <translation>pistes audio : %1 sur %2 (.%3 en contient %4, .%5 toutes)</translation>
     </message>
     <message>
         <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
