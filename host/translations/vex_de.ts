@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>As many as suit this machine</source>
-        <translation>So viele, wie zum Rechner passen</translation>
+        <translation>Passend zum Rechner</translation>
     </message>
     <message>
         <source>As the desktop</source>
