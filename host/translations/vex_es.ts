@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Keep Orignal</source>
-        <translation>Como el original</translation>
+        <translation>Original</translation>
     </message>
     <message>
         <source>Smart Fit</source>

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Keep Orignal</source>
-        <translation>Comme l’original</translation>
+        <translation>D’origine</translation>
     </message>
     <message>
         <source>Smart Fit</source>
