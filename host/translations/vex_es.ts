@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Drop video or audio files here</source>
-        <translation>Suelte aquí archivos de vídeo o audio</translation>
+        <translation>Suelta aquí archivos de vídeo o audio</translation>
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
@@ -809,11 +809,11 @@
     </message>
     <message>
         <source>There are no video or audio files in the folder %1; add the files themselves</source>
-        <translation>En la carpeta %1 no hay archivos de vídeo ni de audio; añada los archivos directamente</translation>
+        <translation>En la carpeta %1 no hay archivos de vídeo ni de audio; añade los archivos directamente</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>
-        <translation>No se pudo iniciar ningún gestor de archivos para mostrar la carpeta %1; ábrala manualmente</translation>
+        <translation>No se pudo iniciar ningún gestor de archivos para mostrar la carpeta %1; ábrela a mano</translation>
     </message>
     <message>
         <source>VexConvert can&apos;t open its window</source>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
-        <translation>Un nombre no contiene «/»; elija la carpeta en «Guardar en»</translation>
+        <translation>Un nombre no contiene «/»; elige la carpeta en «Guardar en»</translation>
     </message>
     <message>
         <source>About VexConvert</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>There is no field {%1}; use %2</source>
-        <translation>No hay ningún campo {%1}; use %2</translation>
+        <translation>No hay ningún campo {%1}; usa %2</translation>
     </message>
     <message>
         <source>These are replaced: %1</source>
@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>Write a time such as 1:02:03.5</source>
-        <translation>Escriba un tiempo como 1:02:03.5</translation>
+        <translation>Escribe un tiempo como 1:02:03.5</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -1409,11 +1409,11 @@
     </message>
     <message>
         <source>you have it already</source>
-        <translation>ya lo tiene</translation>
+        <translation>ya lo tienes</translation>
     </message>
     <message>
         <source>you have another one</source>
-        <translation>tiene otro</translation>
+        <translation>tienes otro</translation>
     </message>
     <message>
         <source>refused</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>The temporary folder can’t be written (%1); check the disk</source>
-        <translation>No se puede escribir en la carpeta temporal (%1); compruebe el disco</translation>
+        <translation>No se puede escribir en la carpeta temporal (%1); comprueba el disco</translation>
     </message>
     <message>
         <source>good for “%1”</source>
@@ -1477,11 +1477,11 @@
     </message>
     <message>
         <source>Type a device, a site, a codec, a size or a purpose, such as “iphone 1080” or “small”.</source>
-        <translation>Escriba un dispositivo, un sitio, un códec, un tamaño o un fin, como «iphone 1080» o «pequeño».</translation>
+        <translation>Escribe un dispositivo, un sitio, un códec, un tamaño o un fin, como «iphone 1080» o «pequeño».</translation>
     </message>
     <message>
         <source>No preset has all of this; leave out a word or a filter.</source>
-        <translation>Ningún ajuste cumple todo; quite una palabra o un filtro.</translation>
+        <translation>Ningún ajuste cumple todo; quita una palabra o un filtro.</translation>
     </message>
     <message>
         <source>No preset is known for “%1”.</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>You have no presets of your own yet.</source>
-        <translation>Aún no tiene ajustes propios.</translation>
+        <translation>Aún no tienes ajustes propios.</translation>
     </message>
     <message>
         <source>Exported: %1</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>%1 can’t be written (%2); choose another folder</source>
-        <translation>No se puede escribir %1 (%2); elija otra carpeta</translation>
+        <translation>No se puede escribir %1 (%2); elige otra carpeta</translation>
     </message>
     <message>
         <source>Presets imported: %1</source>
@@ -1564,11 +1564,11 @@
     </message>
     <message>
         <source>has %1 audio tracks, so no number %2; choose another one</source>
-        <translation>tiene %1 pistas de audio, así que ninguna número %2; elija otra</translation>
+        <translation>tiene %1 pistas de audio, así que ninguna número %2; elige otra</translation>
     </message>
     <message>
         <source>none of its audio tracks is kept; keep one</source>
-        <translation>no se conserva ninguna de sus pistas de audio; conserve una</translation>
+        <translation>no se conserva ninguna de sus pistas de audio; conserva una</translation>
     </message>
 </context>
 <context>
@@ -1586,18 +1586,18 @@
     <name>RateControl</name>
     <message>
         <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
-        <translation>no indica su duración, así que ninguna tasa de bits da el tamaño pedido; elija en su lugar una tasa de bits</translation>
+        <translation>no indica su duración, así que ninguna tasa de bits da el tamaño pedido; elige en su lugar una tasa de bits</translation>
     </message>
     <message>
         <source>is too long for the asked size; choose a larger size or less audio</source>
-        <translation>es demasiado largo para el tamaño pedido; elija un tamaño mayor o menos audio</translation>
+        <translation>es demasiado largo para el tamaño pedido; elige un tamaño mayor o menos audio</translation>
     </message>
 </context>
 <context>
     <name>EncoderList</name>
     <message>
         <source>%1 doesn&apos;t list its encoders (%2); check that &quot;%1 -encoders&quot; works, or install another ffmpeg</source>
-        <translation>%1 no indica sus codificadores (%2); compruebe que «%1 -encoders» los muestre o instale otro ffmpeg</translation>
+        <translation>%1 no indica sus codificadores (%2); comprueba que «%1 -encoders» los muestre o instala otro ffmpeg</translation>
     </message>
 </context>
 <context>
@@ -1620,7 +1620,7 @@
     </message>
     <message>
         <source>its video is HDR, and this ffmpeg can&apos;t map that to ordinary colours; install an ffmpeg with zscale and tonemap</source>
-        <translation>el vídeo es HDR y este ffmpeg no puede pasarlo a colores corrientes; instale un ffmpeg con zscale y tonemap</translation>
+        <translation>el vídeo es HDR y este ffmpeg no puede pasarlo a colores corrientes; instala un ffmpeg con zscale y tonemap</translation>
     </message>
     <message>
         <source>the encoder refuses these settings</source>
@@ -1639,15 +1639,15 @@
     <name>MediaInput</name>
     <message>
         <source>is a playlist; choose the files that it lists</source>
-        <translation>es una lista de reproducción; elija los archivos que contiene</translation>
+        <translation>es una lista de reproducción; elige los archivos que contiene</translation>
     </message>
     <message>
         <source>stands for an image sequence; rename it and its folders without any of % * ? [ ] { }</source>
-        <translation>representa una secuencia de imágenes; cambie el nombre del archivo y sus carpetas para que no tenga % * ? [ ] { }</translation>
+        <translation>representa una secuencia de imágenes; cambia el nombre del archivo y sus carpetas para que no tengan % * ? [ ] { }</translation>
     </message>
     <message>
         <source>is of a kind that isn&apos;t converted (%1); choose a video or audio file</source>
-        <translation>es de un tipo que no se convierte (%1); elija un archivo de vídeo o audio</translation>
+        <translation>es de un tipo que no se convierte (%1); elige un archivo de vídeo o audio</translation>
     </message>
 </context>
 <context>
@@ -1670,11 +1670,11 @@
     </message>
     <message>
         <source>takes too long to read; check the disk or network that it is on</source>
-        <translation>tarda demasiado en leerse; compruebe el disco o la red donde está</translation>
+        <translation>tarda demasiado en leerse; comprueba el disco o la red donde está</translation>
     </message>
     <message>
         <source>describes itself without end; check that it is a complete video or audio file</source>
-        <translation>contiene una descripción interminable; compruebe que es un archivo de vídeo o audio completo</translation>
+        <translation>contiene una descripción interminable; comprueba que es un archivo de vídeo o audio completo</translation>
     </message>
 </context>
 <context>
@@ -1685,11 +1685,11 @@
     </message>
     <message>
         <source>no encoder has a name like &quot;%1&quot;; choose another preset</source>
-        <translation>ningún codificador se llama «%1»; elija otro formato</translation>
+        <translation>ningún codificador se llama «%1»; elige otro formato</translation>
     </message>
     <message>
         <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
-        <translation>%1 del formato es %2; debe ser 0 o %3; elija otro formato</translation>
+        <translation>%1 del formato es %2; debe ser 0 o %3; elige otro formato</translation>
     </message>
     <message>
         <source>not a valid number</source>
@@ -1697,7 +1697,7 @@
     </message>
     <message>
         <source>the part to keep must begin at 0 or later and end after that; choose another part</source>
-        <translation>el fragmento debe empezar en 0 o después y terminar más tarde; elija otro fragmento</translation>
+        <translation>el fragmento debe empezar en 0 o después y terminar más tarde; elige otro fragmento</translation>
     </message>
 </context>
 <context>
@@ -1734,7 +1734,7 @@
     </message>
     <message>
         <source>%1 couldn&apos;t be started (%2); close other programs or raise your limits on open files and processes (ulimit -n, ulimit -u), and try again</source>
-        <translation>no se ha podido iniciar %1 (%2); cierre otros programas o aumente los límites de archivos abiertos y procesos (ulimit -n, ulimit -u) e inténtelo de nuevo</translation>
+        <translation>no se ha podido iniciar %1 (%2); cierra otros programas o aumenta los límites de archivos abiertos y procesos (ulimit -n, ulimit -u) e inténtalo de nuevo</translation>
     </message>
 </context>
 <context>
@@ -1889,7 +1889,7 @@
     <name>SubtitlePlan</name>
     <message>
         <source>has %1 subtitle tracks, so no number %2; choose another one</source>
-        <translation>tiene %1 pistas de subtítulos, así que ninguna número %2; elija otra</translation>
+        <translation>tiene %1 pistas de subtítulos, así que ninguna número %2; elige otra</translation>
     </message>
 </context>
 <context>
