@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Choose a format …</source>
-        <translation>Elegir un formato …</translation>
+        <translation>Elegir un formato…</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>Import presets …</source>
-        <translation>Importar ajustes …</translation>
+        <translation>Importar ajustes…</translation>
     </message>
     <message>
         <source>Import presets</source>
@@ -1285,7 +1285,7 @@
     </message>
     <message>
         <source>Export all my presets …</source>
-        <translation>Exportar todos los míos …</translation>
+        <translation>Exportar todos los míos…</translation>
     </message>
     <message>
         <source>For the selected files: %1</source>
@@ -1305,7 +1305,7 @@
     </message>
     <message>
         <source>Note …</source>
-        <translation>Nota …</translation>
+        <translation>Nota…</translation>
     </message>
     <message>
         <source>Use this preset</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message>
         <source>What has been changed …</source>
-        <translation>Qué se ha cambiado …</translation>
+        <translation>Qué se ha cambiado…</translation>
     </message>
     <message>
         <source>Move up</source>
@@ -1365,7 +1365,7 @@
     </message>
     <message>
         <source>Export …</source>
-        <translation>Exportar …</translation>
+        <translation>Exportar…</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>Trying 10 seconds of %1 …</source>
-        <translation>Probando 10 segundos de %1 …</translation>
+        <translation>Probando 10 segundos de %1…</translation>
     </message>
     <message>
         <source>All of %1 would be about %2.</source>

@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Choose a format …</source>
-        <translation>形式を選ぶ …</translation>
+        <translation>形式を選ぶ…</translation>
     </message>
     <message>
         <source>Enter</source>

@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Choose a format …</source>
-        <translation>选择格式 …</translation>
+        <translation>选择格式…</translation>
     </message>
     <message>
         <source>Enter</source>
