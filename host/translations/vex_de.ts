@@ -193,11 +193,11 @@
     </message>
     <message>
         <source>Stop</source>
-        <translation>Anhalten</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Stop All</source>
-        <translation>Alle anhalten</translation>
+        <translation>Alle abbrechen</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Stopped</source>
-        <translation>Angehalten</translation>
+        <translation>Abgebrochen</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Paused</source>
-        <translation>Angehalten</translation>
+        <translation>Pausiert</translation>
     </message>
     <message>
         <source>%1 is a picture; add video or audio files</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <translation>Anhalten</translation>
+        <translation>Pausieren</translation>
     </message>
     <message>
         <source>Clear converted</source>
