@@ -1005,11 +1005,11 @@
     </message>
     <message>
         <source>%1 % smaller</source>
-        <translation>%1 % 小さい</translation>
+        <translation>%1% 小さい</translation>
     </message>
     <message>
         <source>%1 % larger</source>
-        <translation>%1 % 大きい</translation>
+        <translation>%1% 大きい</translation>
     </message>
     <message>
         <source>%1 of %2</source>

@@ -1005,11 +1005,11 @@
     </message>
     <message>
         <source>%1 % smaller</source>
-        <translation>小 %1 %</translation>
+        <translation>小 %1%</translation>
     </message>
     <message>
         <source>%1 % larger</source>
-        <translation>大 %1 %</translation>
+        <translation>大 %1%</translation>
     </message>
     <message>
         <source>%1 of %2</source>
