@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Frame Rate</source>
-        <translation>Fotogramas</translation>
+        <translation>Fotogramas/s</translation>
     </message>
     <message>
         <source>Resolution</source>

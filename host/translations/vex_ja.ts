@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Frame Rate</source>
-        <translation>フレーム数</translation>
+        <translation>フレームレート</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Sample Rate</source>
-        <translation>サンプル数</translation>
+        <translation>サンプルレート</translation>
     </message>
     <message>
         <source>Save</source>
