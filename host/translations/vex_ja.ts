@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
-        <translation>名前に「/」は使えません。フォルダは「保存先」で選んでください</translation>
+        <translation>名前に「/」は使えません。フォルダーは「保存先」で選んでください</translation>
     </message>
     <message>
         <source>About VexConvert</source>
@@ -849,7 +849,7 @@
     </message>
     <message>
         <source>Add folder</source>
-        <translation>フォルダを追加</translation>
+        <translation>フォルダーを追加</translation>
     </message>
     <message>
         <source>As many as suit this machine</source>
@@ -909,7 +909,7 @@
     </message>
     <message>
         <source>Make the subfolders of an added folder, too</source>
-        <translation>追加したフォルダのサブフォルダも作る</translation>
+        <translation>追加したフォルダーのサブフォルダーも作る</translation>
     </message>
     <message>
         <source>Names</source>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>Stop converting?</source>
-        <translation>変換を止めますか?</translation>
+        <translation>変換を中止しますか?</translation>
     </message>
     <message>
         <source>The list is kept: you can convert the rest the next time.</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>Stop and close</source>
-        <translation>止めて閉じる</translation>
+        <translation>中止して閉じる</translation>
     </message>
     <message>
         <source>Keep converting</source>
@@ -1241,11 +1241,11 @@
     </message>
     <message>
         <source>Found by: %1</source>
-        <translation>一致：%1</translation>
+        <translation>一致: %1</translation>
     </message>
     <message>
         <source>Can’t be used: %1</source>
-        <translation>使用できません：%1</translation>
+        <translation>使用できません: %1</translation>
     </message>
     <message>
         <source>Remove from the favorites</source>
@@ -1289,7 +1289,7 @@
     </message>
     <message>
         <source>For the selected files: %1</source>
-        <translation>選択したファイル用：%1</translation>
+        <translation>選択したファイル用: %1</translation>
     </message>
     <message>
         <source>For all files</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Presets: %1</source>
-        <translation>プリセット：%1</translation>
+        <translation>プリセット: %1</translation>
     </message>
     <message>
         <source>Note</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
-        <translation>%1 から次の変更で作成されました：</translation>
+        <translation>%1 から次の変更で作成されました:</translation>
     </message>
     <message>
         <source>Take back</source>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Undone: %1</source>
-        <translation>元に戻しました：%1</translation>
+        <translation>元に戻しました: %1</translation>
     </message>
     <message>
         <source>%1 presets</source>
@@ -1457,15 +1457,15 @@
     </message>
     <message>
         <source>Presets changed: %1</source>
-        <translation>変更したプリセット：%1</translation>
+        <translation>変更したプリセット: %1</translation>
     </message>
     <message>
         <source>Changed: %1</source>
-        <translation>変更しました：%1</translation>
+        <translation>変更しました: %1</translation>
     </message>
     <message>
         <source>Deleted: %1</source>
-        <translation>削除しました：%1</translation>
+        <translation>削除しました: %1</translation>
     </message>
     <message>
         <source>The temporary folder can’t be written (%1); check the disk</source>
@@ -1513,7 +1513,7 @@
     </message>
     <message>
         <source>Exported: %1</source>
-        <translation>書き出しました：%1</translation>
+        <translation>書き出しました: %1</translation>
     </message>
     <message>
         <source>%1 can’t be written (%2); choose another folder</source>
@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>Presets imported: %1</source>
-        <translation>読み込んだプリセット：%1</translation>
+        <translation>読み込んだプリセット: %1</translation>
     </message>
     <message>
         <source>Files of presets</source>
@@ -1904,15 +1904,15 @@
     </message>
     <message>
         <source>The list of files of the last time can&apos;t be read (%1); it is now %2, and the window starts empty</source>
-        <translation>前回のファイルのリストを読めません (%1)。%2 という名前にして、空のリストで始めます</translation>
+        <translation>前回のファイルのリストを読めません（%1）。%2 という名前にして、空のリストで始めます</translation>
     </message>
     <message>
         <source>The list of files of the last time can&apos;t be read (%1); remove %2 to let a new one be kept</source>
-        <translation>前回のファイルのリストを読めません (%1)。新しいリストを残せるように %2 を削除してください</translation>
+        <translation>前回のファイルのリストを読めません（%1）。新しいリストを残せるように %2 を削除してください</translation>
     </message>
     <message>
         <source>The list of files can&apos;t be kept in %1 (%2); free some space or check the folder&apos;s permissions</source>
-        <translation>ファイルのリストを %1 に残せません (%2)。空きを増やすか、フォルダーの権限を確かめてください</translation>
+        <translation>ファイルのリストを %1 に残せません（%2）。空きを増やすか、フォルダーの権限を確かめてください</translation>
     </message>
 </context>
 <context>
