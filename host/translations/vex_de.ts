@@ -1000,6 +1000,10 @@
         <translation>%1:</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>Tell me when all files are converted</source>
         <translation>Melden, wenn alle Dateien umgewandelt sind</translation>
     </message>

@@ -65,8 +65,8 @@ VEXContent {
         text: root.states.filter(function (state) {
             return root.countOf(state) > 0
         }).map(function (state) {
-            return root.stateText(state) + ": "
-                    + root.countOf(state).toLocaleString(Qt.locale(), "f", 0)
+            return ToolFun.tr("%1: %2").arg(root.stateText(state))
+                .arg(root.countOf(state).toLocaleString(Qt.locale(), "f", 0))
         }).join("  ·  ")
     }
 

@@ -29,7 +29,7 @@ Rectangle {
     }
 
     function countText(caption, lines) {
-        return lines.length === 0 ? "" : caption + ": " + lines.length
+        return lines.length === 0 ? "" : ToolFun.tr("%1: %2").arg(caption).arg(lines.length)
     }
 
     implicitHeight: words.implicitHeight + 2 * 5
@@ -123,7 +123,8 @@ Rectangle {
             id: details
 
             function section(caption, lines) {
-                return lines.length === 0 ? [] : [caption + ":"].concat(lines.map(function (line) {
+                const heading = ToolFun.tr("%1:").arg(caption)
+                return lines.length === 0 ? [] : [heading].concat(lines.map(function (line) {
                     return "    " + line
                 }))
             }

@@ -85,7 +85,7 @@ VEXContent {
             width: list.width
             height: 40
             Accessible.role: Accessible.ListItem
-            Accessible.name: row.modelData.label + ": " + change.text
+            Accessible.name: ToolFun.tr("%1: %2").arg(row.modelData.label).arg(change.text)
 
             Cell {
                 id: label
