@@ -24,6 +24,21 @@ T.Button {
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()
 
+    component Caption: VEXLabel {
+        id: caption
+
+        text: root.text
+        elide: Text.ElideMiddle
+        font.pixelSize: root.font.pixelSize
+        color: root.enabled ? Theme.font_color_grade1 : Theme.font_color_disabled
+        Accessible.ignored: true
+
+        VEXHint {
+            shown: root.hovered && caption.truncated
+            text: root.text
+        }
+    }
+
     contentItem: Item {
         VEXIcon {
             anchors.verticalCenter: parent.verticalCenter
@@ -33,7 +48,7 @@ T.Button {
             opacity: root.enabled ? 1 : Theme.disabledOpacity
         }
 
-        VEXLabel {
+        Caption {
             anchors {
                 left: parent.left
                 leftMargin: root.iconWidth + Theme.spacing
@@ -41,11 +56,6 @@ T.Button {
                 rightMargin: Theme.smallIcon + Theme.spacing
                 verticalCenter: parent.verticalCenter
             }
-            text: root.text
-            elide: Text.ElideMiddle
-            font.pixelSize: root.font.pixelSize
-            color: root.enabled ? Theme.font_color_grade1 : Theme.font_color_disabled
-            Accessible.ignored: true
         }
 
         VEXIcon {

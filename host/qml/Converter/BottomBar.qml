@@ -48,7 +48,7 @@ Rectangle {
         VEXFormatButton {
             id: formatButton
 
-            width: root.isNarrow ? 190 : 220
+            width: root.isNarrow ? 190 : 240
             purpose: root.formatLabel
             text: root.page.globalCaption
             iconSource: root.page.globalIcon

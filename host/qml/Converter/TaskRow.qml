@@ -234,7 +234,7 @@ Rectangle {
             verticalCenter: thumbnail.verticalCenter
             verticalCenterOffset: root.outlook !== null && root.outlook.nearest !== "" ? -14 : 0
         }
-        width: 208
+        width: root.width < 900 ? 208 : 240
         focusPolicy: root.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
         enabled: !root.isRunning
         purpose: ToolFun.tr("Format")
