@@ -232,7 +232,7 @@ Rectangle {
             right: actions.left
             rightMargin: Theme.margin
             verticalCenter: thumbnail.verticalCenter
-            verticalCenterOffset: root.outlook !== null && root.outlook.nearest !== "" ? -14 : 0
+            verticalCenterOffset: root.outlook !== null && root.outlook.nearest !== "" ? -16 : 0
         }
         width: root.width < 900 ? 208 : 240
         focusPolicy: root.isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
@@ -248,7 +248,7 @@ Rectangle {
             left: formatButton.left
             right: formatButton.right
             top: formatButton.bottom
-            topMargin: 2
+            topMargin: 4
         }
         page: root.page
         taskId: root.taskId
