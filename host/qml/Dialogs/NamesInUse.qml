@@ -25,6 +25,11 @@ VEXContent {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: words.text
     Keys.onEscapePressed: root.frame.cancelClicked()
+    onActiveFocusChanged: {
+        if (root.activeFocus) {
+            keepBoth.forceActiveFocus()
+        }
+    }
 
     VEXPopupsTitleBar {
         id: titleBar
@@ -87,8 +92,9 @@ VEXContent {
         }
 
         Answer {
+            id: keepBoth
+
             primary: true
-            focus: true
             text: ToolFun.tr("Keep both")
             onClicked: root.answer(Settings.Rename)
         }

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void aboutNamesVersionsAndLicences();
     void aFailedRowShowsItsLog();
     void namesInUseAreAskedAbout();
+    void returnKeepsBothOfTwoResultsOfTheSameName();
     void withoutAnAnswerNothingStarts();
     void ctrlQClosesTheWindow();
 
@@ -227,6 +228,16 @@ void TestDialogs::namesInUseAreAskedAbout()
     QTRY_COMPARE_WITH_TIMEOUT(m_main->converter().tasks()->tasks().at(0).state, Task::Converted,
                               patience);
     QCOMPARE(MediaClips::factsOf(path("song.mp3")).audio()->codec, QStringLiteral("mp3"));
+}
+
+void TestDialogs::returnKeepsBothOfTwoResultsOfTheSameName()
+{
+    convertOntoAnEarlierResult();
+    press(dialog(), Qt::Key_Return);
+    QTRY_COMPARE_WITH_TIMEOUT(m_main->converter().tasks()->tasks().at(0).state, Task::Converted,
+                              patience);
+    QVERIFY(m_main->converter().tasks()->tasks().at(0).target != path("song.mp3"));
+    QVERIFY(QFile::exists(path("song.mp3")));
 }
 
 void TestDialogs::withoutAnAnswerNothingStarts()
