@@ -829,11 +829,11 @@
     </message>
     <message>
         <source>For both pages; below its list, each can have its own</source>
-        <translation>Pour les deux pages ; chacune peut avoir ses propres réglages sous sa liste</translation>
+        <translation>Pour les deux pages ; chacune peut avoir ses propres réglages sous sa liste</translation>
     </message>
     <message>
         <source>This folder isn&apos;t there; choose another one</source>
-        <translation>Ce dossier n’existe pas ; choisissez-en un autre</translation>
+        <translation>Ce dossier n’existe pas ; choisissez-en un autre</translation>
     </message>
     <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>

@@ -26,7 +26,7 @@ QtObject {
     readonly property color frame: root.isDark ? "#5B5669" : "#C9C7D0"
     readonly property color danger: root.isDark ? "#FF8F94" : "#C2323A"
     readonly property color dangerPale: root.isDark ? "#452A2F" : "#FDF0F0"
-    readonly property color success: root.isDark ? "#72D6A4" : "#1F7A4D"
+    readonly property color success: root.isDark ? "#72D6A4" : "#1D7549"
     readonly property color noticePale: root.isDark ? "#3E3520" : "#FFF6E0"
     readonly property color noticeText: root.isDark ? "#F3D78F" : "#6B4E00"
     readonly property color onAccent: root.isDark ? "#17141F" : "#FFFFFF"
