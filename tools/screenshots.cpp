@@ -43,6 +43,7 @@ private:
     void takeTracks();
 
     QObject *picker() const;
+    QQuickItem *taskList() const;
     void openPicker();
     void showTag(const QString &tag);
     void type(const QString &text);
@@ -224,6 +225,7 @@ void Screenshots::takeTasks()
                                                      QStringLiteral("Video_MP4_004"));
     page.remove(tasks.tasks().at(3).id);
     take(QStringLiteral("converter-problem"));
+    QMetaObject::invokeMethod(taskList(), "forceActiveFocus");
     press(Qt::Key_Menu);
     take(QStringLiteral("task-menu"));
     press(Qt::Key_Escape);
@@ -284,6 +286,15 @@ void Screenshots::takeTracks()
 QObject *Screenshots::picker() const
 {
     return m_window.window()->property("picker").value<QObject *>();
+}
+
+/*! The list of the page in sight. */
+QQuickItem *Screenshots::taskList() const
+{
+    const QList<QQuickItem *> items = m_window.window()->findChildren<QQuickItem *>();
+    return *std::find_if(items.begin(), items.end(), [](const QQuickItem *item) {
+        return item->isVisible() && item->property("firstInSight").isValid();
+    });
 }
 
 void Screenshots::openPicker()
