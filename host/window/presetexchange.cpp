@@ -6,6 +6,7 @@
 #include "host/presets/exchange/presetfile.h"
 #include "host/presets/presetstore.h"
 #include "host/window/presets.h"
+#include "host/window/presetsummary.h"
 #include "host/window/toolfun.h"
 
 #include <QFileInfo>
@@ -47,8 +48,7 @@ QStringList findingsOn(const PortablePreset &preset, Finding::Verdict verdict)
         if (finding.verdict == verdict) {
             const QString asked = finding.value.isEmpty()
                                       ? finding.setting
-                                      : QStringLiteral("%1: %2").arg(
-                                            finding.setting, finding.value.left(longestValue));
+                                      : labelled(finding.setting, finding.value.left(longestValue));
             lines << visibleText(QStringLiteral("%1  →  %2").arg(asked, finding.text));
         }
     }

@@ -15,39 +15,6 @@ namespace {
 
 constexpr int firstRole = Qt::UserRole + 1;
 
-/*! What a word matched, in the user's language; empty where the row shows it anyway. */
-QString reasonText(const PresetMatch::Reason &reason)
-{
-    const auto named = [&reason](const QString &field) {
-        return QStringLiteral("%1: %2").arg(ToolFun::text(field), reason.text);
-    };
-    switch (reason.field) {
-    case Field::Format:
-    case Field::Title:
-        break;
-    case Field::Extension:
-        return QLatin1Char('.') + reason.text;
-    case Field::Codec:
-        return named(QStringLiteral("Encoder"));
-    case Field::Size:
-        return named(QStringLiteral("Resolution"));
-    case Field::Bitrate:
-        return named(QStringLiteral("Bitrate"));
-    case Field::FrameRate:
-        return named(QStringLiteral("Frame Rate"));
-    case Field::Note:
-        return named(QStringLiteral("Note"));
-    case Field::Kind:
-    case Field::Category:
-        return reason.text == QLatin1String("own") ? ToolFun::text(QStringLiteral("My presets"))
-                                                   : ToolFun::text(reason.text);
-    case Field::Purpose:
-        // Purposes have no names but the words that people use for them.
-        return ToolFun::text(QStringLiteral("good for “%1”")).arg(reason.typed);
-    }
-    return {};
-}
-
 bool isEmpty(const PresetQuery &query)
 {
     return query.text.trimmed().isEmpty() && query.kind.isEmpty() && query.codec.isEmpty() &&
@@ -56,10 +23,11 @@ bool isEmpty(const PresetQuery &query)
 
 } // namespace
 
-PresetFinder::PresetFinder(PresetStore &store, Presets &presets, QObject *parent)
+PresetFinder::PresetFinder(PresetStore &store, Presets &presets, QObject *parent, int part)
     : QAbstractListModel(parent)
     , m_store(store)
     , m_presets(presets)
+    , m_part(part)
 {
     connect(&m_presets, &Presets::changed, this, [this] {
         forgetIndex();
@@ -67,11 +35,7 @@ PresetFinder::PresetFinder(PresetStore &store, Presets &presets, QObject *parent
     });
     // A star that is set moves no row that the user looks at.
     connect(&m_presets, &Presets::favoritesChanged, this, [this] {
-        if (m_index) {
-            m_index->prefer(m_presets.favorites().ids(), m_store.formats());
-        } else {
-            forgetIndex();
-        }
+        preferFavorites();
         renewAll();
     });
     m_nextPart.setSingleShot(true);
@@ -127,7 +91,6 @@ bool PresetFinder::canFetchMore(const QModelIndex &parent) const
 
 void PresetFinder::fetchMore(const QModelIndex &parent)
 {
-    buildIndex();
     if (!m_index || !canFetchMore(parent)) {
         return;
     }
@@ -231,23 +194,30 @@ void PresetFinder::append(const QStringList &ids, const QString &group)
     }
 }
 
-/*! Builds the next part of the index, unless it is complete. The presets of most catalogues are one
- *  part; those of a large one would keep the window from responding. */
+/*! Builds the next part of the index, unless it is complete. */
 void PresetFinder::buildIndex()
 {
-    constexpr int part = 1000;
     if (m_index) {
         return;
     }
     if (!m_builder) {
-        m_builder = std::make_unique<PresetIndexBuilder>(
-            m_store.formats(), PresetExtras{m_presets.favorites().ids(), m_store.notes().texts()});
+        m_builder = std::make_unique<PresetIndexBuilder>(m_store.formats(),
+                                                         PresetExtras{{}, m_store.notes().texts()});
     }
-    if (m_builder->addSome(part)) {
+    if (m_builder->addSome(m_part)) {
         m_nextPart.start();
     } else {
         m_index = m_builder->finish();
         m_builder.reset();
+        preferFavorites();
+    }
+}
+
+/*! Stars may be set while the index is being built, too. */
+void PresetFinder::preferFavorites()
+{
+    if (m_index) {
+        m_index->prefer(m_presets.favorites().ids(), m_store.formats());
     }
 }
 

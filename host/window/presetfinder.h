@@ -30,7 +30,12 @@ class PresetFinder : public QAbstractListModel
 public:
     static constexpr int batch = 100; //!< of presets that are listed at a time
 
-    PresetFinder(PresetStore &store, Presets &presets, QObject *parent = nullptr);
+    static constexpr int usualPart = 1000;
+
+    /*! The index is built from \a part presets or more at a time. Most catalogues are one part; all
+     *  of a large one at once would keep the window from responding. */
+    PresetFinder(PresetStore &store, Presets &presets, QObject *parent = nullptr,
+                 int part = usualPart);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
@@ -85,6 +90,7 @@ private:
     [[nodiscard]] QVariant group(int row) const { return m_groups.value(row); }
 
     void buildIndex();
+    void preferFavorites();
     void list();
     void listUsual();
     void append(const QStringList &ids, const QString &group);
@@ -95,6 +101,7 @@ private:
 
     PresetStore &m_store;
     Presets &m_presets;
+    const int m_part;
     std::unique_ptr<PresetIndexBuilder> m_builder; // while the index isn't complete
     std::optional<PresetIndex> m_index;
     QTimer m_nextPart; // of the index

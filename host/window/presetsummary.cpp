@@ -79,6 +79,43 @@ QString summaryOf(const QVariantMap &preset)
     return parts.join(QStringLiteral("  ·  "));
 }
 
+QString reasonText(const PresetMatch::Reason &reason)
+{
+    const auto named = [&reason](const QString &field) {
+        return labelled(ToolFun::text(field), reason.text);
+    };
+    switch (reason.field) {
+    case Field::Format:
+    case Field::Title:
+        break;
+    case Field::Extension:
+        return QLatin1Char('.') + reason.text;
+    case Field::Codec:
+        return named(QStringLiteral("Encoder"));
+    case Field::Size:
+        return named(QStringLiteral("Resolution"));
+    case Field::Bitrate:
+        return named(QStringLiteral("Bitrate"));
+    case Field::FrameRate:
+        return named(QStringLiteral("Frame Rate"));
+    case Field::Note:
+        return named(QStringLiteral("Note"));
+    case Field::Kind:
+    case Field::Category:
+        return reason.text == QLatin1String("own") ? ToolFun::text(QStringLiteral("My presets"))
+                                                   : ToolFun::text(reason.text);
+    case Field::Purpose:
+        // Purposes have no names but the words that people use for them.
+        return ToolFun::text(QStringLiteral("good for “%1”")).arg(reason.typed);
+    }
+    return {};
+}
+
+QString labelled(const QString &label, const QString &value)
+{
+    return ToolFun::text(QStringLiteral("%1: %2")).arg(label, value);
+}
+
 QString settingLabel(const QString &name)
 {
     const auto *const words = std::find_if(
@@ -88,9 +125,8 @@ QString settingLabel(const QString &name)
         return name; // of an encoder, which has its own words
     }
     const QString label = ToolFun::text(QLatin1String(words->label));
-    return words->group == nullptr
-               ? label
-               : QStringLiteral("%1: %2").arg(ToolFun::text(QLatin1String(words->group)), label);
+    return words->group == nullptr ? label
+                                   : labelled(ToolFun::text(QLatin1String(words->group)), label);
 }
 
 QString settingText(const QString &name, const QString &value)

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void nothingFoundIsExplained();
     void whatTheSelectedFileCannotBecomeHasAReasonAndANearestPreset();
     void aStarMovesNoRow();
+    void aStarSetWhileTheIndexIsBuiltRanksThePreset();
     void aDeletedPresetIsNoLongerListed();
 
 private:
@@ -174,6 +175,18 @@ void TestPresetFinder::aStarMovesNoRow()
     QCOMPARE(at(finder, before.size() - 1, "isFavorite"), QVariant(true));
     // The next search lists it first.
     finder.search(QStringLiteral("flac"), {}, {}, {});
+    QCOMPARE(finder.idAt(0), last);
+    m_presets->setFavorite(last, false);
+}
+
+void TestPresetFinder::aStarSetWhileTheIndexIsBuiltRanksThePreset()
+{
+    PresetFinder finder(*m_store, *m_presets, nullptr, 1);
+    finder.search(QStringLiteral("flac"), {}, {}, {});
+    QCOMPARE(finder.rowCount(), 0); // that takes several parts
+    const QString last = QStringLiteral("Audio_FLAC_002");
+    m_presets->setFavorite(last, true);
+    QTRY_VERIFY(finder.rowCount() > 1);
     QCOMPARE(finder.idAt(0), last);
     m_presets->setFavorite(last, false);
 }
