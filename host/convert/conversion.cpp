@@ -3,7 +3,6 @@
 #include "host/convert/copycheck.h"
 #include "host/convert/failurewords.h"
 #include "host/convert/ffmpegarguments.h"
-#include "host/convert/losses.h"
 #include "host/convert/shortfall.h"
 #include "host/convert/subtitleplan.h"
 
@@ -54,7 +53,7 @@ void SamplePart::cut(OutputSettings &settings, double duration) const
 Conversion::Conversion(const ConversionJob &job, QObject *parent)
     : QObject(parent)
     , m_job(job)
-    , m_settings(job.settings)
+    , m_plan{job.source, job.settings}
     , m_name(job.source, job.target, job.settings.extension)
 {
     connect(&m_sourceProbe, &MediaProbe::finished, this, &Conversion::listEncoders);
@@ -72,11 +71,10 @@ Conversion::Conversion(const ConversionJob &job, QObject *parent)
 
 void Conversion::start()
 {
-    m_settings = m_job.settings;
+    m_plan = {m_job.source, m_job.settings};
     m_sizeFit.reset();
-    m_copies = {};
     m_runs = 0;
-    const Result<> possible = m_settings.validate().and_then(
+    const Result<> possible = m_plan.settings.validate().and_then(
         [this] { return m_name.isComplete() ? m_name.choose() : Result<>(); });
     if (possible && !m_name.isSkipped()) {
         m_sourceProbe.start(m_job.source);
@@ -115,7 +113,7 @@ void Conversion::listEncoders(const Result<MediaFacts> &source)
         fail(source.error());
         return;
     }
-    m_source = *source;
+    m_plan.source = *source;
     m_encoders.start();
 }
 
@@ -125,13 +123,13 @@ void Conversion::lookAtSource(const Result<QSet<QString>> &encoders)
         fail(encoders.error());
         return;
     }
-    m_encoderNames = *encoders;
-    if (!m_settings.hasVideo) {
-        convert(m_source);
+    m_plan.encoders = *encoders;
+    if (!m_plan.settings.hasVideo) {
+        convert(m_plan.source);
         return;
     }
-    const Result<VideoPlan> plan = videoPlan();
-    m_look.start(m_job.source, m_source, plan && plan->isToneMapped);
+    const std::optional<VideoPlan> picture = m_plan.picture();
+    m_look.start(m_job.source, m_plan.source, picture && picture->isToneMapped);
 }
 
 void Conversion::convert(const Result<MediaFacts> &source)
@@ -140,18 +138,19 @@ void Conversion::convert(const Result<MediaFacts> &source)
         fail(source.error());
         return;
     }
-    m_source = *source;
+    m_plan.source = *source;
     if (m_job.sample) {
-        m_job.sample->cut(m_settings, m_source.duration);
+        m_job.sample->cut(m_plan.settings, m_plan.source.duration);
     }
-    const Result<OutputSettings> fitted = fittedToSize(m_source, streamTarget());
+    const Result<OutputSettings> fitted = fittedToSize(m_plan.source, m_plan.target());
     if (!fitted) {
         fail(fitted.error());
         return;
     }
-    m_settings = *fitted;
-    if (m_settings.targetBytes > 0 && m_settings.hasVideo) {
-        m_sizeFit.emplace(m_settings.targetBytes, expectedDuration(), m_settings.videoKbps);
+    m_plan.settings = *fitted;
+    if (m_plan.settings.targetBytes > 0 && m_plan.settings.hasVideo) {
+        m_sizeFit.emplace(m_plan.settings.targetBytes, m_plan.duration(),
+                          m_plan.settings.videoKbps);
     }
     if (!m_name.isComplete()) {
         const Result<> named = namePicture().and_then([this] { return m_name.choose(); });
@@ -164,15 +163,15 @@ void Conversion::convert(const Result<MediaFacts> &source)
             return;
         }
     }
-    const Result<QVector<ToolCall>> planned = plannedCalls();
+    const Result<QVector<ToolCall>> planned = m_plan.calls(m_name.path());
     if (!planned) {
         fail(planned.error());
         return;
     }
     if (m_job.planOnly) {
-        ConversionOutcome outcome{m_name.path(), {}, losses(), {}, *planned};
-        outcome.mostBytes = mostBytes(m_source, streamTarget());
-        outcome.advice = advice();
+        ConversionOutcome outcome{m_name.path(), {}, m_plan.losses(), {}, *planned};
+        outcome.mostBytes = mostBytes(m_plan.source, m_plan.target());
+        outcome.advice = m_plan.advice();
         Q_EMIT finished(outcome);
         return;
     }
@@ -185,24 +184,24 @@ void Conversion::convert(const Result<MediaFacts> &source)
         return;
     }
     m_firstCopies = copiesIn(planned->constLast().arguments);
-    m_copies = m_firstCopies;
+    m_plan.copies = m_firstCopies;
     attempt();
 }
 
 void Conversion::attempt()
 {
-    m_pass = {takesPasses() ? 1 : 0, m_pending.passPath()};
+    m_pass = {m_plan.takesPasses() ? 1 : 0, m_pending.passPath()};
     runFfmpeg();
 }
 
 void Conversion::runFfmpeg()
 {
-    const Result<QStringList> arguments = argumentsFor(m_pending.path(), m_pass);
+    const Result<QStringList> arguments = m_plan.arguments(m_pending.path(), m_pass);
     if (!arguments) {
         fail(arguments.error());
         return;
     }
-    m_progress = ProgressReader(expectedDuration(), m_runs, m_pass.number == 1 ? 1 : 0);
+    m_progress = ProgressReader(m_plan.duration(), m_runs, m_pass.number == 1 ? 1 : 0);
     m_call = ffmpegCall(*arguments);
     if (m_job.isLogged) {
         m_call.report = m_pending.logPath();
@@ -226,7 +225,7 @@ void Conversion::checkRun(const Result<ToolRun> &run)
                   .arg(QDir::toNativeSeparators(m_name.folder()))});
     } else if (!wroteAll(*run)) {
         if (m_sizeFit && m_sizeFit->raises()) {
-            m_settings.videoKbps = m_sizeFit->kbps();
+            m_plan.settings.videoKbps = m_sizeFit->kbps();
             runFfmpeg();
             return;
         }
@@ -258,11 +257,11 @@ Result<bool> Conversion::correctsSize()
     }
     const qint64 bytes = QFileInfo(m_pending.path()).size();
     const bool corrects = m_sizeFit->corrects(bytes);
-    if (!corrects && double(bytes) > m_settings.targetBytes) {
+    if (!corrects && double(bytes) > m_plan.settings.targetBytes) {
         return failed(tr("can't be made as small as asked; choose a larger size or a preset with "
                          "a smaller picture"));
     }
-    m_settings.videoKbps = m_sizeFit->kbps();
+    m_plan.settings.videoKbps = m_sizeFit->kbps();
     return corrects;
 }
 
@@ -272,20 +271,22 @@ void Conversion::checkResult(const Result<MediaFacts> &result)
         fail(result.error());
         return;
     }
-    if (!result || (m_settings.hasVideo && result->video() == nullptr)) {
+    if (!result || (m_plan.settings.hasVideo && result->video() == nullptr)) {
         if (!retryWithFewerCopies()) {
             fail({tr("ffmpeg wrote a file that can't be played; try another preset")});
         }
         return;
     }
     m_result = *result;
-    const Copies lasting = copiesThatLast(m_copies, m_source, m_result, expectedDuration());
-    const bool isTooShort = m_result.duration < expectedDuration();
-    if (lasting != m_copies && !(isTooShort && m_hadErrors)) {
+    const Copies lasting =
+        copiesThatLast(m_plan.copies, m_plan.source, m_result, m_plan.duration());
+    const bool isTooShort = m_result.duration < m_plan.duration();
+    if (lasting != m_plan.copies && !(isTooShort && m_hadErrors)) {
         retryWith(lasting);
-    } else if (m_copies.video) {
+    } else if (m_plan.copies.video) {
         m_sourceFrames.clear();
-        m_frameList.start(ffmpegCall(firstFramesArguments(m_source, m_job.source)), frameLimits);
+        m_frameList.start(ffmpegCall(firstFramesArguments(m_plan.source, m_job.source)),
+                          frameLimits);
     } else {
         publish();
     }
@@ -304,7 +305,7 @@ void Conversion::compareFrames(const Result<ToolRun> &run)
     } else if (beginsAlike(m_sourceFrames, run->output)) {
         publish();
     } else {
-        retryWith({false, m_copies.audio, m_copies.subtitles});
+        retryWith({false, m_plan.copies.audio, m_plan.copies.subtitles});
     }
 }
 
@@ -322,87 +323,29 @@ void Conversion::publish()
     if (m_job.keepDates) {
         takeDate(m_name.path(), m_job.source);
     }
-    ConversionOutcome outcome{m_name.path(), m_result, losses(), shortfall()};
-    outcome.advice = advice();
+    ConversionOutcome outcome{m_name.path(), m_result, m_plan.losses(), shortfall()};
+    outcome.advice = m_plan.advice();
     if (m_job.sample && m_result.duration > 0) {
-        outcome.wholeBytes = double(m_result.bytes) * m_source.duration / m_result.duration;
+        outcome.wholeBytes = double(m_result.bytes) * m_plan.source.duration / m_result.duration;
     }
     Q_EMIT finished(outcome);
-}
-
-Result<QStringList> Conversion::argumentsFor(const QString &target, const EncodingPass &pass) const
-{
-    return ffmpegArguments(m_settings, m_source, m_encoderNames, m_job.source, target, m_copies,
-                           pass);
-}
-
-Result<QVector<ToolCall>> Conversion::plannedCalls() const
-{
-    QVector<ToolCall> calls;
-    const QString file = m_name.path() + QStringLiteral(".pass");
-    for (const int number : takesPasses() ? QVector<int>{1, 2} : QVector<int>{0}) {
-        const Result<QStringList> arguments = argumentsFor(m_name.path(), {number, file});
-        if (!arguments) {
-            return failed(arguments);
-        }
-        calls.append(ffmpegCall(*arguments));
-    }
-    return calls;
-}
-
-Result<VideoPlan> Conversion::videoPlan() const
-{
-    const VideoTrack *track = m_settings.hasVideo ? m_source.video() : nullptr;
-    return track == nullptr ? failed(tr("has no video; choose an audio preset"))
-                            : VideoPlan::make(*track, streamTarget());
-}
-
-bool Conversion::takesPasses() const
-{
-    const Result<VideoPlan> plan = videoPlan();
-    return plan && plan->takesPasses;
-}
-
-QString Conversion::losses() const
-{
-    return lossesIn(m_source, streamTarget());
-}
-
-QString Conversion::advice() const
-{
-    const Result<VideoPlan> plan = videoPlan();
-    if (!m_sizeFit || !plan) {
-        return {};
-    }
-    const VideoTrack &track = *m_source.video();
-    const QString codec = m_settings.videoCodec.isEmpty() ? track.codec : m_settings.videoCodec;
-    return poorPicture(videoCodec(codec), {plan->size, resultRate(track.frameRate, m_settings)},
-                       m_settings.videoKbps);
 }
 
 QString Conversion::shortfall() const
 {
     const bool isGuessed = m_result.hasGuessedDuration();
-    return shortfallIn(m_source, m_result, expectedDuration(),
+    return shortfallIn(m_plan.source, m_result, m_plan.duration(),
                        isGuessed ? m_progress.written() : m_result.duration);
-}
-
-double Conversion::expectedDuration() const
-{
-    if (m_source.isStill()) {
-        return m_settings.stillSeconds;
-    }
-    return m_settings.cutDuration(m_source.duration);
 }
 
 bool Conversion::retryWithFewerCopies()
 {
-    if (m_copies.video || m_copies.audio) {
-        retryWith(fewerCopies(m_firstCopies, m_copies));
+    if (m_plan.copies.video || m_plan.copies.audio) {
+        retryWith(fewerCopies(m_firstCopies, m_plan.copies));
         return true;
     }
     // The subtitles may be what can't be written: the rest is worth more.
-    if (m_copies.subtitles && !subtitlePlans(m_source, streamTarget()).isEmpty()) {
+    if (m_plan.copies.subtitles && !subtitlePlans(m_plan.source, m_plan.target()).isEmpty()) {
         m_firstCopies.subtitles = false;
         retryWith(m_firstCopies);
         return true;
@@ -412,22 +355,20 @@ bool Conversion::retryWithFewerCopies()
 
 void Conversion::retryWith(const Copies &copies)
 {
-    m_copies = copies;
+    m_plan.copies = copies;
     attempt();
-}
-
-StreamTarget Conversion::streamTarget() const
-{
-    return {m_settings, *Container::find(m_settings.extension), m_encoderNames, m_copies};
 }
 
 Result<> Conversion::namePicture()
 {
-    if (!m_settings.hasVideo || m_source.video() == nullptr) {
+    const VideoTrack *track = m_plan.source.video();
+    if (!m_plan.settings.hasVideo || track == nullptr) {
         return failed(tr("the output has no picture, so its name can't hold the picture's width "
                          "or height"));
     }
-    return videoPlan().map([this](const VideoPlan &plan) { m_name.setPicture(plan.size); });
+    return VideoPlan::make(*track, m_plan.target()).map([this](const VideoPlan &plan) {
+        m_name.setPicture(plan.size);
+    });
 }
 
 void Conversion::log()

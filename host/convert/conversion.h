@@ -1,12 +1,11 @@
 #ifndef CONVERT_CONVERSION_H
 #define CONVERT_CONVERSION_H
 
-#include "host/convert/encoderchoice.h"
+#include "host/convert/fileplan.h"
 #include "host/convert/outputname.h"
 #include "host/convert/outputsettings.h"
 #include "host/convert/progress.h"
 #include "host/convert/sizefit.h"
-#include "host/convert/videoplan.h"
 #include "host/files/pendingfile.h"
 #include "host/media/mediafacts.h"
 #include "host/media/mediaprobe.h"
@@ -99,22 +98,13 @@ private:
     void compareFrames(const Result<ToolRun> &run);
     void publish();
 
-    [[nodiscard]] Result<QStringList> argumentsFor(const QString &target,
-                                                   const EncodingPass &pass) const;
-    [[nodiscard]] Result<QVector<ToolCall>> plannedCalls() const;
-    [[nodiscard]] Result<VideoPlan> videoPlan() const;
-    [[nodiscard]] bool takesPasses() const;
     /*! Whether the size calls for another run; fails if none can give it. */
     [[nodiscard]] Result<bool> correctsSize();
-    [[nodiscard]] double expectedDuration() const;
-    [[nodiscard]] QString losses() const;
-    [[nodiscard]] QString advice() const;
     [[nodiscard]] QString shortfall() const;
     /*! Encodes what can't be copied; false if nothing is left to try. */
     bool retryWithFewerCopies();
     void retryWith(const Copies &copies);
 
-    [[nodiscard]] StreamTarget streamTarget() const;
     /*! Fills the picture's size into the output's name. */
     [[nodiscard]] Result<> namePicture();
     void log();
@@ -122,13 +112,10 @@ private:
     void fail(const Error &error);
 
     const ConversionJob m_job;
-    OutputSettings m_settings; // the job's, fitted to the source
+    FilePlan m_plan; // of the current attempt, fitted to the source
     std::optional<SizeFit> m_sizeFit;
-    MediaFacts m_source;
     MediaFacts m_result;
-    QSet<QString> m_encoderNames;
     Copies m_firstCopies; // of the first attempt
-    Copies m_copies;      // of the current attempt
     OutputName m_name;
     EncodingPass m_pass;
     int m_runs = 0;  // of ffmpeg that have ended
