@@ -8,7 +8,6 @@
 #include "host/window/tasktexts.h"
 #include "host/window/toolfun.h"
 
-#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -61,6 +60,7 @@ Page::Page(PageKind kind, WindowSettings &settings, Presets &presets, QObject *p
     connect(&m_runner, &TaskRunner::pauseChanged, this, &Page::pauseChanged);
     connect(&m_runner, &TaskRunner::started, this, &Page::started);
     connect(&m_runner, &TaskRunner::ended, this, &Page::ended);
+    connect(&m_trial, &SampleOffer::noticed, this, &Page::noticed);
     if (!folder().isEmpty()) {
         WorkFolder::sweep(folder());
     }
@@ -77,19 +77,6 @@ void Page::renewOutlooks()
 {
     ++m_outlookVersion;
     Q_EMIT outlookChanged();
-}
-
-const Task *Page::nextToSample() const
-{
-    constexpr int mostRows = 50;
-    const QVector<Task> &all = m_tasks.tasks();
-    const int first = std::clamp(m_firstInSight, 0, all.size());
-    const auto end = all.cbegin() + std::min(all.size(), first + mostRows);
-    const auto next = std::find_if(all.cbegin() + first, end, [this](const Task &task) {
-        return task.state == Task::Ready && m_outlooks.needsSample(task) &&
-               QFileInfo::exists(task.source);
-    });
-    return next == end ? nullptr : &*next;
 }
 
 bool Page::canConvert() const
@@ -301,41 +288,11 @@ void Page::play(int taskId)
 
 void Page::trySample(int taskId, const QString &format)
 {
-    const Task *task = m_tasks.find(taskId);
-    if (task == nullptr) {
-        return;
+    if (const Task *task = m_tasks.find(taskId)) {
+        Task tried = *task;
+        tried.format = format.isEmpty() ? tried.format : format;
+        m_trial.start(jobOf(tried));
     }
-    Task tried = *task;
-    tried.format = format.isEmpty() ? tried.format : format;
-    const QString source = tried.source;
-    m_trial.disconnect(this);
-    connect(
-        &m_trial, &SampleTrial::finished, this,
-        [this, source](const Result<ConversionOutcome> &outcome) { endSample(source, outcome); });
-    m_offer.make(ToolFun::text(QStringLiteral("Trying 10 seconds of %1 …")).arg(namesOf({source})),
-                 ToolFun::text(QStringLiteral("Stop")), [this] { m_trial.stop(); });
-    m_trial.start(jobOf(tried));
-}
-
-void Page::endSample(const QString &source, const Result<ConversionOutcome> &outcome)
-{
-    m_offer.dismiss();
-    if (!outcome) {
-        Q_EMIT noticed(QStringLiteral("%1: %2").arg(namesOf({source}), outcome.error().text));
-        return;
-    }
-    const Result<> played = playFile(outcome->target);
-    if (!played) {
-        Q_EMIT noticed(played.error().text);
-    }
-    m_offer.make(ToolFun::text(QStringLiteral("All of %1 would be about %2."))
-                     .arg(namesOf({source}), sizeText(outcome->wholeBytes)),
-                 ToolFun::text(QStringLiteral("Play again")), [this, target = outcome->target] {
-                     const Result<> again = playFile(target);
-                     if (!again) {
-                         Q_EMIT noticed(again.error().text);
-                     }
-                 });
 }
 
 bool Page::checkFormatUsed(const QString &id) const

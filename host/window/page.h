@@ -6,7 +6,7 @@
 #include "host/window/inspector.h"
 #include "host/window/offer.h"
 #include "host/window/pageoutput.h"
-#include "host/window/sampletrial.h"
+#include "host/window/sampleoffer.h"
 #include "host/window/taskformats.h"
 #include "host/window/tasklogs.h"
 #include "host/window/taskoutlooks.h"
@@ -84,12 +84,10 @@ public:
     /*! What the task's conversion will give. Bindings name all that it depends on. */
     Q_INVOKABLE Outlook outlook(int taskId, const QString &format, double start, double end,
                                 const QString &tracks, int version) const;
-    /*! The next file whose size a sample would tell better: of those in sight and a few below them.
-     *  Null if there is none. */
-    [[nodiscard]] const Task *nextToSample() const;
-    /*! What its conversion would be. */
     [[nodiscard]] ConversionJob jobOf(const Task &task) const;
     TaskOutlooks &outlooks() { return m_outlooks; }
+    /*! The row. */
+    [[nodiscard]] int firstInSight() const { return m_firstInSight; }
     /*! The task's row; -1 if there is no such task. */
     Q_INVOKABLE int rowOf(int taskId) const { return m_tasks.rowOf(taskId); }
     /*! The task in this row; 0 if there is no such row. */
@@ -168,7 +166,6 @@ private:
     /*! Converts the tasks, unless the user has to be asked about their results' names first. */
     void start(const QVector<int> &ids);
     void removeTasks(const QVector<int> &ids);
-    void endSample(const QString &source, const Result<ConversionOutcome> &outcome);
     void takeFacts(int taskId, const Result<MediaFacts> &facts);
     void offerAgain();
     void renewOutlooks();
@@ -187,7 +184,7 @@ private:
     Inspector m_inspector;
     TaskRunner m_runner;
     TaskRemovals m_removals;
-    SampleTrial m_trial;
+    SampleOffer m_trial{m_offer};
 };
 
 #endif

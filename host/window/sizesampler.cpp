@@ -4,11 +4,31 @@
 #include "host/window/windowsettings.h"
 
 #include <QEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QWindow>
 
 #include <algorithm>
 #include <utility>
+
+namespace {
+
+/*! The next file whose size a sample would tell better: of those in sight and a few below them.
+ *  Null if there is none. */
+const Task *nextIn(Page &page)
+{
+    constexpr int mostRows = 50;
+    const QVector<Task> &all = page.tasks()->tasks();
+    const int first = std::clamp(page.firstInSight(), 0, all.size());
+    const auto end = all.cbegin() + std::min(all.size(), first + mostRows);
+    const auto next = std::find_if(all.cbegin() + first, end, [&page](const Task &task) {
+        return task.state == Task::Ready && page.outlooks().needsSample(task) &&
+               QFileInfo::exists(task.source);
+    });
+    return next == end ? nullptr : &*next;
+}
+
+} // namespace
 
 SizeSampler::SizeSampler(const QVector<Page *> &pages, QWindow &window,
                          const WindowSettings &settings, int pause)
@@ -95,7 +115,7 @@ void SizeSampler::beginNext()
     const int shown = m_window.property("currentPage").toInt();
     std::rotate(pages.begin(), pages.begin() + shown, pages.end());
     for (Page *page : qAsConst(pages)) {
-        if (const Task *task = page->nextToSample()) {
+        if (const Task *task = nextIn(*page)) {
             m_page = page;
             m_taskId = task->id;
             m_job = page->jobOf(*task);
