@@ -255,9 +255,10 @@ Result<bool> Conversion::correctsSize()
     if (!m_sizeFit) {
         return false;
     }
-    const qint64 bytes = QFileInfo(m_pending.path()).size();
-    const bool corrects = m_sizeFit->corrects(bytes);
-    if (!corrects && double(bytes) > m_plan.settings.targetBytes) {
+    const bool corrects = m_sizeFit->corrects(QFileInfo(m_pending.path()).size());
+    if (corrects && m_sizeFit->isBest()) {
+        m_pending.keep();
+    } else if (!corrects && !m_sizeFit->isBest() && !m_pending.takeKept()) {
         return failed(tr("can't be made as small as asked; choose a larger size or a preset with "
                          "a smaller picture"));
     }

@@ -86,42 +86,59 @@ SizeFit::SizeFit(double bytes, double seconds, double kbps)
 bool SizeFit::corrects(qint64 bytes)
 {
     constexpr double nearEnough = 0.98;
-    // Each further attempt aims lower, so that the last one is not too large.
-    const double aim = m_target * (0.993 - 0.0015 * m_attempts);
     const Attempt attempt{m_kbps, double(bytes)};
     const bool isTooLarge = attempt.bytes > m_target;
     const bool isTooSmall = attempt.bytes < m_target * nearEnough;
-    const bool needsNoMore = isTooSmall && m_last && m_last->bytes < m_target &&
-                             attempt.kbps > m_last->kbps * 1.05 &&
-                             attempt.bytes < m_last->bytes * 1.01;
-    ++m_attempts;
-    if ((!isTooLarge && !isTooSmall) || needsNoMore || m_attempts == mostAttempts) {
+    const Attempt last = m_attempts.isEmpty() ? Attempt{} : m_attempts.constLast();
+    const bool needsNoMore = isTooSmall && last.bytes > 0 && last.bytes < m_target &&
+                             attempt.kbps > last.kbps * 1.05 && attempt.bytes < last.bytes * 1.01;
+    m_attempts << attempt;
+    if (!isTooLarge && (!m_best || attempt.bytes > m_attempts.at(*m_best).bytes)) {
+        m_best = m_attempts.size() - 1;
+    }
+    if ((!isTooLarge && !isTooSmall) || needsNoMore ||
+        m_attempts.size() + m_refusals == mostAttempts) {
+        m_kbps = m_best ? m_attempts.at(*m_best).kbps : m_kbps;
         return false;
     }
-    const double wanted = m_kbps + (aim - attempt.bytes) / bytesPerKbps(attempt);
-    m_last = attempt;
-    m_kbps = std::max(1.0, std::floor(std::clamp(wanted, m_kbps / 4, m_kbps * 4)));
+    m_kbps = std::max(1.0, std::floor(std::clamp(correctedKbps(), m_kbps / 4, m_kbps * 4)));
     return true;
 }
 
 bool SizeFit::raises()
 {
-    ++m_attempts;
-    if (!m_last || m_attempts >= mostAttempts || m_last->kbps - m_kbps < 2) {
+    ++m_refusals;
+    if (m_attempts.isEmpty() || m_attempts.size() + m_refusals >= mostAttempts ||
+        m_attempts.constLast().kbps - m_kbps < 2) {
         return false;
     }
-    m_kbps = std::floor((m_kbps + m_last->kbps) / 2);
+    m_kbps = std::floor((m_kbps + m_attempts.constLast().kbps) / 2);
     return true;
 }
 
-double SizeFit::bytesPerKbps(const Attempt &attempt) const
+double SizeFit::correctedKbps() const
 {
-    const double usual = m_seconds * 1000 / 8;
-    if (!m_last || m_last->kbps == attempt.kbps) {
-        return usual;
+    // Some encoders write another size each time: what came out at about the same bitrate is
+    // averaged, and the size grows as it did from a bitrate that is not so near.
+    constexpr double nearness = 0.04;
+    Attempt near;
+    std::optional<Attempt> other;
+    int count = 0;
+    for (const Attempt &attempt : m_attempts) {
+        if (std::abs(attempt.kbps - m_kbps) <= m_kbps * nearness) {
+            near = {near.kbps + attempt.kbps, near.bytes + attempt.bytes};
+            ++count;
+        } else {
+            other = attempt;
+        }
     }
-    const double seen = (attempt.bytes - m_last->bytes) / (attempt.kbps - m_last->kbps);
-    return std::clamp(seen, usual / 4, usual * 2);
+    near = {near.kbps / count, near.bytes / count};
+    const double usual = m_seconds * 1000 / 8;
+    const double seen = other ? (near.bytes - other->bytes) / (near.kbps - other->kbps) : usual;
+    const double bytesPerKbps = std::clamp(seen, usual / 4, usual * 2);
+    // Each further attempt aims lower, so that the last one is not too large.
+    const double aim = m_target * (0.9945 - 0.0015 * m_attempts.size());
+    return near.kbps + (aim - near.bytes) / bytesPerKbps;
 }
 
 Result<OutputSettings> fittedToSize(const MediaFacts &source, const StreamTarget &target)

@@ -6,6 +6,8 @@
 #include "host/error.h"
 #include "host/media/mediafacts.h"
 
+#include <QVector>
+
 #include <optional>
 
 /*!
@@ -24,7 +26,9 @@ public:
     /*! For when the encoder refuses kbps() as too few. Whether another attempt is worthwhile: with
      *  more, but fewer than the last one. */
     [[nodiscard]] bool raises();
-    /*! Of the attempt to make. */
+    /*! Whether what came out last is the largest that is not too large. */
+    [[nodiscard]] bool isBest() const { return m_best && m_best == m_attempts.size() - 1; }
+    /*! Of the attempt to make; once none is worthwhile, of the best one, if any. */
     [[nodiscard]] double kbps() const { return m_kbps; }
 
 private:
@@ -34,14 +38,14 @@ private:
         double bytes = 0;
     };
 
-    /*! How many bytes one kbps more makes, by the last attempts. */
-    [[nodiscard]] double bytesPerKbps(const Attempt &attempt) const;
+    [[nodiscard]] double correctedKbps() const;
 
     const double m_target;
     const double m_seconds;
     double m_kbps;
-    std::optional<Attempt> m_last;
-    int m_attempts = 0;
+    QVector<Attempt> m_attempts;
+    std::optional<int> m_best; // of the attempts
+    int m_refusals = 0;
 };
 
 /*! The settings with the bitrates that let the result of \a source have the asked size, as

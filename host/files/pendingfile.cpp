@@ -16,6 +16,11 @@
 
 namespace {
 
+bool moveOver(const QString &from, const QString &to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
 Error nameRefused(const QString &path, const QString &reason)
 {
     const QString folder = QDir::toNativeSeparators(QFileInfo(path).absolutePath());
@@ -55,10 +60,24 @@ QString PendingFile::logPath() const
     return m_work ? m_work->filePath(QStringLiteral("log")) : QString();
 }
 
+void PendingFile::keep()
+{
+    moveOver(path(), keptPath());
+}
+
+bool PendingFile::takeKept()
+{
+    return moveOver(keptPath(), path());
+}
+
+QString PendingFile::keptPath() const
+{
+    return m_work ? m_work->filePath(QStringLiteral("kept")) : QString();
+}
+
 Result<> PendingFile::publishOver(const QString &path)
 {
-    if (std::rename(QFile::encodeName(this->path()).constData(),
-                    QFile::encodeName(path).constData()) != 0) {
+    if (!moveOver(this->path(), path)) {
         return tl::make_unexpected(nameRefused(path, qt_error_string(errno)));
     }
     discard();

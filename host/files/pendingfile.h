@@ -28,6 +28,12 @@ public:
     [[nodiscard]] QString passPath() const;
     /*! Where to write a log of the work, which goes with the unfinished file. */
     [[nodiscard]] QString logPath() const;
+    /*! Keeps what is written, in place of what was kept before, so that path() can be written
+     *  anew. */
+    void keep();
+    /*! Puts what was kept in the place of what is written; false, and nothing changes, if nothing
+     *  was kept. */
+    [[nodiscard]] bool takeKept();
     /*! Removes the unfinished file, as the destructor does. */
     void discard() { m_work.reset(); }
 
@@ -42,6 +48,8 @@ public:
     [[nodiscard]] Result<QString> publish(const QString &baseName, const QString &extension);
 
 private:
+    [[nodiscard]] QString keptPath() const;
+
     std::optional<WorkFolder> m_work;
 };
 

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void theBitrateIsCorrectedByWhatCameOut_data();
     void theBitrateIsCorrectedByWhatCameOut();
     void aPictureThatNeedsNoMoreIsLeftSmall();
+    void theBestOfAnUnsteadyEncoderIsTaken();
     void theVideoGetsWhatTheAudioLeaves();
     void aPeakOfTheDeviceStays();
     void audioIsNeverTooLarge();
@@ -88,6 +89,23 @@ void TestSizeFit::aPictureThatNeedsNoMoreIsLeftSmall()
     QVERIFY(fit.corrects(300000));
     QVERIFY(fit.kbps() > 1000);
     QVERIFY(!fit.corrects(301000));
+}
+
+void TestSizeFit::theBestOfAnUnsteadyEncoderIsTaken()
+{
+    SizeFit fit(1000000, 10, 700);
+    double bestKbps = 0;
+    const QVector<int> sizes = {1030000, 960000, 1020000, 975000, 1010000, 970000, 1040000};
+    for (const int bytes : sizes) {
+        const double kbps = fit.kbps();
+        QVERIFY(fit.corrects(bytes));
+        const bool isBest = bytes == 960000 || bytes == 975000;
+        QCOMPARE(fit.isBest(), isBest);
+        bestKbps = isBest ? kbps : bestKbps;
+    }
+    QVERIFY(!fit.corrects(1001000));
+    QVERIFY(!fit.isBest());
+    QCOMPARE(fit.kbps(), bestKbps);
 }
 
 void TestSizeFit::theVideoGetsWhatTheAudioLeaves()

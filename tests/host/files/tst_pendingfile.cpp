@@ -26,6 +26,7 @@ private Q_SLOTS:
     void theFileOfAKilledProcessIsSwept();
     void destroyingItLeavesNothing();
     void discardingItLeavesNothing();
+    void whatIsKeptComesBack();
     void aPublishedFileHasItsName();
     void aTakenNameIsNumbered();
     void aFolderTakesTheNameToo();
@@ -94,6 +95,24 @@ void TestPendingFile::discardingItLeavesNothing()
     pending.discard();
     QCOMPARE(everything(), QStringList());
     QCOMPARE(pending.path(), QString());
+}
+
+void TestPendingFile::whatIsKeptComesBack()
+{
+    PendingFile pending;
+    QVERIFY(pending.create(m_folder->path()));
+    QVERIFY(writeFile(pending.path(), "first"));
+    QVERIFY(!pending.takeKept());
+    QCOMPARE(contentOf(pending.path()), QByteArray("first"));
+    pending.keep();
+    QVERIFY(writeFile(pending.path(), "better"));
+    pending.keep();
+    QVERIFY(writeFile(pending.path(), "last"));
+    QVERIFY(pending.takeKept());
+    QCOMPARE(contentOf(pending.path()), QByteArray("better"));
+    QVERIFY(!pending.takeKept());
+    pending.discard();
+    QCOMPARE(everything(), QStringList());
 }
 
 void TestPendingFile::aPublishedFileHasItsName()
