@@ -2,6 +2,7 @@
 
 #include "host/check/writtenfile.h"
 #include "host/tools/toolcall.h"
+#include "tests/support/testfiles.h"
 
 #include <QProcess>
 
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void theHighQualityIsTheLargerFile();
     void theResultHasTheAskedSize_data();
     void theResultHasTheAskedSize();
+    void theBestOfAnUnsteadyEncoderIsTaken();
     void keyFramesAreNoFurtherApartThanAsked_data();
     void keyFramesAreNoFurtherApartThanAsked();
 
@@ -172,6 +174,24 @@ void TestConversionRate::theResultHasTheAskedSize()
     const qint64 bytes = QFileInfo(outcome->target).size();
     QVERIFY2(bytes <= settings.targetBytes * 1.0, qPrintable(QString::number(bytes)));
     QVERIFY2(bytes >= settings.targetBytes * 0.98, qPrintable(QString::number(bytes)));
+}
+
+void TestConversionRate::theBestOfAnUnsteadyEncoderIsTaken()
+{
+    // The first result is 3 % too small, each later one too large.
+    standIn(QStringLiteral("$REAL \"$@\" || exit 1\n"
+                           "for file; do :; done\n"
+                           "file=${file#file:}\n"
+                           "truncate -s $((1000 * $(cat %1))) \"$file\"\n"
+                           "echo 320 > %1")
+                .arg(path(QStringLiteral("sizes"))));
+    QVERIFY(writeFile(path(QStringLiteral("sizes")), "291"));
+    OutputSettings settings = video(QStringLiteral("mkv"));
+    settings.videoCodec = QStringLiteral("mpeg4");
+    settings.targetBytes = 300000;
+    const Outcome outcome = convert(job(easy(), settings));
+    QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+    QCOMPARE(QFileInfo(outcome->target).size(), 291000);
 }
 
 void TestConversionRate::keyFramesAreNoFurtherApartThanAsked_data()
