@@ -100,13 +100,16 @@ private Q_SLOTS:
 
     void everyTextIsReadable_data();
     void everyTextIsReadable();
-    void everyIconShowsOnBothGrounds_data();
-    void everyIconShowsOnBothGrounds();
+    void everyIconShowsOnEveryGround_data();
+    void everyIconShowsOnEveryGround();
     void theLibrarysScreensStayLight();
     void withoutAChoiceTheWindowFollowsTheDesktop();
     void aChoiceIsKept();
 
 private:
+    /*! The ground of what is selected. */
+    [[nodiscard]] QColor accentPale() const;
+
     QTemporaryDir m_work;
     std::unique_ptr<MainWindow> m_main;
     QQuickWindow *m_window = nullptr;
@@ -132,6 +135,15 @@ void TestTheme::cleanup()
 {
     m_main.reset();
     QCOMPARE(takeWarnings(), QString());
+}
+
+QColor TestTheme::accentPale() const
+{
+    const QList<QQuickItem *> items = m_window->findChildren<QQuickItem *>();
+    const auto themed = std::find_if(items.begin(), items.end(), [](const QQuickItem *item) {
+        return item->property("theme").isValid();
+    });
+    return (*themed)->property("theme").value<QObject *>()->property("accentPale").value<QColor>();
 }
 
 void TestTheme::everyTextIsReadable_data()
@@ -173,7 +185,7 @@ void TestTheme::everyTextIsReadable()
     check();
 }
 
-void TestTheme::everyIconShowsOnBothGrounds_data()
+void TestTheme::everyIconShowsOnEveryGround_data()
 {
     QTest::addColumn<QString>("file");
     const QDir icons(QStringLiteral(":/window/images"));
@@ -182,7 +194,7 @@ void TestTheme::everyIconShowsOnBothGrounds_data()
     }
 }
 
-void TestTheme::everyIconShowsOnBothGrounds()
+void TestTheme::everyIconShowsOnEveryGround()
 {
     QFETCH(QString, file);
     QFile icon(file);
@@ -194,9 +206,11 @@ void TestTheme::everyIconShowsOnBothGrounds()
          {WindowSettings::LightTheme, WindowSettings::DarkTheme}) {
         m_main->settings().setTheme(theme);
         const QColor ground = m_window->property("color").value<QColor>();
+        const QColor selected = accentPale();
         for (auto match = colour.globalMatch(text); match.hasNext();) {
             const QString is = match.next().captured(1);
             QVERIFY2(contrast(QColor(is), ground) >= distinguishable, qPrintable(is));
+            QVERIFY2(contrast(QColor(is), selected) >= distinguishable, qPrintable(is));
         }
     }
 }
