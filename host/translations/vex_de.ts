@@ -1128,8 +1128,8 @@
         <translation>Eingabe</translation>
     </message>
     <message>
-        <source>Use the format for all</source>
-        <translation>Format für alle verwenden</translation>
+        <source>Follow “Convert all to”</source>
+        <translation>„Alle umwandeln in“ folgen</translation>
     </message>
     <message>
         <source>Select all</source>

@@ -1128,8 +1128,8 @@
         <translation>Enter</translation>
     </message>
     <message>
-        <source>Use the format for all</source>
-        <translation>Use the format for all</translation>
+        <source>Follow “Convert all to”</source>
+        <translation>Follow “Convert all to”</translation>
     </message>
     <message>
         <source>Select all</source>

@@ -1128,8 +1128,8 @@
         <translation>Intro</translation>
     </message>
     <message>
-        <source>Use the format for all</source>
-        <translation>Usar el formato de todos</translation>
+        <source>Follow “Convert all to”</source>
+        <translation>Seguir «Convertir todo a»</translation>
     </message>
     <message>
         <source>Select all</source>

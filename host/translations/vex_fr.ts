@@ -1128,8 +1128,8 @@
         <translation>Entrée</translation>
     </message>
     <message>
-        <source>Use the format for all</source>
-        <translation>Utiliser le format de tous</translation>
+        <source>Follow “Convert all to”</source>
+        <translation>Suivre « Tout convertir en »</translation>
     </message>
     <message>
         <source>Select all</source>

@@ -1128,8 +1128,8 @@
         <translation>Enter</translation>
     </message>
     <message>
-        <source>Use the format for all</source>
-        <translation>全体の形式を使う</translation>
+        <source>Follow “Convert all to”</source>
+        <translation>「すべて変換」に従う</translation>
     </message>
     <message>
         <source>Select all</source>

@@ -1128,8 +1128,8 @@
         <translation>回车</translation>
     </message>
     <message>
-        <source>Use the format for all</source>
-        <translation>使用全部文件的格式</translation>
+        <source>Follow “Convert all to”</source>
+        <translation>跟随“全部转换为”</translation>
     </message>
     <message>
         <source>Select all</source>

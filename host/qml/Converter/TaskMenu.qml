@@ -72,7 +72,7 @@ StyledMenu {
     MenuEntry {
         isOffered: root.hasOwnFormat
         enabled: root.taskState !== Task.Running
-        text: ToolFun.tr("Use the format for all")
+        text: ToolFun.tr("Follow “Convert all to”")
         onTriggered: root.page.followChosen(root.taskId)
     }
 
