@@ -296,9 +296,8 @@ QVariant PresetFinder::details(int row) const
 {
     const QString id = m_rows.at(row).id;
     const std::optional<FoundPreset> preset = m_store.find(id);
-    const QString summary = preset ? summaryOf(preset->map) : QString();
-    const QString note = m_store.notes().of(id).text;
-    return note.isEmpty() ? summary : QStringLiteral("%1  ·  %2").arg(note, summary);
+    return ToolFun::joined(
+        {m_store.notes().of(id).text, preset ? summaryOf(preset->map) : QString()});
 }
 
 QVariant PresetFinder::why(int row) const

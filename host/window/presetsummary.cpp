@@ -76,7 +76,7 @@ QString summaryOf(const QVariantMap &preset)
             parts << chosenText(name, values.value(name));
         }
     }
-    return parts.join(QStringLiteral("  ·  "));
+    return ToolFun::joined(parts);
 }
 
 QString reasonText(const PresetMatch::Reason &reason)

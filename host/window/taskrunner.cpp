@@ -35,7 +35,7 @@ QString TaskRunner::text() const
     } else if (left >= 0) {
         parts << ToolFun::text(QStringLiteral("%1 left")).arg(clockText(left));
     }
-    return parts.join(QStringLiteral("  ·  "));
+    return ToolFun::joined(parts);
 }
 
 QString TaskRunner::outcomeText(int converted, int failed)

@@ -10,8 +10,6 @@
 
 namespace {
 
-const QString separator = QStringLiteral("  ·  ");
-
 /*! How the new size compares to the old one; empty where nobody would see a difference. */
 QString comparison(double bytes, double before)
 {
@@ -51,7 +49,7 @@ QString runningText(const Progress &progress)
     if (progress.timeLeft() >= 0) {
         parts << ToolFun::text(QStringLiteral("%1 left")).arg(clockText(progress.timeLeft()));
     }
-    return parts.join(separator);
+    return ToolFun::joined(parts);
 }
 
 QString detailsOf(const MediaFacts &facts)
@@ -67,7 +65,7 @@ QString detailsOf(const MediaFacts &facts)
     if (facts.bytes > 0) {
         parts << sizeText(double(facts.bytes));
     }
-    return parts.join(separator);
+    return ToolFun::joined(parts);
 }
 
 QString codecsOf(const MediaFacts &facts)
@@ -87,16 +85,16 @@ QString resultOf(const Task &task)
     if (task.target.isEmpty()) {
         return {};
     }
-    QString result = visibleName(task.target);
+    QString size;
     if (task.targetBytes > 0) {
-        result += separator + sizeText(double(task.targetBytes));
+        size = sizeText(double(task.targetBytes));
         // A part of the source can't be compared to all of it.
         const bool isWhole = task.start <= 0 && task.end <= 0;
         const QString compared =
             isWhole ? comparison(double(task.targetBytes), double(task.facts.bytes)) : QString();
         if (!compared.isEmpty()) {
-            result += QStringLiteral(", ") + compared;
+            size += QStringLiteral(", ") + compared;
         }
     }
-    return result;
+    return ToolFun::joined({visibleName(task.target), size});
 }

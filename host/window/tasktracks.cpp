@@ -45,9 +45,10 @@ QString channelsOf(const AudioTrack &track)
 
 QString lineText(const Track &track, const QString &kind)
 {
-    QStringList parts = {languageName(track.language), kind, isolated(visibleText(track.title))};
-    parts.removeAll(QString());
-    return QStringLiteral("%1.  %2").arg(track.number).arg(parts.join(QStringLiteral("  ·  ")));
+    return QStringLiteral("%1.  %2")
+        .arg(track.number)
+        .arg(ToolFun::joined(
+            {languageName(track.language), kind, isolated(visibleText(track.title))}));
 }
 
 QString textOf(const AudioTrack &track)

@@ -8,6 +8,12 @@ QString ToolFun::text(const QString &key)
     return QCoreApplication::translate("Vex", key.toUtf8().constData());
 }
 
+QString ToolFun::joined(QStringList texts)
+{
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral("  ·  "));
+}
+
 void ToolFun::timerOnce(int ms, const QJSValue &function)
 {
     QTimer::singleShot(ms, this, [callback = function]() mutable {

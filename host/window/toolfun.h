@@ -3,6 +3,7 @@
 
 #include <QJSValue>
 #include <QObject>
+#include <QStringList>
 
 /*! Texts and a timer for the QML files. */
 class ToolFun : public QObject
@@ -16,6 +17,9 @@ public:
     /*! The text for \a key in the user's language; \a key itself if it isn't translated. */
     static QString text(const QString &key);
     Q_INVOKABLE QString tr(const QString &key) const { return text(key); }
+
+    /*! The texts in one line, with dots between them; empty ones are left out. */
+    Q_INVOKABLE static QString joined(QStringList texts);
 
     /*! Calls \a function once, \a ms milliseconds from now. */
     Q_INVOKABLE void timerOnce(int ms, const QJSValue &function);

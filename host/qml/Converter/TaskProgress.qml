@@ -32,23 +32,19 @@ Item {
         case Task.Ready:
             return root.problem || root.expected()
         case Task.Waiting:
-            return root.joined([ToolFun.tr("Waiting"), root.problem || root.expected()])
+            return ToolFun.joined([ToolFun.tr("Waiting"), root.problem || root.expected()])
         case Task.Converted:
-            return root.joined([root.result || ToolFun.tr("Converted"), root.note])
+            return ToolFun.joined([root.result || ToolFun.tr("Converted"), root.note])
         case Task.Failed:
             return root.error
         case Task.Cancelled:
-            return root.joined([ToolFun.tr("Stopped"), root.problem])
+            return ToolFun.joined([ToolFun.tr("Stopped"), root.problem])
         case Task.Interrupted:
-            return root.joined([ToolFun.tr("Interrupted"), root.problem])
+            return ToolFun.joined([ToolFun.tr("Interrupted"), root.problem])
         case Task.Running:
             return root.running
         }
         return ""
-    }
-
-    function joined(texts) {
-        return texts.filter(Boolean).join("  ·  ")
     }
 
     function expected() {
@@ -56,7 +52,7 @@ Item {
             return ""
         }
         const name = root.outlook.name === "" ? "" : "→ " + root.outlook.name
-        return root.joined([name, root.outlook.size, root.losses])
+        return ToolFun.joined([name, root.outlook.size, root.losses])
     }
 
     implicitHeight: Math.max(20, wordsLabel.implicitHeight)

@@ -79,8 +79,8 @@ Rectangle {
                                  thumbnail.y + thumbnail.height / 2))
     }
 
-    function joined(texts, separator) {
-        return texts.filter(Boolean).join(separator)
+    function spoken(texts) {
+        return texts.filter(Boolean).join(", ")
     }
 
     readonly property int closedHeight: root.canCut ? 128 : 96
@@ -93,8 +93,7 @@ Rectangle {
     border.width: 1
     border.color: Theme.rule
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.joined([root.name, root.details, root.formatCaption, progress.words],
-                                 ", ")
+    Accessible.name: root.spoken([root.name, root.details, root.formatCaption, progress.words])
     Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: root.isSelected
@@ -205,7 +204,7 @@ Rectangle {
             width: parent.width
             height: 18
             visible: text !== ""
-            text: root.joined([root.details, root.codecs], "  ·  ")
+            text: ToolFun.joined([root.details, root.codecs])
             font.pixelSize: Theme.smallText
             color: Theme.font_color_grade4
         }

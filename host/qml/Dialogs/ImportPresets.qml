@@ -62,12 +62,12 @@ VEXContent {
         wrapMode: Text.WordWrap
         font.pixelSize: Theme.smallText
         color: Theme.font_color_grade4
-        text: root.states.filter(function (state) {
+        text: ToolFun.joined(root.states.filter(function (state) {
             return root.countOf(state) > 0
         }).map(function (state) {
             return ToolFun.tr("%1: %2").arg(root.stateText(state))
                 .arg(root.countOf(state).toLocaleString(Qt.locale(), "f", 0))
-        }).join("  ·  ")
+        }))
     }
 
     ListView {
@@ -183,6 +183,7 @@ VEXContent {
 
             implicitHeight: Theme.smallControlHeight
             font.pixelSize: Theme.smallText
+            primary: root.importable === 0
             text: root.importable > 0 ? ToolFun.tr("Cancel") : ToolFun.tr("Close")
             onClicked: root.frame.cancelClicked()
         }

@@ -16,11 +16,11 @@ Rectangle {
 
     readonly property bool canOpen: root.modelData.approximated.length > 0
                                     || root.modelData.lost.length > 0
-    readonly property string remark: [root.modelData.reason,
-                                      root.countText(ToolFun.tr("approximated"),
-                                                     root.modelData.approximated),
-                                      root.countText(ToolFun.tr("lost"), root.modelData.lost)]
-                                     .filter(root.isText).join("  ·  ")
+    readonly property string remark: ToolFun.joined([
+        root.modelData.reason,
+        root.countText(ToolFun.tr("approximated"), root.modelData.approximated),
+        root.countText(ToolFun.tr("lost"), root.modelData.lost)
+    ])
 
     signal toggled()
 

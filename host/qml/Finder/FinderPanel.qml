@@ -166,10 +166,11 @@ T.Popup {
             width: parent.width
             font.pixelSize: Theme.smallText
             color: Theme.font_color_grade4
-            text: (root.page.selection.count > 0
-                   ? ToolFun.tr("For the selected files: %1").arg(root.page.selection.count)
-                   : ToolFun.tr("For all files")) + "  ·  "
-                  + ToolFun.tr("Presets: %1").arg(PresetFinder.count)
+            text: ToolFun.joined([root.page.selection.count > 0
+                                  ? ToolFun.tr("For the selected files: %1")
+                                    .arg(root.page.selection.count)
+                                  : ToolFun.tr("For all files"),
+                                  ToolFun.tr("Presets: %1").arg(PresetFinder.count)])
         }
 
         FinderList {

@@ -132,7 +132,7 @@ Rectangle {
 
                 width: Math.min(implicitWidth, words.width / 2)
                 height: name.height
-                text: root.isOwn ? root.format + "  ·  " + ToolFun.tr("custom") : root.format
+                text: ToolFun.joined([root.format, root.isOwn ? ToolFun.tr("custom") : ""])
             }
         }
 
