@@ -18,7 +18,7 @@ HOST_IMAGES = ROOT / "host/qml/images"
 
 ACCENT = "#8372FF"
 MUTED = "#8F8B99"
-ROW_ACTION = "#6B6578"
+ROW_ACTION = "#837D90"
 VIDEO = "#6656DC"
 AUDIO = "#0B8276"
 LOSSLESS = "#B05F0A"
@@ -237,10 +237,10 @@ POPUP_SHADOW = """<defs>
       filter="url(#soft)"/>
   </g>"""
 
-# file name, shown width and height, pixels per shown pixel, source
+# file name, width and height of the drawing, pixels per unit of it, source
 PNG_PICTURES = [
     ("search_delete.png", 16, 16, 2, CLEAR_CROSS),
-    ("Notata.png", 120, 120, 2, EMPTY_BOX),
+    ("Notata.png", 120, 120, 4, EMPTY_BOX),
     ("noSelect.png", 80, 80, 2, NOTHING_FOUND),
     ("format_back.png", 794, 460, 1, POPUP_SHADOW),
 ]

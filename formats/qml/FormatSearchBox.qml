@@ -74,7 +74,6 @@ Rectangle {
 
             contentItem: Image {
                 source: "qrc:/formats/image/search_delete.png"
-                sourceSize: Qt.size(16, 16)
             }
         }
     }

@@ -37,7 +37,11 @@ Item {
         anchors.centerIn: parent
         width: parent.width - 2 * ScreenStyle.margin
         visible: list.count === 0
-        image.source: "./image/Notata.png"
+        image {
+            source: "./image/Notata.png"
+            width: 240
+            height: 240
+        }
         text: ToolFun.tr("No data")
     }
 }

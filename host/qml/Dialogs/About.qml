@@ -10,7 +10,7 @@ VEXContent {
 
     readonly property var info: root.frame.info
 
-    width: 460
+    width: 500
     height: 40 + 24 + content.implicitHeight + 24 + 56
     focus: true
     Accessible.role: Accessible.Dialog
@@ -36,8 +36,9 @@ VEXContent {
         }
         spacing: Theme.wideMargin
 
-        VEXIcon {
-            size: 64
+        Image {
+            width: 64
+            height: 64
             source: "qrc:/window/icon/128.png"
         }
 
