@@ -57,6 +57,7 @@ private:
     /*! Lets animations and late bindings come to rest. */
     void settle(int pause = 500);
     void take(const QString &name, QQuickWindow *window = nullptr);
+    QImage drawn(const QQuickWindow &window);
     /*! Takes the open dialog, and closes it. */
     void takeDialog(const QString &name);
 
@@ -385,23 +386,30 @@ void Screenshots::take(const QString &name, QQuickWindow *window)
 {
     settle();
     QQuickWindow *shown = window == nullptr ? m_window.window() : window;
-    // Without a screen there is no window to grab: its content is drawn once more, on its ground.
-    const QSize pixels = shown->size() * shown->effectiveDevicePixelRatio();
-    const auto content = shown->contentItem()->grabToImage(pixels);
-    bool isDrawn = false;
-    QObject::connect(content.data(), &QQuickItemGrabResult::ready, &m_window,
-                     [&isDrawn] { isDrawn = true; });
-    waitUntil([&isDrawn] { return isDrawn; });
-    QImage drawn = content->image();
-    drawn.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied); // it calls itself opaque
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(shown->color());
-    QPainter(&image).drawImage(0, 0, drawn);
-
+    const QImage image = QGuiApplication::platformName() == QLatin1String("offscreen")
+                             ? drawn(*shown)
+                             : shown->grabWindow();
     const QString path = m_folder.absoluteFilePath(name + QStringLiteral(".png"));
     if (!image.save(path)) {
         m_result = failed(QStringLiteral("can't write %1; name another folder").arg(path));
     }
+}
+
+/*! Without a screen there is no window to grab: its content is drawn once more, on its ground. */
+QImage Screenshots::drawn(const QQuickWindow &window)
+{
+    const QSize pixels = window.size() * window.effectiveDevicePixelRatio();
+    const auto grabbed = window.contentItem()->grabToImage(pixels);
+    bool isDrawn = false;
+    QObject::connect(grabbed.data(), &QQuickItemGrabResult::ready, &m_window,
+                     [&isDrawn] { isDrawn = true; });
+    waitUntil([&isDrawn] { return isDrawn; });
+    QImage content = grabbed->image();
+    content.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied); // it calls itself opaque
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(window.color());
+    QPainter(&image).drawImage(0, 0, content);
+    return image;
 }
 
 void Screenshots::takeDialog(const QString &name)
@@ -427,6 +435,7 @@ int main(int argc, char **argv)
     QGuiApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QQuickStyle::setStyle(QStringLiteral("Default"));
     QApplication app(argc, argv);
+    QApplication::setApplicationVersion(QStringLiteral(VEX_VERSION));
     const QStringList arguments = QApplication::arguments();
     const QString language = Languages::suiting(arguments.value(2, QStringLiteral("en")));
     const QString theme = arguments.value(3, QStringLiteral("light"));
