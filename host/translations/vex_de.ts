@@ -68,6 +68,10 @@
         <translation>eigenes</translation>
     </message>
     <message>
+        <source>custom preset</source>
+        <translation>eigene</translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Qualität</translation>
     </message>
@@ -828,8 +832,8 @@
         <translation>%1 ist der späteste mögliche Zeitpunkt</translation>
     </message>
     <message>
-        <source>For both pages; below its list, each can have its own</source>
-        <translation>Für beide Seiten; unter ihrer Liste kann jede etwas anderes wählen</translation>
+        <source>For both pages; each can have its own settings below its list</source>
+        <translation>Für beide Seiten; unter der Liste lässt sich jede eigens einstellen</translation>
     </message>
     <message>
         <source>This folder isn&apos;t there; choose another one</source>
@@ -864,8 +868,8 @@
         <translation>Fragen</translation>
     </message>
     <message>
-        <source>Conversions at a time</source>
-        <translation>Umwandlungen gleichzeitig</translation>
+        <source>Conversions at once</source>
+        <translation>Gleichzeitige Umwandlungen</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -972,12 +976,12 @@
         <translation>Ersetzt werden: %1</translation>
     </message>
     <message>
-        <source>These files are there already:</source>
+        <source>These files already exist:</source>
         <translation>Diese Dateien gibt es schon:</translation>
     </message>
     <message>
         <source>VexConvert is free software under the MIT licence.</source>
-        <translation>VexConvert ist freie Software unter der MIT-Lizenz.</translation>
+        <translation>VexConvert ist freie Software unter der MIT‑Lizenz.</translation>
     </message>
     <message>
         <source>Write a time such as 1:02:03.5</source>
@@ -1181,7 +1185,7 @@
     </message>
     <message>
         <source>Use %1</source>
-        <translation>%1 nehmen</translation>
+        <translation>%1 verwenden</translation>
     </message>
     <message>
         <source>Audio tracks</source>
@@ -1257,7 +1261,7 @@
     </message>
     <message>
         <source>Add to the favorites</source>
-        <translation>Zu den Favoriten</translation>
+        <translation>Zu den Favoriten hinzufügen</translation>
     </message>
     <message>
         <source>More about %1</source>
@@ -1313,7 +1317,7 @@
     </message>
     <message>
         <source>Use this preset</source>
-        <translation>Diese verwenden</translation>
+        <translation>Diese Voreinstellung verwenden</translation>
     </message>
     <message>
         <source>Ctrl+D</source>
@@ -1384,16 +1388,16 @@
         <translation>10 Sekunden ausprobieren</translation>
     </message>
     <message>
-        <source>Changes of %1</source>
-        <translation>Änderungen an %1</translation>
+        <source>Changes in “%1”</source>
+        <translation>Änderungen an „%1“</translation>
     </message>
     <message>
         <source>It isn’t known what this preset was made from.</source>
         <translation>Es ist nicht bekannt, woraus diese Voreinstellung entstand.</translation>
     </message>
     <message>
-        <source>It has all values of %1.</source>
-        <translation>Sie hat alle Werte von %1.</translation>
+        <source>None: all values are those of %1.</source>
+        <translation>Keine: Alle Werte sind die von %1.</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1412,12 +1416,12 @@
         <translation>neu</translation>
     </message>
     <message>
-        <source>you have it already</source>
+        <source>already there</source>
         <translation>schon vorhanden</translation>
     </message>
     <message>
-        <source>you have another one</source>
-        <translation>anderes vorhanden</translation>
+        <source>another one is there</source>
+        <translation>andere vorhanden</translation>
     </message>
     <message>
         <source>refused</source>

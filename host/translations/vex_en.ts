@@ -68,6 +68,10 @@
         <translation>custom</translation>
     </message>
     <message>
+        <source>custom preset</source>
+        <translation>custom</translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Quality</translation>
     </message>
@@ -229,7 +233,7 @@
     </message>
     <message>
         <source>Reading …</source>
-        <translation>Reading …</translation>
+        <translation>Reading…</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -237,7 +241,7 @@
     </message>
     <message>
         <source>Converting …</source>
-        <translation>Converting …</translation>
+        <translation>Converting…</translation>
     </message>
     <message>
         <source>Converted</source>
@@ -828,8 +832,8 @@
         <translation>%1 is the latest possible time</translation>
     </message>
     <message>
-        <source>For both pages; below its list, each can have its own</source>
-        <translation>For both pages; below its list, each can have its own</translation>
+        <source>For both pages; each can have its own settings below its list</source>
+        <translation>For both pages; each can have its own settings below its list</translation>
     </message>
     <message>
         <source>This folder isn&apos;t there; choose another one</source>
@@ -864,8 +868,8 @@
         <translation>Ask</translation>
     </message>
     <message>
-        <source>Conversions at a time</source>
-        <translation>Conversions at a time</translation>
+        <source>Conversions at once</source>
+        <translation>Conversions at once</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -972,8 +976,8 @@
         <translation>These are replaced: %1</translation>
     </message>
     <message>
-        <source>These files are there already:</source>
-        <translation>These files are there already:</translation>
+        <source>These files already exist:</source>
+        <translation>These files already exist:</translation>
     </message>
     <message>
         <source>VexConvert is free software under the MIT licence.</source>
@@ -1009,11 +1013,11 @@
     </message>
     <message>
         <source>%1 % smaller</source>
-        <translation>%1 % smaller</translation>
+        <translation>%1% smaller</translation>
     </message>
     <message>
         <source>%1 % larger</source>
-        <translation>%1 % larger</translation>
+        <translation>%1% larger</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1121,7 +1125,7 @@
     </message>
     <message>
         <source>Choose a format …</source>
-        <translation>Choose a format …</translation>
+        <translation>Choose a format…</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -1241,7 +1245,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Found by: %1</source>
@@ -1277,7 +1281,7 @@
     </message>
     <message>
         <source>Import presets …</source>
-        <translation>Import presets …</translation>
+        <translation>Import presets…</translation>
     </message>
     <message>
         <source>Import presets</source>
@@ -1289,7 +1293,7 @@
     </message>
     <message>
         <source>Export all my presets …</source>
-        <translation>Export all my presets …</translation>
+        <translation>Export all my presets…</translation>
     </message>
     <message>
         <source>For the selected files: %1</source>
@@ -1309,7 +1313,7 @@
     </message>
     <message>
         <source>Note …</source>
-        <translation>Note …</translation>
+        <translation>Note…</translation>
     </message>
     <message>
         <source>Use this preset</source>
@@ -1341,7 +1345,7 @@
     </message>
     <message>
         <source>What has been changed …</source>
-        <translation>What has been changed …</translation>
+        <translation>What has been changed…</translation>
     </message>
     <message>
         <source>Move up</source>
@@ -1369,7 +1373,7 @@
     </message>
     <message>
         <source>Export …</source>
-        <translation>Export …</translation>
+        <translation>Export…</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -1384,16 +1388,16 @@
         <translation>Try 10 seconds</translation>
     </message>
     <message>
-        <source>Changes of %1</source>
-        <translation>Changes of %1</translation>
+        <source>Changes in “%1”</source>
+        <translation>Changes in “%1”</translation>
     </message>
     <message>
         <source>It isn’t known what this preset was made from.</source>
         <translation>It isn’t known what this preset was made from.</translation>
     </message>
     <message>
-        <source>It has all values of %1.</source>
-        <translation>It has all values of %1.</translation>
+        <source>None: all values are those of %1.</source>
+        <translation>None: all values are those of %1.</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1412,12 +1416,12 @@
         <translation>new</translation>
     </message>
     <message>
-        <source>you have it already</source>
-        <translation>you have it already</translation>
+        <source>already there</source>
+        <translation>already there</translation>
     </message>
     <message>
-        <source>you have another one</source>
-        <translation>you have another one</translation>
+        <source>another one is there</source>
+        <translation>another one is there</translation>
     </message>
     <message>
         <source>refused</source>
@@ -1433,7 +1437,7 @@
     </message>
     <message>
         <source>Trying 10 seconds of %1 …</source>
-        <translation>Trying 10 seconds of %1 …</translation>
+        <translation>Trying 10 seconds of %1…</translation>
     </message>
     <message>
         <source>All of %1 would be about %2.</source>

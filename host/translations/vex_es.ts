@@ -68,6 +68,10 @@
         <translation>propio</translation>
     </message>
     <message>
+        <source>custom preset</source>
+        <translation>propio</translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Calidad</translation>
     </message>
@@ -828,7 +832,7 @@
         <translation>%1 es el último momento posible</translation>
     </message>
     <message>
-        <source>For both pages; below its list, each can have its own</source>
+        <source>For both pages; each can have its own settings below its list</source>
         <translation>Para ambas páginas; cada una puede tener otros ajustes bajo su lista</translation>
     </message>
     <message>
@@ -864,7 +868,7 @@
         <translation>Preguntar</translation>
     </message>
     <message>
-        <source>Conversions at a time</source>
+        <source>Conversions at once</source>
         <translation>Conversiones a la vez</translation>
     </message>
     <message>
@@ -972,7 +976,7 @@
         <translation>Se sustituyen: %1</translation>
     </message>
     <message>
-        <source>These files are there already:</source>
+        <source>These files already exist:</source>
         <translation>Estos archivos ya existen:</translation>
     </message>
     <message>
@@ -1384,16 +1388,16 @@
         <translation>Probar 10 segundos</translation>
     </message>
     <message>
-        <source>Changes of %1</source>
-        <translation>Cambios de %1</translation>
+        <source>Changes in “%1”</source>
+        <translation>Cambios en «%1»</translation>
     </message>
     <message>
         <source>It isn’t known what this preset was made from.</source>
         <translation>No se sabe de qué se hizo este ajuste.</translation>
     </message>
     <message>
-        <source>It has all values of %1.</source>
-        <translation>Tiene todos los valores de %1.</translation>
+        <source>None: all values are those of %1.</source>
+        <translation>Ninguno: todos los valores son los de %1.</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1412,12 +1416,12 @@
         <translation>nuevo</translation>
     </message>
     <message>
-        <source>you have it already</source>
-        <translation>ya lo tienes</translation>
+        <source>already there</source>
+        <translation>ya está</translation>
     </message>
     <message>
-        <source>you have another one</source>
-        <translation>tienes otro</translation>
+        <source>another one is there</source>
+        <translation>hay otro</translation>
     </message>
     <message>
         <source>refused</source>

@@ -68,6 +68,10 @@
         <translation>perso</translation>
     </message>
     <message>
+        <source>custom preset</source>
+        <translation>perso</translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Qualité</translation>
     </message>
@@ -828,7 +832,7 @@
         <translation>%1 est le dernier instant possible</translation>
     </message>
     <message>
-        <source>For both pages; below its list, each can have its own</source>
+        <source>For both pages; each can have its own settings below its list</source>
         <translation>Pour les deux pages ; chacune peut avoir ses propres réglages sous sa liste</translation>
     </message>
     <message>
@@ -864,7 +868,7 @@
         <translation>Demander</translation>
     </message>
     <message>
-        <source>Conversions at a time</source>
+        <source>Conversions at once</source>
         <translation>Conversions simultanées</translation>
     </message>
     <message>
@@ -873,7 +877,7 @@
     </message>
     <message>
         <source>Cut in the editor</source>
-        <translation>Couper dans l’éditeur</translation>
+        <translation>Couper dans « Édition »</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -972,7 +976,7 @@
         <translation>Sont remplacés : %1</translation>
     </message>
     <message>
-        <source>These files are there already:</source>
+        <source>These files already exist:</source>
         <translation>Ces fichiers existent déjà :</translation>
     </message>
     <message>
@@ -1009,11 +1013,11 @@
     </message>
     <message>
         <source>%1 % smaller</source>
-        <translation>%1 % plus petit</translation>
+        <translation>%1 % moins volumineux</translation>
     </message>
     <message>
         <source>%1 % larger</source>
-        <translation>%1 % plus grand</translation>
+        <translation>%1 % plus volumineux</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1384,16 +1388,16 @@
         <translation>Essayer 10 secondes</translation>
     </message>
     <message>
-        <source>Changes of %1</source>
-        <translation>Modifications de %1</translation>
+        <source>Changes in “%1”</source>
+        <translation>Modifications de « %1 »</translation>
     </message>
     <message>
         <source>It isn’t known what this preset was made from.</source>
         <translation>On ne sait pas à partir de quoi ce préréglage a été créé.</translation>
     </message>
     <message>
-        <source>It has all values of %1.</source>
-        <translation>Il a toutes les valeurs de %1.</translation>
+        <source>None: all values are those of %1.</source>
+        <translation>Aucune : toutes les valeurs sont celles de %1.</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1412,11 +1416,11 @@
         <translation>nouveau</translation>
     </message>
     <message>
-        <source>you have it already</source>
+        <source>already there</source>
         <translation>déjà présent</translation>
     </message>
     <message>
-        <source>you have another one</source>
+        <source>another one is there</source>
         <translation>un autre existe</translation>
     </message>
     <message>
@@ -1854,35 +1858,35 @@
     <name>Losses</name>
     <message>
         <source>left out: %1</source>
-        <translation>laissé de côté : %1</translation>
+        <translation>non repris : %1</translation>
     </message>
     <message>
         <source>%1 of %2 audio tracks (.%3 holds %4, .%5 holds all)</source>
-        <translation>pistes audio : %1 sur %2 (.%3 en contient %4, .%5 toutes)</translation>
+        <translation>%1 piste(s) audio sur %2 (.%3 en contient %4, .%5 toutes)</translation>
     </message>
     <message>
         <source>subtitle tracks: %1 (%2; .%3 doesn&apos;t hold them, .%4 does)</source>
-        <translation>pistes de sous-titres : %1 (%2 ; .%3 ne les accepte pas, .%4 si)</translation>
+        <translation>%1 piste(s) de sous-titres (%2 ; .%3 ne les accepte pas, .%4 si)</translation>
     </message>
     <message>
         <source>subtitle tracks: %1 (%2; no format holds them)</source>
-        <translation>pistes de sous-titres : %1 (%2 ; aucun format ne les accepte)</translation>
+        <translation>%1 piste(s) de sous-titres (%2 ; aucun format ne les accepte)</translation>
     </message>
     <message>
         <source>subtitle tracks: %1 (%2; they can&apos;t be written into this .%3)</source>
-        <translation>pistes de sous-titres : %1 (%2 ; impossibles à écrire dans ce .%3)</translation>
+        <translation>%1 piste(s) de sous-titres (%2 ; impossibles à écrire dans ce .%3)</translation>
     </message>
     <message>
         <source>more video tracks: %1 (a result has one)</source>
-        <translation>autres pistes vidéo : %1 (un résultat en a une)</translation>
+        <translation>%1 autre(s) piste(s) vidéo (un résultat en a une)</translation>
     </message>
     <message>
         <source>attachments: %1 (.%2 doesn&apos;t hold them, .mkv does)</source>
-        <translation>pièces jointes : %1 (.%2 ne les accepte pas, .mkv si)</translation>
+        <translation>%1 pièce(s) jointe(s) (.%2 ne les accepte pas, .mkv si)</translation>
     </message>
     <message>
         <source>chapters: %1 (.%2 doesn&apos;t hold them, .%3 does)</source>
-        <translation>chapitres : %1 (.%2 ne les accepte pas, .%3 si)</translation>
+        <translation>%1 chapitre(s) (.%2 ne les accepte pas, .%3 si)</translation>
     </message>
     <message>
         <source>the cover (.%1 doesn&apos;t hold it, .%2 does)</source>

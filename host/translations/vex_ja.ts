@@ -68,6 +68,10 @@
         <translation>カスタム</translation>
     </message>
     <message>
+        <source>custom preset</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>品質</translation>
     </message>
@@ -828,7 +832,7 @@
         <translation>%1 が最も遅い時刻です</translation>
     </message>
     <message>
-        <source>For both pages; below its list, each can have its own</source>
+        <source>For both pages; each can have its own settings below its list</source>
         <translation>両方のページに適用されます。各ページのリストの下で個別に変更できます</translation>
     </message>
     <message>
@@ -864,7 +868,7 @@
         <translation>確認する</translation>
     </message>
     <message>
-        <source>Conversions at a time</source>
+        <source>Conversions at once</source>
         <translation>同時に変換する数</translation>
     </message>
     <message>
@@ -972,7 +976,7 @@
         <translation>次の部分が置き換わります: %1</translation>
     </message>
     <message>
-        <source>These files are there already:</source>
+        <source>These files already exist:</source>
         <translation>次のファイルがすでにあります:</translation>
     </message>
     <message>
@@ -1384,16 +1388,16 @@
         <translation>10 秒だけ試す</translation>
     </message>
     <message>
-        <source>Changes of %1</source>
-        <translation>%1 の変更</translation>
+        <source>Changes in “%1”</source>
+        <translation>「%1」の変更</translation>
     </message>
     <message>
         <source>It isn’t known what this preset was made from.</source>
         <translation>このプリセットの元は不明です。</translation>
     </message>
     <message>
-        <source>It has all values of %1.</source>
-        <translation>%1 とすべて同じ値です。</translation>
+        <source>None: all values are those of %1.</source>
+        <translation>なし：値はすべて %1 と同じです。</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1412,11 +1416,11 @@
         <translation>新規</translation>
     </message>
     <message>
-        <source>you have it already</source>
+        <source>already there</source>
         <translation>既にあります</translation>
     </message>
     <message>
-        <source>you have another one</source>
+        <source>another one is there</source>
         <translation>別のものがあります</translation>
     </message>
     <message>

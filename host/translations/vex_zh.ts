@@ -68,6 +68,10 @@
         <translation>自定义</translation>
     </message>
     <message>
+        <source>custom preset</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>质量</translation>
     </message>
@@ -828,7 +832,7 @@
         <translation>最晚可用时间是 %1</translation>
     </message>
     <message>
-        <source>For both pages; below its list, each can have its own</source>
+        <source>For both pages; each can have its own settings below its list</source>
         <translation>适用于两个页面；每个页面可在其列表下方单独设置</translation>
     </message>
     <message>
@@ -864,7 +868,7 @@
         <translation>询问</translation>
     </message>
     <message>
-        <source>Conversions at a time</source>
+        <source>Conversions at once</source>
         <translation>同时转换数</translation>
     </message>
     <message>
@@ -972,7 +976,7 @@
         <translation>以下内容会被替换：%1</translation>
     </message>
     <message>
-        <source>These files are there already:</source>
+        <source>These files already exist:</source>
         <translation>以下文件已存在：</translation>
     </message>
     <message>
@@ -1384,16 +1388,16 @@
         <translation>试用 10 秒</translation>
     </message>
     <message>
-        <source>Changes of %1</source>
-        <translation>%1 的更改</translation>
+        <source>Changes in “%1”</source>
+        <translation>“%1”的更改</translation>
     </message>
     <message>
         <source>It isn’t known what this preset was made from.</source>
         <translation>不知道此预设由何而来。</translation>
     </message>
     <message>
-        <source>It has all values of %1.</source>
-        <translation>其所有值与 %1 相同。</translation>
+        <source>None: all values are those of %1.</source>
+        <translation>无：所有值都与 %1 相同。</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1412,11 +1416,11 @@
         <translation>新</translation>
     </message>
     <message>
-        <source>you have it already</source>
+        <source>already there</source>
         <translation>已有</translation>
     </message>
     <message>
-        <source>you have another one</source>
+        <source>another one is there</source>
         <translation>已有另一个</translation>
     </message>
     <message>

@@ -12,7 +12,8 @@ T.Button {
     property bool primary: false
     property int minWidth: 88
 
-    implicitWidth: Math.max(root.minWidth, implicitContentWidth + leftPadding + rightPadding)
+    implicitWidth: Math.max(root.minWidth,
+                            Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.margin
     rightPadding: Theme.margin

@@ -23,7 +23,8 @@ T.CheckBox {
         radius: Theme.radius_1
         color: root.checked && root.enabled ? Theme.font_color_grade3 : Theme.basics_gradeTone1
         border.width: root.checked && root.enabled ? 0 : 1
-        border.color: root.hovered && root.enabled ? Theme.font_color_grade3 : Theme.frame
+        border.color: !root.enabled ? Theme.frame : root.hovered ? Theme.font_color_grade3
+                                                                 : Theme.font_color_grade4
 
         VEXLabel {
             anchors.centerIn: parent

@@ -35,7 +35,7 @@ T.ProgressBar {
 
     background: Rectangle {
         radius: height / 2
-        color: Theme.secondary_gradeTone4
+        color: Theme.frame
     }
 
     contentItem: Item {

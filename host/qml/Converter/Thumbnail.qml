@@ -10,7 +10,6 @@ Rectangle {
 
     width: 112
     height: 64
-    radius: Theme.radius_1
     color: Theme.secondary_gradeTone4
     clip: true
     Accessible.ignored: true

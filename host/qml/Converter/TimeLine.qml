@@ -78,7 +78,7 @@ Item {
         width: root.width - 2 * root.edge
         height: 4
         radius: 2
-        color: Theme.secondary_gradeTone4
+        color: Theme.frame
 
         Rectangle {
             x: root.placeOf(root.start) - root.edge

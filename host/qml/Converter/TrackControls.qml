@@ -31,7 +31,7 @@ Item {
 
         width: choices.x - Theme.margin
         purpose: [root.line.text, root.line.remark].filter(Boolean).join(", ")
-        text: [root.line.text, root.line.remark].filter(Boolean).join("  –  ")
+        text: [root.line.text, root.line.remark].filter(Boolean).join("\u00A0\u00A0–  ")
         checked: root.line.isKept
         onToggled: root.tracks.keep(root.taskId, root.kind, root.line.number, keep.checked)
     }

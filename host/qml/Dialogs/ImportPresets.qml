@@ -25,8 +25,8 @@ VEXContent {
 
     function stateText(state) {
         return state === "new" ? ToolFun.tr("new")
-                               : state === "same" ? ToolFun.tr("you have it already")
-                               : state === "conflict" ? ToolFun.tr("you have another one")
+                               : state === "same" ? ToolFun.tr("already there")
+                               : state === "conflict" ? ToolFun.tr("another one is there")
                                                       : ToolFun.tr("refused")
     }
 

@@ -51,7 +51,7 @@ VEXContent {
         }
         text: {
             const more = root.names.length - root.shownNames
-            const lines = [ToolFun.tr("These files are there already:")]
+            const lines = [ToolFun.tr("These files already exist:")]
                 .concat(root.names.slice(0, root.shownNames))
             return (more > 0 ? lines.concat(ToolFun.tr("and %1 more").arg(more)) : lines).join("\n")
         }

@@ -48,7 +48,7 @@ VEXContent {
     }
 
     width: 2 * root.columnWidth + columns.spacing + 2 * Theme.wideMargin
-    height: titleBar.height + columns.implicitHeight + 2 * Theme.margin + 52
+    height: titleBar.height + columns.implicitHeight + 2 * Theme.margin + 48
     // What is wrong with a name may need another line.
     onHeightChanged: root.frame.resizeWinSize(root.width, root.height)
     focus: true
@@ -93,7 +93,7 @@ VEXContent {
             }
 
             Choice {
-                caption: ToolFun.tr("Conversions at a time")
+                caption: ToolFun.tr("Conversions at once")
                 words: root.jobs.map(function (count) {
                     return count === 0 ? ToolFun.tr("As many as suit this machine") : String(count)
                 })
@@ -135,7 +135,7 @@ VEXContent {
             Caption {
                 elide: Text.ElideNone
                 wrapMode: Text.WordWrap
-                text: ToolFun.tr("For both pages; below its list, each can have its own")
+                text: ToolFun.tr("For both pages; each can have its own settings below its list")
             }
 
             Caption {
@@ -187,7 +187,7 @@ VEXContent {
     VEXButton {
         anchors {
             left: parent.left
-            leftMargin: 20
+            leftMargin: Theme.wideMargin
             bottom: parent.bottom
             bottomMargin: 12
         }
@@ -200,7 +200,7 @@ VEXContent {
     VEXBottomButton {
         anchors {
             right: parent.right
-            rightMargin: 20
+            rightMargin: Theme.wideMargin
             bottom: parent.bottom
             bottomMargin: 12
         }

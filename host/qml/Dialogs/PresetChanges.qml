@@ -37,7 +37,7 @@ VEXContent {
         id: titleBar
 
         control: root
-        text: ToolFun.tr("Changes of %1").arg(PresetActions.version >= 0
+        text: ToolFun.tr("Changes in “%1”").arg(PresetActions.version >= 0
                                               ? PresetActions.title(root.presetId) : "")
     }
 
@@ -56,7 +56,7 @@ VEXContent {
             const base = PresetActions.baseCaption(root.presetId)
             return base === "" ? ToolFun.tr("It isn’t known what this preset was made from.")
                                : root.differences.length === 0
-                                 ? ToolFun.tr("It has all values of %1.").arg(base)
+                                 ? ToolFun.tr("None: all values are those of %1.").arg(base)
                                  : ToolFun.tr("It was made from %1, with these changes:").arg(base)
         }
     }

@@ -132,7 +132,7 @@ Rectangle {
 
                 width: Math.min(implicitWidth, words.width / 2)
                 height: name.height
-                text: ToolFun.joined([root.format, root.isOwn ? ToolFun.tr("custom") : ""])
+                text: ToolFun.joined([root.format, root.isOwn ? ToolFun.tr("custom preset") : ""])
             }
         }
 

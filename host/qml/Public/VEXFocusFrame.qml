@@ -16,5 +16,4 @@ Rectangle {
     radius: root.controlRadius + root.gap
     border.width: 2
     border.color: root.theme.font_color_grade3
-    opacity: 0.6
 }

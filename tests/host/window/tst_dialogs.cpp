@@ -164,7 +164,7 @@ void TestDialogs::preferencesFitTheSmallestScreen()
         QTRY_VERIFY2(allTexts(preferences->contentItem()).contains(mistake), qPrintable(mistake));
     }
     QVERIFY(preferences->width() <= 760);
-    QVERIFY(preferences->height() <= 480);
+    QVERIFY2(preferences->height() <= 480, qPrintable(QString::number(preferences->height())));
 }
 
 void TestDialogs::aboutNamesVersionsAndLicences()

@@ -134,7 +134,7 @@ void TestFinderPanel::anOwnPresetIsDuplicatedRenamedAndNoted()
     QTRY_COMPARE_WITH_TIMEOUT(ownTitles(), QStringList{QStringLiteral("Copy for the car")},
                               patience);
     QTRY_VERIFY_WITH_TIMEOUT(isShown(QStringLiteral("Copy for the car")), patience);
-    choose("Note …");
+    choose("Note…");
     type(m_window, QStringLiteral("loud"));
     QTest::keyClick(m_window, Qt::Key_Return);
     QTRY_COMPARE_WITH_TIMEOUT(m_main->presetActions().note(ownIds().value(0)),
@@ -210,7 +210,7 @@ void TestFinderPanel::changesAreShownAndTakenBack()
     formats.changeUserDefineFormat(QStringLiteral("MP4"), own, values);
     QCOMPARE(m_main->presetActions().differences(own).size(), 2);
     find(QStringLiteral("mine"));
-    choose("What has been changed …");
+    choose("What has been changed…");
     QTRY_VERIFY_WITH_TIMEOUT(m_main->dialog() != nullptr, patience);
     QQuickWindow *dialog = m_main->dialog()->window();
     QVERIFY(click(dialog, QStringLiteral("Take back")));

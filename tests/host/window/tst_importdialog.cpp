@@ -234,7 +234,7 @@ void TestImportDialog::aConflictIsDecidedWithTheKeys()
     waitUntilItCloses();
     show({presetFile(QStringLiteral("both.json"), {QStringLiteral("Mine"), QStringLiteral("Other")},
                      2500)});
-    QVERIFY(isShown(QStringLiteral("new: 1  ·  you have another one: 1")));
+    QVERIFY(isShown(QStringLiteral("new: 1  ·  another one is there: 1")));
     // From the button that imports, past the one that cancels, to the choice.
     QTest::keyClick(dialog(), Qt::Key_Backtab, Qt::ShiftModifier);
     QTest::keyClick(dialog(), Qt::Key_Backtab, Qt::ShiftModifier);
@@ -272,7 +272,7 @@ void TestImportDialog::whatTheUserHasIsNotOffered()
     press(dialog(), Qt::Key_Return);
     waitUntilItCloses();
     show({file});
-    QVERIFY(isShown(QStringLiteral("you have it already")));
+    QVERIFY(isShown(QStringLiteral("already there")));
     QVERIFY(!isShown(QStringLiteral("Import")));
     press(dialog(), Qt::Key_Return);
     waitUntilItCloses();

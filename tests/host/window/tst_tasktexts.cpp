@@ -23,7 +23,7 @@ void TestTaskTexts::numbersAreWrittenAsTheLanguageWritesThem_data()
     QTest::addColumn<QString>("count");
     QTest::addColumn<QString>("running");
     QTest::newRow("en") << QStringLiteral("1.5 GB") << QStringLiteral("10,000")
-                        << QStringLiteral("45 %  ·  2.5×  ·  0:22 left");
+                        << QStringLiteral("45%  ·  2.5×  ·  0:22 left");
     QTest::newRow("de") << QStringLiteral("1,5 GB") << QStringLiteral("10.000")
                         << QStringLiteral("45 %  ·  2,5×  ·  noch 0:22");
     // Narrow spaces at which no line ends.
@@ -47,10 +47,10 @@ void TestTaskTexts::numbersAreWrittenAsTheLanguageWritesThem()
 
 void TestTaskTexts::whatIsUnknownOfTheProgressIsLeftOut()
 {
-    QCOMPARE(runningText({}), QStringLiteral("Converting …"));
+    QCOMPARE(runningText({}), QStringLiteral("Converting…"));
     Progress fast;
     fast.speed = 12.4;
-    QCOMPARE(runningText(fast), QStringLiteral("Converting …  ·  12×"));
+    QCOMPARE(runningText(fast), QStringLiteral("Converting…  ·  12×"));
 }
 
 void TestTaskTexts::aRightToLeftNameStaysInFrontOfItsSize()
