@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>This folder isn&apos;t there; choose another one</source>
-        <translation>Esta carpeta no existe; elija otra</translation>
+        <translation>Esta carpeta no existe; elige otra</translation>
     </message>
     <message>
         <source>A name has no &quot;/&quot;; choose the folder in &quot;Save to&quot;</source>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <translation>Pausa</translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>Clear converted</source>
@@ -1697,7 +1697,7 @@
     </message>
     <message>
         <source>the preset&apos;s %1 is %2; it must be 0 or %3; choose another preset</source>
-        <translation>%1 del formato es %2; debe ser 0 o %3; elige otro formato</translation>
+        <translation>%1 del ajuste es %2; debe ser 0 o %3; elige otro ajuste</translation>
     </message>
     <message>
         <source>not a valid number</source>
@@ -1776,7 +1776,7 @@
     </message>
     <message>
         <source>%1 is using the presets in %2; close it, or try again when it is done</source>
-        <translation>%1 está usando los formatos de %2; ciérralo o inténtalo cuando termine</translation>
+        <translation>%1 está usando los ajustes de %2; ciérralo o inténtalo cuando termine</translation>
     </message>
     <message>
         <source>%1 is no plain file; remove it</source>
@@ -1784,7 +1784,7 @@
     </message>
     <message>
         <source>waiting for %1, which is using the presets in %2</source>
-        <translation>esperando a %1, que está usando los formatos de %2</translation>
+        <translation>esperando a %1, que está usando los ajustes de %2</translation>
     </message>
 </context>
 <context>
@@ -1847,11 +1847,11 @@
     </message>
     <message>
         <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
-        <translation>no se pueden guardar en %2 los formatos inservibles de %1 (%3); revisa el disco y los permisos</translation>
+        <translation>no se pueden guardar en %2 los ajustes inservibles de %1 (%3); revisa el disco y los permisos</translation>
     </message>
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
-        <translation>%1 contiene formatos sin ajustes (&quot;outPutNode&quot;), que no se pueden usar; se guardan en %2</translation>
+        <translation>%1 contiene ajustes sin valores (&quot;outPutNode&quot;), que no se pueden usar; se guardan en %2</translation>
     </message>
 </context>
 <context>

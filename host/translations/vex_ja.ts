@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Drop video or audio files here</source>
-        <translation>動画や音楽をここにドロップ</translation>
+        <translation>動画や音声ファイルをここにドロップ</translation>
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Video and audio files</source>
-        <translation>動画と音楽</translation>
+        <translation>動画と音声ファイル</translation>
     </message>
     <message>
         <source>All files</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>There are no video or audio files in the folder %1; add the files themselves</source>
-        <translation>フォルダー %1 には動画も音楽もありません。ファイルを直接追加してください</translation>
+        <translation>フォルダー %1 には動画も音声ファイルもありません。ファイルを直接追加してください</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>As many as suit this machine</source>
-        <translation>この機械に合う数</translation>
+        <translation>このコンピューターに適した数</translation>
     </message>
     <message>
         <source>As the desktop</source>
@@ -1776,7 +1776,7 @@
     </message>
     <message>
         <source>%1 is using the presets in %2; close it, or try again when it is done</source>
-        <translation>%1 が %2 の設定を使っています。閉じるか、終わってからやり直してください</translation>
+        <translation>%1 が %2 のプリセットを使っています。閉じるか、終わってからやり直してください</translation>
     </message>
     <message>
         <source>%1 is no plain file; remove it</source>
@@ -1784,7 +1784,7 @@
     </message>
     <message>
         <source>waiting for %1, which is using the presets in %2</source>
-        <translation>%1 が %2 の設定を使い終わるのを待っています</translation>
+        <translation>%1 が %2 のプリセットを使い終わるのを待っています</translation>
     </message>
 </context>
 <context>
@@ -1847,11 +1847,11 @@
     </message>
     <message>
         <source>can&apos;t keep the unusable presets of %1 in %2 (%3); check its disk and its permissions</source>
-        <translation>%1 の使えない設定を %2 に残せません（%3）。ディスクと権限を確認してください</translation>
+        <translation>%1 の使えないプリセットを %2 に残せません（%3）。ディスクと権限を確認してください</translation>
     </message>
     <message>
         <source>%1 holds presets without settings (&quot;outPutNode&quot;), which can&apos;t be used; they are kept in %2</source>
-        <translation>%1 に設定内容（&quot;outPutNode&quot;）のない、使えない設定があります。%2 に残しています</translation>
+        <translation>%1 に設定内容（&quot;outPutNode&quot;）のない、使えないプリセットがあります。%2 に残しています</translation>
     </message>
 </context>
 <context>

@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Drop video or audio files here</source>
-        <translation>将视频或音乐拖放到此处</translation>
+        <translation>将视频或音频文件拖放到此处</translation>
     </message>
     <message>
         <source>Then choose a format and press Convert All</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Video and audio files</source>
-        <translation>视频和音乐</translation>
+        <translation>视频和音频文件</translation>
     </message>
     <message>
         <source>All files</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>There are no video or audio files in the folder %1; add the files themselves</source>
-        <translation>文件夹 %1 中没有视频或音乐；请直接添加文件</translation>
+        <translation>文件夹 %1 中没有视频或音频文件；请直接添加文件</translation>
     </message>
     <message>
         <source>No file manager could be started to show the folder %1; open it by hand</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message>
         <source>Duplicate</source>
-        <translation>复制</translation>
+        <translation>创建副本</translation>
     </message>
     <message>
         <source>Rename</source>
@@ -1594,7 +1594,7 @@
     <name>RateControl</name>
     <message>
         <source>says no length, so that no bitrate gives it the asked size; choose a bitrate instead</source>
-        <translation>没有说明时长，因此无法确定达到指定大小的码率；请改为选择码率</translation>
+        <translation>没有说明时长，因此无法确定达到指定大小的比特率；请改为选择比特率</translation>
     </message>
     <message>
         <source>is too long for the asked size; choose a larger size or less audio</source>
