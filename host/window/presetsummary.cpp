@@ -40,7 +40,10 @@ QString channelText(const QString &count)
 
 QString kbpsText(const QString &value)
 {
-    return QStringLiteral("%1\u00A0kbps").arg(QLocale().toString(value.toDouble(), 'g', 9));
+    // Without groups, as in the parameter dialog.
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return QStringLiteral("%1\u00A0kbps").arg(locale.toString(value.toDouble(), 'g', 9));
 }
 
 /*! A value that isn't the source's. */

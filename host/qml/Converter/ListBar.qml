@@ -20,7 +20,7 @@ Item {
         return Number(number).toLocaleString(Qt.locale(), "f", 0)
     }
 
-    implicitHeight: 44
+    implicitHeight: Theme.smallControlHeight
 
     OverallProgress {
         id: overall

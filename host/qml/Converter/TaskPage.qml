@@ -33,6 +33,7 @@ Item {
     ListBar {
         id: bar
 
+        y: Theme.spacing
         width: parent.width
         visible: list.count > 0
         page: root.page
@@ -43,7 +44,7 @@ Item {
 
         anchors {
             fill: parent
-            topMargin: bar.height
+            topMargin: bar.y + bar.height
             bottomMargin: bottom.height
         }
         visible: list.count > 0

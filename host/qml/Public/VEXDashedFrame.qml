@@ -12,7 +12,7 @@ Canvas {
         const context = root.getContext("2d")
         context.reset()
         context.strokeStyle = root.color
-        context.lineWidth = 1.5
+        context.lineWidth = 2
         context.setLineDash([4, 4])
         context.roundedRect(1, 1, root.width - 2, root.height - 2, root.radius, root.radius)
         context.stroke()
