@@ -434,10 +434,12 @@ int main(int argc, char **argv)
     QGuiApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QGuiApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QQuickStyle::setStyle(QStringLiteral("Default"));
+    const QString language =
+        Languages::suiting(argc > 2 ? QString::fromLocal8Bit(argv[2]) : QStringLiteral("en"));
+    Languages::chooseGlyphs(language);
     QApplication app(argc, argv);
     QApplication::setApplicationVersion(QStringLiteral(VEX_VERSION));
     const QStringList arguments = QApplication::arguments();
-    const QString language = Languages::suiting(arguments.value(2, QStringLiteral("en")));
     const QString theme = arguments.value(3, QStringLiteral("light"));
     const bool isTheme = theme == QLatin1String("light") || theme == QLatin1String("dark");
     if (arguments.size() < 2 || arguments.size() > 4 || language.isEmpty() || !isTheme) {

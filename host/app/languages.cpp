@@ -35,6 +35,15 @@ void Languages::install(const QString &code)
     load(QStringLiteral("vex_") + code, QStringLiteral(":/translations"));
 }
 
+void Languages::chooseGlyphs(const QString &code)
+{
+    if (code == QLatin1String("zh")) {
+        qputenv("FC_LANG", "zh-cn");
+    } else if (code == QLatin1String("ja")) {
+        qputenv("FC_LANG", "ja");
+    }
+}
+
 QString Languages::ofSystem()
 {
     const QStringList wanted = QLocale::system().uiLanguages();

@@ -13,6 +13,9 @@ namespace Languages {
 [[nodiscard]] QString suiting(const QString &locale);
 /*! Makes the application speak the one of these codes, for the rest of its run. */
 void install(const QString &code);
+/*! Lets characters that languages share be drawn as the one of these codes draws them. Call it
+ *  before there is an application. */
+void chooseGlyphs(const QString &code);
 /*! The first of the system's languages that is spoken, else English. */
 [[nodiscard]] QString ofSystem();
 

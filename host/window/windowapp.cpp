@@ -138,6 +138,8 @@ int runWindow(int &argc, char **argv, const WindowOptions &options)
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QQuickStyle::setStyle(QStringLiteral("Default"));
 
+    const QString language = languageOf(options);
+    Languages::chooseGlyphs(language);
     const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
     QApplication app(argc, argv);
     qInstallMessageHandler(usual);
@@ -146,6 +148,6 @@ int runWindow(int &argc, char **argv, const WindowOptions &options)
     QGuiApplication::setDesktopFileName(QStringLiteral("vexconvert"));
     QGuiApplication::setWindowIcon(windowIcon());
 
-    Languages::install(languageOf(options));
+    Languages::install(language);
     return showWindow(options);
 }

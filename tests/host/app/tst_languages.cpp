@@ -90,6 +90,7 @@ private Q_SLOTS:
     void initTestCase() { initTranslations(); }
     void everyKeyIsTranslated_data();
     void everyKeyIsTranslated();
+    void chineseAndJapaneseHaveGlyphsOfTheirOwn();
     void everyFindingOfAnImportIsTranslated_data();
     void everyFindingOfAnImportIsTranslated();
     void placeHoldersAreKept_data();
@@ -171,6 +172,9 @@ void TestLanguages::everyKeyIsTranslated()
              QStringLiteral("about %1"),
              QStringLiteral("Files converted: %1"),
              QStringLiteral("failed: %1"),
+             QStringLiteral(", "),
+             QStringLiteral("mono"),
+             QStringLiteral("stereo"),
              QStringLiteral("There are no video or audio files in the folder %1; add the files "
                             "themselves"),
              QStringLiteral("No file manager could be started to show the folder %1; open it by "
@@ -187,6 +191,19 @@ void TestLanguages::everyKeyIsTranslated()
         }
     }
     QCOMPARE(missing, QStringList());
+}
+
+void TestLanguages::chineseAndJapaneseHaveGlyphsOfTheirOwn()
+{
+    const auto asked = [](const char *language) {
+        qputenv("FC_LANG", "the system's");
+        Languages::chooseGlyphs(QLatin1String(language));
+        return qgetenv("FC_LANG");
+    };
+    QCOMPARE(asked("zh"), QByteArray("zh-cn"));
+    QCOMPARE(asked("ja"), QByteArray("ja"));
+    QCOMPARE(asked("de"), QByteArray("the system's"));
+    qunsetenv("FC_LANG");
 }
 
 void TestLanguages::everyFindingOfAnImportIsTranslated_data()
