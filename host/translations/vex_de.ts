@@ -72,6 +72,10 @@
         <translation>eigene</translation>
     </message>
     <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Qualität</translation>
     </message>

@@ -72,6 +72,10 @@
         <translation>custom</translation>
     </message>
     <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Quality</translation>
     </message>

@@ -72,6 +72,10 @@
         <translation>propio</translation>
     </message>
     <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Calidad</translation>
     </message>

@@ -72,6 +72,10 @@
         <translation>perso</translation>
     </message>
     <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>Qualité</translation>
     </message>

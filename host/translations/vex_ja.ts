@@ -5,7 +5,7 @@
     <name>Vex</name>
     <message>
         <source>Convert all to</source>
-        <translation>すべて変換</translation>
+        <translation>すべての変換先</translation>
     </message>
     <message>
         <source>Format</source>
@@ -70,6 +70,10 @@
     <message>
         <source>custom preset</source>
         <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -209,7 +213,7 @@
     </message>
     <message>
         <source>Remove from the list</source>
-        <translation>リストから削除</translation>
+        <translation>リストから外す</translation>
     </message>
     <message>
         <source>Show in folder</source>
@@ -833,7 +837,7 @@
     </message>
     <message>
         <source>For both pages; each can have its own settings below its list</source>
-        <translation>両方のページに適用されます。各ページのリストの下で個別に変更できます</translation>
+        <translation>両方のページに共通です。リストの下で個別に変更できます。</translation>
     </message>
     <message>
         <source>This folder isn&apos;t there; choose another one</source>
@@ -877,7 +881,7 @@
     </message>
     <message>
         <source>Cut in the editor</source>
-        <translation>エディタで切り出す</translation>
+        <translation>「編集」で切り出す</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -933,7 +937,7 @@
     </message>
     <message>
         <source>Qt is under the LGPL 3, ffmpeg under the LGPL or the GPL.</source>
-        <translation>Qt は LGPL 3、ffmpeg は LGPL または GPL です。</translation>
+        <translation>Qt のライセンスは LGPL 3、ffmpeg は LGPL または GPL です。</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -1013,11 +1017,11 @@
     </message>
     <message>
         <source>%1 % smaller</source>
-        <translation>%1% 小さい</translation>
+        <translation>%1% 減</translation>
     </message>
     <message>
         <source>%1 % larger</source>
-        <translation>%1% 大きい</translation>
+        <translation>%1% 増</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1061,7 +1065,7 @@
     </message>
     <message>
         <source>Removed: %1</source>
-        <translation>削除しました: %1</translation>
+        <translation>リストから外しました: %1</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1133,7 +1137,7 @@
     </message>
     <message>
         <source>Follow “Convert all to”</source>
-        <translation>「すべて変換」に従う</translation>
+        <translation>「すべての変換先」に従う</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1165,11 +1169,11 @@
     </message>
     <message>
         <source>Clear converted</source>
-        <translation>変換済みを削除</translation>
+        <translation>変換済みを外す</translation>
     </message>
     <message>
         <source>Stop converting?</source>
-        <translation>変換を中止しますか?</translation>
+        <translation>変換を中止しますか？</translation>
     </message>
     <message>
         <source>The list is kept: you can convert the rest the next time.</source>
@@ -1185,7 +1189,7 @@
     </message>
     <message>
         <source>Use %1</source>
-        <translation>%1 を使う</translation>
+        <translation>「%1」を使う</translation>
     </message>
     <message>
         <source>Audio tracks</source>
@@ -1397,7 +1401,7 @@
     </message>
     <message>
         <source>None: all values are those of %1.</source>
-        <translation>なし：値はすべて %1 と同じです。</translation>
+        <translation>変更はありません。値はすべて %1 と同じです。</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1417,7 +1421,7 @@
     </message>
     <message>
         <source>already there</source>
-        <translation>既にあります</translation>
+        <translation>すでにあります</translation>
     </message>
     <message>
         <source>another one is there</source>
@@ -1556,7 +1560,7 @@
     <name>OutputStreams</name>
     <message>
         <source>has no video; choose an audio preset</source>
-        <translation>動画がありません。音声の形式を選んでください</translation>
+        <translation>動画がありません。音声のプリセットを選んでください</translation>
     </message>
     <message>
         <source>has no audio; choose a video preset</source>
@@ -1564,7 +1568,7 @@
     </message>
     <message>
         <source>a .%1 file can&apos;t hold video; choose an audio preset</source>
-        <translation>.%1 ファイルに動画は入りません。音声の形式を選んでください</translation>
+        <translation>.%1 ファイルに動画は入りません。音声のプリセットを選んでください</translation>
     </message>
     <message>
         <source>is a single picture and makes no film; on the command line, --duration SECONDS shows it for so long</source>

@@ -72,6 +72,10 @@
         <translation>自定义</translation>
     </message>
     <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
         <source>Quality</source>
         <translation>质量</translation>
     </message>
@@ -877,7 +881,7 @@
     </message>
     <message>
         <source>Cut in the editor</source>
-        <translation>在编辑器中剪切</translation>
+        <translation>在编辑器中剪辑</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -885,7 +889,7 @@
     </message>
     <message>
         <source>For example %1</source>
-        <translation>例如 %1</translation>
+        <translation>例如：%1</translation>
     </message>
     <message>
         <source>Holidays</source>
@@ -1013,11 +1017,11 @@
     </message>
     <message>
         <source>%1 % smaller</source>
-        <translation>小 %1%</translation>
+        <translation>减小 %1%</translation>
     </message>
     <message>
         <source>%1 % larger</source>
-        <translation>大 %1%</translation>
+        <translation>增大 %1%</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1185,7 +1189,7 @@
     </message>
     <message>
         <source>Use %1</source>
-        <translation>使用 %1</translation>
+        <translation>使用“%1”</translation>
     </message>
     <message>
         <source>Audio tracks</source>
@@ -1201,11 +1205,11 @@
     </message>
     <message>
         <source>Default track</source>
-        <translation>默认轨</translation>
+        <translation>默认轨道</translation>
     </message>
     <message>
         <source>Default track: %1</source>
-        <translation>默认轨：%1</translation>
+        <translation>默认轨道：%1</translation>
     </message>
     <message>
         <source>Burn in</source>
@@ -1233,7 +1237,7 @@
     </message>
     <message>
         <source>not in .%1</source>
-        <translation>不存入 .%1</translation>
+        <translation>.%1 不支持</translation>
     </message>
     <message>
         <source>forced</source>
@@ -1357,7 +1361,7 @@
     </message>
     <message>
         <source>Default on the command line for</source>
-        <translation>命令行默认用于</translation>
+        <translation>设为命令行默认预设</translation>
     </message>
     <message>
         <source>Videos</source>
@@ -1385,7 +1389,7 @@
     </message>
     <message>
         <source>Try 10 seconds</source>
-        <translation>试用 10 秒</translation>
+        <translation>试转换 10 秒</translation>
     </message>
     <message>
         <source>Changes in “%1”</source>
@@ -1397,7 +1401,7 @@
     </message>
     <message>
         <source>None: all values are those of %1.</source>
-        <translation>无：所有值都与 %1 相同。</translation>
+        <translation>没有更改：所有值都与 %1 相同。</translation>
     </message>
     <message>
         <source>It was made from %1, with these changes:</source>
@@ -1437,7 +1441,7 @@
     </message>
     <message>
         <source>Trying 10 seconds of %1 …</source>
-        <translation>正在试用 %1 的 10 秒…</translation>
+        <translation>正在试转换 %1 的 10 秒…</translation>
     </message>
     <message>
         <source>All of %1 would be about %2.</source>

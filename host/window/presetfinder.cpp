@@ -309,7 +309,7 @@ QVariant PresetFinder::why(int row) const
             reasons << text;
         }
     }
-    return reasons.join(QStringLiteral(", "));
+    return ToolFun::listed(reasons);
 }
 
 QVariant PresetFinder::isFavorite(int row) const

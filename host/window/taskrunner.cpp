@@ -43,10 +43,10 @@ QString TaskRunner::outcomeText(int converted, int failed)
     if (converted + failed == 0) {
         return {};
     }
-    const QString text = ToolFun::text(QStringLiteral("Files converted: %1")).arg(converted);
-    return failed == 0 ? text
-                       : text + QStringLiteral(", ") +
-                             ToolFun::text(QStringLiteral("failed: %1")).arg(failed);
+    const QString failures =
+        failed == 0 ? QString() : ToolFun::text(QStringLiteral("failed: %1")).arg(failed);
+    return ToolFun::listed(
+        {ToolFun::text(QStringLiteral("Files converted: %1")).arg(converted), failures});
 }
 
 void TaskRunner::convert(const QVector<int> &ids)

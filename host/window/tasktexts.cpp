@@ -87,14 +87,11 @@ QString resultOf(const Task &task)
     }
     QString size;
     if (task.targetBytes > 0) {
-        size = sizeText(double(task.targetBytes));
         // A part of the source can't be compared to all of it.
         const bool isWhole = task.start <= 0 && task.end <= 0;
         const QString compared =
             isWhole ? comparison(double(task.targetBytes), double(task.facts.bytes)) : QString();
-        if (!compared.isEmpty()) {
-            size += QStringLiteral(", ") + compared;
-        }
+        size = ToolFun::listed({sizeText(double(task.targetBytes)), compared});
     }
     return ToolFun::joined({visibleName(task.target), size});
 }

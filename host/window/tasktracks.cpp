@@ -39,7 +39,7 @@ QString channelsOf(const AudioTrack &track)
 {
     const QString layout = track.layout.section(QLatin1Char('('), 0, 0);
     return !layout.isEmpty() || track.channels == 0
-               ? layout
+               ? ToolFun::text(layout)
                : ToolFun::text(QStringLiteral("%1 channels")).arg(track.channels);
 }
 
@@ -53,16 +53,13 @@ QString lineText(const Track &track, const QString &kind)
 
 QString textOf(const AudioTrack &track)
 {
-    QStringList kind = {track.codec, channelsOf(track)};
-    kind.removeAll(QString());
-    return lineText(track, kind.join(QStringLiteral(", ")));
+    return lineText(track, ToolFun::listed({track.codec, channelsOf(track)}));
 }
 
 QString textOf(const SubtitleTrack &track)
 {
-    return lineText(track, track.isForced ? track.codec + QStringLiteral(", ") +
-                                                ToolFun::text(QStringLiteral("forced"))
-                                          : track.codec);
+    const QString kind = track.isForced ? ToolFun::text(QStringLiteral("forced")) : QString();
+    return lineText(track, ToolFun::listed({track.codec, kind}));
 }
 
 /*! The lines of \a tracks, of which those in \a written are in the result. */

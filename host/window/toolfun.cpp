@@ -14,6 +14,12 @@ QString ToolFun::joined(QStringList texts)
     return texts.join(QStringLiteral("  ·  "));
 }
 
+QString ToolFun::listed(QStringList texts)
+{
+    texts.removeAll(QString());
+    return texts.join(text(QStringLiteral(", ")));
+}
+
 void ToolFun::timerOnce(int ms, const QJSValue &function)
 {
     QTimer::singleShot(ms, this, [callback = function]() mutable {

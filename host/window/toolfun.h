@@ -21,6 +21,9 @@ public:
     /*! The texts in one line, with dots between them; empty ones are left out. */
     Q_INVOKABLE static QString joined(QStringList texts);
 
+    /*! The texts as a list in a sentence; empty ones are left out. */
+    static QString listed(QStringList texts);
+
     /*! Calls \a function once, \a ms milliseconds from now. */
     Q_INVOKABLE void timerOnce(int ms, const QJSValue &function);
 

@@ -10,7 +10,7 @@ Rectangle {
 
     width: 112
     height: 64
-    color: Theme.secondary_gradeTone4
+    color: Theme.rule
     clip: true
     Accessible.ignored: true
 

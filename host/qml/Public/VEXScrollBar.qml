@@ -16,6 +16,6 @@ ScrollBar {
         implicitHeight: 6
         radius: 3
         color: root.theme.font_color_grade4
-        opacity: root.pressed ? 0.7 : root.hovered ? 0.5 : 0.3
+        opacity: root.pressed ? 0.9 : root.hovered ? 0.7 : 0.5
     }
 }
