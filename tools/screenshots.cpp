@@ -423,7 +423,8 @@ void Screenshots::takeDialog(const QString &name)
 
 /*!
  * screenshots DIR [LANGUAGE] [light|dark]: writes pictures of all of the window's screens into DIR.
- * They have the scale of QT_SCALE_FACTOR, as there is no screen to follow.
+ * They have the scale of QT_SCALE_FACTOR. Unless QT_QPA_PLATFORM says otherwise, there is no screen
+ * to follow.
  */
 int main(int argc, char **argv)
 {
