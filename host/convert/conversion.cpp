@@ -148,10 +148,6 @@ void Conversion::convert(const Result<MediaFacts> &source)
         return;
     }
     m_plan.settings = *fitted;
-    if (m_plan.settings.targetBytes > 0 && m_plan.settings.hasVideo) {
-        m_sizeFit.emplace(m_plan.settings.targetBytes, m_plan.duration(),
-                          m_plan.settings.videoKbps);
-    }
     if (!m_name.isComplete()) {
         const Result<> named = namePicture().and_then([this] { return m_name.choose(); });
         if (!named) {
@@ -190,6 +186,10 @@ void Conversion::convert(const Result<MediaFacts> &source)
 
 void Conversion::attempt()
 {
+    if (m_plan.settings.targetBytes > 0 && m_plan.settings.hasVideo) {
+        m_sizeFit.emplace(m_plan.settings.targetBytes, m_plan.duration(),
+                          m_plan.settings.videoKbps);
+    }
     m_pass = {m_plan.takesPasses() ? 1 : 0, m_pending.passPath()};
     runFfmpeg();
 }
@@ -258,7 +258,8 @@ Result<bool> Conversion::correctsSize()
     const bool corrects = m_sizeFit->corrects(QFileInfo(m_pending.path()).size());
     if (corrects && m_sizeFit->isBest()) {
         m_pending.keep();
-    } else if (!corrects && !m_sizeFit->isBest() && !m_pending.takeKept()) {
+    } else if (!corrects && !m_sizeFit->isBest() &&
+               !(m_sizeFit->hasBest() && m_pending.takeKept())) {
         return failed(tr("can't be made as small as asked; choose a larger size or a preset with "
                          "a smaller picture"));
     }

@@ -26,6 +26,8 @@ public:
     /*! For when the encoder refuses kbps() as too few. Whether another attempt is worthwhile: with
      *  more, but fewer than the last one. */
     [[nodiscard]] bool raises();
+    /*! Whether something came out that is not too large. */
+    [[nodiscard]] bool hasBest() const { return m_best.has_value(); }
     /*! Whether what came out last is the largest that is not too large. */
     [[nodiscard]] bool isBest() const { return m_best && m_best == m_attempts.size() - 1; }
     /*! Of the attempt to make; once none is worthwhile, of the best one, if any. */

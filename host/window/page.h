@@ -86,7 +86,7 @@ public:
                                 const QString &tracks, int version) const;
     [[nodiscard]] ConversionJob jobOf(const Task &task) const;
     TaskOutlooks &outlooks() { return m_outlooks; }
-    /*! The row. */
+    /*! The first row that the user sees. */
     [[nodiscard]] int firstInSight() const { return m_firstInSight; }
     /*! The task's row; -1 if there is no such task. */
     Q_INVOKABLE int rowOf(int taskId) const { return m_tasks.rowOf(taskId); }

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void theResultHasTheAskedSize_data();
     void theResultHasTheAskedSize();
     void theBestOfAnUnsteadyEncoderIsTaken();
+    void anotherWayOfWritingBeginsTheSizeAnew();
     void keyFramesAreNoFurtherApartThanAsked_data();
     void keyFramesAreNoFurtherApartThanAsked();
 
@@ -192,6 +193,28 @@ void TestConversionRate::theBestOfAnUnsteadyEncoderIsTaken()
     const Outcome outcome = convert(job(easy(), settings));
     QVERIFY2(outcome, qPrintable(errorOf(outcome)));
     QCOMPARE(QFileInfo(outcome->target).size(), 291000);
+}
+
+void TestConversionRate::anotherWayOfWritingBeginsTheSizeAnew()
+{
+    // The first result has the size and can't be played; the one without copies is smaller.
+    standIn(QStringLiteral("$REAL \"$@\" || exit 1\n"
+                           "for file; do :; done\n"
+                           "file=${file#file:}\n"
+                           "if [ -e %1 ]; then truncate -s 297000 \"$file\"; exit; fi\n"
+                           "head -c 299000 /dev/zero >\"$file\"\n"
+                           "touch %1")
+                .arg(path(QStringLiteral("tried"))));
+    const QString film = path(QStringLiteral("film.mkv"));
+    QVERIFY(
+        MediaClips::make(film, QStringLiteral("-f lavfi -i testsrc=size=320x240:rate=25 -f lavfi "
+                                              "-i sine -t 2 -c:v ffv1 -c:a aac")));
+    OutputSettings settings = video(QStringLiteral("mkv"));
+    settings.videoCodec = QStringLiteral("mpeg4");
+    settings.targetBytes = 300000;
+    const Outcome outcome = convert(job(film, settings));
+    QVERIFY2(outcome, qPrintable(errorOf(outcome)));
+    QCOMPARE(QFileInfo(outcome->target).size(), 297000);
 }
 
 void TestConversionRate::keyFramesAreNoFurtherApartThanAsked_data()
